@@ -1,0 +1,62 @@
+# How every target of the project is compiled, and the two kinds of library a source folder has.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+add_library(ormala_options INTERFACE)
+target_include_directories(ormala_options INTERFACE "${PROJECT_SOURCE_DIR}/src")
+target_compile_options(
+  ormala_options
+  INTERFACE -Wall
+            -Wextra
+            -Wpedantic
+            -Wshadow
+            -Wconversion
+            -Wnon-virtual-dtor
+            -Wold-style-cast
+            -Wcast-qual
+            -Wundef
+            -Werror)
+
+if(ORMALA_SANITIZE)
+  target_compile_options(ormala_options INTERFACE -fsanitize=address,undefined
+                                                  -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(ormala_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(ORMALA_FUZZ)
+  target_compile_options(ormala_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+if(WIN32)
+  target_compile_definitions(
+    ormala_options
+    INTERFACE UNICODE
+              _UNICODE
+              NOMINMAX
+              WIN32_LEAN_AND_MEAN
+              WINVER=0x0A00
+              _WIN32_WINNT=0x0A00
+              NTDDI_VERSION=0x0A000007)
+endif()
+
+# ormala_library(<folder> SOURCES <files> [LINK <folders>]): the portable part of a source folder.
+function(ormala_library folder)
+  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LINK")
+  add_library(${folder} STATIC ${ARG_SOURCES})
+  target_link_libraries(${folder} PUBLIC ormala_options ${ARG_LINK})
+endfunction()
+
+# ormala_windows_library(<folder> SOURCES <files> [LINK <libraries>]): the folder's win/ part. It
+# exists only in a build for Windows.
+function(ormala_windows_library folder)
+  if(NOT WIN32)
+    return()
+  endif()
+  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LINK")
+  list(TRANSFORM ARG_SOURCES PREPEND "win/")
+  add_library(${folder}_win STATIC ${ARG_SOURCES})
+  target_link_libraries(${folder}_win PUBLIC ormala_options ${ARG_LINK})
+endfunction()
