@@ -1,0 +1,69 @@
+#include "modAPI/colors.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace ormala {
+
+namespace {
+
+constexpr std::array<Color, 12> toolColors = {
+    rgb(255, 159, 0),   rgb(0, 191, 191),   rgb(255, 0, 255),   rgb(0, 191, 0),
+    rgb(0, 0, 255),     rgb(255, 0, 0),     rgb(127, 127, 0),   rgb(180, 0, 255),
+    rgb(255, 127, 127), rgb(127, 176, 255), rgb(125, 125, 125), rgb(212, 212, 212),
+};
+
+constexpr int lastColorHandedOut = 9;
+constexpr int firstColorOfMeasures = 4;
+
+ColorParts partsOf(Color color) {
+    return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
+}
+
+int mixed(int a, int b, double strength, double part) {
+    const double from = a * strength;
+    const double to = b / strength;
+    return static_cast<int>(std::clamp((to - from) * part + from, 0.0, 255.0));
+}
+
+}  // namespace
+
+ColorParts ColorComponents(Color color, SystemColorLookup systemColor) {
+    return partsOf(color < 0 ? systemColor(color & 0xFF) : color);
+}
+
+float Luminance(Color color) {
+    const ColorParts parts = partsOf(color);
+    return static_cast<float>(0.2126 * parts.red / 255 + 0.7152 * parts.green / 255 +
+                              0.0722 * parts.blue / 255);
+}
+
+Color BlendColor(int step, int steps, Color colorA, Color colorB, double percent,
+                 SystemColorLookup systemColor) {
+    const int last = std::max(steps - 1, 1);
+    const double part = static_cast<double>(std::min(step, last)) / last;
+    const double strength = percent == 0 ? 1000000 : 1 / (percent / 100);
+    const ColorParts a = ColorComponents(colorA, systemColor);
+    const ColorParts b = ColorComponents(colorB, systemColor);
+    return rgb(mixed(a.red, b.red, strength, part), mixed(a.green, b.green, strength, part),
+               mixed(a.blue, b.blue, strength, part));
+}
+
+Color GradientColor(int step, int steps, Color colorA, Color colorB, double reduce,
+                    SystemColorLookup systemColor) {
+    return BlendColor(step, steps, colorA, colorB, reduce, systemColor);
+}
+
+Color ToolColors::NextDefaultToolColor(int kind, bool reset) {
+    int& counter = counters_.at(static_cast<std::size_t>(kind));
+    if (reset) {
+        counter = 0;
+        return 0;
+    }
+    const int first = kind == 1 ? firstColorOfMeasures : 0;
+    const int index = counter + first;
+    counter = index + 1 > lastColorHandedOut ? -first : counter + 1;
+    return toolColors.at(static_cast<std::size_t>(index));
+}
+
+}  // namespace ormala

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace ormala {
+
+/// What the user's locale and language put into the text of a number.
+struct TextForm {
+    std::string decimalSeparator = ".";
+    std::string infinite = "infinite";
+};
+
+/// By a pattern of "0" (a digit always shown), "#" (a digit shown if needed) and one ".": the
+/// number at 15 significant digits, halves away from zero. A value that rounds to zero has no minus
+/// sign. A value that is not finite is `form.infinite`.
+std::string formatNumber(double value, std::string_view pattern, const TextForm& form);
+
+/// With the word for infinity from 1e308 on, else at four significant digits or more.
+std::string FormatRatio(double value, const TextForm& form);
+
+/// The angle in radians; unit 1 shows radians, any other degrees.
+std::string FormatAngle(double angle, int unit, const TextForm& form);
+
+/// A length in pixels. Mode 1 multiplies it by the factor, mode 2 relates it to the reference first
+/// (0 for a reference of 0), any other shows pixels and neither factor nor unit.
+std::string FormatLength(double length, int mode, double factor, std::string_view unitName,
+                         double reference, const TextForm& form);
+
+/// True if both have the same 15 significant digits: equal after a round trip through a file.
+bool SameNumberText(double a, double b);
+
+}  // namespace ormala

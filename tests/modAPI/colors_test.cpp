@@ -1,0 +1,117 @@
+#include "modAPI/colors.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <stdexcept>
+
+namespace ormala {
+namespace {
+
+Color noSystemColor(int) {
+    throw std::logic_error("a plain colour needs no lookup");
+}
+
+Color sampleSystemColor(int index) {
+    return rgb(index, 2, 3);
+}
+
+constexpr Color white = rgb(255, 255, 255);
+
+TEST(Luminance, GoesFromBlackToWhite) {
+    EXPECT_EQ(Luminance(0), 0.0F);
+    EXPECT_FLOAT_EQ(Luminance(white), 1.0F);
+}
+
+TEST(Luminance, WeighsTheComponents) {
+    EXPECT_FLOAT_EQ(Luminance(rgb(255, 0, 0)), 0.2126F);
+    EXPECT_FLOAT_EQ(Luminance(rgb(0, 255, 0)), 0.7152F);
+    EXPECT_FLOAT_EQ(Luminance(rgb(0, 0, 255)), 0.0722F);
+}
+
+TEST(ColorComponents, SplitsAPlainColor) {
+    EXPECT_EQ(ColorComponents(0x00030201, noSystemColor), (ColorParts{1, 2, 3}));
+}
+
+TEST(ColorComponents, LowByteOfANegativeColorIsTheSystemIndex) {
+    const auto shadow = static_cast<Color>(0x80000010U);
+    EXPECT_EQ(ColorComponents(shadow, sampleSystemColor), (ColorParts{16, 2, 3}));
+}
+
+TEST(BlendColor, WalksFromTheFirstToTheSecond) {
+    const Color from = rgb(0, 100, 255);
+    const Color to = rgb(200, 100, 5);
+    EXPECT_EQ(BlendColor(0, 11, from, to, 100, noSystemColor), from);
+    EXPECT_EQ(BlendColor(5, 11, from, to, 100, noSystemColor), rgb(100, 100, 130));
+    EXPECT_EQ(BlendColor(10, 11, from, to, 100, noSystemColor), to);
+}
+
+TEST(BlendColor, StepBeyondTheLastIsTheLast) {
+    EXPECT_EQ(BlendColor(50, 11, 0, white, 100, noSystemColor), white);
+}
+
+TEST(BlendColor, PercentStrengthensTheFirstAndWeakensTheSecond) {
+    const Color from = rgb(20, 40, 200);
+    const Color to = rgb(100, 60, 0);
+    EXPECT_EQ(BlendColor(0, 5, from, to, 50, noSystemColor), rgb(40, 80, 255));
+    EXPECT_EQ(BlendColor(4, 5, from, to, 50, noSystemColor), rgb(50, 30, 0));
+}
+
+TEST(BlendColor, PercentOfZeroIsAllOfTheFirst) {
+    EXPECT_EQ(BlendColor(1, 5, rgb(1, 0, 255), white, 0, noSystemColor), rgb(255, 0, 255));
+    EXPECT_EQ(BlendColor(4, 5, rgb(1, 0, 255), white, 0, noSystemColor), 0);
+}
+
+TEST(GradientColor, PanelOfOnePixelShowsTheFirstColorAlone) {
+    EXPECT_EQ(GradientColor(0, 1, rgb(9, 8, 7), white, 100, noSystemColor), rgb(9, 8, 7));
+}
+
+TEST(GradientColor, TakesSystemColors) {
+    const auto highlight = static_cast<Color>(0x80000014U);
+    EXPECT_EQ(GradientColor(0, 9, highlight, white, 100, sampleSystemColor), rgb(20, 2, 3));
+}
+
+TEST(NextDefaultToolColor, StencilsBeginAtTheFirstColor) {
+    ToolColors colors;
+    EXPECT_EQ(colors.NextDefaultToolColor(0, false), rgb(255, 159, 0));
+    EXPECT_EQ(colors.NextDefaultToolColor(0, false), rgb(0, 191, 191));
+}
+
+TEST(NextDefaultToolColor, MeasuresBeginAtTheFifthAndRunThroughTen) {
+    ToolColors colors;
+    const Color first = colors.NextDefaultToolColor(1, false);
+    EXPECT_EQ(first, rgb(0, 0, 255));
+    std::set<Color> seen = {first};
+    for (int i = 1; i < 10; ++i) {
+        const Color next = colors.NextDefaultToolColor(1, false);
+        if (i == 6) {
+            EXPECT_EQ(next, rgb(255, 159, 0));
+        }
+        seen.insert(next);
+    }
+    EXPECT_EQ(seen.size(), 10U);
+    EXPECT_EQ(colors.NextDefaultToolColor(1, false), first);
+}
+
+TEST(NextDefaultToolColor, GreysAreNeverHandedOut) {
+    ToolColors colors;
+    for (int i = 0; i < 40; ++i) {
+        for (const int kind : {0, 1, 2}) {
+            const Color color = colors.NextDefaultToolColor(kind, false);
+            EXPECT_NE(color, rgb(125, 125, 125));
+            EXPECT_NE(color, rgb(212, 212, 212));
+        }
+    }
+}
+
+TEST(NextDefaultToolColor, KindsCountByThemselvesAndAResetConcernsOne) {
+    ToolColors colors;
+    colors.NextDefaultToolColor(0, false);
+    colors.NextDefaultToolColor(2, false);
+    EXPECT_EQ(colors.NextDefaultToolColor(0, true), 0);
+    EXPECT_EQ(colors.NextDefaultToolColor(0, false), rgb(255, 159, 0));
+    EXPECT_EQ(colors.NextDefaultToolColor(2, false), rgb(0, 191, 191));
+}
+
+}  // namespace
+}  // namespace ormala
