@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace ormala {
+
+/// The system's numbers for the two errors that the program tells apart.
+constexpr int errorFileNotFound = 2;
+constexpr int errorPathNotFound = 3;
+
+/// A settings file has some ten thousand bytes; a file beyond this size is none and isn't read.
+constexpr std::size_t largestSettingsFile = std::size_t{64} << 20U;
+
+struct ReadResult {
+    enum class Status {
+        ok,
+        notFound,  ///< the folder is there, the file is not
+        failed     ///< anything else: no such folder, no permission, too large, no file at all
+    };
+    Status status = Status::failed;
+    std::string bytes;  ///< empty unless `ok`
+};
+
+struct RemoveResult {
+    bool removed = false;
+    std::string description;  ///< the system's words for the failure, may be empty
+};
+
+/// The files of the computer. Paths are UTF-8, of any length and with any characters. Nothing
+/// throws for what the file system answers.
+class FileStore {
+  public:
+    virtual ~FileStore() = default;
+
+    virtual ReadResult read(const std::string& path) = 0;
+
+    /// Writes the whole file: whatever happens, it holds the old bytes or the new ones.
+    virtual bool replace(const std::string& path, std::string_view bytes) = 0;
+
+    /// The system's error number for a look at the path, 0 if something is there.
+    virtual int errorOfPath(const std::string& path) = 0;
+
+    virtual RemoveResult remove(const std::string& path) = 0;
+
+    /// What `remove` would answer now; the file stays.
+    virtual RemoveResult couldRemove(const std::string& path) = 0;
+
+    /// Makes every folder named in the path; what follows its last backslash is a file's name and
+    /// isn't made. Folders that are there already are no failure.
+    virtual bool createFolders(const std::string& path) = 0;
+};
+
+}  // namespace ormala

@@ -1,0 +1,160 @@
+#include "storage/INIFile.h"
+
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <optional>
+#include <utility>
+
+#include "base/Utf8.h"
+#include "language/MlStringModule.h"
+#include "storage/NumberForm.h"
+#include "storage/modStorage.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr std::size_t valueBufferSize = 255;
+constexpr std::size_t sectionsBufferSize = 4096;
+
+/// The beginnings of the messages, by their numbers in the language tables.
+struct Message {
+    int id = 0;
+    std::string_view text;
+};
+constexpr Message failedToClear{238, "Failed to clear file '"};
+constexpr Message failedToCreateFolder{240, "Failed to create folder for file '"};
+constexpr Message failedToLoad{241, "Failed to load file '"};
+constexpr Message failedToSave{242, "Failed to save file '"};
+constexpr Message messageEnd{239, "'."};
+
+std::string messageAbout(const Message& begin, const std::string& path) {
+    return MlString(begin.id, begin.text) + path + MlString(messageEnd.id, messageEnd.text);
+}
+
+}  // namespace
+
+INIFile::INIFile(FileStore& store, const CodePage& codePage, MessagePresenter& presenter)
+    : store_(store), codePage_(codePage), presenter_(presenter), profile_(store) {}
+
+void INIFile::setPath(std::string path) {
+    const std::string former = profile_.path();
+    lastError_.clear();
+    if (!profile_.setPath(std::move(path))) {
+        lastError_ = messageAbout(failedToSave, former);
+    }
+    scanSections();
+}
+
+void INIFile::scanSections() {
+    sections_.assign(1, std::string());
+    if (Path().empty()) {
+        return;
+    }
+    const std::vector<std::string> names = profile_.sectionNames(sectionsBufferSize);
+    if (names.empty()) {
+        return;
+    }
+    sections_.clear();
+    for (const std::string& name : names) {
+        sections_.push_back(codePage_.utf8FromBytes(name));
+    }
+}
+
+void INIFile::Delete() {
+    if (!FileExists(store_, Path())) {
+        profile_.forget();
+        return;
+    }
+    const RemoveResult result = profile_.remove();
+    if (!result.removed) {
+        lastError_ =
+            result.description.empty() ? messageAbout(failedToClear, Path()) : result.description;
+    }
+}
+
+void INIFile::CreateFolderPath() {
+    if (!FileExists(store_, Path()) && !CreateFolderForFile(store_, Path())) {
+        lastError_ = messageAbout(failedToCreateFolder, Path());
+    }
+}
+
+bool INIFile::ShowLastError() {
+    if (!lastError_.empty()) {
+        presenter_.showError(lastError_);
+        lastError_.clear();
+    }
+    return false;
+}
+
+bool INIFile::isValid() const {
+    return !currentSection_.empty() && !Path().empty();
+}
+
+std::string INIFile::StringValue(std::string_view key, std::string_view defaultText) {
+    if (key.empty() || !isValid()) {
+        return std::string(defaultText);
+    }
+    const std::string found =
+        profile_.value(codePage_.bytesFromUtf8(currentSection_), codePage_.bytesFromUtf8(key),
+                       codePage_.bytesFromUtf8(defaultText), valueBufferSize);
+    if (found.empty()) {
+        lastError_ = messageAbout(failedToLoad, Path());
+        return std::string(defaultText);
+    }
+    return codePage_.utf8FromBytes(trimBlanks(found));
+}
+
+void INIFile::setStringValue(std::string_view key, std::string_view value) {
+    if (!isValid()) {
+        return;
+    }
+    const bool written =
+        profile_.setValue(codePage_.bytesFromUtf8(currentSection_), codePage_.bytesFromUtf8(key),
+                          codePage_.bytesFromUtf8(value));
+    if (!written) {
+        lastError_ = messageAbout(failedToSave, Path());
+    }
+}
+
+double INIFile::DoubleValue(std::string_view key, double defaultValue) {
+    const auto value = numberFromText(StringValue(key, numberText(defaultValue)));
+    if (!value) {
+        lastError_ = messageAbout(failedToLoad, Path());
+    }
+    return value.value_or(defaultValue);
+}
+
+void INIFile::setDoubleValue(std::string_view key, double value) {
+    setStringValue(key, numberText(value));
+}
+
+std::int32_t INIFile::LongValue(std::string_view key, std::int32_t defaultValue) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    const double value = std::round(DoubleValue(key, defaultValue));
+    if (value < Limits::min() || value > Limits::max()) {
+        lastError_ = messageAbout(failedToLoad, Path());
+        return defaultValue;
+    }
+    return static_cast<std::int32_t>(value);
+}
+
+void INIFile::setLongValue(std::string_view key, std::int32_t value) {
+    setDoubleValue(key, value);
+}
+
+std::int32_t INIFile::SectionMax() const {
+    return static_cast<std::int32_t>(sections_.size()) - 1;
+}
+
+std::string INIFile::SectionName(std::int32_t index) const {
+    const bool listed = index >= 0 && index <= SectionMax();
+    return listed ? sections_[static_cast<std::size_t>(index)] : std::string();
+}
+
+ProfileFile::Scope INIFile::group() {
+    return {profile_, [this] { lastError_ = messageAbout(failedToSave, Path()); }};
+}
+
+}  // namespace ormala

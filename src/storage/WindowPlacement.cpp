@@ -1,0 +1,109 @@
+#include "storage/WindowPlacement.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace ormala {
+
+namespace {
+
+constexpr std::int32_t showNormal = 1;
+constexpr std::int32_t showMaximised = 3;
+constexpr std::int32_t cascadeStep = 20;
+/// A window that shows less than this of itself in both directions isn't really on the screen.
+constexpr std::int64_t smallestVisible = 11;
+
+/// Wide enough to add and subtract what a damaged file may hold.
+using Wide = std::int64_t;
+
+std::int32_t narrowed(Wide value) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    return static_cast<std::int32_t>(std::clamp<Wide>(value, Limits::min(), Limits::max()));
+}
+
+/// One direction of keeping a rectangle in bounds.
+void keepInBounds(std::int32_t& low, std::int32_t& high, std::int32_t lowBound,
+                  std::int32_t highBound) {
+    if (Wide{high} - low > Wide{highBound} - lowBound) {
+        low = lowBound;
+        high = highBound;
+    }
+    const Wide size = Wide{high} - low;
+    if (high > highBound) {
+        low = narrowed(highBound - size);
+        high = highBound;
+    }
+    if (low < lowBound) {
+        low = lowBound;
+        high = narrowed(lowBound + size);
+    }
+}
+
+bool liesOn(const PlacementRect& area, const PlacementRect& rect) {
+    const Wide width = Wide{std::min(area.right, rect.right)} - std::max(area.left, rect.left);
+    const Wide height = Wide{std::min(area.bottom, rect.bottom)} - std::max(area.top, rect.top);
+    const bool intersects = width > 0 && height > 0;
+    return intersects && (width >= smallestVisible || height >= smallestVisible);
+}
+
+void writeRect(INIFile& options, const PlacementRect& rect) {
+    options.setLongValue("Left", rect.left);
+    options.setLongValue("Top", rect.top);
+    options.setLongValue("Right", rect.right);
+    options.setLongValue("Bottom", rect.bottom);
+}
+
+PlacementRect readRect(INIFile& options, const PlacementRect& present, bool sizable) {
+    PlacementRect rect;
+    rect.top = options.LongValue("Top", present.top);
+    rect.left = options.LongValue("Left", present.left);
+    if (sizable) {
+        rect.bottom = options.LongValue("Bottom", present.bottom);
+        rect.right = options.LongValue("Right", present.right);
+    } else {
+        rect.right = narrowed(Wide{rect.left} + present.right - present.left);
+        rect.bottom = narrowed(Wide{rect.top} + present.bottom - present.top);
+    }
+    return rect;
+}
+
+void offsetRect(PlacementRect& rect, std::int32_t step) {
+    for (std::int32_t* const side : {&rect.left, &rect.top, &rect.right, &rect.bottom}) {
+        *side = narrowed(Wide{*side} + step);
+    }
+}
+
+}  // namespace
+
+void KeepRectInBounds(WindowPlacement& placement, const PlacementRect& bounds) {
+    PlacementRect& rect = placement.rcNormalPosition;
+    keepInBounds(rect.left, rect.right, bounds.left, bounds.right);
+    keepInBounds(rect.top, rect.bottom, bounds.top, bounds.bottom);
+}
+
+void storePlacement(INIFile& options, const std::string& section,
+                    const WindowPlacement& placement) {
+    const CurrentSectionGuard current(options, section);
+    const auto scope = options.group();
+    writeRect(options, placement.rcNormalPosition);
+    options.setLongValue("WindowState", placement.showCmd);
+}
+
+RestoredPlacement restoredPlacement(INIFile& options, const std::string& section, bool cascade,
+                                    const WindowPlacement& present, bool sizable,
+                                    const ScreenAreas& screens) {
+    const CurrentSectionGuard current(options, section);
+    const auto scope = options.group();
+    WindowPlacement placement;
+    placement.rcNormalPosition = readRect(options, present.rcNormalPosition, sizable);
+    const bool maximise = options.LongValue("WindowState", showNormal) == showMaximised;
+    if (cascade) {
+        offsetRect(placement.rcNormalPosition, cascadeStep);
+        writeRect(options, placement.rcNormalPosition);
+    }
+    const bool primary = liesOn(screens.workArea, placement.rcNormalPosition);
+    KeepRectInBounds(placement, primary ? screens.workArea : screens.virtualScreen);
+    return {placement.rcNormalPosition, maximise};
+}
+
+}  // namespace ormala

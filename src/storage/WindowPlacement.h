@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "storage/INIFile.h"
+
+namespace ormala {
+
+/// Whole pixels of the screen; right and bottom lie just outside. A damaged file may bring in any
+/// numbers, also a right that is less than left.
+struct PlacementRect {
+    std::int32_t left = 0;
+    std::int32_t top = 0;
+    std::int32_t right = 0;
+    std::int32_t bottom = 0;
+
+    bool operator==(const PlacementRect&) const = default;
+};
+
+/// What the window manager tells and takes of a top-level window.
+struct WindowPlacement {
+    std::int32_t showCmd = 0;  ///< 3 = maximised
+    PlacementRect rcNormalPosition;
+};
+
+/// The screens there are.
+struct ScreenAreas {
+    PlacementRect workArea;       ///< of the primary screen
+    PlacementRect virtualScreen;  ///< all screens together
+};
+
+/// How to place a window again. A maximised window is shown so first and then given its normal
+/// rectangle.
+struct RestoredPlacement {
+    PlacementRect rect;
+    bool maximise = false;
+};
+
+/// Cuts the normal rectangle to the size of the bounds and moves it into them; left and top win.
+void KeepRectInBounds(WindowPlacement& placement, const PlacementRect& bounds);
+
+/// Writes the placement into a section of the options file; the current section stays.
+void storePlacement(INIFile& options, const std::string& section, const WindowPlacement& placement);
+
+/// Where the window stood when its placement was stored, brought back onto the screens there are.
+/// `present` serves where nothing is stored, and gives the size of a window that isn't `sizable`.
+/// With `cascade` the place lies 20 pixels further right and down, and is stored at once, for the
+/// next copy of the program. The current section stays.
+RestoredPlacement restoredPlacement(INIFile& options, const std::string& section, bool cascade,
+                                    const WindowPlacement& present, bool sizable,
+                                    const ScreenAreas& screens);
+
+}  // namespace ormala

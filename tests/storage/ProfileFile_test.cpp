@@ -1,0 +1,189 @@
+#include "storage/ProfileFile.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "support/MemoryFileStore.h"
+
+namespace ormala {
+namespace {
+
+constexpr std::size_t bufferSize = 255;
+
+class ProfileFileTest : public testing::Test {
+  protected:
+    ProfileFileTest() { file_.setPath(path_); }
+
+    std::string& bytes() { return store_.files[path_]; }
+    std::string value(std::string_view key, std::string_view defaultText = "default") {
+        return file_.value("A", key, defaultText, bufferSize);
+    }
+    ProfileFile::Scope scope() {
+        return ProfileFile::Scope(file_, [this] { ++failures_; });
+    }
+
+    const std::string path_ = "C:\\data\\a.ini";
+    MemoryFileStore store_;
+    ProfileFile file_{store_};
+    int failures_ = 0;
+};
+
+TEST_F(ProfileFileTest, GivesTheDefaultForAnythingMissing) {
+    EXPECT_EQ(value("K"), "default");
+    bytes() = "[B]\r\n";
+    EXPECT_EQ(value("K"), "default");
+    bytes() = "[A]\r\nK\r\n";
+    EXPECT_EQ(value("K"), "default");
+    store_.unreadable.insert(path_);
+    EXPECT_EQ(value("K"), "default");
+}
+
+TEST_F(ProfileFileTest, CutsValuesAndDefaultsToTheBuffer) {
+    bytes() = "[A]\r\nK=" + std::string(300, 'x') + "\r\n";
+    EXPECT_EQ(value("K"), std::string(254, 'x'));
+    EXPECT_EQ(value("L", std::string(300, 'y')), std::string(254, 'y'));
+    EXPECT_EQ(file_.value("A", "K", "", 1), "");
+    EXPECT_EQ(file_.value("A", "K", "", 0), "");
+}
+
+TEST_F(ProfileFileTest, AnEmptyValueIsNotTheDefault) {
+    bytes() = "[A]\r\nK=\r\n";
+    EXPECT_EQ(value("K"), "");
+}
+
+TEST_F(ProfileFileTest, WritesStraightToTheFile) {
+    EXPECT_TRUE(file_.setValue("A", "K", " 1"));
+    EXPECT_EQ(bytes(), "[A]\r\nK= 1\r\n");
+    bytes() = "[A]\r\nK=5\r\n";
+    EXPECT_EQ(value("K"), "5");
+}
+
+TEST_F(ProfileFileTest, DoesNotWriteWhatIsThereAlready) {
+    bytes() = "[A]\r\nK=1\r\n";
+    EXPECT_TRUE(file_.setValue("A", "K", "1"));
+    EXPECT_EQ(store_.writes, 0);
+}
+
+TEST_F(ProfileFileTest, ReportsAWriteThatFails) {
+    store_.fullDisk = true;
+    EXPECT_FALSE(file_.setValue("A", "K", "1"));
+    store_.fullDisk = false;
+    EXPECT_FALSE(file_.setValue("A", "K=", "1"));
+    file_.setPath("C:\\nowhere\\a.ini");
+    EXPECT_FALSE(file_.setValue("A", "K", "1"));
+}
+
+TEST_F(ProfileFileTest, NeverWritesOverAFileThatItCantRead) {
+    bytes() = "precious";
+    store_.unreadable.insert(path_);
+    EXPECT_FALSE(file_.setValue("A", "K", "1"));
+    {
+        const auto group = scope();
+        EXPECT_FALSE(file_.setValue("A", "K", "1"));
+    }
+    EXPECT_EQ(bytes(), "precious");
+    EXPECT_EQ(store_.writes, 0);
+}
+
+TEST_F(ProfileFileTest, ScopeReadsOnceAndWritesOnce) {
+    bytes() = "[A]\r\nK=1\r\n";
+    {
+        const auto group = scope();
+        EXPECT_EQ(value("K"), "1");
+        EXPECT_TRUE(file_.setValue("A", "K", "2"));
+        EXPECT_TRUE(file_.setValue("B", "L", "3"));
+        EXPECT_EQ(value("K"), "2");
+        EXPECT_EQ(file_.sectionNames(100), (std::vector<std::string>{"A", "B"}));
+        EXPECT_EQ(store_.writes, 0);
+    }
+    EXPECT_EQ(store_.reads, 1);
+    EXPECT_EQ(store_.writes, 1);
+    EXPECT_EQ(bytes(), "[A]\r\nK=2\r\n[B]\r\nL=3\r\n");
+    EXPECT_EQ(failures_, 0);
+}
+
+TEST_F(ProfileFileTest, ScopeWithoutChangeWritesNothing) {
+    bytes() = "[A]\r\nK=1\r\n";
+    {
+        const auto group = scope();
+        EXPECT_TRUE(file_.setValue("A", "K", "1"));
+    }
+    EXPECT_EQ(store_.writes, 0);
+}
+
+TEST_F(ProfileFileTest, OnlyTheOutermostScopeWrites) {
+    {
+        const auto outer = scope();
+        {
+            const auto inner = scope();
+            file_.setValue("A", "K", "1");
+        }
+        EXPECT_EQ(store_.writes, 0);
+    }
+    EXPECT_EQ(store_.writes, 1);
+    EXPECT_EQ(bytes(), "[A]\r\nK=1\r\n");
+}
+
+TEST_F(ProfileFileTest, ScopeReportsAFailedWriteAtItsEnd) {
+    bytes() = "old";
+    {
+        const auto group = scope();
+        EXPECT_TRUE(file_.setValue("A", "K", "1"));
+        store_.fullDisk = true;
+        EXPECT_EQ(failures_, 0);
+    }
+    EXPECT_EQ(failures_, 1);
+    EXPECT_EQ(bytes(), "old");
+}
+
+TEST_F(ProfileFileTest, AnotherPathInsideAScopeWritesTheFormerFile) {
+    const std::string other = "C:\\data\\b.ini";
+    {
+        const auto group = scope();
+        file_.setValue("A", "K", "1");
+        EXPECT_TRUE(file_.setPath(path_));
+        EXPECT_EQ(store_.writes, 0);
+        EXPECT_TRUE(file_.setPath(other));
+        EXPECT_EQ(bytes(), "[A]\r\nK=1\r\n");
+        file_.setValue("A", "K", "2");
+    }
+    EXPECT_EQ(bytes(), "[A]\r\nK=1\r\n");
+    EXPECT_EQ(store_.files[other], "[A]\r\nK=2\r\n");
+}
+
+TEST_F(ProfileFileTest, TellsThatTheFormerFileCouldNotBeWritten) {
+    const auto group = scope();
+    file_.setValue("A", "K", "1");
+    store_.fullDisk = true;
+    EXPECT_FALSE(file_.setPath("C:\\data\\b.ini"));
+}
+
+TEST_F(ProfileFileTest, ForgettingDropsWhatAScopeHasNoted) {
+    {
+        const auto group = scope();
+        file_.setValue("A", "K", "1");
+        file_.forget();
+        file_.setValue("A", "L", "2");
+    }
+    EXPECT_EQ(bytes(), "[A]\r\nL=2\r\n");
+}
+
+TEST_F(ProfileFileTest, ListsTheSectionsThatFitTheBuffer) {
+    bytes() = "[Aa]\r\n[Bb]\r\n[Cc]\r\n";
+    EXPECT_EQ(file_.sectionNames(10), (std::vector<std::string>{"Aa", "Bb", "Cc"}));
+    EXPECT_EQ(file_.sectionNames(9), (std::vector<std::string>{"Aa", "Bb"}));
+    EXPECT_TRUE(file_.sectionNames(3).empty());
+}
+
+TEST_F(ProfileFileTest, HasNoSectionsWithoutAReadableFile) {
+    EXPECT_TRUE(file_.sectionNames(100).empty());
+    bytes() = "[A]";
+    store_.unreadable.insert(path_);
+    EXPECT_TRUE(file_.sectionNames(100).empty());
+}
+
+}  // namespace
+}  // namespace ormala
