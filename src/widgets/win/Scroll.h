@@ -1,0 +1,81 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "platform/win/BackBuffer.h"
+#include "widgets/ScrollModel.h"
+#include "widgets/win/ScrollButton.h"
+
+namespace ormala {
+
+/// The scroll bar in the program's own look: two arrows, a thumb and the track between them. It
+/// stands or lies by its shape. The owner keeps the time: while `wantsTicks` it calls `tick` every
+/// 40 ms.
+class Scroll : public Window, private ScrollButtonHost {
+  public:
+    /// A visible child of `parent` without a size. `name` is its control name.
+    Scroll(HWND parent, int id, std::string_view name);
+    ~Scroll() override { destroy(); }
+
+    [[nodiscard]] bool Enabled() const { return model_.Enabled(); }
+    void setEnabled(bool enabled) { EnableWindow(handle(), enabled ? TRUE : FALSE); }
+    [[nodiscard]] int Value() const { return model_.Value(); }
+    void setValue(int value) { model_.setValue(value); }
+    [[nodiscard]] int SmallChange() const { return model_.SmallChange(); }
+    void setSmallChange(int change) { model_.setSmallChange(change); }
+    [[nodiscard]] int LargeChange() const { return model_.LargeChange(); }
+    void setLargeChange(int change) { model_.setLargeChange(change); }
+    [[nodiscard]] int Max() const { return model_.Max(); }
+    void setMax(int max) { model_.setMax(max); }
+    [[nodiscard]] int Min() const { return model_.Min(); }
+    void setMin(int min) { model_.setMin(min); }
+
+    /// On the arrows and the thumb.
+    void SetTooltip(const std::string& text);
+    /// The resolution of the screen that it is drawn for; at first that of its window.
+    void setDpi(int dpi);
+    [[nodiscard]] const ScrollLayout& layout() const { return model_.layout(); }
+
+    [[nodiscard]] bool wantsTicks() const { return model_.wantsTicks(); }
+    void tick() { model_.tick(); }
+
+    /// The value really changed. A handler may destroy the bar.
+    Event<> Change;
+
+  private:
+    std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    std::optional<LRESULT> buttonMessage(ScrollButton& button, UINT message, WPARAM wParam,
+                                         LPARAM lParam) override;
+    std::optional<LRESULT> mouseMessage(HWND window, UINT message, LPARAM lParam);
+
+    void ApplyLanguage();
+    void refresh();
+    void placeButtons();
+    LRESULT paint(HWND window);
+    LRESULT onSize();
+    LRESULT onEnable(bool enabled);
+    LRESULT onCaptureChanged();
+    void press(PixelPoint point);
+    void move(HWND window, PixelPoint point);
+    void release(PixelPoint point);
+    void hover(ScrollPart part);
+    [[nodiscard]] ScrollPart focusedPart() const;
+    [[nodiscard]] std::array<ScrollButton*, 3> buttons() { return {&cmdTL_, &cmdMove_, &cmdBR_}; }
+
+    ScrollModel model_;
+    ScrollButton cmdTL_{*this, ScrollPart::topLeft};
+    ScrollButton cmdMove_{*this, ScrollPart::thumb};
+    ScrollButton cmdBR_{*this, ScrollPart::bottomRight};
+    BackBuffer buffer_;
+    bool drawn_ = false;
+    bool captured_ = false;
+    ScrollPart hover_ = ScrollPart::none;
+    int dpi_ = 96;
+    Subscription relabeling_;
+    Subscription placing_;
+    Subscription following_;
+};
+
+}  // namespace ormala
