@@ -1,0 +1,55 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/win/handles.h"
+#include "scene/Canvas.h"
+
+namespace ormala {
+
+/// The fonts of the worksheet's texts, not smoothed, at the system's resolution.
+class GdiFonts : public TextMeter {
+  public:
+    explicit GdiFonts(int dpi);
+
+    [[nodiscard]] HFONT font(int size) const;
+    [[nodiscard]] PixelSize measure(std::string_view text, int size) const override;
+
+  private:
+    int dpi_;
+    MemoryContext context_;
+    mutable int size_ = 0;
+    mutable FontHandle font_;
+};
+
+/// Draws on a device context for the time of one painting. Pens are kept from call to call.
+class GdiCanvas : public Canvas {
+  public:
+    GdiCanvas(HDC context, const PixelRect& visible, const GdiFonts& fonts);
+    GdiCanvas(const GdiCanvas&) = delete;
+    GdiCanvas& operator=(const GdiCanvas&) = delete;
+    ~GdiCanvas() override;
+
+    [[nodiscard]] PixelRect visible() const override { return visible_; }
+    void line(const Pen& pen, PixelPoint from, PixelPoint to) override;
+    void polyline(const Pen& pen, std::span<const PixelPoint> points) override;
+    void bezier(const Pen& pen, std::span<const PixelPoint> points) override;
+    void shape(const ShapeFace& face) override;
+    void text(const PixelRect& box, const TextFace& face) override;
+
+  private:
+    void take(const Pen& pen);
+    [[nodiscard]] std::span<const POINT> points(std::span<const PixelPoint> pixels);
+
+    HDC context_;
+    int saved_;
+    PixelRect visible_;
+    const GdiFonts& fonts_;
+    std::optional<Pen> pen_;
+    PenHandle penHandle_;
+};
+
+/// A plain colour; a system colour (negative) is looked up.
+COLORREF colorRef(Color color);
+
+}  // namespace ormala

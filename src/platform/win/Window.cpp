@@ -1,0 +1,136 @@
+#include "platform/win/Window.h"
+
+#include <cstdint>
+#include <system_error>
+
+#include "platform/win/controlName.h"
+#include "platform/win/text.h"
+#include "scene/Input.h"
+
+namespace ormala {
+
+namespace {
+
+HINSTANCE module() {
+    return GetModuleHandleW(nullptr);
+}
+
+// Win32 hands pointers through integers; these two are the only places that cast them.
+template <typename To, typename From>
+To castBits(From value) {
+    return reinterpret_cast<To>(value);
+}
+
+void registerClass(const WindowDesign& design, WNDPROC procedure) {
+    WNDCLASSEXW existing{};
+    existing.cbSize = sizeof existing;
+    if (GetClassInfoExW(module(), design.className, &existing) != FALSE) {
+        return;
+    }
+    WNDCLASSEXW made{};
+    made.cbSize = sizeof made;
+    made.style = design.classStyle;
+    made.lpfnWndProc = procedure;
+    made.hInstance = module();
+    made.hIcon = LoadIconW(module(), MAKEINTRESOURCEW(1));
+    made.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    made.lpszClassName = design.className;
+    RegisterClassExW(&made);
+}
+
+}  // namespace
+
+void Window::create(const WindowDesign& design) {
+    registerClass(design, &Window::dispatch);
+    const RECT& place = design.place;
+    CreateWindowExW(design.extendedStyle, design.className, L"", design.style, place.left,
+                    place.top, place.right - place.left, place.bottom - place.top, design.owner,
+                    castBits<HMENU>(static_cast<INT_PTR>(design.id)), module(), this);
+    if (handle_ == nullptr) {
+        throw std::system_error(static_cast<int>(GetLastError()), std::system_category(),
+                                "CreateWindowEx");
+    }
+}
+
+void Window::destroy() {
+    if (handle_ != nullptr) {
+        const HWND handle = handle_;
+        handle_ = nullptr;
+        SetWindowLongPtrW(handle, GWLP_USERDATA, 0);
+        DestroyWindow(handle);
+    }
+}
+
+Window::~Window() {
+    destroy();
+}
+
+Window* Window::bind(HWND handle, LPARAM lParam) {
+    auto* window = static_cast<Window*>(castBits<CREATESTRUCTW*>(lParam)->lpCreateParams);
+    window->handle_ = handle;
+    SetWindowLongPtrW(handle, GWLP_USERDATA, castBits<LONG_PTR>(window));
+    return window;
+}
+
+void Window::destroyed() {
+    SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
+    handle_ = nullptr;
+}
+
+LRESULT CALLBACK Window::dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+    Window* window = message == WM_NCCREATE
+                         ? bind(handle, lParam)
+                         : castBits<Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+    if (message == WM_NCDESTROY) {
+        removeControlName(handle);
+        if (window != nullptr) {
+            window->destroyed();
+        }
+    } else if (window != nullptr) {
+        if (const auto result = window->onMessage(message, wParam, lParam)) {
+            return *result;
+        }
+    }
+    return DefWindowProcW(handle, message, wParam, lParam);
+}
+
+RECT Window::rectangle() const {
+    RECT rect{};
+    GetWindowRect(handle_, &rect);
+    return rect;
+}
+
+RECT Window::clientRectangle() const {
+    RECT rect{};
+    GetClientRect(handle_, &rect);
+    return rect;
+}
+
+void Window::setCaption(std::string_view text) {
+    SetWindowTextW(handle_, wide(text).c_str());
+}
+
+int heldModifiers() {
+    const auto bit = [](int virtualKey, int value) {
+        return GetKeyState(virtualKey) < 0 ? value : 0;
+    };
+    return bit(VK_SHIFT, modifier::shift) | bit(VK_CONTROL, modifier::ctrl) |
+           bit(VK_MENU, modifier::alt);
+}
+
+int heldModifiersOfMouse(WPARAM wParam) {
+    const auto bit = [](bool inMessage, int virtualKey, int value) {
+        return inMessage || GetAsyncKeyState(virtualKey) < 0 ? value : 0;
+    };
+    return bit((wParam & MK_SHIFT) != 0, VK_SHIFT, modifier::shift) |
+           bit((wParam & MK_CONTROL) != 0, VK_CONTROL, modifier::ctrl) |
+           bit(false, VK_MENU, modifier::alt);
+}
+
+int heldButtons(WPARAM wParam) {
+    return ((wParam & MK_LBUTTON) != 0 ? mouseButton::left : 0) |
+           ((wParam & MK_RBUTTON) != 0 ? mouseButton::right : 0) |
+           ((wParam & MK_MBUTTON) != 0 ? mouseButton::middle : 0);
+}
+
+}  // namespace ormala

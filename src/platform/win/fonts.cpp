@@ -1,0 +1,32 @@
+#include "platform/win/fonts.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace ormala {
+
+namespace {
+
+FontHandle tahoma(int dpi, int points, int weight, BYTE quality) {
+    constexpr int pointsPerInch = 72;
+    constexpr wchar_t name[] = L"Tahoma";
+    LOGFONTW face{};
+    face.lfHeight = -MulDiv(points, dpi, pointsPerInch);
+    face.lfWeight = weight;
+    face.lfCharSet = DEFAULT_CHARSET;
+    face.lfQuality = quality;
+    std::copy(std::begin(name), std::end(name), face.lfFaceName);
+    return FontHandle(CreateFontIndirectW(&face));
+}
+
+}  // namespace
+
+FontHandle controlFont(int dpi, FontLook look, int points) {
+    return tahoma(dpi, points, look == FontLook::bold ? FW_BOLD : FW_NORMAL, CLEARTYPE_QUALITY);
+}
+
+FontHandle worksheetFont(int dpi, int points) {
+    return tahoma(dpi, points, FW_NORMAL, NONANTIALIASED_QUALITY);
+}
+
+}  // namespace ormala

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/win/handles.h"
+
+namespace ormala {
+
+enum class FontLook { normal, bold };
+
+/// The type of all windows of controls: Tahoma at so many points, smoothed for the screen.
+FontHandle controlFont(int dpi, FontLook look, int points = 8);
+
+/// The same type not smoothed, for texts on a ground that is keyed out.
+FontHandle worksheetFont(int dpi, int points);
+
+}  // namespace ormala

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <windows.h>
+
+#include <utility>
+
+namespace ormala {
+
+/// Owns a system handle and closes it with `Close`.
+template <typename H, auto Close>
+class Handle {
+  public:
+    Handle() = default;
+    explicit Handle(H handle) : handle_(handle) {}
+    Handle(Handle&& other) noexcept : handle_(std::exchange(other.handle_, H{})) {}
+    Handle& operator=(Handle&& other) noexcept {
+        reset(std::exchange(other.handle_, H{}));
+        return *this;
+    }
+    ~Handle() { reset(); }
+
+    void reset(H handle = H{}) {
+        if (handle_ != H{}) {
+            Close(handle_);
+        }
+        handle_ = handle;
+    }
+    [[nodiscard]] H get() const { return handle_; }
+    explicit operator bool() const { return handle_ != H{}; }
+
+  private:
+    H handle_{};
+};
+
+using PenHandle = Handle<HPEN, &DeleteObject>;
+using BrushHandle = Handle<HBRUSH, &DeleteObject>;
+using FontHandle = Handle<HFONT, &DeleteObject>;
+using BitmapHandle = Handle<HBITMAP, &DeleteObject>;
+using RegionHandle = Handle<HRGN, &DeleteObject>;
+using MemoryContext = Handle<HDC, &DeleteDC>;
+using HookHandle = Handle<HHOOK, &UnhookWindowsHookEx>;
+
+/// Selects an object into a device context for its lifetime.
+class Selected {
+  public:
+    Selected(HDC context, HGDIOBJ object)
+        : context_(context), former_(SelectObject(context, object)) {}
+    Selected(const Selected&) = delete;
+    Selected& operator=(const Selected&) = delete;
+    ~Selected() { SelectObject(context_, former_); }
+
+  private:
+    HDC context_;
+    HGDIOBJ former_;
+};
+
+/// The device context of a window, the screen's for a null window.
+class WindowContext {
+  public:
+    explicit WindowContext(HWND window) : window_(window), context_(GetDC(window)) {}
+    WindowContext(const WindowContext&) = delete;
+    WindowContext& operator=(const WindowContext&) = delete;
+    ~WindowContext() { ReleaseDC(window_, context_); }
+
+    [[nodiscard]] HDC get() const { return context_; }
+
+  private:
+    HWND window_;
+    HDC context_;
+};
+
+/// Between the beginning and the end of a window's painting.
+class PaintScope {
+  public:
+    explicit PaintScope(HWND window) : window_(window), context_(BeginPaint(window, &paint_)) {}
+    PaintScope(const PaintScope&) = delete;
+    PaintScope& operator=(const PaintScope&) = delete;
+    ~PaintScope() { EndPaint(window_, &paint_); }
+
+    [[nodiscard]] HDC context() const { return context_; }
+    [[nodiscard]] const RECT& area() const { return paint_.rcPaint; }
+
+  private:
+    HWND window_;
+    PAINTSTRUCT paint_{};
+    HDC context_;
+};
+
+}  // namespace ormala

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <span>
+
+#include "platform/win/handles.h"
+#include "scene/PixelRect.h"
+
+namespace ormala {
+
+/// The union of the rectangles.
+RegionHandle regionOf(std::span<const PixelRect> rects);
+
+/// What the system wants the window to repaint.
+RegionHandle updateRegionOf(HWND window);
+
+PixelRect boundsOf(HRGN region);
+
+RECT toRect(const PixelRect& rect);
+PixelRect fromRect(const RECT& rect);
+
+/// Restricts drawing to a region for its lifetime.
+class ClipScope {
+  public:
+    ClipScope(HDC context, HRGN region) : context_(context) { SelectClipRgn(context, region); }
+    ClipScope(const ClipScope&) = delete;
+    ClipScope& operator=(const ClipScope&) = delete;
+    ~ClipScope() { SelectClipRgn(context_, nullptr); }
+
+  private:
+    HDC context_;
+};
+
+}  // namespace ormala
