@@ -1,0 +1,124 @@
+#include "stencil/StencilGrips.h"
+
+#include "modAPI/transforms.h"
+
+namespace ormala {
+
+namespace {
+
+/// (1 - cos(pi / 4)) / 2: the rotate grips lie on the circle about the centre whose radius is that
+/// share of half the diagonal which is left.
+constexpr double rotateGripShare = 0.14644660940672624;
+
+constexpr Color designBorder = rgb(200, 200, 200);
+
+Grip makeGrip(float size, ShapeKind kind, Color color, Color pressed) {
+    Grip grip;
+    grip.box = {0, 0, size, size, kind == ShapeKind::oval};
+    grip.kind = kind;
+    grip.color = color;
+    grip.pressedColor = pressed;
+    grip.borderColor = designBorder;
+    grip.focusBorder = rgb(0, 0, 0);
+    grip.selectedBorder = pressed;
+    return grip;
+}
+
+/// Between which corners a grip lies, and how far along.
+struct GripPlace {
+    int from;
+    int to;
+    double share;
+};
+
+constexpr GripPlace movePlace{0, 3, 0.5};
+constexpr GripPlace rotatePlaces[] = {{1, 2, rotateGripShare},
+                                      {3, 0, rotateGripShare},
+                                      {2, 1, rotateGripShare},
+                                      {0, 3, rotateGripShare}};
+constexpr GripPlace sizePlaces[] = {{0, 1, 0.5}, {1, 3, 0.5}, {2, 3, 0.5}, {2, 0, 0.5}};
+constexpr GripPlace cornerPlaces[] = {{1, 1, 0}, {3, 3, 0}, {2, 2, 0}, {0, 0, 0}};
+
+const GripPlace& placeOf(StencilGrip grip) {
+    switch (grip.kind) {
+        case StencilGripKind::rotate:
+            return rotatePlaces[grip.number];
+        case StencilGripKind::size:
+            return sizePlaces[grip.number];
+        case StencilGripKind::sizeCorner:
+            return cornerPlaces[grip.number];
+        case StencilGripKind::move:
+            break;
+    }
+    return movePlace;
+}
+
+}  // namespace
+
+StencilGrip stencilGrip(int index) {
+    if (index == 0) {
+        return {StencilGripKind::move, 0};
+    }
+    constexpr StencilGripKind kinds[] = {StencilGripKind::size, StencilGripKind::sizeCorner,
+                                         StencilGripKind::rotate};
+    return {kinds[(index - 1) / 4], (index - 1) % 4};
+}
+
+int indexOfStencilGrip(StencilGripKind kind, int number) {
+    switch (kind) {
+        case StencilGripKind::size:
+            return 1 + number;
+        case StencilGripKind::sizeCorner:
+            return 5 + number;
+        case StencilGripKind::rotate:
+            return 9 + number;
+        case StencilGripKind::move:
+            break;
+    }
+    return 0;
+}
+
+std::vector<Grip> makeStencilGrips() {
+    constexpr float moveSize = 13;
+    constexpr float sideSize = 9;
+    std::vector<Grip> grips;
+    grips.reserve(stencilGripCount);
+    grips.push_back(
+        makeGrip(moveSize, ShapeKind::roundedRectangle, rgb(255, 224, 192), rgb(255, 128, 0)));
+    for (int side = 0; side < 4; ++side) {
+        const bool right = side == 1;
+        grips.push_back(makeGrip(sideSize, ShapeKind::rectangle,
+                                 right ? rgb(255, 192, 192) : rgb(255, 255, 128),
+                                 right ? rgb(255, 128, 128) : rgb(221, 221, 0)));
+    }
+    for (int corner = 0; corner < 4; ++corner) {
+        grips.push_back(
+            makeGrip(sideSize, ShapeKind::rectangle, rgb(192, 255, 192), rgb(0, 225, 0)));
+    }
+    for (int corner = 0; corner < 4; ++corner) {
+        grips.push_back(makeGrip(sideSize, ShapeKind::oval, rgb(192, 255, 255), rgb(0, 192, 192)));
+    }
+    return grips;
+}
+
+Point stencilGripPoint(StencilGrip grip, const StencilCorners& corners) {
+    const GripPlace& place = placeOf(grip);
+    return Interpolate(corners[static_cast<std::size_t>(place.from)],
+                       corners[static_cast<std::size_t>(place.to)], place.share);
+}
+
+TipId stencilGripTip(StencilGripKind kind) {
+    switch (kind) {
+        case StencilGripKind::rotate:
+            return 321;
+        case StencilGripKind::size:
+            return 322;
+        case StencilGripKind::sizeCorner:
+            return 323;
+        case StencilGripKind::move:
+            break;
+    }
+    return 320;
+}
+
+}  // namespace ormala

@@ -1,0 +1,118 @@
+#include <cmath>
+#include <string>
+
+#include "modAPI/rectangles.h"
+#include "stencil/StencilResize.h"
+#include "stencil/StencilTexts.h"
+#include "stencil/ctlRatioGrid.h"
+
+// Mouse and keyboard of the stencil.
+
+namespace ormala {
+
+TipId ctlRatioGrid::tipOf(int grip) const {
+    return stencilGripTip(stencilGrip(grip).kind);
+}
+
+void ctlRatioGrid::beginDrag(const MouseInput& input) {
+    const int grip = *grips().active();
+    const Grip& look = grips()[grip];
+    held_.grip = stencilGrip(grip);
+    held_.pressX = input.x;
+    held_.pressY = input.y;
+    held_.grabX = static_cast<double>(input.x) - static_cast<double>(look.box.left);
+    held_.grabY = static_cast<double>(input.y) - static_cast<double>(look.box.top);
+    held_.gripWidth = look.box.width;
+    held_.gripHeight = look.box.height;
+    pressBound_ = state_.RectBound;
+    aids_.begin(held_.grip, look, state_, settings_.showReferenceLines);
+    aids_.setText({}, host().textMeter());
+    PositionAll();
+}
+
+void ctlRatioGrid::mouseMove(const MouseInput& input, const MouseSource& source) {
+    if (skipNextMove_) {
+        skipNextMove_ = false;
+        return;
+    }
+    GripTool::mouseMove(input, source);
+}
+
+void ctlRatioGrid::drag(const MouseInput& input) {
+    held_.x = input.x;
+    held_.y = input.y;
+    held_.shift = input.shift;
+    aids_.setText(dragState(held_), host().textMeter());
+    PositionAll();
+    events().change.raise();
+}
+
+std::string ctlRatioGrid::dragState(const GripDrag& held) {
+    const bool resizes =
+        held.grip.kind == StencilGripKind::size || held.grip.kind == StencilGripKind::sizeCorner;
+    if (resizes && (held.shift & modifier::ctrl) != 0) {
+        // Symmetric at the centre of the press: the result depends on where the mouse is and not on
+        // how many moves it took to get there.
+        state_.RectBound = pressBound_;
+    }
+    switch (held.grip.kind) {
+        case StencilGripKind::move:
+            return moveText(DragMove(state_, held, settings_.grid));
+        case StencilGripKind::rotate:
+            DragRotate(state_, held);
+            return rotationText(state_.RotationAngle, settings_.textForm);
+        case StencilGripKind::size:
+            DragSize(state_, held);
+            break;
+        case StencilGripKind::sizeCorner:
+            DragSizeCorner(state_, held);
+            break;
+    }
+    return sizeText(state_.RectBound, ratios_, settings_.textForm);
+}
+
+void ctlRatioGrid::keyDown(int key, int shift) {
+    const bool ctrl = (shift & modifier::ctrl) != 0;
+    switch (key) {
+        case key::up:
+            moveCenterByKey(0, -1, ctrl);
+            break;
+        case key::down:
+            moveCenterByKey(0, 1, ctrl);
+            break;
+        case key::left:
+            moveCenterByKey(-1, 0, ctrl);
+            break;
+        case key::right:
+            moveCenterByKey(1, 0, ctrl);
+            break;
+        case key::home:
+            CenterToScreen(shift != 0, 0, false, false);
+            break;
+        case key::pageUp:
+        case key::pageDown:
+            ModifyAngle(key == key::pageDown, angleStepOf(shift));
+            break;
+        case key::end:
+        case key::remove:
+            events().keyDownFiltered.raise(key, shift);
+            return;
+        default:
+            return;
+    }
+    events().change.raise();
+}
+
+void ctlRatioGrid::moveCenterByKey(int dx, int dy, bool byGrid) {
+    const Grid& grid = settings_.grid;
+    Point center = RectCenter(state_.RectBound);
+    center.x += dx * (byGrid ? grid.stepX : 1);
+    center.y += dy * (byGrid ? grid.stepY : 1);
+    if (byGrid) {
+        SnapToGrid(center.x, center.y, grid);
+    }
+    CenterRectOn(state_.RectBound, center);
+    PositionAll();
+}
+
+}  // namespace ormala
