@@ -1,0 +1,40 @@
+#include "measure/MeasureTexts.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr const char* lineBreak = "\r\n";
+
+/// The length of line a is the reference of both lines.
+std::string lengthText(const MeasureState& state, double length, const MeasureUnits& units,
+                       const TextForm& form) {
+    return FormatLength(length, units.LengthMode, units.LengthFactor, units.LengthUnit,
+                        PixelLengthA(state), form);
+}
+
+}  // namespace
+
+std::string lengthTextA(const MeasureState& state, int number, const MeasureUnits& units,
+                        const TextForm& form) {
+    return std::to_string(number) + " a = " + lengthText(state, PixelLengthA(state), units, form) +
+           lineBreak + "a:b = " + FormatRatio(RatioAToB(state), form);
+}
+
+std::string lengthTextB(const MeasureState& state, int number, const MeasureUnits& units,
+                        const TextForm& form) {
+    return std::to_string(number) + " b = " + lengthText(state, PixelLengthB(state), units, form) +
+           lineBreak + "b:a = " + FormatRatio(RatioBToA(state), form);
+}
+
+std::string angleText(double angle, int number, const MeasureUnits& units, const TextForm& form) {
+    return std::to_string(number) + lineBreak + FormatAngle(angle, units.AngleMode, form);
+}
+
+std::string bothAnglesText(const MeasureState& state, int number, const MeasureUnits& units,
+                           const TextForm& form) {
+    return angleText(AngleBToA(state), number, units, form) + " (" +
+           FormatAngle(AngleAToB(state), units.AngleMode, form) + ")";
+}
+
+}  // namespace ormala

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "measure/MeasureState.h"
+#include "modAPI/textForms.h"
+#include "widgets/MeasureUnits.h"
+
+namespace ormala {
+
+// The texts of the labels, on two lines each; the tool's number leads.
+
+std::string lengthTextA(const MeasureState& state, int number, const MeasureUnits& units,
+                        const TextForm& form);
+std::string lengthTextB(const MeasureState& state, int number, const MeasureUnits& units,
+                        const TextForm& form);
+std::string angleText(double angle, int number, const MeasureUnits& units, const TextForm& form);
+/// Both angles, for lines that are not connected.
+std::string bothAnglesText(const MeasureState& state, int number, const MeasureUnits& units,
+                           const TextForm& form);
+
+}  // namespace ormala

@@ -1,0 +1,23 @@
+#include "measure/OtherMeasures.h"
+
+#include "modAPI/angles.h"
+
+namespace ormala {
+
+void SnapToOtherTools(Point& point, const OtherMeasures& others, const OverlayItem& self) {
+    constexpr double reach = 8;
+    double best = 9999999;
+    Point nearest = point;
+    others.visitEnds(self, [&](const Point& end) {
+        const double distance = Distance(point.x, point.y, end.x, end.y);
+        if (distance < best) {
+            best = distance;
+            nearest = end;
+        }
+    });
+    if (best < reach) {
+        point = nearest;
+    }
+}
+
+}  // namespace ormala

@@ -1,0 +1,186 @@
+#include "measure/MeasurePanel.h"
+
+#include <gtest/gtest.h>
+
+#include "measure/ManualMeasures.h"
+#include "support/FakePanelView.h"
+#include "support/FakeToolHost.h"
+#include "support/ManualLanguage.h"
+
+namespace ormala {
+namespace {
+
+class MeasurePanelTest : public testing::Test {
+  protected:
+    MeasurePanelTest() {
+        tool_.resize({1000, 800});
+        tool_.SetDefaultProperties();
+        tool_.setLineA({100, 199, 100, 100});
+        tool_.setLineB({149, 100, 100, 100});
+        panel_.finish();
+        later(1);
+    }
+
+    void later(float seconds) { clock_.now += seconds; }
+    std::string shown(const std::string& name) {
+        panel_.ShowAllProps(true);
+        return view_.texts.at(name);
+    }
+
+    ManualLanguage language_{languageEnglish};
+    FakeToolHost host_;
+    ToolSettings settings_;
+    ManualMeasures others_;
+    ctlMeasure tool_{host_, settings_, others_};
+    FakePanelView view_;
+    FakeToolVisibility visibility_;
+    ManualDayClock clock_;
+    MeasurePanel panel_{tool_, {view_, visibility_, clock_}, settings_};
+};
+
+TEST_F(MeasurePanelTest, ShowsWhatTheToolMeasures) {
+    EXPECT_EQ(shown("lblLengthA"), "a = 100.0 ");
+    EXPECT_EQ(shown("lblLengthB"), "b = 50.0 ");
+    EXPECT_EQ(shown("lblRatioA"), "a:b = 2.000 ");
+    EXPECT_EQ(shown("lblRatioB"), "b:a = 0.5000 ");
+    EXPECT_EQ(shown("lblAngleVertA"), FormatAngle(tool_.AngleVertA(), 0, {}) + " ");
+    EXPECT_EQ(shown("lblAngleVertB"), FormatAngle(tool_.AngleVertB(), 0, {}) + " ");
+    EXPECT_EQ(shown("lblAngleA"), "ab = " + FormatAngle(tool_.AngleAToB(), 0, {}) + " ");
+    EXPECT_EQ(shown("lblAngleB"), "ba = " + FormatAngle(tool_.AngleBToA(), 0, {}) + " ");
+}
+
+TEST_F(MeasurePanelTest, ShowsLengthsInTheToolsUnits) {
+    tool_.setLengthMode(2);
+    tool_.setLengthFactor(3);
+    tool_.setLengthUnit("cm");
+    tool_.setAngleMode(1);
+    panel_.unitsChanged();
+    EXPECT_EQ(shown("lblLengthA"), "a = " + FormatLength(100, 2, 3, "cm", 100, {}) + " ");
+    EXPECT_EQ(shown("lblLengthB"), "b = " + FormatLength(50, 2, 3, "cm", 100, {}) + " ");
+    EXPECT_EQ(shown("lblAngleVertB"), FormatAngle(tool_.AngleVertB(), 1, {}) + " ");
+}
+
+TEST_F(MeasurePanelTest, DuringADragTheTextsChangeAtMostEveryTenthOfASecond) {
+    view_.refreshes = 0;
+    for (int i = 0; i < 25; ++i) {
+        tool_.setLineA({100, 200.0 + i, 100, 100});
+        tool_.events().change.raise();
+        later(0.01F);
+    }
+    EXPECT_LE(view_.refreshes, 3);
+    EXPECT_TRUE(view_.timerRuns);
+    panel_.ShowAllProps(true);
+    EXPECT_EQ(view_.texts["lblLengthA"], "a = 125.0 ");
+    EXPECT_FALSE(view_.timerRuns);
+}
+
+TEST_F(MeasurePanelTest, TheTitleHasTheNumber) {
+    panel_.setNumber(3);
+    EXPECT_EQ(view_.texts["lblTitle"], "Measurement Tool 3");
+    EXPECT_EQ(tool_.Number(), 3);
+    EXPECT_EQ(panel_.Number(), 3);
+    const ManualLanguage german(languageGerman);
+    EXPECT_EQ(shown("lblTitle"), MlString(325, {}) + "3");
+}
+
+TEST_F(MeasurePanelTest, TheMenuNamesTheNumberInBothLanguages) {
+    panel_.setNumber(3);
+    tool_.events().mouseUp.raise({mouseButton::right, 0, 1, 1});
+    const ManualLanguage german(languageGerman);
+    tool_.events().mouseUp.raise({mouseButton::right, 0, 1, 1});
+    ASSERT_EQ(view_.menus.size(), 2U);
+    EXPECT_EQ(view_.menus[0], "Remove measurement tool 3");
+    EXPECT_NE(view_.menus[1], view_.menus[0]);
+    EXPECT_NE(view_.menus[1].find('3'), std::string::npos);
+    EXPECT_EQ(view_.menus[1].find('%'), std::string::npos);
+}
+
+TEST_F(MeasurePanelTest, PauseDisablesThePanelAndHidesTheTool) {
+    panel_.setPause(true);
+    EXPECT_FALSE(visibility_.visible[&tool_]);
+    EXPECT_EQ(view_.enabling, (PanelEnabling{false, false, false}));
+    EXPECT_EQ(view_.buttons["cmdPause"], (ButtonLook{rgb(187, 168, 0), true}));
+    panel_.setPause(false);
+    EXPECT_TRUE(visibility_.visible[&tool_]);
+    EXPECT_EQ(view_.enabling, (PanelEnabling{true, false, false}));
+    EXPECT_EQ(view_.buttons["cmdPause"], (ButtonLook{0x707070, false}));
+}
+
+TEST_F(MeasurePanelTest, UndoingADisconnectShowsTheLinesConnectedAgain) {
+    panel_.connect(false);
+    later(1);
+    panel_.ShowAllProps(false);
+    EXPECT_FALSE(view_.buttons["optMode(0)"].down);
+    EXPECT_TRUE(view_.buttons["optMode(1)"].down);
+    later(1);
+    panel_.Undo();
+    EXPECT_TRUE(tool_.Connected());
+    EXPECT_TRUE(view_.buttons["optMode(0)"].down);
+    EXPECT_FALSE(view_.buttons["optMode(1)"].down);
+    later(1);
+    panel_.Redo();
+    EXPECT_FALSE(tool_.Connected());
+}
+
+TEST_F(MeasurePanelTest, TheSwitchesTurnTheLabelsOnAndOff) {
+    panel_.toggleAngleLabels();
+    later(1);
+    panel_.toggleLengthLabels();
+    EXPECT_FALSE(tool_.LabelsAngleVisible());
+    EXPECT_FALSE(tool_.LabelsLengthVisible());
+    EXPECT_EQ(view_.buttons["chkShowAngle"], (ButtonLook{0x707070, false}));
+    EXPECT_EQ(view_.buttons["chkShowLength"], (ButtonLook{0x707070, false}));
+    later(1);
+    panel_.toggleAngleLabels();
+    EXPECT_EQ(view_.buttons["chkShowAngle"], (ButtonLook{rgb(187, 168, 0), true}));
+}
+
+TEST_F(MeasurePanelTest, ADarkColourShowsWhiteText) {
+    panel_.setColorA(rgb(0, 0, 128));
+    panel_.setColorB(rgb(255, 255, 0));
+    EXPECT_EQ(tool_.ColorA(), rgb(0, 0, 128));
+    EXPECT_EQ(tool_.ColorB(), rgb(255, 255, 0));
+    EXPECT_EQ(view_.buttons["cmdColorA"], (ButtonLook{rgb(0, 0, 128), false, rgb(255, 255, 255)}));
+    EXPECT_EQ(view_.buttons["cmdColorB"], (ButtonLook{rgb(255, 255, 0), false, rgb(0, 0, 0)}));
+}
+
+TEST_F(MeasurePanelTest, TheLineGoesToTheToolAndToItsButton) {
+    panel_.setLineWidth(0);
+    EXPECT_EQ(tool_.LineWidth(), 0);
+    EXPECT_EQ(view_.lineStyle, 0);
+}
+
+TEST_F(MeasurePanelTest, AColourIsNoStepOfUndo) {
+    panel_.setColorA(0x123456);
+    panel_.AddHistoryStep();
+    EXPECT_FALSE(tool_.History().UndoPossible());
+}
+
+TEST_F(MeasurePanelTest, AnyModifierBlocksTheDeleteKey) {
+    for (const int shift : {modifier::shift, modifier::ctrl, modifier::alt}) {
+        tool_.keyDown(key::remove, shift);
+    }
+    EXPECT_EQ(view_.removeRequests, 0);
+    tool_.keyDown(key::remove, 0);
+    EXPECT_EQ(view_.removeRequests, 1);
+}
+
+TEST_F(MeasurePanelTest, TheDefaultPlaceIsAStepOfUndoAndKeepsTheShape) {
+    panel_.setDefaultPlace();
+    EXPECT_EQ(tool_.LineA(), (Line{500, 499, 500, 400}));
+    EXPECT_EQ(tool_.LineB(), (Line{549, 400, 500, 400}));
+    EXPECT_TRUE(view_.enabling.undo);
+    panel_.Undo();
+    EXPECT_EQ(tool_.LineA(), (Line{100, 199, 100, 100}));
+}
+
+TEST_F(MeasurePanelTest, TheSelectedLookComesOnceWithItsEvent) {
+    panel_.setSelected(true);
+    later(1);
+    panel_.ShowAllProps(false);
+    EXPECT_EQ(view_.selections, 1);
+    EXPECT_EQ(view_.look, selectedLook);
+}
+
+}  // namespace
+}  // namespace ormala
