@@ -1,0 +1,113 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <vector>
+
+#include "base/Event.h"
+#include "scene/ToolControl.h"
+
+namespace ormala {
+
+/// What the sheet asks of the window that shows it.
+class SheetPort {
+  public:
+    virtual ~SheetPort() = default;
+
+    /// Whether the worksheet is the window that was last known to be in front.
+    [[nodiscard]] virtual bool wasInFront() const = 0;
+    /// Keeps the window that is in front now.
+    virtual void rememberForeground() = 0;
+    /// The tool's place among the others, its presence or its visibility has changed.
+    virtual void repaintTool(const OverlayItem& item) = 0;
+};
+
+/// Makes the tools: the sheet knows no kind of them.
+class ToolFactory {
+  public:
+    virtual ~ToolFactory() = default;
+    /// Null for a kind that there is no tool of.
+    virtual std::unique_ptr<OverlayItem> makeTool(ToolKind kind, ToolHost& host) = 0;
+};
+
+/// The tools on the worksheet: an array for each kind whose element 0 always exists, their order in
+/// front of each other, the selection and the focus. It knows no kind of tool by its type.
+class Sheet {
+  public:
+    static constexpr int kinds = 2;
+
+    Sheet(SheetPort& port, ToolHost& host, ToolFactory& factory)
+        : port_(port), host_(host), factory_(factory) {}
+
+    /// Makes element 0 of an array, hidden.
+    void makeFirstControl(ToolKind kind);
+    /// A further tool behind the last one of its kind, visible, in front of all others; null for an
+    /// unknown kind.
+    OverlayItem* AddNewControl(int kind);
+    /// Element 0 is only hidden, any other one is destroyed.
+    void RemoveControl(const OverlayItem& item);
+    /// Element 0 of that kind, null for another kind.
+    [[nodiscard]] OverlayItem* GetFirstControl(int kind) const;
+    [[nodiscard]] int count(ToolKind kind) const;
+
+    void setVisible(const OverlayItem& item, bool visible);
+    [[nodiscard]] bool isVisible(const OverlayItem& item) const;
+    /// All visible tools, kind by kind, each kind in its array's order.
+    [[nodiscard]] std::vector<OverlayItem*> visibleInArrayOrder() const;
+
+    void SelectControl(const OverlayItem& item);
+    [[nodiscard]] OverlayItem* selected() const;
+    void SetFocusToSelectedControl();
+    void RemoveFocusFromOtherControls(const OverlayItem& item);
+
+    /// The user's change of focus to a tool, by a press or a key. A hidden tool does not take it.
+    void giveFocus(OverlayItem& item);
+    /// The next visible tool in the order of the arrays, in a ring.
+    void focusNext(bool backwards);
+    /// The window got or lost the focus; it keeps which tool had it.
+    void windowGotFocus();
+    void windowLostFocus();
+    [[nodiscard]] OverlayItem* focused() const { return focused_; }
+
+    /// Tells every tool whether the worksheet takes the mouse.
+    void setEditMode(bool editMode);
+    void resize(PixelSize size);
+    [[nodiscard]] PixelSize size() const { return size_; }
+
+    /// All tools from the rearmost to the foremost, visible or not.
+    [[nodiscard]] const std::vector<OverlayItem*>& zOrder() const { return zOrder_; }
+    /// The foremost visible tool, null without any.
+    [[nodiscard]] OverlayItem* front() const;
+
+    /// A tool is hidden from now on, and perhaps destroyed next: it must hold nothing any more.
+    Event<const OverlayItem&> withdrawn;
+
+  private:
+    struct Element {
+        std::unique_ptr<OverlayItem> item;
+        bool visible = false;
+    };
+    using Elements = std::vector<Element>;
+
+    OverlayItem* add(ToolKind kind, bool visible);
+    [[nodiscard]] const Elements& elements(ToolKind kind) const;
+    [[nodiscard]] Elements& elements(ToolKind kind);
+    [[nodiscard]] const Element* find(const OverlayItem& item) const;
+    void focusArrives(OverlayItem& item);
+    void setVisible(Element& element, bool visible);
+    void withdraw(const OverlayItem& item);
+    /// Another tool may have become the foremost one.
+    void frontMayDifferFrom(const OverlayItem* former);
+
+    SheetPort& port_;
+    ToolHost& host_;
+    ToolFactory& factory_;
+    std::array<Elements, kinds> arrays_;
+    std::vector<OverlayItem*> zOrder_;
+    OverlayItem* focused_ = nullptr;
+    bool editMode_ = false;
+    bool windowFocused_ = false;
+    PixelSize size_;
+};
+
+}  // namespace ormala

@@ -1,0 +1,101 @@
+#include "worksheet/SheetMouse.h"
+
+#include <algorithm>
+
+namespace ormala {
+
+SheetMouse::SheetMouse(Sheet& sheet)
+    : sheet_(sheet),
+      withdrawn_(sheet.withdrawn.subscribe([this](const OverlayItem& item) { forget(item); })) {}
+
+OverlayItem* SheetMouse::itemAt(const MouseInput& input) const {
+    const auto& order = sheet_.zOrder();
+    const auto at = std::find_if(order.rbegin(), order.rend(), [&](OverlayItem* item) {
+        return sheet_.isVisible(*item) && item->HitTest(input.x, input.y);
+    });
+    return at == order.rend() ? nullptr : *at;
+}
+
+MouseSource SheetMouse::sourceOf(OverlayItem* item) const {
+    MouseSource source;
+    source.tool = item != nullptr ? &item->control() : nullptr;
+    source.holder = holder_ != nullptr ? &holder_->control() : nullptr;
+    source.heldByOther = background_;
+    return source;
+}
+
+void SheetMouse::BroadcastMouseMove(const MouseInput& input, const MouseSource& source) {
+    const std::vector<OverlayItem*> all = sheet_.zOrder();
+    for (OverlayItem* item : all) {
+        if (sheet_.isVisible(*item)) {
+            item->control().GlobalMouseMove(input, source);
+        }
+    }
+}
+
+void SheetMouse::press(const MouseInput& input) {
+    OverlayItem* item = holding() ? holder_ : itemAt(input);
+    if (item == nullptr) {
+        background_ = true;
+        backgroundDown.raise(input);
+        return;
+    }
+    holder_ = item;
+    sheet_.giveFocus(*item);
+    item->mouseDown(input, sourceOf(item));
+    sheet_.SelectControl(*item);
+}
+
+void SheetMouse::move(const MouseInput& input) {
+    OverlayItem* item = holding() ? holder_ : itemAt(input);
+    const MouseSource source = sourceOf(item);
+    // The tools hear of the mouse's place first: a drag then goes on from the grips as they are.
+    BroadcastMouseMove(input, source);
+    if (item != nullptr) {
+        item->mouseMove(input, source);
+    }
+    if (input.button == mouseButton::none) {
+        // Also after a release that fell where no event came from.
+        letGo();
+    }
+}
+
+void SheetMouse::release(const MouseInput& input, int stillHeld) {
+    OverlayItem* item = holding() ? holder_ : itemAt(input);
+    if (stillHeld == 0) {
+        letGo();
+    }
+    if (item != nullptr) {
+        item->mouseUp(input, sourceOf(item));
+    } else {
+        backgroundUp.raise(input);
+    }
+}
+
+void SheetMouse::lost() {
+    OverlayItem* item = holder_;
+    letGo();
+    if (item != nullptr) {
+        item->mouseUp({}, sourceOf(item));
+    }
+}
+
+void SheetMouse::outside(float x, float y, bool heldByOther) {
+    MouseSource source = sourceOf(nullptr);
+    source.heldByOther = source.heldByOther || heldByOther;
+    BroadcastMouseMove({mouseButton::none, 0, x, y}, source);
+}
+
+void SheetMouse::forget(const OverlayItem& item) {
+    if (holder_ == &item) {
+        holder_ = nullptr;
+        background_ = true;
+    }
+}
+
+void SheetMouse::letGo() {
+    holder_ = nullptr;
+    background_ = false;
+}
+
+}  // namespace ormala

@@ -1,0 +1,235 @@
+#include "worksheet/win/frmWorksheet.h"
+
+#include <algorithm>
+
+#include "language/MlStringModule.h"
+#include "platform/win/regions.h"
+#include "worksheet/transparency.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr UINT_PTR tmrCrosshair = 1;
+constexpr UINT tmrCrosshairInterval = 20;
+
+/// Raises or moves a window without activating it and without touching its owner's place.
+constexpr UINT keepPlaceAndOwner = SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
+
+RECT primaryWorkArea() {
+    RECT area{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    return area;
+}
+
+RegionHandle systemRegion(const DirtyRegion& region) {
+    if (region.dense()) {
+        const PixelRect bounds = region.bounds();
+        return regionOf({&bounds, 1});
+    }
+    return regionOf(region.rects());
+}
+
+int systemDpi() {
+    const WindowContext screen(nullptr);
+    return GetDeviceCaps(screen.get(), LOGPIXELSY);
+}
+
+}  // namespace
+
+frmWorksheet::frmWorksheet(HWND owner, ToolFactory& factory, ForegroundMemory& foreground,
+                           WorksheetCommands& commands)
+    : fonts_(systemDpi()),
+      foreground_(foreground),
+      commands_(commands),
+      sheet_(*this, *this, factory),
+      mouse_(sheet_),
+      painter_(sheet_, fonts_) {
+    WindowDesign design;
+    design.className = L"frmWorksheet";
+    design.style = WS_POPUP;
+    design.extendedStyle = WS_EX_LAYERED | WS_EX_TOPMOST;
+    design.owner = owner;
+    design.place = primaryWorkArea();
+    create(design);
+    tip_ = std::make_unique<TipWindow>(handle());
+    backgroundDown_ =
+        mouse_.backgroundDown.subscribe([this](const MouseInput&) { onBackgroundDown(); });
+    backgroundUp_ = mouse_.backgroundUp.subscribe([this](const MouseInput&) { onBackgroundUp(); });
+    withdrawn_ = sheet_.withdrawn.subscribe([this](const OverlayItem& item) { showTip(item, 0); });
+    SetTimer(handle(), tmrCrosshair, tmrCrosshairInterval, nullptr);
+}
+
+frmWorksheet::~frmWorksheet() {
+    KillTimer(handle(), tmrCrosshair);
+    tip_.reset();
+    destroy();
+}
+
+void frmWorksheet::ApplyLayered() {
+    const LayeredLook look =
+        layeredLook(clickable_, static_cast<Color>(painter_.background()), alpha_, clickAlpha_);
+    SetWindowLongPtrW(handle(), GWL_EXSTYLE,
+                      static_cast<LONG_PTR>(look.extendedStyle | WS_EX_TOPMOST));
+    SetLayeredWindowAttributes(handle(), look.colorKey, static_cast<BYTE>(look.alpha), look.flags);
+}
+
+void frmWorksheet::setClickable(bool clickable) {
+    clickable_ = clickable;
+    ApplyLayered();
+    sheet_.setEditMode(clickable);
+    paintNow();
+}
+
+void frmWorksheet::setAlpha(int alpha) {
+    alpha_ = alpha;
+    ApplyLayered();
+}
+
+void frmWorksheet::setClickAlpha(int alpha) {
+    clickAlpha_ = alpha;
+    ApplyLayered();
+}
+
+void frmWorksheet::setBackground(COLORREF color) {
+    if (color != painter_.background()) {
+        painter_.setBackground(color);
+        InvalidateRect(handle(), nullptr, FALSE);
+    }
+}
+
+void frmWorksheet::show() {
+    ShowWindow(handle(), SW_SHOWNA);
+    if (maxSized_) {
+        // The screen may have changed while the window was hidden.
+        fillScreen();
+    }
+}
+
+void frmWorksheet::hide() {
+    ShowWindow(handle(), SW_HIDE);
+}
+
+void frmWorksheet::setMaxSized(bool maxSized) {
+    maxSized_ = maxSized;
+    if (!isVisible()) {
+        show();
+    } else if (maxSized) {
+        fillScreen();
+    }
+    if (!maxSized) {
+        ShowWindow(handle(), SW_SHOWNOACTIVATE);
+    }
+}
+
+void frmWorksheet::fillScreen() {
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    GetWindowPlacement(handle(), &placement);
+    placement.showCmd = SW_SHOWMAXIMIZED;
+    SetWindowPlacement(handle(), &placement);
+    const RECT place = rectangle();
+    if (place.left == 0 && place.top == 0) {
+        fillPrimaryScreen();
+    }
+}
+
+void frmWorksheet::fillPrimaryScreen() {
+    RECT area = primaryWorkArea();
+    // The normal position of a placement counts from the work area's corner.
+    OffsetRect(&area, -area.left, -area.top);
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    GetWindowPlacement(handle(), &placement);
+    placement.rcNormalPosition = area;
+    placement.showCmd = SW_RESTORE;
+    SetWindowPlacement(handle(), &placement);
+}
+
+void frmWorksheet::narrowAndWiden() {
+    const RECT place = rectangle();
+    const int width = place.right - place.left;
+    const int height = place.bottom - place.top;
+    constexpr UINT flags = SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE;
+    SetWindowPos(handle(), nullptr, 0, 0, width - 1, height, flags);
+    SetWindowPos(handle(), nullptr, 0, 0, width, height, flags);
+}
+
+bool frmWorksheet::wasInFront() const {
+    return handle() == foreground_.LastForegroundWindow;
+}
+
+void frmWorksheet::rememberForeground() {
+    foreground_.LastForegroundWindow = GetForegroundWindow();
+}
+
+void frmWorksheet::repaintTool(const OverlayItem& item) {
+    const RegionHandle region = systemRegion(item.footprint());
+    painter_.restChanged(region.get());
+    InvalidateRgn(handle(), region.get(), FALSE);
+}
+
+void frmWorksheet::repaint(const OverlayItem& item, const DirtyRegion& region) {
+    if (region.empty() || !sheet_.isVisible(item)) {
+        return;
+    }
+    const RegionHandle changed = systemRegion(region);
+    if (&item != sheet_.front()) {
+        painter_.restChanged(changed.get());
+    }
+    InvalidateRgn(handle(), changed.get(), FALSE);
+}
+
+void frmWorksheet::paintNow() {
+    UpdateWindow(handle());
+}
+
+void frmWorksheet::showTip(const OverlayItem& item, TipId tip) {
+    if (tip == 0 && tipOwner_ != &item) {
+        return;
+    }
+    tipOwner_ = tip != 0 ? &item : nullptr;
+    tip_->setText(tip != 0 ? MlString(tip, {}) : std::string{});
+}
+
+void frmWorksheet::runTimer(Ticking& ticking, int interval, bool running) {
+    const auto id = reinterpret_cast<UINT_PTR>(&ticking);
+    std::erase(timers_, &ticking);
+    if (running) {
+        timers_.push_back(&ticking);
+        SetTimer(handle(), id, static_cast<UINT>(interval), nullptr);
+    } else {
+        KillTimer(handle(), id);
+    }
+}
+
+void frmWorksheet::onBackgroundDown() {
+    SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, keepPlaceAndOwner);
+}
+
+void frmWorksheet::onBackgroundUp() {
+    POINT cursor{};
+    GetCursorPos(&cursor);
+    commands_.raiseControlWindowAt(cursor);
+}
+
+void frmWorksheet::pollOutside() {
+    SYSTEMTIME now{};
+    GetLocalTime(&now);
+    const float seconds = static_cast<float>((now.wHour * 60 + now.wMinute) * 60 + now.wSecond) +
+                          static_cast<float>(now.wMilliseconds) / 1000;
+    if (!clickable_ || !outsidePoll_.due(seconds)) {
+        return;
+    }
+    POINT cursor{};
+    GetCursorPos(&cursor);
+    const RECT place = rectangle();
+    if (PtInRect(&place, cursor) == FALSE) {
+        const bool heldByOther = GetCapture() != nullptr && !mouse_.holding();
+        mouse_.outside(static_cast<float>(cursor.x - place.left),
+                       static_cast<float>(cursor.y - place.top), heldByOther);
+        paintNow();
+    }
+}
+
+}  // namespace ormala

@@ -1,0 +1,118 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/win/GdiCanvas.h"
+#include "platform/win/TipWindow.h"
+#include "platform/win/Window.h"
+#include "worksheet/OutsidePoll.h"
+#include "worksheet/Sheet.h"
+#include "worksheet/SheetMouse.h"
+#include "worksheet/sheetKeys.h"
+#include "worksheet/win/SheetPainter.h"
+
+namespace ormala {
+
+/// What the worksheet asks of the application.
+class WorksheetCommands {
+  public:
+    virtual ~WorksheetCommands() = default;
+
+    virtual void SetMode(int mode, bool minimise) = 0;
+    virtual void ShowHelp() = 0;
+    /// Takes back the last step of a tool or brings it again.
+    virtual void stepHistory(OverlayItem& item, bool back) = 0;
+    /// A click on the sheet may have been meant for a control window beneath it.
+    virtual void raiseControlWindowAt(POINT screen) = 0;
+    virtual void closeProgram() = 0;
+};
+
+/// The window that was last known to be in front, by which a user's change of focus is told from
+/// the focus that comes back with an activation.
+struct ForegroundMemory {
+    HWND LastForegroundWindow = nullptr;
+};
+
+/// The see-through window on which the tools lie. In edit mode a veil over the screen that takes
+/// the mouse; otherwise only the tools show, and every click falls through to the program below.
+class frmWorksheet : public Window, private SheetPort, private ToolHost {
+  public:
+    /// `owner` is a window that is never shown; it keeps the worksheet off the task bar. The others
+    /// must outlive the worksheet.
+    frmWorksheet(HWND owner, ToolFactory& factory, ForegroundMemory& foreground,
+                 WorksheetCommands& commands);
+    ~frmWorksheet() override;
+
+    [[nodiscard]] Sheet& sheet() { return sheet_; }
+
+    [[nodiscard]] bool Clickable() const { return clickable_; }
+    void setClickable(bool clickable);
+    [[nodiscard]] int Alpha() const { return alpha_; }
+    void setAlpha(int alpha);
+    [[nodiscard]] int ClickAlpha() const { return clickAlpha_; }
+    void setClickAlpha(int alpha);
+    [[nodiscard]] bool MaxSized() const { return maxSized_; }
+    /// True: the window fills its screen and leaves the primary screen's task bar free; false: it
+    /// has the place that it is given. Shows the window.
+    void setMaxSized(bool maxSized);
+    void setBackground(COLORREF color);
+
+    void show();
+    void hide();
+    /// Lets the window lay itself out and repaint after it was hidden.
+    void narrowAndWiden();
+
+  private:
+    std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    bool wasInFront() const override;
+    void rememberForeground() override;
+    void repaintTool(const OverlayItem& item) override;
+    void repaint(const OverlayItem& item, const DirtyRegion& region) override;
+    void showTip(const OverlayItem& item, TipId tip) override;
+    const TextMeter& textMeter() const override { return fonts_; }
+    void runTimer(Ticking& ticking, int interval, bool running) override;
+
+    void ApplyLayered();
+    void fillScreen();
+    void fillPrimaryScreen();
+    LRESULT onPress(int button, WPARAM wParam, LPARAM lParam);
+    LRESULT onMove(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT onRelease(int button, WPARAM wParam, LPARAM lParam);
+    LRESULT onCaptureLost();
+    LRESULT onTimer(WPARAM id);
+    LRESULT onResize();
+    LRESULT onDisplayChange();
+    std::optional<LRESULT> onKey(WPARAM key);
+    bool KeyDown(int key, int shift);
+    void repeatMove(int shift);
+    bool obey(SheetCommand command);
+    void pollOutside();
+    void onBackgroundDown();
+    void onBackgroundUp();
+    void paintNow();
+
+    GdiFonts fonts_;
+    ForegroundMemory& foreground_;
+    WorksheetCommands& commands_;
+    /// Before the sheet, since a tool stops its timer when it is destroyed.
+    std::vector<Ticking*> timers_;
+    Sheet sheet_;
+    SheetMouse mouse_;
+    SheetPainter painter_;
+    Subscription backgroundDown_;
+    Subscription backgroundUp_;
+    Subscription withdrawn_;
+    std::unique_ptr<TipWindow> tip_;
+    const OverlayItem* tipOwner_ = nullptr;
+    OutsidePoll outsidePoll_;
+    /// The last move of a drag.
+    MouseInput lastMove_;
+    bool clickable_ = false;
+    bool maxSized_ = true;
+    int alpha_ = 255;
+    int clickAlpha_ = 255;
+};
+
+}  // namespace ormala

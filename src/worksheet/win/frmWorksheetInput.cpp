@@ -1,0 +1,197 @@
+#include <windowsx.h>
+
+#include <algorithm>
+
+#include "worksheet/win/frmWorksheet.h"
+
+// The messages of the worksheet.
+
+namespace ormala {
+
+namespace {
+
+MouseInput mouseInput(int button, WPARAM wParam, LPARAM lParam) {
+    return {button, heldModifiersOfMouse(wParam), static_cast<float>(GET_X_LPARAM(lParam)),
+            static_cast<float>(GET_Y_LPARAM(lParam))};
+}
+
+}  // namespace
+
+std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_PAINT:
+            painter_.paint(handle());
+            return 0;
+        case WM_ERASEBKGND:
+            return 1;
+        case WM_MOUSEMOVE:
+            return onMove(message, wParam, lParam);
+        case WM_LBUTTONDOWN:
+            return onPress(mouseButton::left, wParam, lParam);
+        case WM_RBUTTONDOWN:
+            return onPress(mouseButton::right, wParam, lParam);
+        case WM_MBUTTONDOWN:
+            return onPress(mouseButton::middle, wParam, lParam);
+        case WM_LBUTTONUP:
+            return onRelease(mouseButton::left, wParam, lParam);
+        case WM_RBUTTONUP:
+            return onRelease(mouseButton::right, wParam, lParam);
+        case WM_MBUTTONUP:
+            return onRelease(mouseButton::middle, wParam, lParam);
+        case WM_CAPTURECHANGED:
+            return onCaptureLost();
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+            return onKey(wParam);
+        case WM_SYSCOMMAND:
+            // Releasing Alt after a drag must not open a menu that takes the keys away.
+            return (wParam & 0xFFF0U) == SC_KEYMENU ? std::optional<LRESULT>(0) : std::nullopt;
+        case WM_SETFOCUS:
+            sheet_.windowGotFocus();
+            paintNow();
+            return 0;
+        case WM_KILLFOCUS:
+            sheet_.windowLostFocus();
+            paintNow();
+            return 0;
+        case WM_TIMER:
+            return onTimer(wParam);
+        case WM_SIZE:
+            return onResize();
+        case WM_DISPLAYCHANGE:
+            return onDisplayChange();
+        case WM_CLOSE:
+            commands_.closeProgram();
+            return 0;
+        default:
+            return std::nullopt;
+    }
+}
+
+LRESULT frmWorksheet::onPress(int button, WPARAM wParam, LPARAM lParam) {
+    tip_->relay(WM_LBUTTONDOWN, wParam, lParam);
+    if (GetFocus() != handle()) {
+        SetFocus(handle());
+    }
+    mouse_.press(mouseInput(button, wParam, lParam));
+    SetCapture(handle());
+    paintNow();
+    return 0;
+}
+
+LRESULT frmWorksheet::onMove(UINT message, WPARAM wParam, LPARAM lParam) {
+    lastMove_ = mouseInput(heldButtons(wParam), wParam, lParam);
+    mouse_.move(lastMove_);
+    tip_->relay(message, wParam, lParam);
+    paintNow();
+    return 0;
+}
+
+LRESULT frmWorksheet::onRelease(int button, WPARAM wParam, LPARAM lParam) {
+    const int stillHeld = heldButtons(wParam);
+    mouse_.release(mouseInput(button, wParam, lParam), stillHeld);
+    if (stillHeld == 0 && GetCapture() == handle()) {
+        ReleaseCapture();
+    }
+    paintNow();
+    return 0;
+}
+
+LRESULT frmWorksheet::onCaptureLost() {
+    if (mouse_.holding()) {
+        mouse_.lost();
+        paintNow();
+    }
+    return 0;
+}
+
+LRESULT frmWorksheet::onTimer(WPARAM id) {
+    const auto at = std::ranges::find_if(
+        timers_, [id](Ticking* ticking) { return reinterpret_cast<WPARAM>(ticking) == id; });
+    if (at != timers_.end()) {
+        (*at)->tick();
+        paintNow();
+    } else {
+        pollOutside();
+    }
+    return 0;
+}
+
+LRESULT frmWorksheet::onResize() {
+    const RECT client = clientRectangle();
+    const PixelSize size{static_cast<int>(client.right), static_cast<int>(client.bottom)};
+    painter_.resize(size);
+    sheet_.resize(size);
+    InvalidateRect(handle(), nullptr, FALSE);
+    return 0;
+}
+
+LRESULT frmWorksheet::onDisplayChange() {
+    if (maxSized_ && isVisible()) {
+        setMaxSized(true);
+    }
+    return 0;
+}
+
+std::optional<LRESULT> frmWorksheet::onKey(WPARAM key) {
+    const int shift = heldModifiers();
+    const bool closing = key == VK_F4 && (shift & modifier::alt) != 0;
+    if (closing || !clickable_) {
+        return std::nullopt;
+    }
+    const bool isModifier = key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU;
+    if (isModifier && mouse_.holding()) {
+        repeatMove(shift);
+        return 0;
+    }
+    if (!KeyDown(static_cast<int>(key), shift) && sheet_.focused() != nullptr) {
+        sheet_.focused()->keyDown(static_cast<int>(key), shift);
+    }
+    paintNow();
+    return 0;
+}
+
+void frmWorksheet::repeatMove(int shift) {
+    // A modifier that goes down in the middle of a drag shows its effect at once.
+    lastMove_.shift = shift;
+    mouse_.move(lastMove_);
+    paintNow();
+}
+
+bool frmWorksheet::KeyDown(int key, int shift) {
+    return obey(sheetCommandOf(key, shift));
+}
+
+bool frmWorksheet::obey(SheetCommand command) {
+    switch (command) {
+        case SheetCommand::none:
+            return false;
+        case SheetCommand::help:
+            commands_.ShowHelp();
+            break;
+        case SheetCommand::editMode:
+            commands_.SetMode(0, false);
+            break;
+        case SheetCommand::pauseMode:
+        case SheetCommand::pauseAndMinimise:
+            commands_.SetMode(2, command == SheetCommand::pauseAndMinimise);
+            break;
+        case SheetCommand::templateMode:
+        case SheetCommand::templateAndMinimise:
+            commands_.SetMode(1, command == SheetCommand::templateAndMinimise);
+            break;
+        case SheetCommand::nextTool:
+        case SheetCommand::previousTool:
+            sheet_.focusNext(command == SheetCommand::previousTool);
+            break;
+        case SheetCommand::undo:
+        case SheetCommand::redo:
+            if (OverlayItem* item = sheet_.focused()) {
+                commands_.stepHistory(*item, command == SheetCommand::undo);
+            }
+            break;
+    }
+    return true;
+}
+
+}  // namespace ormala
