@@ -1,0 +1,86 @@
+#pragma once
+
+#include <string>
+
+#include "app/BusyView.h"
+#include "app/ToolFile.h"
+#include "app/ToolList.h"
+#include "modAPI/colors.h"
+
+namespace ormala {
+
+enum class Answer { yes, no, cancel };
+
+/// What the path line says.
+struct PathLine {
+    std::string caption;
+    Color color = 0;
+    /// Empty for none.
+    std::string tip;
+
+    bool operator==(const PathLine&) const = default;
+};
+
+/// What the documents ask and show.
+class DocumentView {
+  public:
+    virtual ~DocumentView() = default;
+
+    /// Modal, under the program's title.
+    virtual Answer ask(const std::string& question) = 0;
+    /// The modal dialog for a tool-settings file to load or to save; empty if it was cancelled.
+    virtual std::string pickFile(bool forSaving) = 0;
+    /// The path, shortened in its middle if need be, so that it fits the path line.
+    virtual std::string CompactPathForDisplay(const std::string& path) = 0;
+    virtual void showPathLine(const PathLine& line) = 0;
+};
+
+/// A picked file's name with the extension of tool-settings files behind it, unless it has that
+/// already in any case.
+std::string withToolsFileExtension(std::string name);
+
+/// The named set of tools that the user works on: none, a new one without a name, or a file. Having
+/// none is the state of a start, in which nothing is asked, since the tools of the last run come
+/// back by themselves from an automatic file.
+class Documents {
+  public:
+    struct Ports {
+        INIFile& toolsFile;
+        FileStore& store;
+        ToolFile& file;
+        ToolList& tools;
+        BusyView& busy;
+        DocumentView& view;
+    };
+
+    /// The ports must outlive the object.
+    explicit Documents(const Ports& ports) : ports_(ports) {}
+
+    /// True until a document has been made, loaded or saved.
+    [[nodiscard]] bool NoFileYet() const { return noFileYet_; }
+    void UpdatePathLine();
+
+    /// Whether the present tools may be lost, perhaps after a question and a save.
+    bool ConfirmDiscard();
+
+    void New();
+    void Load();
+    void Save();
+    void SaveAs();
+
+    /// At the start: brings the tools of the last run back, or shows the first tools if there was
+    /// none.
+    void loadAutomatic(const std::string& path);
+    /// At the end, whatever document there is. The path line doesn't follow.
+    void saveAutomatic(const std::string& path);
+
+  private:
+    bool saveUnderNewName();
+    /// False if that leaves an error.
+    bool takePath(const std::string& path);
+
+    Ports ports_;
+    bool noFileYet_ = true;
+};
+
+}  // namespace ormala

@@ -1,0 +1,129 @@
+#include "app/Options.h"
+
+#include <algorithm>
+
+#include "modAPI/rounding.h"
+
+namespace ormala {
+
+namespace {
+
+/// Shows `visitor` every key with its value, in the order of the file.
+template <typename AnyOptions, typename Visitor>
+void visitLens(AnyOptions& lens, Visitor&& visitor) {
+    visitor("LensFactor", lens.factor);
+    visitor("LensSticked", lens.sticked);
+    visitor("LensCursorOn", lens.cursorOn);
+    visitor("LensHotSpotOn", lens.hotSpotOn);
+    visitor("LensHotSpotColor", lens.hotSpotColor);
+    visitor("LensHotSpotStyle", lens.hotSpotStyle);
+    visitor("LensHotSpotDrawMode", lens.hotSpotDrawMode);
+    visitor("LensGridOn", lens.gridOn);
+    visitor("LensGridColor", lens.gridColor);
+    visitor("LensGridDrawMode", lens.gridDrawMode);
+    visitor("LensRulTOn", lens.topScales);
+    visitor("LensRulBOn", lens.bottomScales);
+    visitor("LensRulTOrigin", lens.topOrigin);
+    visitor("LensRulBOrigin", lens.bottomOrigin);
+}
+
+template <typename AnyOptions, typename Visitor>
+void visitOptions(AnyOptions& options, Visitor&& visitor) {
+    visitor("ShowReferenceLines", options.showReferenceLines);
+    visitor("TemplateWithBorder", options.templateWithBorder);
+    visitor("CircleCompass", options.circleCompass);
+    visitor("Mode", options.mode);
+    visitor("TransparencyEditMode", options.transparencyEditMode);
+    visitor("TransparencyTemplateMode", options.transparencyTemplateMode);
+    visitor("Language", options.language);
+    visitor("EditModeFormHeight", options.editModeFormHeight);
+    visitor("DefaultAngleMode", options.defaultAngleMode);
+    visitor("DefaultLengthMode", options.defaultLengthMode);
+    visitor("DefaultLengthFactor", options.defaultLengthFactor);
+    visitor("DefaultLengthUnit", options.defaultLengthUnit);
+    visitor("WorksheetColor", options.worksheetColor);
+    visitor("CrossHairEnabled", options.crossHairEnabled);
+    visitor("GridEnabled", options.gridEnabled);
+    visitor("GridStyle", options.gridStyle);
+    visitor("GridLineWidth", options.gridLineWidth);
+    visitor("GridColor", options.gridColor);
+    visitor("GridSizeX", options.grid.stepX);
+    visitor("GridSizeY", options.grid.stepY);
+    visitor("GridOffsetX", options.grid.originX);
+    visitor("GridOffsetY", options.grid.originY);
+    visitor("LensVisible", options.lensVisible);
+    visitLens(options.lens, visitor);
+}
+
+/// Each value as it stands is the key's default.
+class KeyReader {
+  public:
+    explicit KeyReader(INIFile& file) : file_(file) {}
+
+    void operator()(const char* key, bool& value) const {
+        value = file_.LongValue(key, value ? -1 : 0) != 0;
+    }
+    void operator()(const char* key, int& value) const { value = file_.LongValue(key, value); }
+    void operator()(const char* key, double& value) const {
+        value = file_.LongValue(key, static_cast<int>(value));
+    }
+    void operator()(const char* key, std::string& value) const {
+        value = file_.StringValue(key, value);
+    }
+
+  private:
+    INIFile& file_;
+};
+
+class KeyWriter {
+  public:
+    explicit KeyWriter(INIFile& file) : file_(file) {}
+
+    void operator()(const char* key, bool value) const { file_.setLongValue(key, value ? -1 : 0); }
+    void operator()(const char* key, int value) const { file_.setLongValue(key, value); }
+    void operator()(const char* key, double value) const {
+        file_.setDoubleValue(key, RoundHalfAway(value, 0));
+    }
+    void operator()(const char* key, const std::string& value) const {
+        file_.setStringValue(key, value);
+    }
+
+  private:
+    INIFile& file_;
+};
+
+/// Values that no control of the program could have set.
+void mend(Options& options) {
+    const Options first;
+    if (options.mode < 0 || options.mode > 2) {
+        options.mode = first.mode;
+    }
+    options.transparencyEditMode = std::clamp(options.transparencyEditMode, 0, 100);
+    options.transparencyTemplateMode = std::clamp(options.transparencyTemplateMode, 0, 100);
+    if (!(options.defaultLengthFactor > 0)) {
+        options.defaultLengthFactor = first.defaultLengthFactor;
+    }
+    if (options.grid.stepX < 1) {
+        options.grid.stepX = first.grid.stepX;
+    }
+    if (options.grid.stepY < 1) {
+        options.grid.stepY = first.grid.stepY;
+    }
+    options.lens.factor = std::clamp(options.lens.factor, 1, 10);
+}
+
+}  // namespace
+
+Options readOptions(INIFile& file, int language) {
+    Options options;
+    options.language = language;
+    visitOptions(options, KeyReader(file));
+    mend(options);
+    return options;
+}
+
+void writeOptions(INIFile& file, const Options& options) {
+    visitOptions(options, KeyWriter(file));
+}
+
+}  // namespace ormala

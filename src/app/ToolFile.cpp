@@ -1,0 +1,120 @@
+#include "app/ToolFile.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "language/MlStringModule.h"
+#include "storage/modStorage.h"
+
+namespace ormala {
+
+namespace {
+
+std::string sectionOfTool(int number) {
+    return "Tool " + std::to_string(number);
+}
+
+constexpr char lowerCase(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool isToolSection(std::string_view name) {
+    constexpr std::string_view begin = "tool";
+    return std::ranges::equal(name.substr(0, begin.size()), begin, {}, lowerCase);
+}
+
+}  // namespace
+
+bool ToolFile::save() {
+    INIFile& file = ports_.file;
+    if (file.Path().empty()) {
+        return false;
+    }
+    {
+        const auto group = file.group();
+        file.CreateFolderPath();
+        file.Delete();
+        file.ShowLastError();
+        store();
+    }
+    // Takes a new list of the sections, and forgets a failure of the writing.
+    file.setPath(std::string(file.Path()));
+    file.ShowLastError();
+    return true;
+}
+
+void ToolFile::store() {
+    INIFile& file = ports_.file;
+    WriteFileHeader(file, header_.version, header_.timeOfSaving());
+    int number = 0;
+    for (const ToolList::Entry& entry : ports_.tools.GetPanelsInVisualOrder()) {
+        file.setCurrentSection(sectionOfTool(++number));
+        file.setLongValue("Type", static_cast<int>(entry.kind));
+        entry.listed.panel().StoreToFile(file);
+    }
+}
+
+bool ToolFile::load() {
+    INIFile& file = ports_.file;
+    if (file.Path().empty()) {
+        return false;
+    }
+    const BusyScope busy(ports_.busy, MlString(377, "Loading..."), true);
+    const auto group = file.group();
+    file.setPath(std::string(file.Path()));
+    file.ShowLastError();
+    ports_.tools.RemoveAllTools();
+    ports_.busy.refreshWorksheet();
+    ports_.busy.refreshControlWindow();
+    loadTools();
+    return true;
+}
+
+void ToolFile::loadTools() {
+    INIFile& file = ports_.file;
+    ToolPanel* first = nullptr;
+    for (std::int32_t index = 0; index <= file.SectionMax(); ++index) {
+        const std::string section = file.SectionName(index);
+        ToolPanel* panel = isToolSection(section) ? loadTool(section) : nullptr;
+        if (first == nullptr) {
+            first = panel;
+        }
+    }
+    file.ShowLastError();
+    if (first != nullptr) {
+        first->setSelected(true);
+    }
+}
+
+/// Null if the section's tool is of no kind that there is, or one too many.
+ToolPanel* ToolFile::loadTool(const std::string& section) {
+    INIFile& file = ports_.file;
+    file.setCurrentSection(section);
+    ToolPanel* panel = ports_.tools.AddNewControl(file.LongValue("Type", 0));
+    if (panel != nullptr) {
+        panel->LoadFromFile(file);
+        panel->setSelected(false);
+        ports_.busy.refreshControlWindow();
+    }
+    return panel;
+}
+
+bool ToolFile::compare() {
+    INIFile& file = ports_.file;
+    if (file.Path().empty() || !FileExists(ports_.store, file.Path())) {
+        return false;
+    }
+    const auto group = file.group();
+    int number = 0;
+    const auto entries = ports_.tools.GetPanelsInVisualOrder();
+    const bool equal = std::ranges::all_of(entries, [&](const ToolList::Entry& entry) {
+        constexpr int none = -1;
+        file.setCurrentSection(sectionOfTool(++number));
+        return file.LongValue("Type", none) == static_cast<int>(entry.kind) &&
+               entry.listed.panel().EqualsFile(file);
+    });
+    file.ShowLastError();
+    return equal;
+}
+
+}  // namespace ormala

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "app/ListedPanel.h"
+#include "app/ToolSizes.h"
+#include "modAPI/colors.h"
+#include "storage/MessagePresenter.h"
+#include "worksheet/Sheet.h"
+
+namespace ormala {
+
+/// The pairs of tools on the worksheet and panels in the control window. The first pair of each
+/// kind is made once and stays: while it is not in use, its tool and its panel are hidden.
+class ToolList {
+  public:
+    /// No more pairs than this, first ones out of use included.
+    static constexpr std::size_t largestCount = 34;
+
+    struct Ports {
+        Sheet& sheet;
+        PanelFactory& panels;
+        ToolListView& view;
+        MessagePresenter& messages;
+    };
+
+    /// The ports must outlive the list.
+    explicit ToolList(const Ports& ports) : ports_(ports) {}
+
+    /// What new measurement tools measure in.
+    void setUnits(const MeasureUnits& units) { units_ = units; }
+
+    /// Makes the first pair of each kind, with visible panels and with tools that are hidden still.
+    void prepareFirstTools();
+    void showFirstTools();
+
+    /// The panel of a new pair, selected; null for an unknown kind, and with a message to the user
+    /// if there are too many.
+    ToolPanel* AddNewControl(int Kind);
+    /// Destroys the panel, unless it is a first one.
+    void RemovePanel(const ToolPanel& panel);
+    void RemoveAllTools();
+
+    struct Entry {
+        ToolKind kind;
+        ListedPanel& listed;
+    };
+    /// From top to bottom, without hidden ones.
+    [[nodiscard]] std::vector<Entry> GetPanelsInVisualOrder() const;
+    void ArrangePanels();
+    /// Of the list's content: the bottom of the lowest panel, 0 without any.
+    [[nodiscard]] int contentHeight() const;
+
+    /// The least number from 1 to 1111 that no panel in use has, 0 if there is none.
+    [[nodiscard]] int NextFreeMeasureNumber() const;
+    /// Null if no panel of that kind is visible.
+    [[nodiscard]] ToolPanel* LastVisiblePanel(ToolKind kind) const;
+    /// The visible panel whose tool is selected, null without any.
+    [[nodiscard]] ListedPanel* selectedPanel() const;
+
+  private:
+    struct Pair {
+        ToolKind kind = ToolKind::stencil;
+        bool first = false;
+        std::unique_ptr<ListedPanel> listed;
+        [[nodiscard]] ToolPanel& panel() const { return listed->panel(); }
+    };
+
+    void prepareFirst(ToolKind kind);
+    Pair* reuseFirst(ToolKind kind);
+    Pair* makePair(ToolKind kind);
+    Pair& append(ToolKind kind, bool first, OverlayItem& tool);
+    void setUpLook(ToolKind kind, ToolPanel& panel);
+    double NextToolSize();
+    [[nodiscard]] int countOf(ToolKind kind) const;
+
+    Ports ports_;
+    /// From top to bottom, hidden ones too; those of a kind in the order of their making.
+    std::vector<Pair> pairs_;
+    ToolColors colors_;
+    MeasureUnits units_;
+    ToolSizes sizes_;
+};
+
+}  // namespace ormala

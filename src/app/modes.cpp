@@ -1,0 +1,35 @@
+#include "app/modes.h"
+
+#include "language/MlStringModule.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr int captionIds[] = {303, 304, 305};
+constexpr int nameIds[] = {156, 162, 60};
+constexpr int tipIds[] = {157, 163, 161};
+
+std::string textOf(const int (&ids)[mode::count], int mode) {
+    return mode >= 0 && mode < mode::count ? MlString(ids[mode], {}) : std::string{};
+}
+
+}  // namespace
+
+std::string captionOfMode(int mode) {
+    return applicationTitle + textOf(captionIds, mode);
+}
+
+std::string nameOfMode(int mode) {
+    return textOf(nameIds, mode);
+}
+
+std::string tipOfMode(int mode) {
+    return textOf(tipIds, mode);
+}
+
+Color colorOfMode(int mode, int currentMode) {
+    return mode == currentMode ? rgb(187, 168, 0) : rgb(112, 112, 112);
+}
+
+}  // namespace ormala

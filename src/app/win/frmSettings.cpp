@@ -1,0 +1,239 @@
+#include "app/win/frmSettings.h"
+
+#include <algorithm>
+#include <cwchar>
+
+#include "app/programFiles.h"
+#include "app/version.h"
+#include "app/win/screens.h"
+#include "language/MlStringModule.h"
+#include "language/win/UserLocale.h"
+#include "measure/ctlMeasure.h"
+#include "platform/win/text.h"
+#include "stencil/ctlRatioGrid.h"
+#include "storage/modStorage.h"
+#include "storage/win/SpecialFolder.h"
+#include "worksheet/transparency.h"
+
+// Load and closing of the control window.
+
+namespace ormala {
+
+namespace {
+
+constexpr const char* placementSection = "FormSettings";
+
+/// Tells other programs, such as a screen reader or a test, that the load has ended.
+constexpr const wchar_t* readyProperty = L"Ready";
+
+/// From the right edge of the screen on a first start, in pixels.
+constexpr int distanceFromRight = 80;
+
+/// Line code of the tools at first.
+constexpr int solidOnePixel = 2;
+
+class HiddenOwner : public Window {
+  public:
+    HiddenOwner() {
+        WindowDesign design;
+        design.className = L"OrmalaOwner";
+        design.style = WS_POPUP;
+        create(design);
+    }
+    ~HiddenOwner() override { destroy(); }
+
+  private:
+    std::optional<LRESULT> onMessage(UINT, WPARAM, LPARAM) override { return std::nullopt; }
+};
+
+SpecialRatios translatedRatios(const TextForm& form) {
+    return SpecialRatios(
+        [](int id, std::string_view defaultText) { return MlString(id, defaultText); }, form);
+}
+
+/// Local time in the form of the settings files.
+std::string timeOfSaving() {
+    SYSTEMTIME now{};
+    GetLocalTime(&now);
+    wchar_t text[32];
+    swprintf(text, std::size(text), L"%04d-%02d-%02d %02d:%02d:%02d", now.wYear, now.wMonth,
+             now.wDay, now.wHour, now.wMinute, now.wSecond);
+    return narrow(text);
+}
+
+}  // namespace
+
+frmSettings::frmSettings(bool anotherRuns) : ratios_(translatedRatios(toolSettings_.textForm)) {
+    load(anotherRuns);
+}
+
+frmSettings::~frmSettings() {
+    wheelHook_.reset();
+    worksheet_.reset();
+    hiddenOwner_.reset();
+    destroy();
+}
+
+void frmSettings::load(bool anotherRuns) {
+    openOptionsFile();
+    chooseLanguage();
+    createWindow();
+    hiddenOwner_ = std::make_unique<HiddenOwner>();
+    worksheet_ =
+        std::make_unique<frmWorksheet>(hiddenOwner_->handle(), factory_, foreground_, *this);
+    factory_.setSheet(worksheet_->sheet());
+    AddModeSystemMenuItems();
+    wheelHook_ = std::make_unique<MouseWheelHook>([this](bool down) { Scroll(down); });
+    refreshTexts();
+    prepareFirstTools();
+    SetWindowPos(handle(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    placeWindow(anotherRuns);
+    worksheet_->setClickAlpha(alphaOfTransparency(options_.transparencyEditMode));
+    worksheet_->setAlpha(alphaOfTransparency(options_.transparencyTemplateMode));
+    SetMode(options_.mode, false);
+    cutEditModeHeight();
+    GetLanguageSupport().ChangeLanguage(CurrentLanguage());
+    optionsFile_.ShowLastError();
+    // Shown last, so that it comes up in front of the worksheet and with the focus.
+    ShowWindow(handle(), SW_SHOWNORMAL);
+    SetPropW(handle(), readyProperty, handle());
+}
+
+void frmSettings::openOptionsFile() {
+    const std::string path = optionsFilePath(GetSpecialFolder(folderApplicationData));
+    CreateFolderForFile(store_, path);
+    optionsFile_.setPath(path);
+    optionsFile_.CreateFolderPath();
+    optionsFile_.ShowLastError();
+    optionsFile_.setCurrentSection(optionsSection);
+}
+
+void frmSettings::chooseLanguage() {
+    const int localeLanguage =
+        languageForLocaleName(MlGetLocaleInfo(localeUserDefault, localeEnglishLanguageName));
+    // A file that cannot be read is told of in the language of the system.
+    MlSetLanguage(localeLanguage, {});
+    {
+        const auto group = optionsFile_.group();
+        options_ = readOptions(optionsFile_, localeLanguage);
+    }
+    MlSetLanguage(options_.language, {});
+    options_.language = CurrentLanguage();
+    toolSettings_.grid = options_.grid;
+    toolSettings_.textForm.decimalSeparator = decimalSeparator();
+    SetReferenceLines(options_.showReferenceLines);
+}
+
+void frmSettings::createWindow() {
+    WindowDesign design;
+    design.className = L"frmSettings";
+    design.style = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX;
+    design.classStyle = CS_HREDRAW | CS_VREDRAW;
+    create(design);
+    dpi_ = dpiOf(handle());
+    modeBar_.setDpi(dpi_);
+    const SettingsLayout& layout = modeBar_.layout();
+    const SIZE frame = frameSize();
+    const int width = layout.width + frame.cx;
+    SetWindowPos(handle(), nullptr, GetSystemMetrics(SM_CXSCREEN) - width - distanceFromRight,
+                 distanceFromRight, width, layout.firstHeight + frame.cy,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void frmSettings::AddModeSystemMenuItems() {
+    const HMENU menu = GetSystemMenu(handle(), FALSE);
+    AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
+    for (const int mode : {mode::edit, mode::pause, mode::templateMode}) {
+        AppendMenuW(menu, MF_STRING, static_cast<UINT_PTR>(menuCommandOfMode(mode)), L"");
+    }
+}
+
+void frmSettings::refreshTexts() {
+    toolSettings_.textForm.infinite = MlString(313, "infinite");
+    ratios_ = translatedRatios(toolSettings_.textForm);
+    UpdateCaption();
+    const HMENU menu = GetSystemMenu(handle(), FALSE);
+    for (int mode = 0; mode < mode::count; ++mode) {
+        const auto command = static_cast<UINT>(menuCommandOfMode(mode));
+        ModifyMenuW(menu, command, MF_BYCOMMAND | MF_STRING, command,
+                    wide(nameOfMode(mode)).c_str());
+    }
+    SyncSystemMenu(mode_);
+    InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void frmSettings::prepareFirstTools() {
+    prepareFirstStencil();
+    prepareFirstMeasure();
+}
+
+void frmSettings::prepareFirstStencil() {
+    constexpr int kind = static_cast<int>(ToolKind::stencil);
+    Sheet& sheet = worksheet_->sheet();
+    sheet.makeFirstControl(ToolKind::stencil);
+    auto& stencil = dynamic_cast<ctlRatioGrid&>(*sheet.GetFirstControl(kind));
+    stencil.setColor(toolColors_.NextDefaultToolColor(kind, false));
+    stencil.SetDefaultProperties();
+    stencil.CenterToScreen(false, 0, false, true);
+    stencil.setLineWidth(solidOnePixel);
+    stencil.History().Add(true);
+    sheet.setVisible(stencil, true);
+}
+
+void frmSettings::prepareFirstMeasure() {
+    constexpr int kind = static_cast<int>(ToolKind::measurement);
+    Sheet& sheet = worksheet_->sheet();
+    sheet.makeFirstControl(ToolKind::measurement);
+    auto& measure = dynamic_cast<ctlMeasure&>(*sheet.GetFirstControl(kind));
+    measure.setColorA(toolColors_.NextDefaultToolColor(kind, false));
+    measure.setColorB(toolColors_.NextDefaultToolColor(kind, false));
+    measure.setNumber(1);
+    measure.setLineWidth(solidOnePixel);
+    measure.SetDefaultProperties();
+    measure.setAngleMode(options_.defaultAngleMode);
+    measure.setLengthMode(options_.defaultLengthMode);
+    measure.setLengthFactor(options_.defaultLengthFactor);
+    measure.setLengthUnit(options_.defaultLengthUnit);
+    const RECT client = worksheet_->clientRectangle();
+    const PixelSize sheetSize{static_cast<int>(client.right), static_cast<int>(client.bottom)};
+    measure.CenterToScreen(false, toolSizes_.NextToolSize(sheetSize), true);
+    measure.History().Add(true);
+    sheet.setVisible(measure, true);
+}
+
+void frmSettings::placeWindow(bool anotherRuns) {
+    const auto group = optionsFile_.group();
+    RestoreFormPlacement(handle(), optionsFile_, placementSection, anotherRuns);
+}
+
+void frmSettings::cutEditModeHeight() {
+    const int below = GetSystemMetrics(SM_CYSCREEN) - static_cast<int>(rectangle().top);
+    height_.setEditModeHeight(
+        std::min(pixelsOfTwips(options_.editModeFormHeight, dpi_), std::max(below, 0)));
+}
+
+void frmSettings::unload() {
+    if (unloaded_) {
+        return;
+    }
+    unloaded_ = true;
+    SaveOptions();
+    wheelHook_.reset();
+    worksheet_.reset();
+}
+
+void frmSettings::SaveOptions() {
+    options_.mode = mode_;
+    options_.language = CurrentLanguage();
+    options_.editModeFormHeight = twipsOfPixels(height_.editModeHeight(), dpi_);
+    {
+        const auto group = optionsFile_.group();
+        WriteFileHeader(optionsFile_, versionText, timeOfSaving());
+        optionsFile_.setCurrentSection(optionsSection);
+        writeOptions(optionsFile_, options_);
+        SaveFormPlacement(handle(), optionsFile_, placementSection);
+    }
+    optionsFile_.ShowLastError();
+}
+
+}  // namespace ormala

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/ListScroll.h"
+#include "app/Options.h"
+#include "app/SettingsHeight.h"
+#include "app/ToolMaker.h"
+#include "app/ToolSizes.h"
+#include "app/win/ModeBar.h"
+#include "app/win/MouseWheelHook.h"
+#include "app/win/WindowsMessagePresenter.h"
+#include "platform/win/Window.h"
+#include "scene/ToolSettings.h"
+#include "stencil/SpecialRatios.h"
+#include "storage/win/WindowsCodePage.h"
+#include "storage/win/WindowsFileStore.h"
+#include "worksheet/win/frmWorksheet.h"
+
+namespace ormala {
+
+/// The control window and main window of the program: it owns the options, the worksheet and the
+/// mode, and its closing ends the program.
+class frmSettings : public Window, public WorksheetCommands {
+  public:
+    /// `anotherRuns` says whether another copy of the program is running.
+    explicit frmSettings(bool anotherRuns);
+    ~frmSettings() override;
+
+    [[nodiscard]] int GetMode() const { return mode_; }
+    void SetMode(int mode, bool minimise) override;
+    void SetReferenceLines(bool enabled);
+    [[nodiscard]] frmWorksheet& worksheet() { return *worksheet_; }
+
+  private:
+    std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    void ShowHelp() override;
+    void stepHistory(OverlayItem& item, bool back) override;
+    void raiseControlWindowAt(POINT screen) override;
+    void closeProgram() override;
+
+    void load(bool anotherRuns);
+    void openOptionsFile();
+    void createWindow();
+    void chooseLanguage();
+    void AddModeSystemMenuItems();
+    void refreshTexts();
+    void prepareFirstTools();
+    void prepareFirstStencil();
+    void prepareFirstMeasure();
+    void placeWindow(bool anotherRuns);
+    void cutEditModeHeight();
+    void unload();
+    void SaveOptions();
+
+    void applyModeToWorksheet(int mode);
+    void AdjustFormHeight(int mode, int formerMode);
+    void SyncSystemMenu(int mode);
+    void UpdateCaption();
+    void Scroll(bool down);
+    [[nodiscard]] SettingsHeight::Present present() const;
+    [[nodiscard]] SIZE frameSize() const;
+
+    LRESULT onPaint();
+    LRESULT onSize(WPARAM kind);
+    LRESULT onGetMinMaxInfo(LPARAM lParam);
+    LRESULT onSysCommand(WPARAM wParam, LPARAM lParam);
+    LRESULT onDpiChanged(WPARAM wParam, LPARAM lParam);
+    LRESULT onClick(LPARAM lParam);
+    LRESULT onEndSession(bool ending);
+    bool onKey(int key);
+
+    WindowsFileStore store_;
+    WindowsCodePage codePage_;
+    WindowsMessagePresenter messages_;
+    INIFile optionsFile_{store_, codePage_, messages_};
+    Options options_;
+    ToolSettings toolSettings_;
+    SpecialRatios ratios_;
+    ToolMaker factory_{toolSettings_, ratios_};
+    ForegroundMemory foreground_;
+    ToolColors toolColors_;
+    ToolSizes toolSizes_;
+    int mode_ = mode::edit;
+    /// The mode whose button is lit; during a change the new one already.
+    int lit_ = mode::edit;
+    int dpi_ = 96;
+    ModeBar modeBar_{96};
+    SettingsHeight height_;
+    ListScroll scrInner_;
+    /// Never shown; owns the worksheet, so that this has no button on the task bar.
+    std::unique_ptr<Window> hiddenOwner_;
+    std::unique_ptr<frmWorksheet> worksheet_;
+    std::unique_ptr<MouseWheelHook> wheelHook_;
+    bool unloaded_ = false;
+};
+
+}  // namespace ormala

@@ -1,0 +1,33 @@
+#include <windows.h>
+
+#include "app/win/frmSettings.h"
+#include "platform/win/handles.h"
+
+namespace {
+
+using ormala::Handle;
+
+/// Marks that the program runs, for as long as the process lives.
+Handle<HANDLE, &CloseHandle> runningMark(bool& anotherRuns) {
+    Handle<HANDLE, &CloseHandle> mutex(CreateMutexW(nullptr, FALSE, L"OrmalaTessin_Mutex"));
+    anotherRuns = GetLastError() == ERROR_ALREADY_EXISTS;
+    return mutex;
+}
+
+int runMessages() {
+    MSG message{};
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    return static_cast<int>(message.wParam);
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+    bool anotherRuns = false;
+    const auto mark = runningMark(anotherRuns);
+    const ormala::frmSettings settings(anotherRuns);
+    return runMessages();
+}

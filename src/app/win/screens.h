@@ -1,0 +1,22 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "storage/WindowPlacement.h"
+
+namespace ormala {
+
+/// `RefreshScreenBounds`: the work area of the primary screen and the bounds of all screens, as
+/// they are now.
+ScreenAreas screenAreas();
+
+void SaveFormPlacement(HWND window, INIFile& options, const std::string& section);
+/// Brings the window back to where it was stored; `cascade` as for `restoredPlacement`.
+void RestoreFormPlacement(HWND window, INIFile& options, const std::string& section, bool cascade);
+
+/// The resolution of the window's monitor.
+int dpiOf(HWND window);
+
+}  // namespace ormala

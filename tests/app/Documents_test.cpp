@@ -1,0 +1,303 @@
+#include "app/Documents.h"
+
+#include "app/ToolFileFixture.h"
+#include "support/exampleToolFile.h"
+
+namespace ormala {
+namespace {
+
+const std::string noneText = "(No tool settings file opened or created yet)";
+const std::string newText = "(New tool settings file)";
+const std::string automaticPath = "C:\\data\\Ormala Tools.ini";
+const std::string namedPath = "C:\\data\\named.OM";
+constexpr Color documentColor = 0xC0FFFF;
+
+/// A user who gives the prepared answers.
+class FakeDocumentView : public DocumentView {
+  public:
+    Answer answer = Answer::cancel;
+    std::string picked;
+    std::vector<std::string> questions;
+    std::vector<bool> picks;
+    PathLine line;
+    std::size_t lineWidth = 60;
+
+    Answer ask(const std::string& question) override {
+        questions.push_back(question);
+        return answer;
+    }
+    std::string pickFile(bool forSaving) override {
+        picks.push_back(forSaving);
+        return picked;
+    }
+    std::string CompactPathForDisplay(const std::string& path) override {
+        return path.size() > lineWidth ? "..." + path.substr(path.size() - lineWidth + 3) : path;
+    }
+    void showPathLine(const PathLine& shown) override { line = shown; }
+};
+
+class DocumentsTest : public ToolFileFixture {
+  protected:
+    DocumentsTest() {
+        ini_.file.setPath("");
+        ini_.store.files[namedPath] = exampleToolFile;
+    }
+
+    std::string& file(const std::string& path) { return ini_.store.files[path]; }
+    void start() { documents_.loadAutomatic(automaticPath); }
+    void startWithTools() {
+        file(automaticPath) = exampleToolFile;
+        start();
+    }
+    void loadNamed() {
+        view_.picked = namedPath;
+        documents_.Load();
+        view_.questions.clear();
+        view_.picks.clear();
+    }
+    /// A close request and, if nothing stands against it, the end of the program.
+    bool close() {
+        const bool closes = documents_.ConfirmDiscard();
+        if (closes) {
+            documents_.saveAutomatic(automaticPath);
+        }
+        return closes;
+    }
+    [[nodiscard]] bool asked() const { return !view_.questions.empty(); }
+    void expectNamed(const std::string& path) {
+        EXPECT_EQ(ini_.file.Path(), path);
+        EXPECT_FALSE(documents_.NoFileYet());
+        EXPECT_EQ(view_.line, (PathLine{path, documentColor, ""}));
+    }
+
+    FakeDocumentView view_;
+    Documents documents_{{ini_.file, ini_.store, toolFile_, stage_.list, stage_.view, view_}};
+};
+
+TEST_F(DocumentsTest, AFirstStartShowsOneToolOfEachKind) {
+    ToolListStage first;
+    first.list.prepareFirstTools();
+    ToolFile toolFile({ini_.file, ini_.store, first.list, first.view}, {"1", [] { return "t"; }});
+    Documents documents({ini_.file, ini_.store, toolFile, first.list, first.view, view_});
+    documents.loadAutomatic(automaticPath);
+    EXPECT_EQ(first.kinds(), "SM");
+    EXPECT_TRUE(first.sheet.isVisible(first.stencil(0).RefControlControl()));
+    EXPECT_TRUE(first.sheet.isVisible(first.measure(1).RefControlControl()));
+}
+
+TEST_F(DocumentsTest, TheToolsOfTheLastRunComeBackWithoutADocument) {
+    startWithTools();
+    EXPECT_EQ(stage_.kinds(), "SM");
+    EXPECT_TRUE(documents_.NoFileYet());
+    EXPECT_EQ(ini_.file.Path(), "");
+    EXPECT_EQ(view_.line, (PathLine{noneText, 0, ""}));
+}
+
+TEST_F(DocumentsTest, AChangeWithoutADocumentIsNotAskedAboutAndIsThereAtTheNextStart) {
+    startWithTools();
+    stage_.stencil(0).setLineWidth(7);
+    EXPECT_TRUE(close());
+    EXPECT_FALSE(asked());
+    stage_.list.RemoveAllTools();
+    start();
+    EXPECT_EQ(stage_.stencil(0).LineWidth(), 7);
+}
+
+TEST_F(DocumentsTest, ANewDocumentIsAskedAboutAlthoughNothingHasBeenDone) {
+    startWithTools();
+    documents_.New();
+    EXPECT_FALSE(asked());
+    EXPECT_FALSE(close());
+    EXPECT_EQ(view_.questions, std::vector<std::string>{"Do you want to save the changes?"});
+}
+
+TEST_F(DocumentsTest, NewRemovesEveryTool) {
+    startWithTools();
+    stage_.view.log.clear();
+    documents_.New();
+    EXPECT_EQ(stage_.kinds(), "");
+    EXPECT_EQ(view_.line, (PathLine{newText, documentColor, ""}));
+    EXPECT_EQ(stage_.view.log, (std::vector<std::string>{"busy Removing all tools...", "end"}));
+    EXPECT_EQ(stage_.view.refreshes, 2);
+}
+
+TEST_F(DocumentsTest, ALoadedFileClosesWithoutAQuestion) {
+    start();
+    loadNamed();
+    expectNamed(namedPath);
+    EXPECT_EQ(stage_.kinds(), "SM");
+    EXPECT_TRUE(close());
+    EXPECT_FALSE(asked());
+}
+
+TEST_F(DocumentsTest, AHandMadeFileWithItsMeasurementFirstClosesWithoutAQuestion) {
+    file(namedPath) = "[Tool 1]\r\nType=1\r\n[Tool 2]\r\nType=0\r\n";
+    start();
+    loadNamed();
+    documents_.Save();
+    loadNamed();
+    EXPECT_EQ(stage_.kinds(), "MS");
+    EXPECT_TRUE(close());
+    EXPECT_FALSE(asked());
+}
+
+TEST_F(DocumentsTest, AToolAddedToALoadedFileIsAskedAbout) {
+    loadNamed();
+    stage_.addStencil();
+    EXPECT_FALSE(close());
+    EXPECT_TRUE(asked());
+}
+
+TEST_F(DocumentsTest, TheLastToolRemovedFromALoadedFileIsNotAskedAbout) {
+    loadNamed();
+    stage_.list.RemovePanel(stage_.measure(1));
+    EXPECT_TRUE(close());
+    EXPECT_FALSE(asked());
+}
+
+TEST_F(DocumentsTest, YesForANewDocumentAndACancelledDialogCallTheClosingOff) {
+    documents_.New();
+    view_.answer = Answer::yes;
+    view_.picked = "";
+    EXPECT_FALSE(close());
+    EXPECT_EQ(view_.picks, std::vector<bool>{true});
+    EXPECT_FALSE(ini_.store.files.contains(automaticPath));
+}
+
+TEST_F(DocumentsTest, YesForANewDocumentAndACancelledDialogCallNewOff) {
+    documents_.New();
+    stage_.addStencil();
+    view_.answer = Answer::yes;
+    view_.picked = "";
+    documents_.New();
+    EXPECT_EQ(stage_.kinds(), "S");
+}
+
+TEST_F(DocumentsTest, YesForANewDocumentSavesItUnderItsNewName) {
+    documents_.New();
+    stage_.addStencil();
+    view_.answer = Answer::yes;
+    view_.picked = "C:\\data\\fresh";
+    EXPECT_TRUE(close());
+    EXPECT_NE(file("C:\\data\\fresh.OM").find("[Tool 1]"), std::string::npos);
+}
+
+TEST_F(DocumentsTest, YesForANamedDocumentSavesIt) {
+    loadNamed();
+    stage_.stencil(0).setLineWidth(8);
+    view_.answer = Answer::yes;
+    EXPECT_TRUE(close());
+    EXPECT_TRUE(view_.picks.empty());
+    EXPECT_NE(file(namedPath).find("LineWidth= 8"), std::string::npos);
+}
+
+TEST_F(DocumentsTest, NoLeavesTheNamedFileAsItIsOnTheDisk) {
+    loadNamed();
+    stage_.stencil(0).setLineWidth(8);
+    view_.answer = Answer::no;
+    documents_.New();
+    EXPECT_TRUE(asked());
+    EXPECT_EQ(file(namedPath), exampleToolFile);
+    EXPECT_EQ(stage_.kinds(), "");
+    EXPECT_EQ(ini_.file.Path(), "");
+}
+
+TEST_F(DocumentsTest, TheAutomaticFileHasTheLatestStateWhateverTheAnswer) {
+    loadNamed();
+    stage_.stencil(0).setLineWidth(8);
+    view_.answer = Answer::no;
+    EXPECT_TRUE(close());
+    EXPECT_EQ(file(namedPath), exampleToolFile);
+    EXPECT_NE(file(automaticPath).find("LineWidth= 8"), std::string::npos);
+    EXPECT_EQ(view_.line.caption, namedPath);
+}
+
+TEST_F(DocumentsTest, CancelKeepsToolsAndDocument) {
+    loadNamed();
+    stage_.addStencil();
+    view_.answer = Answer::cancel;
+    documents_.Load();
+    EXPECT_EQ(stage_.kinds(), "SMS");
+    expectNamed(namedPath);
+    EXPECT_TRUE(view_.picks.empty());
+}
+
+TEST_F(DocumentsTest, ALoadWithoutAFileChangesNothing) {
+    startWithTools();
+    view_.picked = "";
+    documents_.Load();
+    EXPECT_EQ(view_.picks, std::vector<bool>{false});
+    EXPECT_TRUE(documents_.NoFileYet());
+    EXPECT_EQ(stage_.kinds(), "SM");
+}
+
+TEST_F(DocumentsTest, ALongPathIsShortenedAndItsWholeTextIsTheTip) {
+    view_.lineWidth = 20;
+    const std::string path = "C:\\data\\a very long name of a file indeed.OM";
+    view_.picked = path;
+    documents_.SaveAs();
+    EXPECT_NE(view_.line.caption, path);
+    EXPECT_EQ(view_.line.tip, path);
+    EXPECT_EQ(view_.line.color, documentColor);
+}
+
+TEST_F(DocumentsTest, TheTipGoesWithItsPath) {
+    view_.lineWidth = 10;
+    loadNamed();
+    EXPECT_EQ(view_.line.tip, namedPath);
+    documents_.New();
+    EXPECT_EQ(view_.line.tip, "");
+}
+
+TEST_F(DocumentsTest, TheFirstSaveAsksForAName) {
+    startWithTools();
+    view_.picked = "C:\\data\\mine.om";
+    documents_.Save();
+    EXPECT_EQ(view_.picks, std::vector<bool>{true});
+    expectNamed("C:\\data\\mine.om");
+    EXPECT_EQ(file("C:\\data\\mine.om"), exampleToolFile);
+    stage_.stencil(0).setLineWidth(4);
+    documents_.Save();
+    EXPECT_EQ(view_.picks.size(), 1U);
+    EXPECT_NE(file("C:\\data\\mine.om").find("LineWidth= 4"), std::string::npos);
+}
+
+TEST_F(DocumentsTest, ACancelledSaveLeavesNoDocument) {
+    startWithTools();
+    documents_.Save();
+    EXPECT_TRUE(documents_.NoFileYet());
+    EXPECT_EQ(ini_.file.Path(), "");
+}
+
+TEST_F(DocumentsTest, SaveAsMovesOnToTheOtherFile) {
+    loadNamed();
+    stage_.stencil(0).setLineWidth(8);
+    view_.picked = "C:\\data\\other.OM";
+    documents_.SaveAs();
+    expectNamed("C:\\data\\other.OM");
+    EXPECT_EQ(file(namedPath), exampleToolFile);
+    EXPECT_NE(file("C:\\data\\other.OM").find("LineWidth= 8"), std::string::npos);
+}
+
+TEST_F(DocumentsTest, ThePathLineSpeaksTheLanguageOfTheUser) {
+    const ManualLanguage german(languageGerman);
+    documents_.UpdatePathLine();
+    EXPECT_EQ(view_.line.caption, MlString(307, {}));
+    EXPECT_NE(view_.line.caption, noneText);
+}
+
+TEST(WithToolsFileExtension, IsAppendedWhereThereIsNone) {
+    EXPECT_EQ(withToolsFileExtension("C:\\a\\b"), "C:\\a\\b.OM");
+    EXPECT_EQ(withToolsFileExtension("b.txt"), "b.txt.OM");
+    EXPECT_EQ(withToolsFileExtension("om"), "om.OM");
+    EXPECT_EQ(withToolsFileExtension("x"), "x.OM");
+}
+
+TEST(WithToolsFileExtension, KeepsTheExtensionAsItWasTyped) {
+    EXPECT_EQ(withToolsFileExtension("b.om"), "b.om");
+    EXPECT_EQ(withToolsFileExtension("b.Om"), "b.Om");
+    EXPECT_EQ(withToolsFileExtension("b.OM"), "b.OM");
+}
+
+}  // namespace
+}  // namespace ormala

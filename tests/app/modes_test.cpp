@@ -1,0 +1,66 @@
+#include "app/modes.h"
+
+#include <gtest/gtest.h>
+
+#include "support/ManualLanguage.h"
+
+namespace ormala {
+namespace {
+
+TEST(Modes, TheCaptionIsTheTitleAndTheMode) {
+    const ManualLanguage language(languageEnglish);
+    EXPECT_EQ(captionOfMode(mode::edit), "Ormala - Edit");
+    EXPECT_EQ(captionOfMode(mode::templateMode), "Ormala - Template");
+    EXPECT_EQ(captionOfMode(mode::pause), "Ormala - Pause");
+}
+
+TEST(Modes, TheCaptionFollowsTheLanguage) {
+    const ManualLanguage language(languageGerman);
+    EXPECT_EQ(captionOfMode(mode::edit), "Ormala - Bearbeiten");
+    EXPECT_EQ(captionOfMode(mode::templateMode), "Ormala - Vorlage");
+    EXPECT_EQ(captionOfMode(mode::pause), "Ormala - Pause");
+}
+
+TEST(Modes, ANumberWithoutAModeHasNoTexts) {
+    const ManualLanguage language(languageEnglish);
+    for (const int mode : {-1, 3}) {
+        EXPECT_EQ(captionOfMode(mode), "Ormala");
+        EXPECT_EQ(nameOfMode(mode), "");
+        EXPECT_EQ(tipOfMode(mode), "");
+    }
+}
+
+TEST(Modes, TheButtonsSayTheirModes) {
+    const ManualLanguage language(languageEnglish);
+    EXPECT_EQ(nameOfMode(mode::edit), "Edit");
+    EXPECT_EQ(nameOfMode(mode::templateMode), "Template");
+    EXPECT_EQ(nameOfMode(mode::pause), "Pause");
+}
+
+TEST(Modes, TheTipsExplainTheModesAndNameTheirKeys) {
+    const ManualLanguage language(languageEnglish);
+    EXPECT_EQ(tipOfMode(mode::edit),
+              "Edit mode: Manipulate the sizes and positions of the tools in the worksheet window."
+              "  F2");
+    EXPECT_EQ(tipOfMode(mode::templateMode),
+              "Template mode: The tools don't respond to mouse clicks, and they can be used as "
+              "templates.  F4");
+    EXPECT_EQ(tipOfMode(mode::pause), "Hide the worksheet window.  F3");
+}
+
+TEST(Modes, OnlyTheButtonOfTheCurrentModeIsLit) {
+    for (int current = 0; current < mode::count; ++current) {
+        for (int mode = 0; mode < mode::count; ++mode) {
+            EXPECT_EQ(colorOfMode(mode, current), mode == current ? 0x00A8BB : 0x707070);
+        }
+    }
+}
+
+TEST(Modes, TheSystemMenuNumbersGoByMode) {
+    EXPECT_EQ(menuCommandOfMode(mode::edit), 1010);
+    EXPECT_EQ(menuCommandOfMode(mode::templateMode), 1011);
+    EXPECT_EQ(menuCommandOfMode(mode::pause), 1012);
+}
+
+}  // namespace
+}  // namespace ormala
