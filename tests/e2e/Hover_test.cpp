@@ -1,0 +1,72 @@
+#include <gtest/gtest.h>
+
+#include "e2e/SheetScene.h"
+
+namespace ormala::test {
+namespace {
+
+/// How many pixels of the resting colour lie about the grip at these shares.
+std::size_t gripPixels(SheetScene& scene, Spot shares, Color color) {
+    const ScreenPoint at = scene.onScreen(scene.model.gripPixel(shares.x, shares.y));
+    const ScreenRect around{at.x - 14, at.y - 14, at.x + 15, at.y + 15};
+    return screen::waitUntilStill(around).count(blended(color, SheetScene::backdropColor, 191), 2);
+}
+
+constexpr Color cornerColor = 0xC0FFC0;
+
+TEST(Hover, GripGrowsUnderTheMouseAndShrinksBehindIt) {
+    SheetScene scene;
+    scene.stepAside();
+    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), 7U * 7U);
+    scene.mouse.moveTo(scene.onScreen(scene.model.gripPixel(1, 1)) + ScreenPoint{8, -8});
+    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), 19U * 19U);
+    scene.stepAside();
+    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), 7U * 7U);
+}
+
+TEST(Hover, DragLightsNoOtherGrip) {
+    SheetScene scene;
+    const ScreenPoint side = scene.onScreen(scene.model.gripPixel(0, -1));
+    const ScreenPoint corner = scene.onScreen(scene.model.gripPixel(1, -1));
+    scene.mouse.moveTo(side);
+    scene.mouse.press();
+    for (int i = 1; i <= 10; ++i) {
+        scene.mouse.moveTo({side.x + (corner.x - side.x) * i / 10, side.y});
+    }
+    EXPECT_LE(gripPixels(scene, {1, -1}, cornerColor), 7U * 7U);
+    scene.mouse.release();
+}
+
+void expectTips(SheetScene& scene, const std::vector<std::pair<Spot, std::string>>& tips) {
+    for (const auto& [shares, text] : tips) {
+        scene.stepAside();
+        scene.mouse.moveTo(scene.onScreen(scene.model.gripPixel(shares.x, shares.y)));
+        EXPECT_TRUE(waitUntil([&] { return scene.program().tip() == text; }))
+            << scene.program().tip() << " instead of " << text;
+    }
+    scene.stepAside();
+    EXPECT_TRUE(waitUntil([&] { return scene.program().tip().empty(); }));
+}
+
+TEST(Hover, TipSaysWhatTheGripDoes) {
+    SheetScene scene;
+    expectTips(
+        scene,
+        {{{0, 0}, "Move (Shift key: fixed directions; Ctrl key: align to grid)"},
+         {{rotationShare, rotationShare}, "Rotate (Shift, Ctrl or Alt key: fixed angles)"},
+         {{0, -1}, "Resize (Shift key: snap to special ratio; Ctrl key: symmetric at center)"},
+         {{1, 1}, "Resize, preserve ratio (Ctrl key: symmetric at center)"}});
+}
+
+TEST(Hover, TipSpeaksGerman) {
+    SheetScene scene([](SettingsFile& file) { file.set("Options", "Language", " 1031"); });
+    expectTips(scene, {{{0, 0},
+                        "Bewegen (Umschalt-Taste: feste Richtungen; Strg-Taste: am Raster "
+                        "ausrichten)"},
+                       {{1, 1},
+                        "Gr\u00f6\u00dfe \u00e4ndern, Verh\u00e4ltnis beibehalten (Strg-Taste: "
+                        "symmetrisch am Mittelpunkt)"}});
+}
+
+}  // namespace
+}  // namespace ormala::test

@@ -1,0 +1,106 @@
+#include <gtest/gtest.h>
+
+#include "e2e/SheetScene.h"
+
+namespace ormala::test {
+namespace {
+
+constexpr const char* editCaption = "Ormala - Edit";
+constexpr const char* templateCaption = "Ormala - Template";
+constexpr const char* pauseCaption = "Ormala - Pause";
+
+/// Where the middle of a button of the mode bar is, in thirds of the window's width.
+ScreenPoint modeButton(const SheetScene& scene, int mode) {
+    const ScreenRect client = scene.settings().clientRect();
+    return {client.left + client.width() * (2 * mode + 1) / 6, client.top + 16};
+}
+
+TEST(Modes, KeysOfTheControlWindowChangeThem) {
+    SheetScene scene;
+    scene.mouse.click(
+        {scene.settings().clientRect().left + 20, scene.settings().clientRect().bottom - 10});
+    keyboard::press(VK_F4);
+    scene.settings().waitForText(templateCaption);
+    EXPECT_TRUE(scene.worksheet().isVisible());
+    EXPECT_TRUE(scene.worksheet().hasExtendedStyle(WS_EX_TRANSPARENT));
+    keyboard::press(VK_F3);
+    scene.settings().waitForText(pauseCaption);
+    scene.worksheet().waitUntilHidden();
+    keyboard::press(VK_F2);
+    scene.settings().waitForText(editCaption);
+    scene.worksheet().waitUntilVisible();
+    scene.expectPattern();
+}
+
+TEST(Modes, KeysOfTheWorksheetChangeThem) {
+    SheetScene scene;
+    scene.mouse.click(scene.onScreen({40, 40}));
+    keyboard::press(VK_F3);
+    scene.settings().waitForText(pauseCaption);
+    scene.worksheet().waitUntilHidden();
+}
+
+TEST(Modes, ButtonsOfTheBarChangeThem) {
+    SheetScene scene;
+    scene.mouse.click(modeButton(scene, 1));
+    scene.settings().waitForText(templateCaption);
+    scene.mouse.click(modeButton(scene, 2));
+    scene.settings().waitForText(pauseCaption);
+    scene.mouse.click(modeButton(scene, 0));
+    scene.settings().waitForText(editCaption);
+}
+
+TEST(Modes, ShiftMinimisesTheControlWindowAsWell) {
+    SheetScene scene;
+    scene.mouse.click(
+        {scene.settings().clientRect().left + 20, scene.settings().clientRect().bottom - 10});
+    keyboard::press(VK_F4, Modifiers::Shift);
+    scene.settings().waitForText(templateCaption);
+    EXPECT_TRUE(waitUntil([&] { return scene.settings().isMinimised(); }));
+    EXPECT_TRUE(scene.worksheet().isVisible());
+}
+
+TEST(Modes, ShiftWithCtrlDoesNotMinimise) {
+    SheetScene scene;
+    scene.mouse.click(
+        {scene.settings().clientRect().left + 20, scene.settings().clientRect().bottom - 10});
+    keyboard::press(VK_F3, Modifiers::Shift | Modifiers::Ctrl);
+    scene.settings().waitForText(pauseCaption);
+    EXPECT_FALSE(scene.settings().isMinimised());
+}
+
+TEST(Modes, SystemMenuChangesThem) {
+    SheetScene scene;
+    scene.settings().post(WM_SYSCOMMAND, 1011);
+    scene.settings().waitForText(templateCaption);
+    scene.settings().post(WM_SYSCOMMAND, 1012);
+    scene.settings().waitForText(pauseCaption);
+    scene.settings().post(WM_SYSCOMMAND, 1010);
+    scene.settings().waitForText(editCaption);
+}
+
+TEST(Modes, ControlWindowStandsShortOutsideEditModeAndGetsItsHeightBack) {
+    SheetScene scene;
+    const ScreenRect first = scene.settings().rect();
+    SetWindowPos(scene.settings().handle(), nullptr, 0, 0, first.width(), first.height() + 77,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    EXPECT_TRUE(waitUntil([&] { return scene.settings().rect().height() == first.height() + 77; }));
+    scene.mouse.click(modeButton(scene, 1));
+    scene.settings().waitForText(templateCaption);
+    EXPECT_TRUE(waitUntil([&] { return scene.settings().rect().height() < first.height(); }));
+    scene.mouse.click(modeButton(scene, 0));
+    scene.settings().waitForText(editCaption);
+    EXPECT_TRUE(waitUntil([&] { return scene.settings().rect().height() == first.height() + 77; }));
+    EXPECT_EQ(scene.settings().rect().width(), first.width());
+}
+
+TEST(Modes, FirstClickInTheCoveredControlWindowBringsItForward) {
+    SheetScene scene;
+    scene.mouse.click(scene.onScreen({40, 40}));
+    const ScreenRect client = scene.settings().clientRect();
+    scene.mouse.click({client.left + 20, client.bottom - 10});
+    EXPECT_TRUE(waitUntil([&] { return scene.settings().isForeground(); }));
+}
+
+}  // namespace
+}  // namespace ormala::test

@@ -1,0 +1,162 @@
+#include "e2e/support/Mouse.h"
+
+#include <array>
+#include <cmath>
+#include <ranges>
+#include <sstream>
+
+#include "e2e/support/DesktopWindow.h"
+#include "e2e/support/StageFailure.h"
+#include "support/win/Screen.h"
+#include "support/win/Wait.h"
+
+namespace ormala::test {
+
+namespace {
+
+struct ButtonFlags {
+    DWORD down;
+    DWORD up;
+};
+
+/// In the order of MouseButton.
+constexpr std::array<ButtonFlags, 3> buttonFlags{{{MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP},
+                                                  {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP},
+                                                  {MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP}}};
+
+const ButtonFlags& flagsOf(MouseButton button) {
+    return buttonFlags[static_cast<std::size_t>(button)];
+}
+
+void send(const MOUSEINPUT& mouse) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi = mouse;
+    SendInput(1, &input, sizeof(input));
+}
+
+/// An absolute place is told in 1/65536 of all monitors together, to the middle of the pixel.
+LONG absolute(int place, int origin, int size) {
+    return ((place - origin) * 65536 + 32768) / size;
+}
+
+void sendMove(ScreenPoint point) {
+    const ScreenRect all = screen::virtualScreen();
+    MOUSEINPUT mouse{};
+    mouse.dx = absolute(point.x, all.left, all.width());
+    mouse.dy = absolute(point.y, all.top, all.height());
+    mouse.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK;
+    send(mouse);
+}
+
+/// The window that the mouse speaks to: the one that holds it, else the one under the pointer.
+DesktopWindow target() {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof(info);
+    if (GetGUIThreadInfo(0, &info) != 0 && info.hwndCapture != nullptr) {
+        return DesktopWindow(info.hwndCapture);
+    }
+    const ScreenPoint point = Mouse::position();
+    return DesktopWindow(WindowFromPoint({point.x, point.y}));
+}
+
+/// Lets the input arrive: an echo of an earlier move can otherwise overtake it.
+void letArrive() {
+    target().settle();
+    pause(milliseconds(1));
+    target().settle();
+}
+
+std::string text(ScreenPoint point) {
+    std::ostringstream out;
+    out << point;
+    return out.str();
+}
+
+}  // namespace
+
+Mouse::~Mouse() {
+    for (const MouseButton button : std::views::reverse(std::vector(held_))) {
+        release(button);
+    }
+}
+
+ScreenPoint Mouse::position() {
+    POINT point{};
+    GetCursorPos(&point);
+    return {static_cast<int>(point.x), static_cast<int>(point.y)};
+}
+
+void Mouse::moveTo(ScreenPoint point) {
+    requireSoon("mouse pointer at " + text(point), [point] {
+        sendMove(point);
+        letArrive();
+        return position() == point;
+    });
+}
+
+void Mouse::press(MouseButton button) {
+    MOUSEINPUT mouse{};
+    mouse.dwFlags = flagsOf(button).down;
+    send(mouse);
+    held_.push_back(button);
+    letArrive();
+}
+
+void Mouse::release(MouseButton button) {
+    MOUSEINPUT mouse{};
+    mouse.dwFlags = flagsOf(button).up;
+    send(mouse);
+    std::erase(held_, button);
+    letArrive();
+}
+
+void Mouse::click(ScreenPoint point, MouseButton button, Modifiers modifiers) {
+    moveTo(point);
+    const HeldKeys keys(modifiers);
+    press(button);
+    release(button);
+}
+
+void Mouse::doubleClick(ScreenPoint point, MouseButton button) {
+    click(point, button);
+    press(button);
+    release(button);
+}
+
+void Mouse::drag(ScreenPoint from, ScreenPoint to, int steps, Modifiers modifiers,
+                 MouseButton button) {
+    moveTo(from);
+    const HeldKeys keys(modifiers);
+    press(button);
+    for (int step = 1; step <= steps; ++step) {
+        const auto part = [step, steps](int a, int b) {
+            return a + static_cast<int>(std::lround((b - a) * step / static_cast<double>(steps)));
+        };
+        moveTo({part(from.x, to.x), part(from.y, to.y)});
+    }
+    if (modifiers != Modifiers::None) {
+        holdAtTheEnd(keys);
+    }
+    release(button);
+}
+
+void Mouse::holdAtTheEnd(const HeldKeys& keys) {
+    // The state of the keys is asked anew only after this time.
+    constexpr milliseconds freshState{60};
+    requireSoon("keys held at the end of a drag", [&] {
+        pause(freshState);
+        return !keys.holdAgain();
+    });
+}
+
+void Mouse::wheel(int notches, Modifiers modifiers) {
+    const HeldKeys keys(modifiers);
+    MOUSEINPUT mouse{};
+    mouse.dwFlags = MOUSEEVENTF_WHEEL;
+    mouse.mouseData = static_cast<DWORD>(notches * WHEEL_DELTA);
+    send(mouse);
+    letArrive();
+}
+
+}  // namespace ormala::test

@@ -1,0 +1,82 @@
+#include "e2e/support/Program.h"
+
+#include <windows.h>
+
+#include <array>
+#include <cstdlib>
+
+#include "e2e/support/StageFailure.h"
+#include "support/win/Screen.h"
+
+namespace ormala::test {
+
+namespace {
+
+constexpr milliseconds loadDeadline{30000};
+constexpr milliseconds restBeforeFirstClick{100};
+
+std::filesystem::path programFile() {
+    const wchar_t* named = _wgetenv(L"ORMALA_EXE");
+    if (named != nullptr && *named != L'\0') {
+        return std::filesystem::absolute(named);
+    }
+    return testProgramFolder().parent_path().parent_path() / "Ormala.exe";
+}
+
+}  // namespace
+
+std::filesystem::path testProgramFolder() {
+    std::array<wchar_t, 1024> buffer{};
+    GetModuleFileNameW(nullptr, buffer.data(), static_cast<DWORD>(buffer.size()));
+    return std::filesystem::path(buffer.data()).parent_path();
+}
+
+Program::Program(const AppDataFolder& data) : data_(&data), process_(programFile()) {}
+
+void Program::waitUntilReady() const {
+    requireSoon(
+        "end of the program's load",
+        [this] {
+            if (!process_.isRunning()) {
+                failStage("the program has ended during its load");
+            }
+            return settings().hasProperty(L"Ready");
+        },
+        loadDeadline);
+    for (const DesktopWindow& window : topLevelWindows(process_.id())) {
+        window.settle();
+    }
+    screen::waitUntilStill(screen::primaryMonitor());
+    pause(restBeforeFirstClick);
+}
+
+DesktopWindow Program::window(std::string_view className) const {
+    return findTopLevel(process_.id(), className);
+}
+
+DesktopWindow Program::waitForWindow(std::string_view className, milliseconds deadline) const {
+    return waitForTopLevel(process_.id(), className, {}, deadline);
+}
+
+MessageBoxWindow Program::waitForMessageBox(std::string_view title) const {
+    return MessageBoxWindow::waitFor(process_.id(), title);
+}
+
+void Program::requestClose() const {
+    settings().post(WM_CLOSE);
+}
+
+DWORD Program::waitForExit(milliseconds deadline) const {
+    const auto code = process_.waitForExit(deadline);
+    if (!code) {
+        failStage("the program does not end");
+    }
+    return *code;
+}
+
+DWORD Program::close() const {
+    requestClose();
+    return waitForExit();
+}
+
+}  // namespace ormala::test

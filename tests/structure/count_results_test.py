@@ -1,0 +1,69 @@
+"""The counter of results, on files like those of CTest and GoogleTest."""
+
+import contextlib
+import io
+import pathlib
+import sys
+import tempfile
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
+import count_results
+
+PASSED = '<testcase name="Good" classname="Suite"/>'
+FAILED = '<testcase name="Bad" classname="Suite"><failure message="no"/></testcase>'
+SKIPPED = '<testcase name="Left" classname="Left" status="notrun"><skipped/></testcase>'
+
+
+class CountResults(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self.folder.cleanup)
+        self.directory = pathlib.Path(self.folder.name)
+
+    def suite(self, name, cases, exit_code=0):
+        path = self.directory / f"{name}.xml"
+        if cases is not None:
+            path.write_text(f"<testsuite>{cases}</testsuite>", encoding="utf-8")
+        with contextlib.redirect_stdout(io.StringIO()):
+            return count_results.report_suite(path, exit_code)
+
+    def sum(self, failed_steps=0):
+        printed = io.StringIO()
+        with contextlib.redirect_stdout(printed):
+            good = count_results.report_sum(self.directory, failed_steps)
+        return good, printed.getvalue()
+
+    def test_all_suites_are_summed(self):
+        self.assertTrue(self.suite("one", PASSED + PASSED))
+        self.assertTrue(self.suite("two", PASSED))
+        self.assertEqual(self.sum(), (True, "3 passed, 0 failed\n"))
+
+    def test_a_failed_test_fails_its_suite_and_the_sum(self):
+        self.assertFalse(self.suite("one", PASSED + FAILED, exit_code=8))
+        self.assertEqual(self.sum(), (False, "1 passed, 1 failed\n"))
+
+    def test_a_test_that_did_not_run_is_failed(self):
+        self.assertFalse(self.suite("one", PASSED + SKIPPED))
+        self.assertEqual(self.sum(), (False, "1 passed, 1 failed\n"))
+
+    def test_a_crash_is_a_failure_of_its_own(self):
+        self.assertFalse(self.suite("no file", None, exit_code=5))
+        self.assertFalse(self.suite("good file", PASSED, exit_code=5))
+        self.assertEqual(self.sum(), (False, "1 passed, 2 failed\n"))
+
+    def test_a_suite_that_left_no_file_is_a_failure(self):
+        self.assertFalse(self.suite("one", None))
+        self.assertEqual(self.sum(), (False, "0 passed, 1 failed\n"))
+
+    def test_no_test_at_all_is_no_success(self):
+        self.assertTrue(self.suite("one", ""))
+        self.assertEqual(self.sum(), (False, "0 passed, 0 failed\n"))
+
+    def test_a_failed_step_counts(self):
+        self.suite("one", PASSED)
+        self.assertEqual(self.sum(failed_steps=1), (False, "1 passed, 1 failed\n"))
+
+
+if __name__ == "__main__":
+    unittest.main()

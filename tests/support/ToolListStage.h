@@ -1,0 +1,136 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/BusyView.h"
+#include "app/ToolList.h"
+#include "app/ToolMaker.h"
+#include "measure/MeasurePanel.h"
+#include "stencil/StencilPanel.h"
+#include "support/FakePanelView.h"
+#include "support/FakeSheetPort.h"
+#include "support/MemoryMessagePresenter.h"
+#include "support/QuietToolHost.h"
+
+namespace ormala {
+
+/// A panel of real parts but for its window. Stencil panels are 100 pixels high, others 70.
+class StagePanel : public ListedPanel {
+  public:
+    explicit StagePanel(ToolKind kind) : height_(kind == ToolKind::stencil ? 100 : 70) {}
+
+    FakePanelView view;
+    std::unique_ptr<ToolPanel> core;
+
+    [[nodiscard]] ToolPanel& panel() override { return *core; }
+    [[nodiscard]] int top() const override { return top_; }
+    void setTop(int top) override { top_ = top; }
+    [[nodiscard]] int height() const override { return height_; }
+    [[nodiscard]] bool visible() const override { return visible_; }
+    void setVisible(bool visible) override { visible_ = visible; }
+
+  private:
+    int top_ = 0;
+    int height_;
+    bool visible_ = false;
+};
+
+/// The view of the list and of busy states, which writes down what happens.
+class StageView : public ToolListView, public BusyView {
+  public:
+    std::vector<std::string> log;
+    int layouts = 0;
+    int refreshes = 0;
+
+    void UpdatePanelLayout(bool AdjustFormHeight, bool Force) override {
+        layouts += AdjustFormHeight && !Force ? 1 : 0;
+    }
+    void refresh() override { ++refreshes; }
+    void beginBusy(const std::string& info, bool hourglass) override {
+        log.push_back((hourglass ? "hourglass " : "busy ") + info);
+    }
+    void endBusy() override { log.emplace_back("end"); }
+    void refreshWorksheet() override { log.emplace_back("worksheet"); }
+    void refreshControlWindow() override { log.emplace_back("window"); }
+};
+
+/// A tool list over a real sheet with real tools and panels.
+class ToolListStage : private PanelFactory, private ToolVisibility {
+  public:
+    explicit ToolListStage(PixelSize sheetSize = {1280, 1024}) {
+        maker_.setSheet(sheet);
+        sheet.resize(sheetSize);
+    }
+
+    ManualDayClock clock;
+    ToolSettings settings;
+    StageView view;
+    MemoryMessagePresenter messages;
+
+  private:
+    FakeSheetPort port_;
+    QuietToolHost host_;
+    SpecialRatios ratios_{[](int, std::string_view text) { return std::string(text); }, {}};
+    ToolMaker maker_{settings, ratios_};
+
+  public:
+    Sheet sheet{port_, host_, maker_};
+    ToolList list{{sheet, *this, view, messages}};
+
+    /// The panels from top to bottom.
+    [[nodiscard]] std::vector<StagePanel*> panels() const {
+        std::vector<StagePanel*> found;
+        for (const ToolList::Entry& entry : list.GetPanelsInVisualOrder()) {
+            found.push_back(&dynamic_cast<StagePanel&>(entry.listed));
+        }
+        return found;
+    }
+    [[nodiscard]] static MeasurePanel& measureOf(StagePanel& panel) {
+        return dynamic_cast<MeasurePanel&>(*panel.core);
+    }
+    [[nodiscard]] static StencilPanel& stencilOf(StagePanel& panel) {
+        return dynamic_cast<StencilPanel&>(*panel.core);
+    }
+    [[nodiscard]] MeasurePanel& measure(std::size_t at) const {
+        return measureOf(*panels().at(at));
+    }
+    [[nodiscard]] StencilPanel& stencil(std::size_t at) const {
+        return stencilOf(*panels().at(at));
+    }
+
+    StencilPanel& addStencil() { return dynamic_cast<StencilPanel&>(*list.AddNewControl(0)); }
+    MeasurePanel& addMeasure() { return dynamic_cast<MeasurePanel&>(*list.AddNewControl(1)); }
+
+    /// The kinds from top to bottom: "SM".
+    [[nodiscard]] std::string kinds() const {
+        std::string text;
+        for (const ToolList::Entry& entry : list.GetPanelsInVisualOrder()) {
+            text += entry.kind == ToolKind::stencil ? 'S' : 'M';
+        }
+        return text;
+    }
+
+  private:
+    std::unique_ptr<ListedPanel> makePanel(ToolKind kind, OverlayItem& tool) override {
+        auto made = std::make_unique<StagePanel>(kind);
+        const PanelPorts ports{made->view, *this, clock};
+        if (kind == ToolKind::stencil) {
+            made->core = std::make_unique<StencilPanel>(dynamic_cast<ctlRatioGrid&>(tool), ports,
+                                                        settings, ratios_);
+        } else {
+            made->core =
+                std::make_unique<MeasurePanel>(dynamic_cast<ctlMeasure&>(tool), ports, settings);
+        }
+        const ToolPanel& core = *made->core;
+        made->view.onRemove = [this, &core] { list.RemovePanel(core); };
+        return made;
+    }
+    void setVisible(const OverlayItem& tool, bool visible) override {
+        sheet.setVisible(tool, visible);
+    }
+};
+
+}  // namespace ormala

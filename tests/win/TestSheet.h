@@ -1,0 +1,67 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "app/ToolMaker.h"
+#include "platform/win/BackBuffer.h"
+#include "scene/ToolSettings.h"
+#include "stencil/ctlRatioGrid.h"
+#include "worksheet/win/frmWorksheet.h"
+
+namespace ormala {
+
+/// The pixels of a device context as 0x00BBGGRR, row by row.
+struct PixelMap {
+    PixelSize size;
+    std::vector<COLORREF> pixels;
+
+    [[nodiscard]] COLORREF at(int x, int y) const {
+        return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(size.width) +
+                      static_cast<std::size_t>(x)];
+    }
+    bool operator==(const PixelMap&) const = default;
+};
+
+PixelMap readPixels(HDC context, PixelSize size);
+/// What a window's client area shows.
+PixelMap readClient(HWND window);
+
+/// Notes what a worksheet asks for.
+class NotedCommands : public WorksheetCommands {
+  public:
+    void SetMode(int mode, bool minimise) override { modes.emplace_back(mode, minimise); }
+    void ShowHelp() override { ++helps; }
+    void stepHistory(OverlayItem& item, bool back) override { steps.emplace_back(&item, back); }
+    void raiseControlWindowAt(POINT screen) override { raisedAt.push_back(screen); }
+    void closeProgram() override { ++closes; }
+
+    std::vector<std::pair<int, bool>> modes;
+    std::vector<std::pair<OverlayItem*, bool>> steps;
+    std::vector<POINT> raisedAt;
+    int helps = 0;
+    int closes = 0;
+};
+
+/// A worksheet of a given size with stencils on it, apart from the rest of the program.
+class TestSheet {
+  public:
+    explicit TestSheet(PixelSize size);
+
+    frmWorksheet& window() { return *window_; }
+    ctlRatioGrid& addStencil(const Rect& rect, double angle, Color color);
+    /// A mouse message at a client position.
+    void mouse(UINT message, WPARAM buttons, int x, int y);
+    void drag(int fromX, int fromY, int toX, int toY, int steps);
+
+    NotedCommands commands;
+    ToolSettings settings;
+
+  private:
+    SpecialRatios ratios_;
+    ToolMaker maker_{settings, ratios_};
+    ForegroundMemory foreground_;
+    std::unique_ptr<frmWorksheet> window_;
+};
+
+}  // namespace ormala

@@ -1,0 +1,152 @@
+#include "app/win/frmSettings.h"
+
+#include <gtest/gtest.h>
+
+#include "e2e/support/AppDataFolder.h"
+#include "platform/win/text.h"
+#include "stencil/ctlRatioGrid.h"
+#include "support/win/Wait.h"
+
+namespace ormala {
+namespace {
+
+std::string captionOf(HWND window) {
+    wchar_t text[100]{};
+    GetWindowTextW(window, text, 100);
+    return narrow(text);
+}
+
+/// The control window with an application-data folder of its own.
+class frmSettingsTest : public testing::Test {
+  protected:
+    test::AppDataFolder folder_;
+    frmSettings settings_{false};
+};
+
+TEST_F(frmSettingsTest, IsReadyInEditModeWithItsCaption) {
+    EXPECT_NE(GetPropW(settings_.handle(), L"Ready"), nullptr);
+    EXPECT_EQ(settings_.GetMode(), 0);
+    EXPECT_EQ(captionOf(settings_.handle()), "Ormala - Edit");
+    EXPECT_TRUE(settings_.worksheet().isVisible());
+    EXPECT_TRUE(settings_.worksheet().Clickable());
+    EXPECT_EQ(settings_.worksheet().ClickAlpha(), 191);
+    EXPECT_EQ(settings_.worksheet().Alpha(), 128);
+}
+
+TEST_F(frmSettingsTest, OneStencilStandsCentredWithItsDefaultSize) {
+    auto* stencil = dynamic_cast<ctlRatioGrid*>(settings_.worksheet().sheet().GetFirstControl(0));
+    ASSERT_NE(stencil, nullptr);
+    EXPECT_TRUE(settings_.worksheet().sheet().isVisible(*stencil));
+    const RECT client = settings_.worksheet().clientRectangle();
+    const double height = 0.3819660112501051 * client.bottom;
+    EXPECT_NEAR(stencil->RectBound().bottom - stencil->RectBound().top, height - 1, 1e-9);
+    EXPECT_NEAR((stencil->RectBound().left + stencil->RectBound().right) / 2,
+                static_cast<int>(client.right / 2), 1e-9);
+    EXPECT_EQ(stencil->Color(), rgb(255, 159, 0));
+    EXPECT_EQ(stencil->LineWidth(), 2);
+}
+
+TEST_F(frmSettingsTest, ModesSwitchTheWorksheetAndTheCaption) {
+    settings_.SetMode(1, false);
+    EXPECT_EQ(captionOf(settings_.handle()), "Ormala - Template");
+    EXPECT_FALSE(settings_.worksheet().Clickable());
+    EXPECT_TRUE(settings_.worksheet().isVisible());
+    settings_.SetMode(2, false);
+    EXPECT_EQ(captionOf(settings_.handle()), "Ormala - Pause");
+    EXPECT_FALSE(settings_.worksheet().isVisible());
+    settings_.SetMode(0, false);
+    EXPECT_TRUE(settings_.worksheet().isVisible());
+    EXPECT_TRUE(settings_.worksheet().Clickable());
+}
+
+TEST_F(frmSettingsTest, SystemMenuOffersTheModesAndGreysTheCurrentOne) {
+    const HMENU menu = GetSystemMenu(settings_.handle(), FALSE);
+    const int count = GetMenuItemCount(menu);
+    ASSERT_GE(count, 4);
+    EXPECT_EQ(GetMenuItemID(menu, count - 3), 1010U);
+    EXPECT_EQ(GetMenuItemID(menu, count - 2), 1012U);
+    EXPECT_EQ(GetMenuItemID(menu, count - 1), 1011U);
+    const auto greyed = [&](UINT command) {
+        return (GetMenuState(menu, command, MF_BYCOMMAND) & MF_GRAYED) != 0;
+    };
+    EXPECT_TRUE(greyed(1010));
+    SendMessageW(settings_.handle(), WM_SYSCOMMAND, 1012, 0);
+    EXPECT_EQ(settings_.GetMode(), 2);
+    EXPECT_TRUE(greyed(1012));
+    EXPECT_FALSE(greyed(1010));
+    wchar_t text[40]{};
+    GetMenuStringW(menu, 1011, text, 40, MF_BYCOMMAND);
+    EXPECT_EQ(narrow(text), "Template");
+}
+
+TEST_F(frmSettingsTest, WidthIsFixedAndHeightHasItsLeast) {
+    MINMAXINFO limits{};
+    SendMessageW(settings_.handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+    const RECT place = settings_.rectangle();
+    EXPECT_EQ(limits.ptMinTrackSize.x, place.right - place.left);
+    EXPECT_EQ(limits.ptMaxTrackSize.x, place.right - place.left);
+    settings_.SetMode(1, false);
+    const RECT shortPlace = settings_.rectangle();
+    EXPECT_EQ(limits.ptMinTrackSize.y, shortPlace.bottom - shortPlace.top);
+    EXPECT_LT(limits.ptMinTrackSize.y, place.bottom - place.top);
+}
+
+TEST_F(frmSettingsTest, HeightOfEditModeComesBack) {
+    const RECT place = settings_.rectangle();
+    const int pulled = 333;
+    SetWindowPos(settings_.handle(), nullptr, 0, 0, place.right - place.left, pulled,
+                 SWP_NOMOVE | SWP_NOZORDER);
+    settings_.SetMode(1, false);
+    EXPECT_NE(settings_.rectangle().bottom - settings_.rectangle().top, pulled);
+    settings_.SetMode(2, false);
+    settings_.SetMode(0, false);
+    EXPECT_EQ(settings_.rectangle().bottom - settings_.rectangle().top, pulled);
+}
+
+TEST_F(frmSettingsTest, FollowsTheResolutionOfItsMonitor) {
+    const RECT place = settings_.rectangle();
+    RECT suggested{place.left, place.top, place.left + 2 * (place.right - place.left),
+                   place.top + 2 * (place.bottom - place.top)};
+    SendMessageW(settings_.handle(), WM_DPICHANGED, MAKEWPARAM(192, 192),
+                 reinterpret_cast<LPARAM>(&suggested));
+    MINMAXINFO limits{};
+    SendMessageW(settings_.handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+    EXPECT_GE(limits.ptMinTrackSize.x, 600);
+    const RECT now = settings_.rectangle();
+    EXPECT_NEAR(now.right - now.left, 2 * (place.right - place.left), 40);
+}
+
+TEST_F(frmSettingsTest, ClickOnTheModeBarChangesTheMode) {
+    const SettingsLayout layout(static_cast<int>(GetDpiForWindow(settings_.handle())));
+    const PixelRect& box = layout.btnMode[2];
+    SendMessageW(settings_.handle(), WM_LBUTTONDOWN, MK_LBUTTON,
+                 MAKELPARAM((box.left + box.right) / 2, (box.top + box.bottom) / 2));
+    EXPECT_EQ(settings_.GetMode(), 2);
+}
+
+TEST_F(frmSettingsTest, UndoBringsBackWhatTheKeysMoved) {
+    auto& stencil = dynamic_cast<ctlRatioGrid&>(*settings_.worksheet().sheet().GetFirstControl(0));
+    const Rect before = stencil.RectBound();
+    settings_.worksheet().sheet().giveFocus(stencil);
+    SendMessageW(settings_.worksheet().handle(), WM_KEYDOWN, VK_LEFT, 0);
+    const Rect moved = stencil.RectBound();
+    WorksheetCommands& commands = settings_;
+    EXPECT_NE(moved, before);
+    commands.stepHistory(stencil, true);
+    EXPECT_EQ(stencil.RectBound(), before);
+    commands.stepHistory(stencil, false);
+    EXPECT_EQ(stencil.RectBound(), moved);
+}
+
+TEST_F(frmSettingsTest, OptionsAreWrittenAtTheEndOfTheSession) {
+    settings_.SetMode(2, false);
+    SendMessageW(settings_.handle(), WM_ENDSESSION, TRUE, 0);
+    WindowsFileStore store;
+    const ReadResult read = store.read(narrow(folder_.optionsFile().wstring()));
+    ASSERT_EQ(read.status, ReadResult::Status::ok);
+    EXPECT_NE(read.bytes.find("Mode= 2\r\n"), std::string::npos);
+    EXPECT_NE(read.bytes.find("Software=Ormala\r\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace ormala

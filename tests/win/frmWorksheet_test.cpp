@@ -1,0 +1,185 @@
+#include "worksheet/win/frmWorksheet.h"
+
+#include <gtest/gtest.h>
+
+#include "scene/Input.h"
+#include "support/win/Wait.h"
+#include "win/TestSheet.h"
+
+namespace ormala {
+namespace {
+
+constexpr PixelSize sheetSize{640, 480};
+
+struct Layering {
+    COLORREF key = 0;
+    BYTE alpha = 0;
+    DWORD flags = 0;
+};
+
+Layering layeringOf(HWND window) {
+    Layering found;
+    GetLayeredWindowAttributes(window, &found.key, &found.alpha, &found.flags);
+    return found;
+}
+
+DWORD extendedStyle(HWND window) {
+    return static_cast<DWORD>(GetWindowLongPtrW(window, GWL_EXSTYLE));
+}
+
+TEST(frmWorksheet, TakesTheMouseAsAVeilOfOneOpacity) {
+    TestSheet sheet(sheetSize);
+    const HWND window = sheet.window().handle();
+    const Layering layering = layeringOf(window);
+    EXPECT_EQ(layering.alpha, 191);
+    EXPECT_EQ(layering.flags, static_cast<DWORD>(LWA_ALPHA));
+    EXPECT_EQ(extendedStyle(window) & WS_EX_TRANSPARENT, 0U);
+    EXPECT_NE(extendedStyle(window) & WS_EX_LAYERED, 0U);
+    EXPECT_NE(extendedStyle(window) & WS_EX_TOPMOST, 0U);
+}
+
+TEST(frmWorksheet, BackgroundVanishesAtFullOpacityToo) {
+    TestSheet sheet(sheetSize);
+    const HWND window = sheet.window().handle();
+    sheet.window().setAlpha(255);
+    sheet.window().setClickable(false);
+    const Layering layering = layeringOf(window);
+    EXPECT_EQ(layering.alpha, 255);
+    EXPECT_EQ(layering.key, RGB(79, 79, 79));
+    EXPECT_EQ(layering.flags, static_cast<DWORD>(LWA_ALPHA | LWA_COLORKEY));
+    EXPECT_NE(extendedStyle(window) & WS_EX_TRANSPARENT, 0U);
+}
+
+TEST(frmWorksheet, ToolOfTheBackgroundColorIsKeyedOutWithIt) {
+    TestSheet sheet(sheetSize);
+    sheet.addStencil({100, 100, 300, 250}, 0, rgb(79, 79, 79));
+    sheet.window().setClickable(false);
+    const PixelMap map = readClient(sheet.window().handle());
+    EXPECT_EQ(map.at(130, 100), layeringOf(sheet.window().handle()).key);
+}
+
+TEST(frmWorksheet, AddNewControlOfKind2MakesNothing) {
+    TestSheet sheet(sheetSize);
+    EXPECT_EQ(sheet.window().sheet().AddNewControl(2), nullptr);
+    EXPECT_TRUE(sheet.window().sheet().zOrder().empty());
+}
+
+TEST(frmWorksheet, ToolsCoverTheClientAreaAfterASizing) {
+    TestSheet sheet(sheetSize);
+    ctlRatioGrid& stencil = sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
+    SetWindowPos(sheet.window().handle(), nullptr, 0, 0, 500, 300,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    stencil.CenterToScreen(false, 0, true, false);
+    EXPECT_EQ(stencil.RectBound(), (Rect{0, 0, 499, 299}));
+}
+
+TEST(frmWorksheet, FillsTheWorkAreaOfItsScreen) {
+    TestSheet sheet(sheetSize);
+    sheet.window().setMaxSized(true);
+    RECT work{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    EXPECT_TRUE(test::waitUntil([&] {
+        const RECT place = sheet.window().rectangle();
+        return EqualRect(&place, &work) != FALSE;
+    }));
+}
+
+TEST(frmWorksheet, ModeKeysAskForTheirModes) {
+    TestSheet sheet(sheetSize);
+    const HWND window = sheet.window().handle();
+    for (const WPARAM key : {VK_F2, VK_F3, VK_F4, VK_F1}) {
+        SendMessageW(window, WM_KEYDOWN, key, 0);
+    }
+    const std::vector<std::pair<int, bool>> asked{{0, false}, {2, false}, {1, false}};
+    EXPECT_EQ(sheet.commands.modes, asked);
+    EXPECT_EQ(sheet.commands.helps, 1);
+}
+
+TEST(frmWorksheet, KeysDoNothingInTemplateMode) {
+    TestSheet sheet(sheetSize);
+    ctlRatioGrid& stencil = sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
+    sheet.window().sheet().giveFocus(stencil);
+    sheet.window().setClickable(false);
+    SendMessageW(sheet.window().handle(), WM_KEYDOWN, VK_F2, 0);
+    SendMessageW(sheet.window().handle(), WM_KEYDOWN, VK_LEFT, 0);
+    EXPECT_TRUE(sheet.commands.modes.empty());
+    EXPECT_EQ(stencil.RectBound(), (Rect{100, 100, 300, 250}));
+}
+
+TEST(frmWorksheet, KeysMoveTheToolWithTheFocus) {
+    TestSheet sheet(sheetSize);
+    ctlRatioGrid& stencil = sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
+    sheet.window().sheet().giveFocus(stencil);
+    SendMessageW(sheet.window().handle(), WM_KEYDOWN, VK_LEFT, 0);
+    SendMessageW(sheet.window().handle(), WM_KEYDOWN, VK_UP, 0);
+    EXPECT_EQ(stencil.RectBound(), (Rect{99, 99, 299, 249}));
+}
+
+TEST(frmWorksheet, PressOnAGripSelectsItsTool) {
+    TestSheet sheet(sheetSize);
+    ctlRatioGrid& first = sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
+    ctlRatioGrid& second = sheet.addStencil({350, 100, 500, 250}, 0, rgb(255, 0, 0));
+    sheet.drag(200, 175, 210, 180, 2);
+    EXPECT_TRUE(first.Selected());
+    EXPECT_FALSE(second.Selected());
+    EXPECT_EQ(sheet.window().sheet().front(), &first);
+    EXPECT_EQ(first.RectBound(), (Rect{110, 105, 310, 255}));
+}
+
+TEST(frmWorksheet, PressBesideTheGripsReachesNoTool) {
+    TestSheet sheet(sheetSize);
+    ctlRatioGrid& stencil = sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
+    sheet.drag(150, 130, 200, 200, 3);
+    EXPECT_FALSE(stencil.Selected());
+    EXPECT_EQ(stencil.RectBound(), (Rect{100, 100, 300, 250}));
+    EXPECT_EQ(sheet.commands.raisedAt.size(), 1U) << "the click may belong to a covered window";
+}
+
+TEST(frmWorksheet, LossOfTheMouseEndsTheDragAsOneStep) {
+    TestSheet sheet(sheetSize);
+    ctlRatioGrid& stencil = sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
+    sheet.mouse(WM_MOUSEMOVE, 0, 200, 175);
+    sheet.mouse(WM_LBUTTONDOWN, MK_LBUTTON, 200, 175);
+    sheet.mouse(WM_MOUSEMOVE, MK_LBUTTON, 205, 175);
+    sheet.mouse(WM_MOUSEMOVE, MK_LBUTTON, 230, 175);
+    ReleaseCapture();
+    EXPECT_FALSE(stencil.grips().active().has_value());
+    EXPECT_TRUE(stencil.History().UndoPossible());
+    sheet.mouse(WM_MOUSEMOVE, 0, 300, 300);
+    EXPECT_EQ(stencil.RectBound(), (Rect{130, 100, 330, 250}));
+}
+
+TEST(frmWorksheet, AltDoesNotOpenAMenu) {
+    TestSheet sheet(sheetSize);
+    EXPECT_EQ(SendMessageW(sheet.window().handle(), WM_SYSCOMMAND, SC_KEYMENU, 0), 0);
+    EXPECT_EQ(SendMessageW(sheet.window().handle(), WM_SYSKEYDOWN, VK_PRIOR, 1 << 29), 0);
+}
+
+TEST(frmWorksheet, CloseRequestIsTheProgramsMatter) {
+    TestSheet sheet(sheetSize);
+    SendMessageW(sheet.window().handle(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(sheet.commands.closes, 1);
+    EXPECT_TRUE(IsWindow(sheet.window().handle()));
+}
+
+TEST(frmWorksheet, MouseActionPlaysAndEnds) {
+    TestSheet sheet(sheetSize);
+    ctlRatioGrid& stencil = sheet.addStencil({100, 100, 300, 250}, 0.5, rgb(255, 0, 0));
+    stencil.ShowMouseAction();
+    EXPECT_TRUE(test::waitUntil([&] { return stencil.mouseAction().buttonDown(); }));
+    EXPECT_TRUE(test::waitUntil([&] { return !stencil.mouseAction().running(); }));
+    EXPECT_FALSE(stencil.mouseAction().linesVisible());
+}
+
+TEST(frmWorksheet, RemovedToolTakesItsTimerWithIt) {
+    TestSheet sheet(sheetSize);
+    sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
+    ctlRatioGrid& second = sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
+    second.ShowMouseAction();
+    sheet.window().sheet().RemoveControl(second);
+    test::pause(test::milliseconds{200});
+    EXPECT_EQ(sheet.window().sheet().count(ToolKind::stencil), 1);
+}
+
+}  // namespace
+}  // namespace ormala
