@@ -1,0 +1,26 @@
+#include <cstring>
+
+#include "benchmarks.h"
+
+int main(int argc, char** argv) {
+    using namespace ormala;
+    const auto wanted = [&](const char* name) {
+        return argc < 2 || std::strcmp(argv[1], name) == 0;
+    };
+    constexpr PixelSize sizes[] = {{1920, 1080}, {3840, 2160}};
+    for (const PixelSize size : sizes) {
+        if (wanted("drag")) {
+            bench::dragStep(size);
+        }
+        if (wanted("hover")) {
+            bench::hoverMoves(size);
+        }
+    }
+    if (wanted("start")) {
+        bench::start();
+    }
+    if (wanted("idle")) {
+        bench::idle();
+    }
+    return 0;
+}
