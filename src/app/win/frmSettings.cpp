@@ -75,8 +75,12 @@ frmSettings::~frmSettings() {
 }
 
 void frmSettings::load(bool anotherRuns) {
+    const int localeLanguage =
+        languageForLocaleName(MlGetLocaleInfo(localeUserDefault, localeEnglishLanguageName));
+    // Messages about the options file are in the language of the system.
+    MlSetLanguage(localeLanguage, {});
     openOptionsFile();
-    chooseLanguage();
+    chooseLanguage(localeLanguage);
     createWindow();
     hiddenOwner_ = std::make_unique<HiddenOwner>();
     worksheet_ =
@@ -108,11 +112,7 @@ void frmSettings::openOptionsFile() {
     optionsFile_.setCurrentSection(optionsSection);
 }
 
-void frmSettings::chooseLanguage() {
-    const int localeLanguage =
-        languageForLocaleName(MlGetLocaleInfo(localeUserDefault, localeEnglishLanguageName));
-    // A file that cannot be read is told of in the language of the system.
-    MlSetLanguage(localeLanguage, {});
+void frmSettings::chooseLanguage(int localeLanguage) {
     {
         const auto group = optionsFile_.group();
         options_ = readOptions(optionsFile_, localeLanguage);

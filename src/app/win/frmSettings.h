@@ -44,7 +44,7 @@ class frmSettings : public Window, public WorksheetCommands {
     void load(bool anotherRuns);
     void openOptionsFile();
     void createWindow();
-    void chooseLanguage();
+    void chooseLanguage(int localeLanguage);
     void AddModeSystemMenuItems();
     void refreshTexts();
     void prepareFirstTools();
