@@ -32,4 +32,15 @@ Color colorOfMode(int mode, int currentMode) {
     return mode == currentMode ? rgb(187, 168, 0) : rgb(112, 112, 112);
 }
 
+ModeWindows windowsOfMode(int mode, bool maxSized, bool withBorder) {
+    switch (mode) {
+        case mode::edit:
+            return {true, true, !maxSized, maxSized};
+        case mode::templateMode:
+            return {true, false, !maxSized && withBorder, maxSized && withBorder};
+        default:
+            return {};
+    }
+}
+
 }  // namespace ormala

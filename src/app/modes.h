@@ -26,6 +26,22 @@ std::string tipOfMode(int mode);
 /// The colour of a mode's button.
 Color colorOfMode(int mode, int currentMode);
 
+/// What a mode makes of the worksheet and its frame.
+struct ModeWindows {
+    bool worksheet = false;
+    /// The worksheet takes the mouse, and its tools can be changed.
+    bool clickable = false;
+    bool frame = false;
+    /// The button can be pressed that brings a full-screen worksheet back into its frame.
+    bool worksheetMaxSized = false;
+
+    bool operator==(const ModeWindows&) const = default;
+};
+
+/// `maxSized` says whether the worksheet fills its screen, `withBorder` whether template mode keeps
+/// its frame. A number that is no mode shows nothing.
+ModeWindows windowsOfMode(int mode, bool maxSized, bool withBorder);
+
 /// The number of a mode's entry in the system menu.
 constexpr int menuCommandOfMode(int mode) {
     return 1010 + mode;

@@ -81,6 +81,14 @@ void KeepRectInBounds(WindowPlacement& placement, const PlacementRect& bounds) {
     keepInBounds(rect.top, rect.bottom, bounds.top, bounds.bottom);
 }
 
+PlacementRect keptOnScreens(const PlacementRect& rect, const ScreenAreas& screens) {
+    WindowPlacement placement;
+    placement.rcNormalPosition = rect;
+    KeepRectInBounds(placement,
+                     liesOn(screens.workArea, rect) ? screens.workArea : screens.virtualScreen);
+    return placement.rcNormalPosition;
+}
+
 void storePlacement(INIFile& options, const std::string& section,
                     const WindowPlacement& placement) {
     const CurrentSectionGuard current(options, section);
@@ -94,16 +102,13 @@ RestoredPlacement restoredPlacement(INIFile& options, const std::string& section
                                     const ScreenAreas& screens) {
     const CurrentSectionGuard current(options, section);
     const auto scope = options.group();
-    WindowPlacement placement;
-    placement.rcNormalPosition = readRect(options, present.rcNormalPosition, sizable);
+    PlacementRect rect = readRect(options, present.rcNormalPosition, sizable);
     const bool maximise = options.LongValue("WindowState", showNormal) == showMaximised;
     if (cascade) {
-        offsetRect(placement.rcNormalPosition, cascadeStep);
-        writeRect(options, placement.rcNormalPosition);
+        offsetRect(rect, cascadeStep);
+        writeRect(options, rect);
     }
-    const bool primary = liesOn(screens.workArea, placement.rcNormalPosition);
-    KeepRectInBounds(placement, primary ? screens.workArea : screens.virtualScreen);
-    return {placement.rcNormalPosition, maximise};
+    return {keptOnScreens(rect, screens), maximise};
 }
 
 }  // namespace ormala

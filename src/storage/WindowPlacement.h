@@ -40,6 +40,10 @@ struct RestoredPlacement {
 /// Cuts the normal rectangle to the size of the bounds and moves it into them; left and top win.
 void KeepRectInBounds(WindowPlacement& placement, const PlacementRect& bounds);
 
+/// The rectangle brought onto the screens there are: into the work area of the primary screen if it
+/// shows there, else into the bounds of all screens.
+PlacementRect keptOnScreens(const PlacementRect& rect, const ScreenAreas& screens);
+
 /// Writes the placement into a section of the options file; the current section stays.
 void storePlacement(INIFile& options, const std::string& section, const WindowPlacement& placement);
 

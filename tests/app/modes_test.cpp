@@ -62,5 +62,41 @@ TEST(Modes, TheSystemMenuNumbersGoByMode) {
     EXPECT_EQ(menuCommandOfMode(mode::pause), 1012);
 }
 
+TEST(WindowsOfMode, EditModeShowsTheWorksheetInItsFrame) {
+    for (const bool withBorder : {false, true}) {
+        EXPECT_EQ(windowsOfMode(mode::edit, false, withBorder),
+                  (ModeWindows{true, true, true, false}));
+    }
+}
+
+TEST(WindowsOfMode, EditModeHidesTheFrameOfAFullScreenWorksheet) {
+    for (const bool withBorder : {false, true}) {
+        EXPECT_EQ(windowsOfMode(mode::edit, true, withBorder),
+                  (ModeWindows{true, true, false, true}));
+    }
+}
+
+TEST(WindowsOfMode, TemplateModePassesTheMouseOnAndKeepsTheFrameIfWanted) {
+    EXPECT_EQ(windowsOfMode(mode::templateMode, false, true),
+              (ModeWindows{true, false, true, false}));
+    EXPECT_EQ(windowsOfMode(mode::templateMode, false, false),
+              (ModeWindows{true, false, false, false}));
+}
+
+TEST(WindowsOfMode, TemplateModeLetsAFullScreenWorksheetBackOnlyWithTheBorder) {
+    EXPECT_EQ(windowsOfMode(mode::templateMode, true, true),
+              (ModeWindows{true, false, false, true}));
+    EXPECT_EQ(windowsOfMode(mode::templateMode, true, false),
+              (ModeWindows{true, false, false, false}));
+}
+
+TEST(WindowsOfMode, PauseShowsNothing) {
+    for (const bool maxSized : {false, true}) {
+        for (const bool withBorder : {false, true}) {
+            EXPECT_EQ(windowsOfMode(mode::pause, maxSized, withBorder), ModeWindows{});
+        }
+    }
+}
+
 }  // namespace
 }  // namespace ormala

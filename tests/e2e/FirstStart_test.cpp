@@ -70,13 +70,15 @@ TEST(FirstStart, ShowsTheTwoLinesOfAMeasuringTool) {
     }
 }
 
-TEST(FirstStart, WorksheetCoversTheWorkArea) {
+TEST(FirstStart, WorksheetStandsInItsFrame) {
     SheetScene scene;
-    RECT area{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    EXPECT_EQ(scene.worksheet().rect(),
-              (ScreenRect{static_cast<int>(area.left), static_cast<int>(area.top),
-                          static_cast<int>(area.right), static_cast<int>(area.bottom)}));
+    const DesktopWindow frame = scene.program().window("frmResizer");
+    ASSERT_TRUE(frame.isVisible());
+    const ScreenRect inside = frame.clientRect();
+    const ScreenRect sheet = scene.worksheet().rect();
+    EXPECT_EQ(sheet.origin(), inside.origin() + (ScreenPoint{5, 5}));
+    EXPECT_EQ(sheet.width(), inside.width() - 10);
+    EXPECT_EQ(sheet.height(), inside.height() - 10);
 }
 
 }  // namespace

@@ -55,6 +55,22 @@ TEST(KeepRectInBounds, SurvivesTheNumbersOfADamagedFile) {
     EXPECT_EQ(kept({max, 0, max, 10}), (PlacementRect{1920, 0, 1920, 10}));
 }
 
+TEST(KeptOnScreens, PutsAWindowOfTheMainScreenIntoItsWorkArea) {
+    EXPECT_EQ(keptOnScreens({1900, 500, 2200, 700}, twoScreens),
+              (PlacementRect{1620, 500, 1920, 700}));
+}
+
+TEST(KeptOnScreens, LeavesAWindowOfAnotherScreenThere) {
+    EXPECT_EQ(keptOnScreens({2000, 500, 2300, 700}, twoScreens),
+              (PlacementRect{2000, 500, 2300, 700}));
+}
+
+TEST(KeptOnScreens, PullsAWindowBackWhoseScreenIsGone) {
+    EXPECT_EQ(keptOnScreens({2000, 500, 2300, 700}, oneScreen),
+              (PlacementRect{1620, 500, 1920, 700}));
+    EXPECT_EQ(keptOnScreens({-900, -500, -600, -300}, oneScreen), (PlacementRect{0, 0, 300, 200}));
+}
+
 class PlacementTest : public testing::Test {
   protected:
     void store(const PlacementRect& rect, std::int32_t state = 1) {

@@ -46,7 +46,7 @@ PixelMap readClient(HWND window) {
 }
 
 TestSheet::TestSheet(PixelSize size) : ratios_(makeRatios()) {
-    window_ = std::make_unique<frmWorksheet>(nullptr, maker_, foreground_, commands);
+    window_ = std::make_unique<frmWorksheet>(maker_, foreground_, commands);
     window_->setBackground(RGB(79, 79, 79));
     window_->setClickAlpha(191);
     window_->setMaxSized(false);

@@ -22,6 +22,7 @@ namespace ormala {
 namespace {
 
 constexpr const char* placementSection = "FormSettings";
+constexpr const char* framePlacementSection = "FormResizer";
 
 /// Tells other programs, such as a screen reader or a test, that the load has ended.
 constexpr const wchar_t* readyProperty = L"Ready";
@@ -31,20 +32,6 @@ constexpr int distanceFromRight = 80;
 
 /// Line code of the tools at first.
 constexpr int solidOnePixel = 2;
-
-class HiddenOwner : public Window {
-  public:
-    HiddenOwner() {
-        WindowDesign design;
-        design.className = L"OrmalaOwner";
-        design.style = WS_POPUP;
-        create(design);
-    }
-    ~HiddenOwner() override { destroy(); }
-
-  private:
-    std::optional<LRESULT> onMessage(UINT, WPARAM, LPARAM) override { return std::nullopt; }
-};
 
 SpecialRatios translatedRatios(const TextForm& form) {
     return SpecialRatios(
@@ -69,8 +56,8 @@ frmSettings::frmSettings(bool anotherRuns) : ratios_(translatedRatios(toolSettin
 
 frmSettings::~frmSettings() {
     wheelHook_.reset();
+    resizer_.reset();
     worksheet_.reset();
-    hiddenOwner_.reset();
     destroy();
 }
 
@@ -82,12 +69,11 @@ void frmSettings::load(bool anotherRuns) {
     openOptionsFile();
     chooseLanguage(localeLanguage);
     createWindow();
-    hiddenOwner_ = std::make_unique<HiddenOwner>();
-    worksheet_ =
-        std::make_unique<frmWorksheet>(hiddenOwner_->handle(), factory_, foreground_, *this);
+    loadWorksheet();
     factory_.setSheet(worksheet_->sheet());
     AddModeSystemMenuItems();
     wheelHook_ = std::make_unique<MouseWheelHook>([this](bool down) { Scroll(down); });
+    loadResizer();
     refreshTexts();
     prepareFirstTools();
     SetWindowPos(handle(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -140,6 +126,27 @@ void frmSettings::createWindow() {
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void frmSettings::loadWorksheet() {
+    worksheet_ = std::make_unique<frmWorksheet>(factory_, foreground_, *this);
+    // During a change of mode the new one decides.
+    worksheetResized_ = worksheet_->resized.subscribe(
+        [this] { setWorksheetMaxSized(windowsOf(lit_).worksheetMaxSized); });
+}
+
+void frmSettings::loadResizer() {
+    resizer_ = std::make_unique<frmResizer>(*worksheet_, *this);
+    const auto group = optionsFile_.group();
+    const RestoredPlacement stored =
+        storedPlacement(resizer_->handle(), optionsFile_, framePlacementSection, false);
+    resizer_->restore(systemRect(stored.rect), stored.maximise);
+    worksheetPlaced_ = resizer_->worksheetPlaced.subscribe([this](PixelPoint) {
+        if (worksheet_->MaxSized()) {
+            // Nobody could see the way back under a worksheet that has just covered the screen.
+            raiseAboveAll();
+        }
+    });
+}
+
 void frmSettings::AddModeSystemMenuItems() {
     const HMENU menu = GetSystemMenu(handle(), FALSE);
     AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
@@ -152,6 +159,7 @@ void frmSettings::refreshTexts() {
     toolSettings_.textForm.infinite = MlString(313, "infinite");
     ratios_ = translatedRatios(toolSettings_.textForm);
     UpdateCaption();
+    resizer_->SetRuntimeTexts(applicationTitle);
     const HMENU menu = GetSystemMenu(handle(), FALSE);
     for (int mode = 0; mode < mode::count; ++mode) {
         const auto command = static_cast<UINT>(menuCommandOfMode(mode));
@@ -219,6 +227,7 @@ void frmSettings::unload() {
     unloaded_ = true;
     SaveOptions();
     wheelHook_.reset();
+    resizer_.reset();
     worksheet_.reset();
 }
 
@@ -232,6 +241,7 @@ void frmSettings::SaveOptions() {
         optionsFile_.setCurrentSection(optionsSection);
         writeOptions(optionsFile_, options_);
         SaveFormPlacement(handle(), optionsFile_, placementSection);
+        SaveFormPlacement(resizer_->handle(), optionsFile_, framePlacementSection);
     }
     optionsFile_.ShowLastError();
 }

@@ -11,12 +11,13 @@
 #include "app/win/ModeBar.h"
 #include "app/win/MouseWheelHook.h"
 #include "app/win/WindowsMessagePresenter.h"
+#include "base/Event.h"
 #include "platform/win/Window.h"
 #include "scene/ToolSettings.h"
 #include "stencil/SpecialRatios.h"
 #include "storage/win/WindowsCodePage.h"
 #include "storage/win/WindowsFileStore.h"
-#include "worksheet/win/frmWorksheet.h"
+#include "worksheet/win/frmResizer.h"
 
 namespace ormala {
 
@@ -31,7 +32,19 @@ class frmSettings : public Window, public WorksheetCommands {
     [[nodiscard]] int GetMode() const { return mode_; }
     void SetMode(int mode, bool minimise) override;
     void SetReferenceLines(bool enabled);
+    [[nodiscard]] bool TemplateWithBorder() const { return options_.templateWithBorder; }
+    /// Whether template mode keeps the worksheet's frame; the next change of mode heeds it.
+    void setTemplateWithBorder(bool kept) { options_.templateWithBorder = kept; }
+    /// Whether a full-screen worksheet can be brought back into its frame now.
+    [[nodiscard]] bool WorksheetMaxSized() const { return worksheetMaxSized_; }
+    void setWorksheetMaxSized(bool maxSized);
+    /// Raised with the new value when it has changed.
+    Event<bool> worksheetMaxSizedChanged;
+    /// Brings a full-screen worksheet back into its frame.
+    void worksheetWindowNormal();
+
     [[nodiscard]] frmWorksheet& worksheet() { return *worksheet_; }
+    [[nodiscard]] frmResizer& resizer() { return *resizer_; }
 
   private:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -50,12 +63,17 @@ class frmSettings : public Window, public WorksheetCommands {
     void prepareFirstTools();
     void prepareFirstStencil();
     void prepareFirstMeasure();
+    void loadWorksheet();
+    void loadResizer();
     void placeWindow(bool anotherRuns);
     void cutEditModeHeight();
     void unload();
     void SaveOptions();
 
-    void applyModeToWorksheet(int mode);
+    void applyModeToWindows(int mode);
+    void layOutAnew();
+    void raiseAboveAll();
+    [[nodiscard]] ModeWindows windowsOf(int mode) const;
     void AdjustFormHeight(int mode, int formerMode);
     void SyncSystemMenu(int mode);
     void UpdateCaption();
@@ -68,6 +86,7 @@ class frmSettings : public Window, public WorksheetCommands {
     LRESULT onGetMinMaxInfo(LPARAM lParam);
     LRESULT onSysCommand(WPARAM wParam, LPARAM lParam);
     LRESULT onDpiChanged(WPARAM wParam, LPARAM lParam);
+    LRESULT onDisplayChange();
     LRESULT onClick(LPARAM lParam);
     LRESULT onEndSession(bool ending);
     bool onKey(int key);
@@ -90,9 +109,11 @@ class frmSettings : public Window, public WorksheetCommands {
     ModeBar modeBar_{96};
     SettingsHeight height_;
     ListScroll scrInner_;
-    /// Never shown; owns the worksheet, so that this has no button on the task bar.
-    std::unique_ptr<Window> hiddenOwner_;
+    bool worksheetMaxSized_ = false;
     std::unique_ptr<frmWorksheet> worksheet_;
+    Subscription worksheetResized_;
+    std::unique_ptr<frmResizer> resizer_;
+    Subscription worksheetPlaced_;
     std::unique_ptr<MouseWheelHook> wheelHook_;
     bool unloaded_ = false;
 };

@@ -3,6 +3,9 @@
 #include <shellapi.h>
 #include <windowsx.h>
 
+#include <utility>
+
+#include "app/win/screens.h"
 #include "language/MlStringModule.h"
 #include "platform/win/text.h"
 #include "scene/Input.h"
@@ -53,7 +56,7 @@ void frmSettings::SetMode(int mode, bool minimise) {
     InvalidateRect(handle(), nullptr, FALSE);
     UpdateWindow(handle());
     AdjustFormHeight(mode, former);
-    applyModeToWorksheet(mode);
+    applyModeToWindows(mode);
     mode_ = mode;
     UpdateCaption();
     SyncSystemMenu(mode);
@@ -62,33 +65,58 @@ void frmSettings::SetMode(int mode, bool minimise) {
     }
 }
 
-void frmSettings::applyModeToWorksheet(int mode) {
-    switch (mode) {
-        case mode::templateMode:
-            worksheet_->setClickable(false);
-            if (!worksheet_->isVisible()) {
-                worksheet_->show();
-            }
-            break;
-        case mode::pause:
-            worksheet_->setClickable(false);
-            worksheet_->hide();
-            break;
-        case mode::edit:
-            worksheet_->setBackground(colorRef(options_.worksheetColor));
-            worksheet_->setClickable(true);
-            if (!worksheet_->isVisible()) {
-                worksheet_->show();
-            }
-            if (worksheet_->MaxSized()) {
-                worksheet_->narrowAndWiden();
-            }
-            SetWindowPos(handle(), HWND_TOPMOST, 0, 0, 0, 0, keepPlaceAndOwner);
-            SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, keepPlaceAndOwner);
-            break;
-        default:
-            break;
+void frmSettings::applyModeToWindows(int mode) {
+    if (mode < 0 || mode >= mode::count) {
+        return;
     }
+    const ModeWindows windows = windowsOf(mode);
+    if (mode == mode::edit) {
+        worksheet_->setBackground(colorRef(options_.worksheetColor));
+    }
+    worksheet_->setClickable(windows.clickable);
+    if (!windows.worksheet) {
+        worksheet_->hide();
+    } else if (!worksheet_->isVisible()) {
+        worksheet_->show();
+    }
+    if (windows.frame) {
+        resizer_->show();
+    } else {
+        resizer_->hide();
+    }
+    setWorksheetMaxSized(windows.worksheetMaxSized);
+    if (mode == mode::edit) {
+        layOutAnew();
+    }
+}
+
+void frmSettings::layOutAnew() {
+    if (worksheet_->MaxSized()) {
+        worksheet_->narrowAndWiden();
+    } else {
+        resizer_->widenAndNarrow();
+    }
+    raiseAboveAll();
+}
+
+void frmSettings::raiseAboveAll() {
+    SetWindowPos(handle(), HWND_TOPMOST, 0, 0, 0, 0, keepPlaceAndOwner);
+    SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, keepPlaceAndOwner);
+}
+
+ModeWindows frmSettings::windowsOf(int mode) const {
+    return windowsOfMode(mode, worksheet_->MaxSized(), options_.templateWithBorder);
+}
+
+void frmSettings::setWorksheetMaxSized(bool maxSized) {
+    if (std::exchange(worksheetMaxSized_, maxSized) != maxSized) {
+        worksheetMaxSizedChanged.raise(maxSized);
+    }
+}
+
+void frmSettings::worksheetWindowNormal() {
+    resizer_->showNormal();
+    setWorksheetMaxSized(false);
 }
 
 SettingsHeight::Present frmSettings::present() const {
@@ -179,6 +207,8 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
             return onSysCommand(wParam, lParam);
         case WM_DPICHANGED:
             return onDpiChanged(wParam, lParam);
+        case WM_DISPLAYCHANGE:
+            return onDisplayChange();
         case WM_LBUTTONDOWN:
             return onClick(lParam);
         case WM_KEYDOWN:
@@ -239,6 +269,14 @@ LRESULT frmSettings::onDpiChanged(WPARAM wParam, LPARAM lParam) {
     SetWindowPos(handle(), nullptr, place.left, place.top, place.right - place.left,
                  place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
     InvalidateRect(handle(), nullptr, FALSE);
+    return 0;
+}
+
+LRESULT frmSettings::onDisplayChange() {
+    bringOntoScreens(handle());
+    if (resizer_) {
+        bringOntoScreens(resizer_->handle());
+    }
     return 0;
 }
 

@@ -22,12 +22,34 @@ WindowPlacement placementOf(HWND window) {
             placementRect(placement.rcNormalPosition)};
 }
 
+/// There is none in a gap between screens of different sizes.
+PlacementRect onSomeScreen(const PlacementRect& rect) {
+    const RECT place = systemRect(rect);
+    if (MonitorFromRect(&place, MONITOR_DEFAULTTONULL) != nullptr) {
+        return rect;
+    }
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST), &monitor);
+    WindowPlacement placement{0, rect};
+    KeepRectInBounds(placement, placementRect(monitor.rcWork));
+    return placement.rcNormalPosition;
+}
+
+PlacementRect keptOnPresentScreens(const PlacementRect& rect) {
+    return onSomeScreen(keptOnScreens(rect, screenAreas()));
+}
+
 int metricOr(int index, int fallback) {
     const int value = GetSystemMetrics(SM_CMONITORS) == 0 ? 0 : GetSystemMetrics(index);
     return value != 0 ? value : fallback;
 }
 
 }  // namespace
+
+RECT systemRect(const PlacementRect& rect) {
+    return {rect.left, rect.top, rect.right, rect.bottom};
+}
 
 ScreenAreas screenAreas() {
     RECT work{};
@@ -43,19 +65,44 @@ void SaveFormPlacement(HWND window, INIFile& options, const std::string& section
     storePlacement(options, section, placementOf(window));
 }
 
-void RestoreFormPlacement(HWND window, INIFile& options, const std::string& section, bool cascade) {
+RestoredPlacement storedPlacement(HWND window, INIFile& options, const std::string& section,
+                                  bool cascade) {
     const bool sizable = (GetWindowLongPtrW(window, GWL_STYLE) & WS_THICKFRAME) != 0;
-    const RestoredPlacement restored =
+    RestoredPlacement restored =
         restoredPlacement(options, section, cascade, placementOf(window), sizable, screenAreas());
+    restored.rect = onSomeScreen(restored.rect);
+    return restored;
+}
+
+void RestoreFormPlacement(HWND window, INIFile& options, const std::string& section, bool cascade) {
+    const RestoredPlacement restored = storedPlacement(window, options, section, cascade);
     if (restored.maximise) {
         ShowWindow(window, SW_SHOWMAXIMIZED);
     }
     // Neither shows the window nor changes its state.
     WINDOWPLACEMENT placement = systemPlacement(window);
     placement.showCmd = SW_HIDE;
-    placement.rcNormalPosition = {restored.rect.left, restored.rect.top, restored.rect.right,
-                                  restored.rect.bottom};
+    placement.rcNormalPosition = systemRect(restored.rect);
     SetWindowPlacement(window, &placement);
+}
+
+void bringOntoScreens(HWND window) {
+    if (IsIconic(window) != FALSE) {
+        WINDOWPLACEMENT placement = systemPlacement(window);
+        placement.rcNormalPosition =
+            systemRect(keptOnPresentScreens(placementRect(placement.rcNormalPosition)));
+        placement.showCmd = SW_SHOWMINNOACTIVE;
+        SetWindowPlacement(window, &placement);
+        return;
+    }
+    RECT present{};
+    GetWindowRect(window, &present);
+    const PlacementRect former = placementRect(present);
+    const PlacementRect place = keptOnPresentScreens(former);
+    if (place != former) {
+        SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left,
+                     place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    }
 }
 
 int dpiOf(HWND window) {

@@ -12,9 +12,19 @@ namespace ormala {
 /// they are now.
 ScreenAreas screenAreas();
 
+/// How a window is to be placed again; `cascade` as for `restoredPlacement`.
+RestoredPlacement storedPlacement(HWND window, INIFile& options, const std::string& section,
+                                  bool cascade);
+
 void SaveFormPlacement(HWND window, INIFile& options, const std::string& section);
 /// Brings the window back to where it was stored; `cascade` as for `restoredPlacement`.
 void RestoreFormPlacement(HWND window, INIFile& options, const std::string& section, bool cascade);
+
+/// Brings a window back that has lost its screen while it was there. It stays hidden, minimised or
+/// behind others as it was.
+void bringOntoScreens(HWND window);
+
+RECT systemRect(const PlacementRect& rect);
 
 /// The resolution of the window's monitor.
 int dpiOf(HWND window);

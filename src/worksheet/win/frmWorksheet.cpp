@@ -22,6 +22,13 @@ RECT primaryWorkArea() {
     return area;
 }
 
+RECT workAreaAround(HWND window) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+    return monitor.rcWork;
+}
+
 RegionHandle systemRegion(const DirtyRegion& region) {
     if (region.dense()) {
         const PixelRect bounds = region.bounds();
@@ -37,7 +44,7 @@ int systemDpi() {
 
 }  // namespace
 
-frmWorksheet::frmWorksheet(HWND owner, ToolFactory& factory, ForegroundMemory& foreground,
+frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
                            WorksheetCommands& commands)
     : fonts_(systemDpi()),
       foreground_(foreground),
@@ -47,9 +54,10 @@ frmWorksheet::frmWorksheet(HWND owner, ToolFactory& factory, ForegroundMemory& f
       painter_(sheet_, fonts_) {
     WindowDesign design;
     design.className = L"frmWorksheet";
-    design.style = WS_POPUP;
+    // Some window managers of other systems leave a window without it to itself, and it has then no
+    // keyboard.
+    design.style = WS_POPUP | WS_SYSMENU;
     design.extendedStyle = WS_EX_LAYERED | WS_EX_TOPMOST;
-    design.owner = owner;
     design.place = primaryWorkArea();
     create(design);
     tip_ = std::make_unique<TipWindow>(handle());
@@ -64,6 +72,10 @@ frmWorksheet::~frmWorksheet() {
     KillTimer(handle(), tmrCrosshair);
     tip_.reset();
     destroy();
+}
+
+void frmWorksheet::setOwner(HWND owner) {
+    SetWindowLongPtrW(handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
 }
 
 void frmWorksheet::ApplyLayered() {
@@ -100,6 +112,12 @@ void frmWorksheet::setBackground(COLORREF color) {
 
 void frmWorksheet::show() {
     ShowWindow(handle(), SW_SHOWNA);
+    if (clickable_) {
+        // A key that was taken away while the window was hidden can be left behind in its shape.
+        SetLayeredWindowAttributes(handle(), painter_.background(), static_cast<BYTE>(clickAlpha_),
+                                   LWA_COLORKEY | LWA_ALPHA);
+        ApplyLayered();
+    }
     if (maxSized_) {
         // The screen may have changed while the window was hidden.
         fillScreen();
@@ -117,8 +135,17 @@ void frmWorksheet::setMaxSized(bool maxSized) {
     } else if (maxSized) {
         fillScreen();
     }
-    if (!maxSized) {
+    if (!maxSized && IsZoomed(handle()) != FALSE) {
         ShowWindow(handle(), SW_SHOWNOACTIVATE);
+    }
+}
+
+void frmWorksheet::prepareMaxSized(bool maxSized) {
+    maxSized_ = maxSized;
+    if (maxSized) {
+        const RECT area = workAreaAround(handle());
+        SetWindowPos(handle(), nullptr, area.left, area.top, area.right - area.left,
+                     area.bottom - area.top, SWP_NOZORDER | SWP_NOACTIVATE);
     }
 }
 

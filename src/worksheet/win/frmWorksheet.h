@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "base/Event.h"
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/TipWindow.h"
 #include "platform/win/Window.h"
@@ -38,13 +39,13 @@ struct ForegroundMemory {
 /// the mouse; otherwise only the tools show, and every click falls through to the program below.
 class frmWorksheet : public Window, private SheetPort, private ToolHost {
   public:
-    /// `owner` is a window that is never shown; it keeps the worksheet off the task bar. The others
-    /// must outlive the worksheet.
-    frmWorksheet(HWND owner, ToolFactory& factory, ForegroundMemory& foreground,
-                 WorksheetCommands& commands);
+    /// Stays hidden. The arguments must outlive the worksheet.
+    frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground, WorksheetCommands& commands);
     ~frmWorksheet() override;
 
     [[nodiscard]] Sheet& sheet() { return sheet_; }
+    /// A window that the worksheet lies above and that keeps it off the task bar.
+    void setOwner(HWND owner);
 
     [[nodiscard]] bool Clickable() const { return clickable_; }
     void setClickable(bool clickable);
@@ -56,12 +57,21 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     /// True: the window fills its screen and leaves the primary screen's task bar free; false: it
     /// has the place that it is given. Shows the window.
     void setMaxSized(bool maxSized);
+    /// The same for a window that is hidden, and stays so until `show`.
+    void prepareMaxSized(bool maxSized);
     void setBackground(COLORREF color);
 
     void show();
     void hide();
     /// Lets the window lay itself out and repaint after it was hidden.
     void narrowAndWiden();
+
+    /// A key pressed here or in a window that passes its keys on: true if it was a command. None is
+    /// while the worksheet does not take the mouse.
+    bool KeyDown(int key, int shift);
+
+    /// Raised when the window has a new size.
+    Event<> resized;
 
   private:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -85,7 +95,7 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     LRESULT onResize();
     LRESULT onDisplayChange();
     std::optional<LRESULT> onKey(WPARAM key);
-    bool KeyDown(int key, int shift);
+    [[nodiscard]] bool takesKey(int key, int shift) const;
     void repeatMove(int shift);
     bool obey(SheetCommand command);
     void pollOutside();

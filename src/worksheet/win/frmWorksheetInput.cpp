@@ -123,6 +123,7 @@ LRESULT frmWorksheet::onResize() {
     painter_.resize(size);
     sheet_.resize(size);
     InvalidateRect(handle(), nullptr, FALSE);
+    resized.raise();
     return 0;
 }
 
@@ -135,8 +136,7 @@ LRESULT frmWorksheet::onDisplayChange() {
 
 std::optional<LRESULT> frmWorksheet::onKey(WPARAM key) {
     const int shift = heldModifiers();
-    const bool closing = key == VK_F4 && (shift & modifier::alt) != 0;
-    if (closing || !clickable_) {
+    if (!takesKey(static_cast<int>(key), shift)) {
         return std::nullopt;
     }
     const bool isModifier = key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU;
@@ -151,6 +151,11 @@ std::optional<LRESULT> frmWorksheet::onKey(WPARAM key) {
     return 0;
 }
 
+bool frmWorksheet::takesKey(int key, int shift) const {
+    const bool closing = key == VK_F4 && (shift & modifier::alt) != 0;
+    return clickable_ && !closing;
+}
+
 void frmWorksheet::repeatMove(int shift) {
     // A modifier that goes down in the middle of a drag shows its effect at once.
     lastMove_.shift = shift;
@@ -159,7 +164,7 @@ void frmWorksheet::repeatMove(int shift) {
 }
 
 bool frmWorksheet::KeyDown(int key, int shift) {
-    return obey(sheetCommandOf(key, shift));
+    return takesKey(key, shift) && obey(sheetCommandOf(key, shift));
 }
 
 bool frmWorksheet::obey(SheetCommand command) {

@@ -1,0 +1,78 @@
+#include "widgets/ctlFrame.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr Color deepestEdge = rgb(31, 31, 31);
+constexpr Color ground = 0x606060;
+constexpr Color quietBright = rgb(144, 144, 144);
+constexpr Color quietDark = rgb(64, 64, 64);
+constexpr Color brown = 8747;
+constexpr Color goldBright = rgb(255, 234, 32);
+constexpr Color goldDark = rgb(144, 115, 0);
+
+/// The code of a solid line of one pixel.
+constexpr int onePixel = 2;
+
+}  // namespace
+
+void ctlFrame::setFrameStyle(int style) {
+    frameStyle_ = style;
+    arrange();
+}
+
+void ctlFrame::resize(const PixelRect& box) {
+    box_ = box;
+}
+
+void ctlFrame::arrange() {
+    const bool borderAlone = frameStyle_ == 1 || frameStyle_ == 2;
+    const bool golden = frameStyle_ == 2;
+    const bool full = frameStyle_ == 3;
+    shpBorderOuter_ = {!borderAlone, 0, 1, deepestEdge};
+    shpBorder_ = {true, 2, borderAlone ? 2 : 1, golden ? brown : ground};
+    shpBorderInner_ = {full, 4, 1, deepestEdge};
+    bevels_ = {Bevel{frameStyle_ != 1, 1, true}, Bevel{full, 3, false}};
+    lineBorderBright_ = golden ? goldBright : quietBright;
+    lineBorderDark_ = golden ? goldDark : quietDark;
+}
+
+void ctlFrame::draw(Canvas& canvas) const {
+    for (const Border* border : {&shpBorderOuter_, &shpBorder_, &shpBorderInner_}) {
+        draw(canvas, *border);
+    }
+    for (const Bevel& bevel : bevels_) {
+        draw(canvas, bevel);
+    }
+}
+
+void ctlFrame::draw(Canvas& canvas, const Border& border) const {
+    const PixelRect place = box_.grown(-border.inset);
+    if (border.visible && !place.empty()) {
+        ShapeFace face;
+        face.box = place;
+        face.borderColor = border.color;
+        face.borderWidth = border.width;
+        canvas.shape(face);
+    }
+}
+
+void ctlFrame::draw(Canvas& canvas, const Bevel& bevel) const {
+    const PixelRect place = box_.grown(-bevel.inset);
+    if (!bevel.visible || place.empty()) {
+        return;
+    }
+    const Pen bright{lineBorderBright_, onePixel};
+    const Pen dark{lineBorderDark_, onePixel};
+    const Pen& upperLeft = bevel.brightUpperLeft ? bright : dark;
+    const Pen& lowerRight = bevel.brightUpperLeft ? dark : bright;
+    const int right = place.right - 1;
+    const int bottom = place.bottom - 1;
+    canvas.line(upperLeft, {place.left, place.top}, {right, place.top});
+    canvas.line(upperLeft, {place.left, place.top}, {place.left, bottom});
+    canvas.line(lowerRight, {place.left, bottom}, {place.right, bottom});
+    canvas.line(lowerRight, {right, place.top}, {right, bottom});
+}
+
+}  // namespace ormala

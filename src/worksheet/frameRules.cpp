@@ -1,0 +1,40 @@
+#include "worksheet/frameRules.h"
+
+#include <utility>
+
+#include "modAPI/constants.h"
+#include "modAPI/rounding.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr int margin = 5;
+/// At 96 DPI.
+constexpr PixelSize leastSize{200, 124};
+
+int rounded(double value) {
+    return static_cast<int>(RoundHalfAway(value));
+}
+
+}  // namespace
+
+PixelRect defaultFramePlace(PixelSize screen) {
+    const int left = rounded((1 - G) * screen.width / 2);
+    const int top = rounded((1 - G) * screen.height / 2);
+    return {left, top, left + rounded(G * screen.width), top + rounded(G * screen.height)};
+}
+
+PixelRect worksheetInFrame(PixelSize client) {
+    return {margin, margin, client.width - margin, client.height - margin};
+}
+
+PixelSize leastFrameSize(int dpi) {
+    return {rounded(leastSize.width * dpi / 96.0), rounded(leastSize.height * dpi / 96.0)};
+}
+
+bool FrameSizeMemory::changedTo(PixelSize outer) {
+    return std::exchange(last_, outer) != outer;
+}
+
+}  // namespace ormala

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "base/Event.h"
+#include "platform/win/GdiCanvas.h"
+#include "platform/win/Window.h"
+#include "widgets/ctlFrame.h"
+#include "worksheet/frameRules.h"
+#include "worksheet/win/frmWorksheet.h"
+
+namespace ormala {
+
+/// Gives the worksheet a title bar and a border by which it can be moved and sized. Its inside is
+/// keyed out; the worksheet, which it owns as a window, lies in that hole and follows it. A
+/// maximised frame means a full-screen worksheet and no frame.
+class frmResizer : public Window {
+  public:
+    /// Stays hidden, at the place of a first start. Both must outlive the frame.
+    frmResizer(frmWorksheet& worksheet, WorksheetCommands& commands);
+    ~frmResizer() override;
+
+    /// Composes the caption of the program's title and the language's word for the worksheet.
+    void SetRuntimeTexts(std::string_view title);
+    /// Takes the place of an earlier run, in the coordinates of a window placement.
+    void restore(const RECT& place, bool maximised);
+
+    /// Lays the worksheet into the frame, or lets it fill the screen if the frame is maximised. A
+    /// worksheet that is hidden stays so.
+    void PositionWorksheet();
+
+    /// Does not activate it.
+    void show();
+    void hide();
+    /// The worksheet fills its screen, and the frame is hidden and keeps its size.
+    void maximise();
+    /// The way back from full screen.
+    void showNormal();
+    /// Lets the worksheet lay itself out and repaint after it was hidden.
+    void widenAndNarrow();
+
+    /// The worksheet has a new place: its left and top on the screen.
+    Event<PixelPoint> worksheetPlaced;
+
+  private:
+    std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    void layerAnew();
+    void keepBeneathWorksheet();
+    void follow();
+    void setWorksheetMaxSized(bool maxSized);
+    void layWorksheetInside(POINT shift = {0, 0});
+    void leaveMaximised();
+    void tellPlace() const;
+    LRESULT onHitTest(LPARAM lParam);
+    LRESULT onPaint();
+    LRESULT onSize(WPARAM wParam, LPARAM lParam);
+    LRESULT onGetMinMaxInfo(LPARAM lParam);
+    void onEnterSizeMove();
+    void onExitSizeMove();
+    void followUnseen();
+    LRESULT onTimer(WPARAM id);
+    LRESULT onDpiChanged(LPARAM lParam);
+
+    frmWorksheet& worksheet_;
+    WorksheetCommands& commands_;
+    GdiFonts fonts_;
+    ctlFrame FormFrame_;
+    FrameSizeMemory size_;
+    /// While the user drags the title bar and no message tells of it: where the drag began.
+    std::optional<POINT> unseenDrag_;
+    /// While it returns from the maximised state, which it does unseen.
+    bool leavingMaximised_ = false;
+};
+
+}  // namespace ormala
