@@ -62,6 +62,11 @@ void INIFile::scanSections() {
     }
 }
 
+void INIFile::setCurrentSection(std::string section) {
+    currentSection_ = std::move(section);
+    sectionBytes_ = codePage_.bytesFromUtf8(currentSection_);
+}
+
 void INIFile::Delete() {
     if (!FileExists(store_, Path())) {
         profile_.forget();
@@ -92,13 +97,20 @@ bool INIFile::isValid() const {
     return !currentSection_.empty() && !Path().empty();
 }
 
+/// Nothing if the file has no such key or the access isn't valid.
+std::optional<std::string> INIFile::storedBytes(std::string_view key) {
+    if (key.empty() || !isValid()) {
+        return std::nullopt;
+    }
+    return profile_.find(sectionBytes_, codePage_.bytesFromUtf8(key), valueBufferSize);
+}
+
 std::string INIFile::StringValue(std::string_view key, std::string_view defaultText) {
     if (key.empty() || !isValid()) {
         return std::string(defaultText);
     }
-    const std::string found =
-        profile_.value(codePage_.bytesFromUtf8(currentSection_), codePage_.bytesFromUtf8(key),
-                       codePage_.bytesFromUtf8(defaultText), valueBufferSize);
+    const std::string found = profile_.value(sectionBytes_, codePage_.bytesFromUtf8(key),
+                                             codePage_.bytesFromUtf8(defaultText), valueBufferSize);
     if (found.empty()) {
         lastError_ = messageAbout(failedToLoad, Path());
         return std::string(defaultText);
@@ -110,16 +122,21 @@ void INIFile::setStringValue(std::string_view key, std::string_view value) {
     if (!isValid()) {
         return;
     }
-    const bool written =
-        profile_.setValue(codePage_.bytesFromUtf8(currentSection_), codePage_.bytesFromUtf8(key),
-                          codePage_.bytesFromUtf8(value));
+    const bool written = profile_.setValue(sectionBytes_, codePage_.bytesFromUtf8(key),
+                                           codePage_.bytesFromUtf8(value));
     if (!written) {
         lastError_ = messageAbout(failedToSave, Path());
     }
 }
 
+/// The default's text is made only where it is needed.
+std::string INIFile::numberValue(std::string_view key, double defaultValue) {
+    std::string text = storedBytes(key).value_or(std::string());
+    return text.empty() ? StringValue(key, numberText(defaultValue)) : text;
+}
+
 double INIFile::DoubleValue(std::string_view key, double defaultValue) {
-    const auto value = numberFromText(StringValue(key, numberText(defaultValue)));
+    const auto value = numberFromText(numberValue(key, defaultValue));
     if (!value) {
         lastError_ = messageAbout(failedToLoad, Path());
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -28,7 +29,7 @@ class INIFile {
     void setPath(std::string path);
 
     const std::string& CurrentSection() const { return currentSection_; }
-    void setCurrentSection(std::string section) { currentSection_ = std::move(section); }
+    void setCurrentSection(std::string section);
 
     const std::string& LastError() const { return lastError_; }
     void setLastError(std::string text) { lastError_ = std::move(text); }
@@ -52,6 +53,9 @@ class INIFile {
     double DoubleValue(std::string_view key, double defaultValue);
     void setDoubleValue(std::string_view key, double value);
 
+    /// The text behind `DoubleValue`.
+    std::string numberValue(std::string_view key, double defaultValue);
+
     /// Fractions are rounded, halves away from zero; a value outside the range is a failure.
     std::int32_t LongValue(std::string_view key, std::int32_t defaultValue);
     void setLongValue(std::string_view key, std::int32_t value);
@@ -67,6 +71,7 @@ class INIFile {
 
   private:
     bool isValid() const;
+    std::optional<std::string> storedBytes(std::string_view key);
     void scanSections();
 
     FileStore& store_;
@@ -74,6 +79,8 @@ class INIFile {
     MessagePresenter& presenter_;
     ProfileFile profile_;
     std::string currentSection_;
+    /// The same in the code page.
+    std::string sectionBytes_;
     std::string lastError_;
     std::vector<std::string> sections_{std::string()};
 };

@@ -5,6 +5,14 @@
 
 namespace ormala {
 
+namespace {
+
+std::string cutToBuffer(std::string_view text, std::size_t size) {
+    return std::string(text.substr(0, std::max<std::size_t>(size, 1) - 1));
+}
+
+}  // namespace
+
 ProfileFile::Scope::Scope(ProfileFile& file, std::function<void()> failed)
     : file_(file), failed_(std::move(failed)) {
     ++file_.openScopes_;
@@ -69,12 +77,17 @@ RemoveResult ProfileFile::remove() {
     return result;
 }
 
-std::string ProfileFile::value(std::string_view section, std::string_view key,
-                               std::string_view defaultText, std::size_t size) {
+std::optional<std::string> ProfileFile::find(std::string_view section, std::string_view key,
+                                             std::size_t size) {
     std::optional<ProfileText> fresh;
     const ProfileText* const profile = text(fresh);
     const auto found = profile != nullptr ? profile->value(section, key) : std::nullopt;
-    return std::string(found.value_or(defaultText).substr(0, std::max<std::size_t>(size, 1) - 1));
+    return found ? std::optional(cutToBuffer(*found, size)) : std::nullopt;
+}
+
+std::string ProfileFile::value(std::string_view section, std::string_view key,
+                               std::string_view defaultText, std::size_t size) {
+    return find(section, key, size).value_or(cutToBuffer(defaultText, size));
 }
 
 bool ProfileFile::setValue(std::string_view section, std::string_view key, std::string_view value) {

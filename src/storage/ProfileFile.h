@@ -40,8 +40,11 @@ class ProfileFile {
     /// Returns false if an open scope had changes for the former path that could not be written.
     bool setPath(std::string path);
 
-    /// The value, or the default if it, its section or the file is missing, cut to `size` - 1
-    /// bytes.
+    /// The value, cut to `size` - 1 bytes; nothing if it, its section or the file is missing.
+    std::optional<std::string> find(std::string_view section, std::string_view key,
+                                    std::size_t size);
+
+    /// The same with a default for what is missing, cut too.
     std::string value(std::string_view section, std::string_view key, std::string_view defaultText,
                       std::size_t size);
 

@@ -29,32 +29,48 @@ class ProfileText {
     static bool canHold(std::string_view key);
 
     /// Replaces a value in place, or adds the key behind the last line of its section that isn't
-    /// empty, or the section at the end. Returns whether that changed the text.
+    /// empty, or the section at the end. Returns whether that changed the text, which a key that
+    /// can't be held doesn't.
     bool setValue(std::string_view section, std::string_view key, std::string_view value);
 
     /// In the order of the file, without nameless ones.
     std::vector<std::string_view> sectionNames() const;
 
   private:
-    /// Offsets of a section's own line and of what follows it; it ends where the next one begins.
+    /// A piece of the text.
+    struct Range {
+        std::size_t at = 0;
+        std::size_t size = 0;
+    };
+    /// It ends where the next one begins.
     struct Section {
+        /// Of its own line.
         std::size_t header = 0;
-        std::size_t body = 0;
+        Range name;
+        /// Behind its last line that holds more than blanks, its own line included.
+        std::size_t full = 0;
+        /// Index of its first key in `keys_`.
+        std::size_t firstKey = 0;
     };
     using Sections = std::vector<Section>;
 
-    std::string_view nameOf(const Section& section) const;
-    Sections::const_iterator findSection(std::string_view name) const;
-    std::size_t endOf(Sections::const_iterator section) const;
-    std::optional<std::string_view> rawValue(Sections::const_iterator section,
-                                             std::string_view key) const;
-    std::size_t endOfLastFullLine(Sections::const_iterator section) const;
-    void replaceRange(std::size_t from, std::size_t count, std::string_view with,
-                      Sections::const_iterator section);
-    void addSection(std::string_view section, std::string_view line);
+    void noteLine(std::string_view line, std::size_t next);
+    [[nodiscard]] std::string_view textOf(const Range& range) const;
+    [[nodiscard]] Range rangeOf(std::string_view piece) const;
+    [[nodiscard]] Sections::const_iterator findSection(std::string_view name) const;
+    [[nodiscard]] std::size_t endOfKeys(Sections::const_iterator section) const;
+    [[nodiscard]] std::optional<std::string_view> rawValue(Sections::const_iterator section,
+                                                           std::string_view key) const;
+    void replaceRange(const Range& range, std::string_view with);
+    void addKey(std::size_t section, std::string_view name, std::string_view line);
+    void addSection(std::string_view section, std::string_view name, std::string_view line);
 
     std::string bytes_;
     Sections sections_;
+    /// The section that was found last: keys are asked for one section after the other.
+    mutable std::size_t recent_ = 0;
+    /// The names of all keys, in the order of the file.
+    std::vector<Range> keys_;
 };
 
 }  // namespace ormala

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -9,7 +12,7 @@
 namespace ormala {
 
 /// Undo and redo of a tool whose state is a value that can be compared: the ring with its records,
-/// which are all made at once. Owned by the tool.
+/// whose memory is taken at once. Owned by the tool.
 template <class State>
 class StateHistory : private HistorySlots {
   public:
@@ -17,7 +20,8 @@ class StateHistory : private HistorySlots {
 
     /// `state` is the tool's, and `load` puts a record into its place.
     StateHistory(const State& state, std::function<void(const State&)> load)
-        : state_(state), load_(std::move(load)), records_(slots) {
+        : state_(state), load_(std::move(load)) {
+        records_.reserve(slots);
         helper_.Initialize(slots - 1);
     }
     StateHistory(const StateHistory&) = delete;
@@ -26,8 +30,16 @@ class StateHistory : private HistorySlots {
     [[nodiscard]] HistoryHelper& helper() { return helper_; }
 
   private:
+    /// Records are made as the ring reaches them, within the memory that is there.
     [[nodiscard]] State& record(std::int32_t slot) {
-        return records_.at(static_cast<std::size_t>(slot));
+        if (slot < 0 || slot >= slots) {
+            throw std::out_of_range("a history has no such slot");
+        }
+        const auto index = static_cast<std::size_t>(slot);
+        if (index >= records_.size()) {
+            records_.resize(index + 1);
+        }
+        return records_[index];
     }
     void StoreToHistory(std::int32_t slot) override { record(slot) = state_; }
     void LoadFromHistory(std::int32_t slot) override { load_(record(slot)); }

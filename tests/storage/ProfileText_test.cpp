@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <iterator>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -152,6 +154,44 @@ TEST(ProfileText, KeepsWhatItDoesNotUnderstand) {
     std::string expected = noise;
     expected[expected.find("K=1") + 2] = '2';
     EXPECT_EQ(text.bytes(), expected);
+}
+
+/// Keys and sections are kept in a list beside the text, which has to follow each change.
+TEST(ProfileText, ReadsAfterAnyChangesWhatAReaderOfItsBytesReads) {
+    const std::string pieces[] = {"[A]\r\n", "[b] \n", "\n",       "K=1\r\n", " L = 22 \n",
+                                  ";K=3\n",  "[A]\n",  "junk\r\n", "k=4",     "=5\n"};
+    const std::string names[] = {"A", "B", "C"};
+    const std::string keys[] = {"K", "L", "M", ""};
+    std::mt19937 random(1);
+    const auto pick = [&random](std::size_t below) { return random() % below; };
+    for (int round = 0; round < 300; ++round) {
+        std::string start;
+        for (std::size_t i = pick(12); i > 0; --i) {
+            start += pieces[pick(std::size(pieces))];
+        }
+        ProfileText text(start);
+        for (int change = 0; change < 10; ++change) {
+            const std::string& section = names[pick(3)];
+            const std::string& key = keys[pick(4)];
+            const std::string value(pick(12), 'v');
+            text.setValue(section, key, value);
+            const ProfileText fresh(text.bytes());
+            EXPECT_EQ(fresh.value(section, key), value) << text.bytes();
+            EXPECT_EQ(fresh.sectionNames(), text.sectionNames()) << text.bytes();
+            for (const std::string& name : names) {
+                for (const std::string& other : keys) {
+                    EXPECT_EQ(fresh.value(name, other), text.value(name, other)) << text.bytes();
+                }
+            }
+        }
+    }
+}
+
+TEST(ProfileText, LeavesAKeyThatItCantHoldOut) {
+    ProfileText text("[A]\r\n");
+    EXPECT_FALSE(text.setValue("A", "a=b", "1"));
+    EXPECT_FALSE(text.setValue("A", ";k", "1"));
+    EXPECT_EQ(text.bytes(), "[A]\r\n");
 }
 
 /// A quadratic walk over these would take hours; linear ones take far less than a second each.

@@ -71,6 +71,15 @@ TEST(KeptOnScreens, PullsAWindowBackWhoseScreenIsGone) {
     EXPECT_EQ(keptOnScreens({-900, -500, -600, -300}, oneScreen), (PlacementRect{0, 0, 300, 200}));
 }
 
+TEST(KeptOnScreens, LeavesAWindowAtNegativeCoordinatesOnTheScreenLeftOfTheMainOne) {
+    constexpr ScreenAreas leftScreen{workArea, {-1280, 0, 1920, 1080}};
+    EXPECT_EQ(keptOnScreens({-1250, 180, -63, 847}, leftScreen),
+              (PlacementRect{-1250, 180, -63, 847}));
+    EXPECT_EQ(keptOnScreens({-1400, 180, -213, 847}, leftScreen),
+              (PlacementRect{-1280, 180, -93, 847}));
+    EXPECT_EQ(keptOnScreens({-1250, 180, -63, 847}, oneScreen), (PlacementRect{0, 180, 1187, 847}));
+}
+
 class PlacementTest : public testing::Test {
   protected:
     void store(const PlacementRect& rect, std::int32_t state = 1) {

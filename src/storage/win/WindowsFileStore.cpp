@@ -2,29 +2,19 @@
 
 #include <windows.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <string_view>
-#include <type_traits>
 
 #include "base/Utf8.h"
+#include "storage/FileReplacement.h"
+#include "storage/win/FileHandle.h"
 #include "storage/win/LongPath.h"
+#include "storage/win/NeighbourFile.h"
 
 namespace ormala {
 
 namespace {
-
-struct CloseFile {
-    void operator()(HANDLE file) const { CloseHandle(file); }
-};
-using FileHandle = std::unique_ptr<std::remove_pointer_t<HANDLE>, CloseFile>;
-
-FileHandle openFile(const std::wstring& path, DWORD access, DWORD share, DWORD disposition) {
-    const HANDLE file = CreateFileW(path.c_str(), access, share, nullptr, disposition,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-    return FileHandle(file == INVALID_HANDLE_VALUE ? nullptr : file);
-}
 
 /// Devices answer with another type, and folders can't be opened this way.
 bool isFileOfReadableSize(HANDLE file) {
@@ -46,56 +36,6 @@ bool readAll(HANDLE file, std::string& bytes) {
         bytes.resize(before + count);
     } while (count > 0 && bytes.size() <= largestSettingsFile);
     return count == 0;
-}
-
-bool writeAll(HANDLE file, std::string_view bytes) {
-    constexpr std::size_t largestBlock = 1U << 24U;
-    while (!bytes.empty()) {
-        const auto size = static_cast<DWORD>(std::min(bytes.size(), largestBlock));
-        DWORD count = 0;
-        if (WriteFile(file, bytes.data(), size, &count, nullptr) == 0 || count == 0) {
-            return false;
-        }
-        bytes.remove_prefix(count);
-    }
-    return true;
-}
-
-/// Makes a file beside the target. Its name has the process in it, so that two copies of the
-/// program don't meet, and a number, in case an earlier process with the same number left a file
-/// behind.
-FileHandle makeNeighbour(const std::wstring& target, std::wstring& path) {
-    constexpr int attempts = 100;
-    const std::wstring begin =
-        folderOf(target) + L"~settings-" + std::to_wstring(GetCurrentProcessId()) + L"-";
-    for (int i = 0; i < attempts; ++i) {
-        path = begin + std::to_wstring(i) + L".tmp";
-        if (FileHandle file = openFile(path, GENERIC_WRITE, 0, CREATE_NEW)) {
-            return file;
-        }
-        if (GetLastError() != ERROR_FILE_EXISTS) {
-            break;
-        }
-    }
-    return nullptr;
-}
-
-/// Virus scanners and the like hold a fresh file for a moment, so one failure isn't the last word.
-bool renameOver(const std::wstring& from, const std::wstring& to) {
-    constexpr int attempts = 5;
-    constexpr DWORD pauseMilliseconds = 20;
-    for (int i = 0; i < attempts; ++i) {
-        if (MoveFileExW(from.c_str(), to.c_str(),
-                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0) {
-            return true;
-        }
-        const DWORD error = GetLastError();
-        if (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED) {
-            return false;
-        }
-        Sleep(pauseMilliseconds);
-    }
-    return false;
 }
 
 /// Whether the target is missing or a file that may be written.
@@ -144,18 +84,8 @@ bool WindowsFileStore::replace(const std::string& path, std::string_view bytes) 
     if (target.empty() || !isReplaceable(target)) {
         return false;
     }
-    std::wstring neighbour;
-    FileHandle file = makeNeighbour(target, neighbour);
-    if (!file) {
-        return false;
-    }
-    const bool written = writeAll(file.get(), bytes) && FlushFileBuffers(file.get()) != 0;
-    file.reset();
-    const bool replaced = written && renameOver(neighbour, target);
-    if (!replaced) {
-        DeleteFileW(neighbour.c_str());
-    }
-    return replaced;
+    NeighbourFile neighbour(target);
+    return replaceFile(neighbour, bytes);
 }
 
 int WindowsFileStore::errorOfPath(const std::string& path) {

@@ -8,7 +8,8 @@ namespace ormala {
 
 /// The files of the disk. A file is replaced by writing a new one in the same folder, flushing it
 /// to the disk and renaming it over the old one; where any of that fails, the old file stays and
-/// the new one is removed. Only files are read, no devices or pipes, which could block for ever.
+/// the new one is removed, by the next replacement in that folder if the process ended. Only files
+/// are read, no devices or pipes, which could block for ever.
 class WindowsFileStore : public FileStore {
   public:
     ReadResult read(const std::string& path) override;

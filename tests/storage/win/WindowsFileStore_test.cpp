@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "storage/FileReplacement.h"
 #include "storage/modStorage.h"
 #include "storage/win/LongPath.h"
 #include "storage/win/TemporaryFolder.h"
@@ -19,6 +20,11 @@ class WindowsFileStoreTest : public testing::Test {
     std::string contents(const std::string& path) {
         const ReadResult result = store_.read(path);
         return result.status == Status::ok ? result.bytes : "(unreadable)";
+    }
+
+    static void makeFile(const std::string& path) {
+        CloseHandle(
+            CreateFileW(longPath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
     }
 
     TemporaryFolder folder_;
@@ -113,17 +119,33 @@ TEST_F(WindowsFileStoreTest, TellsWhetherAFileCouldBeRemovedAndLeavesIt) {
     EXPECT_EQ(contents(path_), "kept");
 }
 
-TEST_F(WindowsFileStoreTest, PassesOverTheFilesThatACrashLeftBehind) {
-    const std::string left =
-        folder_.path("~settings-" + std::to_string(GetCurrentProcessId()) + "-0.tmp");
-    store_.replace(path_, "old");
-    HANDLE file =
-        CreateFileW(longPath(left).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
-    CloseHandle(file);
+TEST_F(WindowsFileStoreTest, RemovesTheFilesThatACrashLeftBehind) {
+    const unsigned long own = GetCurrentProcessId();
+    for (const std::string& name : {neighbourName(own, 0), neighbourName(own + 1, 7)}) {
+        makeFile(folder_.path(name));
+    }
     EXPECT_TRUE(store_.replace(path_, "new"));
     EXPECT_EQ(contents(path_), "new");
-    EXPECT_EQ(contents(left), "");
-    EXPECT_EQ(folder_.entries(), 2);
+    EXPECT_EQ(folder_.entries(), 1);
+}
+
+TEST_F(WindowsFileStoreTest, PassesOverTheFileThatAnotherCopyOfTheProgramWrites) {
+    const std::string held = folder_.path(neighbourName(GetCurrentProcessId(), 0));
+    const HANDLE file =
+        CreateFileW(longPath(held).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
+    EXPECT_TRUE(store_.replace(path_, "new"));
+    CloseHandle(file);
+    EXPECT_EQ(contents(path_), "new");
+    EXPECT_EQ(contents(held), "");
+}
+
+TEST_F(WindowsFileStoreTest, LeavesOtherTemporaryFilesAlone) {
+    const std::string names[] = {"~settings-1-.tmp", "~settings-mine-1.tmp", "~1-1.tmp"};
+    for (const std::string& name : names) {
+        makeFile(folder_.path(name));
+    }
+    EXPECT_TRUE(store_.replace(path_, "new"));
+    EXPECT_EQ(folder_.entries(), 4);
 }
 
 TEST_F(WindowsFileStoreTest, TakesAnyCharactersInAPath) {

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace ormala {
+
+/// The single steps of replacing a file, on whatever it lies. Each may fail, and the process may
+/// end before, after and within each.
+class ReplacementSteps {
+  public:
+    virtual ~ReplacementSteps() = default;
+
+    /// Removes what replacements that were cut short have left in the file's folder.
+    virtual void removeLeftovers() = 0;
+    /// Makes an empty new file beside the old one.
+    virtual bool makeNeighbour() = 0;
+    /// May fail with a part of the bytes written.
+    virtual bool write(std::string_view bytes) = 0;
+    /// Brings what is written to the disk itself.
+    virtual bool flush() = 0;
+    /// Gives the new file the place and the name of the old one in a single step.
+    virtual bool renameOver() = 0;
+    virtual void removeNeighbour() = 0;
+};
+
+/// Writes a file anew, so that it holds the old bytes or the new ones whatever happens. False if
+/// the old ones stay; the new file is removed then.
+bool replaceFile(ReplacementSteps& steps, std::string_view bytes);
+
+/// The name of the new file while it is written: `process` keeps two copies of the program apart,
+/// `number` one that is there already.
+std::string neighbourName(unsigned long process, int number);
+
+/// Whether a file's name is one that `neighbourName` gives.
+bool isNeighbourName(std::string_view name);
+
+}  // namespace ormala
