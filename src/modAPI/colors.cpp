@@ -54,6 +54,12 @@ Color GradientColor(int step, int steps, Color colorA, Color colorB, double redu
     return BlendColor(step, steps, colorA, colorB, reduce, systemColor);
 }
 
+Color OffsetColor(Color color, int delta, SystemColorLookup systemColor) {
+    const ColorParts parts = ColorComponents(color, systemColor);
+    const auto moved = [delta](int part) { return std::clamp(part + delta, 0, 255); };
+    return rgb(moved(parts.red), moved(parts.green), moved(parts.blue));
+}
+
 Color ToolColors::NextDefaultToolColor(int kind, bool reset) {
     int& counter = counters_.at(static_cast<std::size_t>(kind));
     if (reset) {

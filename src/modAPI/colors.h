@@ -39,6 +39,9 @@ Color BlendColor(int step, int steps, Color colorA, Color colorB, double percent
 Color GradientColor(int step, int steps, Color colorA, Color colorB, double reduce,
                     SystemColorLookup systemColor);
 
+/// `delta` added to each component, which stays within 0 to 255.
+Color OffsetColor(Color color, int delta, SystemColorLookup systemColor);
+
 /// Hands out the default colours for new tools, each kind from a counter of its own.
 class ToolColors {
   public:

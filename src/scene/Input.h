@@ -20,6 +20,8 @@ constexpr int middle = 4;
 /// Key codes, the same numbers as the system's virtual keys.
 namespace key {
 constexpr int tab = 9;
+constexpr int enter = 13;
+constexpr int space = 32;
 constexpr int pageUp = 33;
 constexpr int pageDown = 34;
 constexpr int end = 35;

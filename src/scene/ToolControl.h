@@ -37,6 +37,22 @@ class ToolControl {
     virtual void setEditMode(bool editMode) = 0;
     /// Another tool has the focus.
     virtual void LoseFocus() = 0;
+    /// Between these two, which may be nested, changes are neither laid out nor repainted; the
+    /// outer end does both for all of them. See `ToolChanges`.
+    virtual void beginChanges() = 0;
+    virtual void endChanges() = 0;
+};
+
+/// For several changes of a tool at once, from its making to its end. The tool must outlive it.
+class ToolChanges {
+  public:
+    explicit ToolChanges(ToolControl& tool) : tool_(tool) { tool_.beginChanges(); }
+    ~ToolChanges() { tool_.endChanges(); }
+    ToolChanges(const ToolChanges&) = delete;
+    ToolChanges& operator=(const ToolChanges&) = delete;
+
+  private:
+    ToolControl& tool_;
 };
 
 /// A tool as an item on the worksheet: it covers the whole client area, draws its shape inside and

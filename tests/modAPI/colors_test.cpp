@@ -93,6 +93,12 @@ TEST(NextDefaultToolColor, MeasuresBeginAtTheFifthAndRunThroughTen) {
     EXPECT_EQ(colors.NextDefaultToolColor(1, false), first);
 }
 
+TEST(OffsetColor, AddsToEachComponentAndStaysInRange) {
+    EXPECT_EQ(OffsetColor(rgb(10, 100, 250), 20, noSystemColor), rgb(30, 120, 255));
+    EXPECT_EQ(OffsetColor(rgb(10, 100, 250), -20, noSystemColor), rgb(0, 80, 230));
+    EXPECT_EQ(OffsetColor(static_cast<Color>(0x80000010U), 1, sampleSystemColor), rgb(17, 3, 4));
+}
+
 TEST(NextDefaultToolColor, GreysAreNeverHandedOut) {
     ToolColors colors;
     for (int i = 0; i < 40; ++i) {

@@ -13,6 +13,8 @@ class QuietTool : public ToolControl {
     [[nodiscard]] bool EditMode() const override { return true; }
     void setEditMode(bool) override {}
     void LoseFocus() override {}
+    void beginChanges() override {}
+    void endChanges() override {}
 };
 
 TEST(MouseSource, FreeMouseIsHeldAwayFromNobody) {

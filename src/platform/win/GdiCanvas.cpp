@@ -13,18 +13,6 @@ namespace {
 
 constexpr UINT textFormat = DT_NOPREFIX | DT_NOCLIP;
 
-UINT alignmentFormat(Alignment alignment) {
-    switch (alignment) {
-        case Alignment::right:
-            return DT_RIGHT;
-        case Alignment::center:
-            return DT_CENTER;
-        case Alignment::left:
-            break;
-    }
-    return DT_LEFT;
-}
-
 int penStyle(const Pen& pen) {
     if (pen.lineCode == 0) {
         return PS_DOT;
@@ -43,6 +31,22 @@ COLORREF colorRef(Color color) {
         return GetSysColor(color & 0xFF);
     }
     return static_cast<COLORREF>(color);
+}
+
+UINT alignmentFormat(Alignment alignment) {
+    switch (alignment) {
+        case Alignment::right:
+            return DT_RIGHT;
+        case Alignment::center:
+            return DT_CENTER;
+        case Alignment::left:
+            break;
+    }
+    return DT_LEFT;
+}
+
+Color systemColor(int index) {
+    return static_cast<Color>(GetSysColor(index));
 }
 
 GdiFonts::GdiFonts(int dpi) : dpi_(dpi), context_(CreateCompatibleDC(nullptr)) {}

@@ -52,4 +52,10 @@ class GdiCanvas : public Canvas {
 /// A plain colour; a system colour (negative) is looked up.
 COLORREF colorRef(Color color);
 
+/// The DT_ flag of an alignment.
+UINT alignmentFormat(Alignment alignment);
+
+/// The plain colour of a system colour index.
+Color systemColor(int index);
+
 }  // namespace ormala

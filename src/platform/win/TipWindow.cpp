@@ -60,4 +60,27 @@ void TipWindow::relay(UINT message, WPARAM wParam, LPARAM lParam) {
     SendMessageW(handle(), TTM_RELAYEVENT, 0, pointerParam(&relayed));
 }
 
+void HoverTip::setText(const std::string& text) {
+    text_ = text;
+    if (window_) {
+        window_->setText(text);
+    }
+}
+
+void HoverTip::relay(HWND owner, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_SIZE && window_) {
+        window_->setText(text_);
+    }
+    if (message < WM_MOUSEFIRST || message > WM_MOUSELAST) {
+        return;
+    }
+    if (!window_ && !text_.empty()) {
+        window_.emplace(owner);
+        window_->setText(text_);
+    }
+    if (window_) {
+        window_->relay(message, wParam, lParam);
+    }
+}
+
 }  // namespace ormala

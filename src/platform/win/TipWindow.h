@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
 #include "platform/win/handles.h"
@@ -23,6 +24,21 @@ class TipWindow {
     HWND owner_;
     Handle<HWND, &DestroyWindow> window_;
     std::wstring text_;
+};
+
+/// The tip of a control. Its window is made when the mouse first comes, so that a control at rest
+/// has none.
+class HoverTip {
+  public:
+    /// An empty text shows nothing.
+    void setText(const std::string& text);
+    [[nodiscard]] const std::string& text() const { return text_; }
+    /// Given all messages of `owner`, which must outlive it.
+    void relay(HWND owner, UINT message, WPARAM wParam, LPARAM lParam);
+
+  private:
+    std::string text_;
+    std::optional<TipWindow> window_;
 };
 
 }  // namespace ormala

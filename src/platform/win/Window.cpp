@@ -110,6 +110,15 @@ void Window::setCaption(std::string_view text) {
     SetWindowTextW(handle_, wide(text).c_str());
 }
 
+void Window::place(const PixelRect& box) const {
+    SetWindowPos(handle_, nullptr, box.left, box.top, box.width(), box.height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Window::setVisible(bool visible) const {
+    ShowWindow(handle_, visible ? SW_SHOWNA : SW_HIDE);
+}
+
 int heldModifiers() {
     const auto bit = [](int virtualKey, int value) {
         return GetKeyState(virtualKey) < 0 ? value : 0;
@@ -124,7 +133,8 @@ int heldModifiersOfMouse(WPARAM wParam) {
     };
     return bit((wParam & MK_SHIFT) != 0, VK_SHIFT, modifier::shift) |
            bit((wParam & MK_CONTROL) != 0, VK_CONTROL, modifier::ctrl) |
-           bit(false, VK_MENU, modifier::alt);
+           // Messages of the mouse don't tell it; the key state is that of their time.
+           bit(GetKeyState(VK_MENU) < 0, VK_MENU, modifier::alt);
 }
 
 int heldButtons(WPARAM wParam) {

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "scene/PixelRect.h"
+
 namespace ormala {
 
 /// How a window comes into the world.
@@ -36,6 +38,10 @@ class Window {
     [[nodiscard]] RECT rectangle() const;
     [[nodiscard]] RECT clientRectangle() const;
     void setCaption(std::string_view text);
+    /// Moves and sizes a child, in the client pixels of its parent.
+    void place(const PixelRect& box) const;
+    /// Without activating it.
+    void setVisible(bool visible) const;
 
   protected:
     /// Registers the class if need be and makes the window. Throws std::system_error if the system

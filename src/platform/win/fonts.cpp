@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
+#include <tuple>
 
 namespace ormala {
 
@@ -23,6 +25,17 @@ FontHandle tahoma(int dpi, int points, int weight, BYTE quality) {
 
 FontHandle controlFont(int dpi, FontLook look, int points) {
     return tahoma(dpi, points, look == FontLook::bold ? FW_BOLD : FW_NORMAL, CLEARTYPE_QUALITY);
+}
+
+SharedFont sharedControlFont(int dpi, FontLook look, int points) {
+    static std::map<std::tuple<int, FontLook, int>, std::weak_ptr<const FontHandle>> fonts;
+    std::weak_ptr<const FontHandle>& known = fonts[{dpi, look, points}];
+    SharedFont font = known.lock();
+    if (!font) {
+        font = std::make_shared<const FontHandle>(controlFont(dpi, look, points));
+        known = font;
+    }
+    return font;
 }
 
 FontHandle worksheetFont(int dpi, int points) {

@@ -25,6 +25,8 @@ class Handle {
         }
         handle_ = handle;
     }
+    /// Gives the handle away.
+    H release() { return std::exchange(handle_, H{}); }
     [[nodiscard]] H get() const { return handle_; }
     explicit operator bool() const { return handle_ != H{}; }
 

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "scene/PixelRect.h"
+
+namespace ormala {
+
+/// A picture in memory: `argb` holds it row by row from the top, each pixel 0xAARRGGBB and not
+/// premultiplied.
+struct PixelImage {
+    PixelSize size;
+    std::vector<std::uint32_t> argb;
+};
+
+}  // namespace ormala

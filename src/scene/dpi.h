@@ -1,0 +1,20 @@
+#pragma once
+
+#include <algorithm>
+
+namespace ormala {
+
+/// The resolution that lengths are designed at.
+constexpr int designDpi = 96;
+
+/// A length of the design, not negative, in the pixels of a screen of that resolution.
+constexpr int scaledLength(int length, int dpi) {
+    return (length * dpi + designDpi / 2) / designDpi;
+}
+
+/// The width of an outline and of the other fine lines, at least one pixel.
+constexpr int lineWidthAt(int dpi) {
+    return std::max(1, dpi / designDpi);
+}
+
+}  // namespace ormala

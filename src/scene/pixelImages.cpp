@@ -1,0 +1,90 @@
+#include "scene/pixelImages.h"
+
+#include <cmath>
+#include <cstddef>
+
+namespace ormala {
+
+namespace {
+
+constexpr std::uint32_t full = 255;
+
+std::uint32_t channel(std::uint32_t pixel, unsigned shift) {
+    return (pixel >> shift) & full;
+}
+
+std::size_t indexOf(const PixelImage& image, int x, int y) {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(image.size.width) +
+           static_cast<std::size_t>(x);
+}
+
+std::uint32_t blended(std::uint32_t ground, std::uint32_t pixel) {
+    const std::uint32_t alpha = channel(pixel, 24);
+    std::uint32_t result = full << 24U;
+    for (const unsigned shift : {0U, 8U, 16U}) {
+        const std::uint32_t sum =
+            channel(pixel, shift) * alpha + channel(ground, shift) * (full - alpha);
+        result |= ((sum + full / 2) / full) << shift;
+    }
+    return result;
+}
+
+}  // namespace
+
+std::uint32_t opaquePixel(Color color) {
+    const ColorParts parts = ColorComponents(color, nullptr);
+    return static_cast<std::uint32_t>(rgb(parts.blue, parts.green, parts.red)) | full << 24U;
+}
+
+PixelImage filledImage(PixelSize size, std::uint32_t pixel) {
+    const std::size_t count =
+        static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height);
+    return {size, std::vector<std::uint32_t>(count, pixel)};
+}
+
+std::uint32_t pixelAt(const PixelImage& image, PixelPoint place) {
+    return image.argb[indexOf(image, place.x, place.y)];
+}
+
+void fillBox(PixelImage& image, const PixelRect& box, std::uint32_t pixel) {
+    const PixelRect area = box.intersected({0, 0, image.size.width, image.size.height});
+    for (int y = area.top; y < area.bottom; ++y) {
+        for (int x = area.left; x < area.right; ++x) {
+            image.argb[indexOf(image, x, y)] = pixel;
+        }
+    }
+}
+
+void blendOnto(PixelImage& ground, const PixelImage& picture, PixelPoint place) {
+    const PixelRect box{place.x, place.y, place.x + picture.size.width,
+                        place.y + picture.size.height};
+    const PixelRect area = box.intersected({0, 0, ground.size.width, ground.size.height});
+    for (int y = area.top; y < area.bottom; ++y) {
+        for (int x = area.left; x < area.right; ++x) {
+            std::uint32_t& pixel = ground.argb[indexOf(ground, x, y)];
+            pixel = blended(pixel, picture.argb[indexOf(picture, x - place.x, y - place.y)]);
+        }
+    }
+}
+
+PixelImage greyed(PixelImage image) {
+    for (std::uint32_t& pixel : image.argb) {
+        const Color color =
+            rgb(static_cast<int>(channel(pixel, 16)), static_cast<int>(channel(pixel, 8)),
+                static_cast<int>(channel(pixel, 0)));
+        const auto grey = static_cast<std::uint32_t>(std::lround(Luminance(color) * full));
+        pixel = (pixel & full << 24U) | grey << 16U | grey << 8U | grey;
+    }
+    return image;
+}
+
+PixelImage faded(PixelImage image, int opacity) {
+    for (std::uint32_t& pixel : image.argb) {
+        const std::uint32_t alpha =
+            (channel(pixel, 24) * static_cast<std::uint32_t>(opacity) + full / 2) / full;
+        pixel = (pixel & ~(full << 24U)) | alpha << 24U;
+    }
+    return image;
+}
+
+}  // namespace ormala

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "modAPI/colors.h"
+#include "scene/PixelImage.h"
+
+namespace ormala {
+
+/// The plain colour as an opaque pixel.
+std::uint32_t opaquePixel(Color color);
+
+/// An image of one pixel value.
+PixelImage filledImage(PixelSize size, std::uint32_t pixel);
+
+/// A pixel inside the image.
+std::uint32_t pixelAt(const PixelImage& image, PixelPoint place);
+
+/// Sets the pixels of `box` that lie in the image.
+void fillBox(PixelImage& image, const PixelRect& box, std::uint32_t pixel);
+
+/// Lays `picture` with its upper left corner at `place` over the opaque `ground`.
+void blendOnto(PixelImage& ground, const PixelImage& picture, PixelPoint place);
+
+/// In grey of the same brightness.
+PixelImage greyed(PixelImage image);
+
+/// With that part of its opacity, from 0 to 255.
+PixelImage faded(PixelImage image, int opacity);
+
+}  // namespace ormala
