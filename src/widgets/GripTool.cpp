@@ -83,7 +83,15 @@ void GripTool::resize(PixelSize size) {
     refresh();
 }
 
+void GripTool::endChanges() {
+    --openChanges_;
+    layOut();
+}
+
 void GripTool::refresh() {
+    if (changing()) {
+        return;
+    }
     DirtyRegion changed = footprint_;
     measureFootprint();
     changed.add(footprint_);
@@ -128,6 +136,9 @@ void GripTool::LoseFocus() {
 
 void GripTool::SetGripColors() {
     grips_.setBorderColors(hasFocus_, selected_);
+    if (changing()) {
+        return;
+    }
     DirtyRegion changed;
     grips_.addTo(changed);
     host_.repaint(*this, changed);

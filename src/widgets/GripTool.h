@@ -22,6 +22,8 @@ class GripTool : public ToolControl, public OverlayItem {
     [[nodiscard]] bool EditMode() const override { return editMode_; }
     void setEditMode(bool editMode) override;
     void LoseFocus() override;
+    void beginChanges() override { ++openChanges_; }
+    void endChanges() override;
 
     [[nodiscard]] ToolControl& control() override { return *this; }
     [[nodiscard]] bool HitTest(double x, double y) const override;
@@ -40,7 +42,8 @@ class GripTool : public ToolControl, public OverlayItem {
     /// `host` must outlive the tool.
     GripTool(ToolHost& host, GripSet grips);
 
-    /// Brings every visual item in line with the state and repaints.
+    /// Brings every visual item in line with the state and repaints, unless several changes are
+    /// under way.
     virtual void layOut() = 0;
     /// The mouse has taken hold of the active grip.
     virtual void beginDrag(const MouseInput& input) = 0;
@@ -52,8 +55,10 @@ class GripTool : public ToolControl, public OverlayItem {
     /// The pixels that `draw` covers beside the grips, cut to `area`.
     virtual void addItemsTo(DirtyRegion& region, const PixelRect& area) const = 0;
 
-    /// Repaints what the tool covered and what it covers now.
+    /// Repaints what the tool covered and what it covers now, unless several changes are under
+    /// way.
     void refresh();
+    [[nodiscard]] bool changing() const { return openChanges_ > 0; }
     void SetGripColors();
 
     [[nodiscard]] ToolHost& host() { return host_; }
@@ -71,6 +76,7 @@ class GripTool : public ToolControl, public OverlayItem {
     bool selected_ = false;
     bool editMode_ = true;
     bool hasFocus_ = false;
+    int openChanges_ = 0;
     PixelSize sheet_;
     TipId tip_ = 0;
     DirtyRegion footprint_;

@@ -21,7 +21,17 @@ PanelCore::PanelCore(OverlayItem& item, ToolEvents& events, HistoryHelper& histo
       keyDown_(events.keyDownFiltered.subscribe(
           [this](int key, int shift) { keyDownFiltered(key, shift); })) {}
 
+void PanelCore::setHidden(bool hidden) {
+    if (hidden) {
+        letGo();
+    }
+    hidden_ = hidden;
+}
+
 void PanelCore::setPause(bool pause) {
+    if (pause) {
+        letGo();
+    }
     pause_ = pause;
     view().showButton("cmdPause", pauseLook());
     ports_.visibility.setVisible(item_, !pause);
@@ -70,6 +80,7 @@ void PanelCore::AddHistoryStep() {
 }
 
 void PanelCore::Undo() {
+    letGo();
     history_.Undo();
     SetUndoButtons();
     stateReplaced();
@@ -77,6 +88,7 @@ void PanelCore::Undo() {
 }
 
 void PanelCore::Redo() {
+    letGo();
     history_.Redo();
     SetUndoButtons();
     stateReplaced();
@@ -94,7 +106,7 @@ void PanelCore::keyDownFiltered(int key, int shift) {
         return;
     }
     if (key == key::remove) {
-        view().removeRequested();
+        remove();
     } else {
         otherKeyDown(key);
     }

@@ -29,11 +29,14 @@ class PanelCore : public ToolPanel {
     [[nodiscard]] bool Selected() const override { return item_.control().Selected(); }
     void setSelected(bool selected) override { item_.control().setSelected(selected); }
     [[nodiscard]] bool Hidden() const override { return hidden_; }
-    void setHidden(bool hidden) override { hidden_ = hidden; }
+    void setHidden(bool hidden) override;
     [[nodiscard]] OverlayItem& RefControlControl() override { return item_; }
 
     [[nodiscard]] bool Pause() const { return pause_; }
     void setPause(bool pause) override;
+    void togglePause() { setPause(!pause_); }
+    /// The user wants the tool gone; the panel may be destroyed in this call.
+    void remove() { view().removeRequested(); }
 
     /// Shows the tool as it is, unless that has just been done: then once more when the timer
     /// ticks. The timer's tick calls it with `force`.
@@ -64,8 +67,11 @@ class PanelCore : public ToolPanel {
     /// An earlier or later state of the tool has come back.
     virtual void stateReplaced() = 0;
     virtual void placeByDefault() = 0;
-    /// A key that the tool left, with modifiers, to this kind of panel.
+    /// A key that the tool left, without modifiers, to this kind of panel.
     virtual void otherKeyDown(int key) = 0;
+    /// What the mouse has begun on the panel and would go on by itself ends here: called before
+    /// undo and redo, and when the panel is disabled or removed.
+    virtual void letGo() {}
 
     [[nodiscard]] PanelView& view() { return ports_.view; }
 

@@ -1,6 +1,7 @@
 #include "widgets/ScrollModel.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "modAPI/rounding.h"
 #include "scene/Input.h"
@@ -46,12 +47,15 @@ void ScrollModel::setMin(int min) {
 void ScrollModel::resize(PixelSize size, int dpi) {
     size_ = size;
     dpi_ = dpi;
-    place();
+    layout_ = layoutScroll(size_, dpi_, range_);
+    LayoutChange.raise();
 }
 
 void ScrollModel::place() {
-    layout_ = layoutScroll(size_, dpi_, range_);
-    LayoutChange.raise();
+    const ScrollLayout former = std::exchange(layout_, layoutScroll(size_, dpi_, range_));
+    if (layout_ != former) {
+        LayoutChange.raise();
+    }
 }
 
 void ScrollModel::store(std::int64_t value) {

@@ -8,6 +8,8 @@ namespace ormala {
 namespace {
 
 constexpr int haloSize = 4;
+/// Letters may be drawn a little beyond the width that they are measured with.
+constexpr int overhang = 4;
 
 /// Where the stacked texts stand within the label: the text itself and its eight halo copies.
 constexpr PixelPoint textOffset{2, 1};
@@ -63,7 +65,7 @@ void ctlLabel::moveTo(int left, int top) {
 }
 
 void ctlLabel::draw(Canvas& canvas) const {
-    if (!visible_ || caption_.empty() || !box_.meets(canvas.visible())) {
+    if (!visible_ || caption_.empty() || !box_.grown(overhang).meets(canvas.visible())) {
         return;
     }
     const auto put = [&](PixelPoint offset, Color color) {
@@ -80,7 +82,7 @@ void ctlLabel::draw(Canvas& canvas) const {
 
 void ctlLabel::addTo(DirtyRegion& region) const {
     if (visible_) {
-        region.add(box_);
+        region.add(box_.grown(overhang));
     }
 }
 

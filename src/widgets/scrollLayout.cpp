@@ -5,12 +5,12 @@
 #include <cstdint>
 
 #include "modAPI/rounding.h"
+#include "scene/dpi.h"
 
 namespace ormala {
 
 namespace {
 
-constexpr int plainDpi = 96;
 /// The shortest thumb that is still easy to hit, in pixels at 96 DPI.
 constexpr int shortestThumb = 16;
 
@@ -45,10 +45,6 @@ int thumbOffset(int free, const ScrollRange& range) {
 
 }  // namespace
 
-int scrollLineWidth(int dpi) {
-    return std::max(1, dpi / plainDpi);
-}
-
 int ScrollLayout::free() const {
     return horizontal ? shapeMiddle.width() - cmdMove.width()
                       : shapeMiddle.height() - cmdMove.height();
@@ -73,13 +69,13 @@ ScrollLayout layoutScroll(PixelSize size, int dpi, const ScrollRange& range) {
     const int length = std::max(0, std::max(size.width, size.height));
     const int breadth = std::max(0, std::min(size.width, size.height));
     const int arrow = std::min(breadth, length / 2);
-    const int shared = std::min(scrollLineWidth(dpi), arrow);
+    const int shared = std::min(lineWidthAt(dpi), arrow);
     const int start = arrow - shared;
     const int end = length - arrow + shared;
     layout.cmdTL = piece(layout.horizontal, 0, arrow, breadth);
     layout.cmdBR = piece(layout.horizontal, length - arrow, length, breadth);
     layout.shapeMiddle = piece(layout.horizontal, start, end, breadth);
-    const int shortest = std::max(1, shortestThumb * dpi / plainDpi);
+    const int shortest = std::max(1, shortestThumb * dpi / designDpi);
     const int track = end - start;
     if (breadth > 0 && track >= shortest) {
         const int thumb = thumbLength(track, shortest, range);

@@ -36,10 +36,9 @@ struct ScrollLayout {
     [[nodiscard]] int trackStart() const { return horizontal ? shapeMiddle.left : shapeMiddle.top; }
     /// How far the thumb can go.
     [[nodiscard]] int free() const;
-};
 
-/// The width of an outline and of the other fine lines at that resolution, at least one pixel.
-int scrollLineWidth(int dpi);
+    bool operator==(const ScrollLayout&) const = default;
+};
 
 /// Any size will do; a bar without room has empty parts.
 ScrollLayout layoutScroll(PixelSize size, int dpi, const ScrollRange& range);

@@ -14,7 +14,7 @@ constexpr int fileFlag(bool value) {
 }  // namespace
 
 double finiteValue(INIFile& file, std::string_view key, double defaultValue) {
-    return numberFromText(file.StringValue(key, numberText(defaultValue))).value_or(0);
+    return numberFromText(file.numberValue(key, defaultValue)).value_or(0);
 }
 
 bool flagValue(INIFile& file, std::string_view key, bool defaultValue) {

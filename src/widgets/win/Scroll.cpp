@@ -5,6 +5,7 @@
 #include "language/MlStringModule.h"
 #include "platform/win/controlName.h"
 #include "platform/win/regions.h"
+#include "scene/dpi.h"
 #include "widgets/win/scrollFace.h"
 
 namespace ormala {
@@ -109,7 +110,7 @@ LRESULT Scroll::paint(HWND window) {
         look.hover = held && hover_ != pressed ? ScrollPart::none : hover_;
         look.pressed = sunk ? pressed : ScrollPart::none;
         look.focus = focusedPart();
-        look.lineWidth = scrollLineWidth(dpi_);
+        look.lineWidth = lineWidthAt(dpi_);
         drawn_ = buffer_.resize(size);
         paintScroll(buffer_.context(), size, model_.layout(), look);
     }

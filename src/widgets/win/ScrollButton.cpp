@@ -7,6 +7,8 @@ namespace ormala {
 void ScrollButton::open(HWND bar, int id, std::string_view name) {
     WindowDesign design;
     design.className = L"ZelvikButtonXP";
+    // The class of all buttons: whichever is made first registers it.
+    design.classStyle = CS_DBLCLKS;
     design.style = WS_CHILD | WS_TABSTOP;
     design.owner = bar;
     design.id = id;

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+
+#include "widgets/systemColors.h"
+
+namespace ormala {
+
+/// How a button is to look, as its owner has set it. Colours may be system colours; lengths are
+/// pixels at 96 DPI.
+struct ButtonDesign {
+    /// UTF-8; a letter after "&" is the access key.
+    std::string Caption;
+    /// Of the picture: 0 above the text, 1 left of it, 2 right of it, 3 below it.
+    int PicturePosition = 1;
+    /// 1 is flat, 2 a shaded face with round corners; any other paints no face.
+    int ButtonStyle = 2;
+    int PictureWidth = 32;
+    int PictureHeight = 32;
+    /// Only style 1 has a focus rectangle; style 2 marks the focus on its face.
+    bool ShowFocusRect = true;
+    /// The marks of focus and hover, for a button without `XPDefaultColors`.
+    Color XPColor_Pressed = 0x808080;
+    Color XPColor_Hover = 0xC0C0C0;
+    bool XPDefaultColors = true;
+    Color BackColor = systemButtonFace;
+    Color ForeColor = systemButtonText;
+    /// Shows the picture in grey while the mouse is not over the button.
+    bool GreyPicture = false;
+    /// A face without gradient.
+    bool PlaneFace = false;
+    bool UseCornerStyle = true;
+    /// 0 all corners round, 1 the left ones, 2 the right ones, 3 none: two neighbours form one bar.
+    int CornerStyle = 0;
+};
+
+}  // namespace ormala

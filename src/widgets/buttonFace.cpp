@@ -1,0 +1,163 @@
+#include "widgets/buttonFace.h"
+
+#include <optional>
+
+#include "scene/dpi.h"
+#include "scene/pixelImages.h"
+#include "widgets/buttonShape.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr int flatStyle = 1;
+constexpr int shadedStyle = 2;
+
+constexpr Color outlineColor = rgb(64, 64, 64);
+constexpr Color hoverMark = rgb(225, 153, 71);
+constexpr Color focusMark = rgb(140, 170, 230);
+
+/// What is added to the back colour at the two ends of the face.
+constexpr int raisedTop = 48;
+constexpr int raisedBottom = -24;
+constexpr int pressedTop = -22;
+constexpr int pressedBottom = 48;
+constexpr int disabledOffset = 58;
+
+constexpr int markLines = 2;
+constexpr double plainMix = 100;
+constexpr int disabledOpacity = 96;
+
+/// The share of white in the flat style's selection colour, from 0 to 255.
+constexpr int hoverWhite = 176;
+constexpr int pressedWhite = 128;
+
+/// The colours of a face from its top to its bottom.
+struct FaceColors {
+    Color top = 0;
+    Color bottom = 0;
+};
+
+void fillShape(PixelImage& image, const RoundedBox& shape, const FaceColors& colors,
+               SystemColorLookup systemColor) {
+    const PixelRect& box = shape.box;
+    for (int y = box.top; y < box.bottom; ++y) {
+        const Color color = GradientColor(y - box.top, box.height(), colors.top, colors.bottom,
+                                          plainMix, systemColor);
+        fillBox(image, shape.row(y), opaquePixel(color));
+    }
+}
+
+/// Takes each row's colour from the middle of `source`.
+void copyShape(PixelImage& image, const RoundedBox& shape, const PixelImage& source) {
+    for (int y = shape.box.top; y < shape.box.bottom; ++y) {
+        fillBox(image, shape.row(y), pixelAt(source, {source.size.width / 2, y}));
+    }
+}
+
+FaceColors shadedColors(const ButtonDesign& design, const ButtonState& state,
+                        SystemColorLookup systemColor) {
+    const auto offset = [&](int delta) {
+        return OffsetColor(design.BackColor, delta, systemColor);
+    };
+    if (!state.enabled) {
+        const Color flat = offset(design.PlaneFace ? 0 : disabledOffset);
+        return {flat, flat};
+    }
+    if (design.PlaneFace) {
+        return {offset(0), offset(0)};
+    }
+    return state.pressed ? FaceColors{offset(pressedTop), offset(pressedBottom)}
+                         : FaceColors{offset(raisedTop), offset(raisedBottom)};
+}
+
+std::optional<Color> markColor(const ButtonDesign& design, const ButtonState& state) {
+    if (state.enabled && state.hover) {
+        return design.XPDefaultColors ? hoverMark : design.XPColor_Hover;
+    }
+    if (state.enabled && state.focused) {
+        return design.XPDefaultColors ? focusMark : design.XPColor_Pressed;
+    }
+    return std::nullopt;
+}
+
+void paintShaded(PixelImage& image, const ButtonDesign& design, const ButtonState& state, int dpi,
+                 SystemColorLookup systemColor) {
+    const int line = lineWidthAt(dpi);
+    const RoundedBox outer = buttonShape(design, image.size, dpi);
+    const Color edge = OffsetColor(outlineColor, state.enabled ? 0 : disabledOffset, systemColor);
+    const FaceColors face = shadedColors(design, state, systemColor);
+    fillShape(image, outer, {edge, edge}, systemColor);
+    const RoundedBox inner = outer.shrunk(line);
+    fillShape(image, inner, face, systemColor);
+    if (const auto mark = markColor(design, state)) {
+        const PixelImage unmarked = image;
+        fillShape(image, inner, {*mark, *mark}, systemColor);
+        copyShape(image, inner.shrunk(markLines * line), unmarked);
+    }
+}
+
+Color flatBack(const ButtonDesign& design, const ButtonState& state,
+               SystemColorLookup systemColor) {
+    if (!state.enabled || !(state.hover || state.pressed)) {
+        return OffsetColor(design.BackColor, 0, systemColor);
+    }
+    if (!design.XPDefaultColors) {
+        return state.pressed ? design.XPColor_Pressed : design.XPColor_Hover;
+    }
+    const int white = state.pressed ? pressedWhite : hoverWhite;
+    const ColorParts parts = ColorComponents(systemSelection, systemColor);
+    const auto mixed = [white](int part) { return (255 - white) * part / 255 + white; };
+    return rgb(mixed(parts.red), mixed(parts.green), mixed(parts.blue));
+}
+
+void paintFlat(PixelImage& image, const ButtonDesign& design, const ButtonState& state, int dpi,
+               SystemColorLookup systemColor) {
+    const Color back = flatBack(design, state, systemColor);
+    PixelRect box{0, 0, image.size.width, image.size.height};
+    if (state.enabled && (state.hover || state.pressed)) {
+        fillBox(image, box, opaquePixel(OffsetColor(design.ForeColor, 0, systemColor)));
+        box = box.grown(-lineWidthAt(dpi));
+    }
+    fillBox(image, box, opaquePixel(back));
+}
+
+}  // namespace
+
+PixelImage buttonFace(const ButtonDesign& design, const ButtonState& state, PixelSize size, int dpi,
+                      SystemColorLookup systemColor) {
+    if (design.ButtonStyle == shadedStyle) {
+        PixelImage image = filledImage(size, 0);
+        paintShaded(image, design, state, dpi, systemColor);
+        return image;
+    }
+    PixelImage image =
+        filledImage(size, opaquePixel(OffsetColor(design.BackColor, 0, systemColor)));
+    if (design.ButtonStyle == flatStyle) {
+        paintFlat(image, design, state, dpi, systemColor);
+    }
+    return image;
+}
+
+PixelImage pictureInState(const PixelImage& picture, const ButtonDesign& design,
+                          const ButtonState& state) {
+    if (!state.enabled) {
+        return faded(greyed(picture), disabledOpacity);
+    }
+    return design.GreyPicture && !state.hover ? greyed(picture) : picture;
+}
+
+int pictureShift(const ButtonDesign& design, const ButtonState& state, int dpi) {
+    if (!state.pressed) {
+        return 0;
+    }
+    // In the flat style the picture rises towards the user.
+    return design.ButtonStyle == flatStyle ? -scaledLength(2, dpi) : lineWidthAt(dpi);
+}
+
+int captionShift(const ButtonDesign& design, const ButtonState& state, int dpi) {
+    const bool sinks = design.ButtonStyle != flatStyle && design.ButtonStyle != 3;
+    return state.pressed && sinks ? lineWidthAt(dpi) : 0;
+}
+
+}  // namespace ormala

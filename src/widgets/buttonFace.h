@@ -1,0 +1,23 @@
+#pragma once
+
+#include "scene/PixelImage.h"
+#include "widgets/ButtonDesign.h"
+#include "widgets/ButtonModel.h"
+
+namespace ormala {
+
+/// The face of a button without picture and caption. Pixels that round corners cut away are
+/// transparent, all others opaque.
+PixelImage buttonFace(const ButtonDesign& design, const ButtonState& state, PixelSize size, int dpi,
+                      SystemColorLookup systemColor);
+
+/// The picture as the state wants it shown: in grey, or faded.
+PixelImage pictureInState(const PixelImage& picture, const ButtonDesign& design,
+                          const ButtonState& state);
+
+/// How far the picture is moved from its place, right and down.
+int pictureShift(const ButtonDesign& design, const ButtonState& state, int dpi);
+/// The same of the caption.
+int captionShift(const ButtonDesign& design, const ButtonState& state, int dpi);
+
+}  // namespace ormala

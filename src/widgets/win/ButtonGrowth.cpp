@@ -1,0 +1,82 @@
+#include "widgets/win/ButtonGrowth.h"
+
+#include <algorithm>
+
+#include "platform/win/regions.h"
+
+namespace ormala {
+
+namespace {
+
+PixelRect placeInParent(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    MapWindowPoints(HWND_DESKTOP, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
+    return fromRect(place);
+}
+
+WindowId windowAt(PixelPoint point) {
+    return WindowFromPoint({point.x, point.y});
+}
+
+}  // namespace
+
+bool ButtonGrowth::hasWork(PixelPoint mouse, int dpi) const {
+    RECT window{};
+    GetWindowRect(GetAncestor(panel_.handle(), GA_ROOT), &window);
+    const bool someGrown = std::ranges::any_of(entries_, &Entry::grown);
+    return growthHasWork(
+        {panel_.isVisible(), fromRect(panel_.rectangle()), fromRect(window), someGrown}, mouse,
+        dpi);
+}
+
+std::vector<GrowingButton> ButtonGrowth::buttons() const {
+    std::vector<GrowingButton> present;
+    present.reserve(entries_.size());
+    for (const Entry& entry : entries_) {
+        present.push_back({entry.button->handle(), fromRect(entry.button->rectangle()),
+                           entry.button->isVisible() && entry.button->Enabled(), entry.grown,
+                           entry.grownOver});
+    }
+    return present;
+}
+
+void ButtonGrowth::tick(int dpi) {
+    POINT cursor{};
+    GetCursorPos(&cursor);
+    const PixelPoint mouse{static_cast<int>(cursor.x), static_cast<int>(cursor.y)};
+    if (!hasWork(mouse, dpi)) {
+        return;
+    }
+    const std::vector<GrowingButton> present = buttons();
+    const auto chosen =
+        buttonNearMouse(present, {mouse, windowAt(mouse), GetCapture()}, &windowAt, dpi);
+    const GrowthSteps steps = GrowButtonNearMouse(present, chosen);
+    if (steps.grow) {
+        entries_[*steps.grow].grownOver = windowAt(mouse);
+    }
+    apply(steps, dpi);
+}
+
+void ButtonGrowth::reset(int dpi) {
+    apply(GrowButtonNearMouse(buttons(), std::nullopt), dpi);
+}
+
+void ButtonGrowth::apply(const GrowthSteps& steps, int dpi) {
+    for (const std::size_t index : steps.shrink) {
+        resize(entries_[index], false, dpi);
+    }
+    if (steps.grow) {
+        BringWindowToTop(entries_[*steps.grow].button->handle());
+        resize(entries_[*steps.grow], true, dpi);
+    }
+}
+
+void ButtonGrowth::resize(Entry& entry, bool grown, int dpi) {
+    const PixelRect place = placeInParent(entry.button->handle());
+    entry.grown = grown;
+    entry.button->setUseCornerStyle(!grown);
+    entry.button->place(grown ? grownPlace(place, dpi) : placeAtRest(place, dpi));
+}
+
+}  // namespace ormala

@@ -1,0 +1,119 @@
+#include "widgets/win/Label.h"
+
+#include <oleacc.h>
+
+#include "platform/win/BackBuffer.h"
+#include "platform/win/GdiCanvas.h"
+#include "platform/win/controlName.h"
+#include "platform/win/mousePassing.h"
+#include "platform/win/pixels.h"
+#include "platform/win/regions.h"
+#include "platform/win/text.h"
+
+namespace ormala {
+
+Label::Label(HWND parent, int id, std::string_view name) {
+    WindowDesign design;
+    design.className = L"Label";
+    // An aligned text moves with either edge.
+    design.classStyle = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
+    design.style = WS_CHILD | WS_VISIBLE;
+    design.owner = parent;
+    design.id = id;
+    create(design);
+    setControlName(handle(), name);
+    setDpi(static_cast<int>(GetDpiForWindow(handle())));
+}
+
+void Label::place(const PixelRect& box) {
+    SetWindowPos(handle(), nullptr, box.left, box.top, box.width(), box.height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Label::setText(std::string_view text) {
+    if (text_ != text) {
+        text_ = text;
+        Window::setCaption(text);
+        InvalidateRect(handle(), nullptr, FALSE);
+    }
+}
+
+void Label::setBold(bool bold) {
+    bold_ = bold;
+    change(font_, sharedControlFont(dpi_, bold ? FontLook::bold : FontLook::normal));
+}
+
+void Label::setDpi(int dpi) {
+    dpi_ = dpi;
+    setBold(bold_);
+}
+
+void Label::setGradient(Color top, Color bottom) {
+    gradient_ = GradientDesign{top, bottom};
+    InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void Label::drawGround(HDC context, const RECT& area) const {
+    if (gradient_) {
+        const PixelRect place = fromRect(area);
+        copyPixels(context,
+                   gradientImage(*gradient_, {place.width(), place.height()}, &systemColor));
+    } else {
+        SetDCBrushColor(context, colorRef(backColor_));
+        FillRect(context, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    }
+}
+
+void Label::drawText(HDC context, const RECT& area) const {
+    drawGround(context, area);
+    const Selected font(context, font_->get());
+    SetBkMode(context, TRANSPARENT);
+    SetTextColor(context, colorRef(textColor_));
+    RECT place = area;
+    DrawTextW(context, wide(text_).c_str(), -1, &place,
+              alignmentFormat(alignment_) | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+}
+
+LRESULT Label::paint() {
+    const PaintScope scope(handle());
+    const RECT area = clientRectangle();
+    BackBuffer buffer;
+    if (buffer.resize({static_cast<int>(area.right), static_cast<int>(area.bottom)}) &&
+        buffer.context() != nullptr) {
+        drawText(buffer.context(), area);
+        BitBlt(scope.context(), 0, 0, area.right, area.bottom, buffer.context(), 0, 0, SRCCOPY);
+    }
+    return 0;
+}
+
+LRESULT Label::tellFacts(AccessibleFacts& facts) const {
+    facts.name = text_;
+    facts.role = ROLE_SYSTEM_STATICTEXT;
+    facts.state = STATE_SYSTEM_READONLY;
+    return TRUE;
+}
+
+std::optional<LRESULT> Label::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_PAINT:
+            return paint();
+        case WM_ERASEBKGND:
+            return 1;
+        case WM_DPICHANGED_AFTERPARENT:
+            setDpi(static_cast<int>(GetDpiForWindow(handle())));
+            return 0;
+        case WM_GETOBJECT:
+            return answerAccessible(handle(), wParam, lParam);
+        case accessibleFactsMessage:
+            return tellFacts(wantedFacts(lParam));
+        default:
+            break;
+    }
+    tip_.relay(handle(), message, wParam, lParam);
+    if (passMouseToParent(handle(), message, wParam, lParam)) {
+        return 0;
+    }
+    return std::nullopt;
+}
+
+}  // namespace ormala

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/win/Accessible.h"
+#include "platform/win/TipWindow.h"
+#include "platform/win/Window.h"
+#include "platform/win/fonts.h"
+#include "scene/Canvas.h"
+#include "widgets/gradient.h"
+
+namespace ormala {
+
+/// A read-out: one line of text on the plain colour of its owner. A window of its own, so that its
+/// text can be read from outside; its mouse events go to its parent.
+class Label : public Window {
+  public:
+    /// A visible child of `parent` without a size. `name` is its control name.
+    Label(HWND parent, int id, std::string_view name);
+    ~Label() override { destroy(); }
+
+    /// In the parent's client pixels.
+    void place(const PixelRect& box);
+    void setVisible(bool visible) { ShowWindow(handle(), visible ? SW_SHOWNA : SW_HIDE); }
+    [[nodiscard]] const std::string& text() const { return text_; }
+    /// Repaints only if the text is another one, as do all that follow.
+    void setText(std::string_view text);
+    void setTextColor(Color color) { change(textColor_, color); }
+    void setBackColor(Color color) { change(backColor_, color); }
+    void setAlignment(Alignment alignment) { change(alignment_, alignment); }
+    void setBold(bool bold);
+    /// The ground is a gradient from top to bottom, which continues that of a `GradShape` behind
+    /// it of the same height.
+    void setGradient(Color top, Color bottom);
+    [[nodiscard]] HFONT font() const { return font_->get(); }
+    /// The resolution of the screen that it is drawn for; at first that of its window.
+    void setDpi(int dpi);
+    void SetTooltip(const std::string& text) { tip_.setText(text); }
+
+  private:
+    std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT paint();
+    void drawGround(HDC context, const RECT& area) const;
+    void drawText(HDC context, const RECT& area) const;
+    LRESULT tellFacts(AccessibleFacts& facts) const;
+
+    template <typename T>
+    void change(T& member, T value) {
+        if (member != value) {
+            member = value;
+            InvalidateRect(handle(), nullptr, FALSE);
+        }
+    }
+
+    std::string text_;
+    Color textColor_ = 0x00E6FF;
+    Color backColor_ = 0x606060;
+    std::optional<GradientDesign> gradient_;
+    Alignment alignment_ = Alignment::left;
+    bool bold_ = false;
+    int dpi_ = 96;
+    SharedFont font_;
+    HoverTip tip_;
+};
+
+}  // namespace ormala

@@ -1,0 +1,65 @@
+#include "widgets/win/OptionGroup.h"
+
+#include "widgets/win/darkColors.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr Color offFace = rgb(112, 112, 112);
+
+/// A toggle that is one of several.
+constexpr int oneOfSeveral = 2;
+
+void setStyleBit(HWND window, LONG_PTR bit, bool on) {
+    const LONG_PTR style = GetWindowLongPtrW(window, GWL_STYLE);
+    SetWindowLongPtrW(window, GWL_STYLE, on ? style | bit : style & ~bit);
+}
+
+}  // namespace
+
+void OptionGroup::create(HWND parent, int firstId, std::string_view name,
+                         const std::vector<std::string>& captions) {
+    for (const std::string& caption : captions) {
+        const int index = static_cast<int>(buttons_.size());
+        const std::string ownName = std::string(name) + "(" + std::to_string(index) + ")";
+        buttons_.push_back(std::make_unique<ZelvikButtonXP>(parent, firstId + index, ownName));
+        ZelvikButtonXP& button = *buttons_.back();
+        button.setCaption(caption);
+        button.setControlType(oneOfSeveral);
+        dressButton(button);
+        setStyleBit(button.handle(), WS_GROUP, index == 0);
+        choosing_.push_back(button.Click.subscribe([this, index] { choose(index); }));
+        choosing_.push_back(button.gotFocus.subscribe([this, index] { choose(index); }));
+    }
+}
+
+void OptionGroup::select(int index) {
+    selected_ = index;
+    for (int i = 0; i < static_cast<int>(buttons_.size()); ++i) {
+        ZelvikButtonXP& button = (*this)[i];
+        const bool on = i == index;
+        button.setValue(on);
+        dressButton(button, on);
+        setStyleBit(button.handle(), WS_TABSTOP, on);
+    }
+}
+
+void OptionGroup::choose(int index) {
+    if (index != selected_) {
+        select(index);
+        Change.raise();
+    }
+}
+
+HWND OptionGroup::focusTarget() const {
+    const auto index = static_cast<std::size_t>(selected_);
+    return buttons_[index < buttons_.size() ? index : 0]->handle();
+}
+
+void dressButton(ZelvikButtonXP& button, bool on) {
+    button.setBackColor(on ? dark::on : offFace);
+    button.setForeColor(on ? dark::onText : dark::text);
+}
+
+}  // namespace ormala

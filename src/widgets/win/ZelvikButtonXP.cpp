@@ -1,0 +1,180 @@
+#include "widgets/win/ZelvikButtonXP.h"
+
+#include "platform/win/BackBuffer.h"
+#include "platform/win/controlName.h"
+#include "platform/win/regions.h"
+#include "platform/win/text.h"
+#include "scene/dpi.h"
+#include "widgets/buttonShape.h"
+#include "widgets/win/buttonPainter.h"
+
+namespace ormala {
+
+ZelvikButtonXP::ZelvikButtonXP(HWND parent, int id, std::string_view name) {
+    WindowDesign design;
+    design.className = L"ZelvikButtonXP";
+    design.classStyle = CS_DBLCLKS;
+    design.style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+    design.owner = parent;
+    design.id = id;
+    create(design);
+    setControlName(handle(), name);
+    setDpi(static_cast<int>(GetDpiForWindow(handle())));
+}
+
+PixelSize ZelvikButtonXP::size() const {
+    const PixelRect client = fromRect(clientRectangle());
+    return {client.width(), client.height()};
+}
+
+void ZelvikButtonXP::place(const PixelRect& box) {
+    SetWindowPos(handle(), nullptr, box.left, box.top, box.width(), box.height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void ZelvikButtonXP::setCaption(std::string_view caption) {
+    if (design_.Caption != caption) {
+        design_.Caption = caption;
+        showText();
+        refresh();
+    }
+}
+
+void ZelvikButtonXP::SetTooltip(const std::string& text) {
+    tip_.setText(text);
+    showText();
+}
+
+void ZelvikButtonXP::showText() {
+    Window::setCaption(design_.Caption.empty() ? tip_.text() : design_.Caption);
+}
+
+void ZelvikButtonXP::setEnabled(bool enabled) {
+    const HWND window = handle();
+    // A disabled window would keep the keys from all others.
+    if (!enabled && window != nullptr && GetFocus() == window) {
+        SetFocus(GetParent(window));
+    }
+    EnableWindow(window, enabled ? TRUE : FALSE);
+}
+
+void ZelvikButtonXP::setValue(bool value) {
+    if (model_.Value() != value) {
+        model_.setValue(value);
+        NotifyWinEvent(EVENT_OBJECT_STATECHANGE, handle(), OBJID_CLIENT, CHILDID_SELF);
+    }
+}
+
+void ZelvikButtonXP::setButtonStyle(int style) {
+    design_.ButtonStyle = style;
+    applyShape();
+}
+
+void ZelvikButtonXP::setUseCornerStyle(bool used) {
+    if (design_.UseCornerStyle != used) {
+        design_.UseCornerStyle = used;
+        applyShape();
+    }
+}
+
+void ZelvikButtonXP::setCornerStyle(int style) {
+    if (design_.CornerStyle != style) {
+        design_.CornerStyle = style;
+        applyShape();
+    }
+}
+
+void ZelvikButtonXP::setFont(FontLook look, int points) {
+    fontLook_ = look;
+    fontPoints_ = points;
+    font_ = sharedControlFont(dpi_, look, points);
+    refresh();
+}
+
+void ZelvikButtonXP::setDpi(int dpi) {
+    dpi_ = dpi;
+    setFont(fontLook_, fontPoints_);
+    applyShape();
+}
+
+void ZelvikButtonXP::setPicture(PictureMaker maker) {
+    picture_ = {std::move(maker), {}};
+    refresh();
+}
+
+void ZelvikButtonXP::setPictureHover(PictureMaker maker) {
+    pictureHover_ = {std::move(maker), {}};
+    refresh();
+}
+
+void ZelvikButtonXP::setPictureSize(int width, int height) {
+    design_.PictureWidth = width;
+    design_.PictureHeight = height;
+    refresh();
+}
+
+bool ZelvikButtonXP::pressAccessKey(wchar_t key) {
+    const auto upper = [](wchar_t letter) {
+        CharUpperBuffW(&letter, 1);
+        return letter;
+    };
+    const wchar_t own = accessKeyOf(design_.Caption);
+    return own != 0 && upper(own) == upper(key) && model_.pressAccessKey();
+}
+
+void ZelvikButtonXP::refresh() {
+    InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void ZelvikButtonXP::applyShape() {
+    refresh();
+    const RoundedBox shape = buttonShape(design_, size(), dpi_);
+    if (shape == shape_) {
+        return;
+    }
+    shape_ = shape;
+    RegionHandle region = regionOf(regionOfShape(shape));
+    // The system owns it from now on.
+    if (SetWindowRgn(handle(), region.get(), TRUE) != 0) {
+        region.release();
+    }
+}
+
+void ZelvikButtonXP::keepLeastSize(LPARAM lParam) const {
+    auto* wanted = reinterpret_cast<WINDOWPOS*>(lParam);
+    if ((wanted->flags & SWP_NOSIZE) == 0) {
+        const PixelSize least = leastButtonSize({wanted->cx, wanted->cy}, dpi_);
+        wanted->cx = least.width;
+        wanted->cy = least.height;
+    }
+}
+
+LRESULT ZelvikButtonXP::onSize() {
+    model_.resize(size());
+    applyShape();
+    return 0;
+}
+
+const PixelImage& ZelvikButtonXP::currentPicture() {
+    Picture& shown = model_.state().hover && pictureHover_.maker ? pictureHover_ : picture_;
+    const PixelSize wanted{scaledLength(design_.PictureWidth, dpi_),
+                           scaledLength(design_.PictureHeight, dpi_)};
+    if (shown.maker && shown.image.size != wanted) {
+        shown.image = shown.maker(wanted);
+    }
+    return shown.image;
+}
+
+LRESULT ZelvikButtonXP::paint() {
+    const PaintScope scope(handle());
+    const PixelSize whole = size();
+    BackBuffer buffer;
+    if (buffer.resize(whole) && buffer.context() != nullptr) {
+        paintButton(buffer.context(),
+                    {design_, model_.state(), whole, dpi_, font_->get(), currentPicture()});
+        BitBlt(scope.context(), 0, 0, whole.width, whole.height, buffer.context(), 0, 0, SRCCOPY);
+    }
+    return 0;
+}
+
+}  // namespace ormala

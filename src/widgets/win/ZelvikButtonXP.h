@@ -1,0 +1,130 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/win/Accessible.h"
+#include "platform/win/TipWindow.h"
+#include "platform/win/Window.h"
+#include "platform/win/fonts.h"
+#include "scene/PixelImage.h"
+#include "widgets/ButtonDesign.h"
+#include "widgets/ButtonModel.h"
+#include "widgets/buttonShape.h"
+
+namespace ormala {
+
+/// Draws a picture in the size that it is asked for, in pixels of the screen.
+using PictureMaker = std::function<PixelImage(PixelSize)>;
+
+/// The push button of the program's own look, with a caption, a picture or both. A toggle follows
+/// its `Value`, which only its owner changes. A handler of any event may destroy it.
+class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface {
+  public:
+    /// A visible child of `parent` without a size. `name` is its control name.
+    ZelvikButtonXP(HWND parent, int id, std::string_view name);
+    ~ZelvikButtonXP() override { destroy(); }
+
+    /// In the parent's client pixels; a side below 10 pixels at 96 DPI becomes that.
+    void place(const PixelRect& box);
+    void setVisible(bool visible) { ShowWindow(handle(), visible ? SW_SHOWNA : SW_HIDE); }
+
+    /// A letter after "&" is the access key, which the owner routes to `pressAccessKey`.
+    void setCaption(std::string_view caption);
+    [[nodiscard]] const std::string& Caption() const { return design_.Caption; }
+    /// Also the window's text while there is no caption.
+    void SetTooltip(const std::string& text);
+    [[nodiscard]] bool Enabled() const { return model_.Enabled(); }
+    void setEnabled(bool enabled);
+    /// 0 a push button, 1 a toggle, 2 a toggle that is one of several.
+    [[nodiscard]] int ControlType() const { return model_.ControlType(); }
+    void setControlType(int type) { model_.setControlType(type); }
+    [[nodiscard]] bool Value() const { return model_.Value(); }
+    void setValue(bool value);
+    [[nodiscard]] bool AlwaysUp() const { return model_.AlwaysUp(); }
+    void setAlwaysUp(bool alwaysUp) { model_.setAlwaysUp(alwaysUp); }
+
+    /// How it looks; see `ButtonDesign`.
+    [[nodiscard]] const ButtonDesign& design() const { return design_; }
+    void setPicturePosition(int position) { design(&ButtonDesign::PicturePosition, position); }
+    void setShowFocusRect(bool shown) { design(&ButtonDesign::ShowFocusRect, shown); }
+    void setXPColor_Pressed(Color color) { design(&ButtonDesign::XPColor_Pressed, color); }
+    void setXPColor_Hover(Color color) { design(&ButtonDesign::XPColor_Hover, color); }
+    void setXPDefaultColors(bool used) { design(&ButtonDesign::XPDefaultColors, used); }
+    void setBackColor(Color color) { design(&ButtonDesign::BackColor, color); }
+    void setForeColor(Color color) { design(&ButtonDesign::ForeColor, color); }
+    void setGreyPicture(bool grey) { design(&ButtonDesign::GreyPicture, grey); }
+    void setPlaneFace(bool plane) { design(&ButtonDesign::PlaneFace, plane); }
+    void setButtonStyle(int style);
+    void setUseCornerStyle(bool used);
+    void setCornerStyle(int style);
+    void setFont(FontLook look, int points = 8);
+    /// The resolution of the screen that it is drawn for; at first that of its window.
+    void setDpi(int dpi);
+
+    /// Each picture is made when it is first painted, and again in another size.
+    void setPicture(PictureMaker maker);
+    /// Shown instead while the mouse is over the button.
+    void setPictureHover(PictureMaker maker);
+    /// In pixels at 96 DPI.
+    void setPictureSize(int width, int height);
+
+    /// Clicks if that is the access key of the caption, in either case; false if it isn't, or if
+    /// the button is disabled.
+    bool pressAccessKey(wchar_t key);
+
+  private:
+    struct Picture {
+        PictureMaker maker;
+        PixelImage image;
+    };
+
+    std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    std::optional<LRESULT> mouseMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    std::optional<LRESULT> keyMessage(UINT message, WPARAM wParam);
+    std::optional<LRESULT> stateMessage(UINT message, WPARAM wParam);
+    std::optional<LRESULT> askedMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+    void refresh() override;
+    void watchMouse(bool on) override;
+    void captureMouse() override;
+
+    template <typename T>
+    void design(T ButtonDesign::*member, T value) {
+        if (design_.*member != value) {
+            design_.*member = value;
+            refresh();
+        }
+    }
+    [[nodiscard]] PixelSize size() const;
+    void showText();
+    void applyShape();
+    LRESULT paint();
+    const PixelImage& currentPicture();
+    void keepLeastSize(LPARAM lParam) const;
+    LRESULT onSize();
+    LRESULT press(int button, WPARAM wParam, LPARAM lParam);
+    LRESULT release(int button, WPARAM wParam, LPARAM lParam);
+    LRESULT move(WPARAM wParam, LPARAM lParam);
+    void loseCapture();
+    void lookForMouse();
+    [[nodiscard]] LRESULT buttonState() const;
+    void tellFacts(AccessibleFacts& facts) const;
+
+    ButtonDesign design_;
+    ButtonModel model_{*this, *this};
+    FontLook fontLook_ = FontLook::normal;
+    int fontPoints_ = 8;
+    SharedFont font_;
+    int dpi_ = 96;
+    Picture picture_;
+    Picture pictureHover_;
+    /// The one that the system cuts the window to.
+    RoundedBox shape_;
+    bool captured_ = false;
+    HoverTip tip_;
+};
+
+}  // namespace ormala

@@ -1,0 +1,289 @@
+#include "widgets/win/ctlSlider.h"
+
+#include <oleacc.h>
+#include <windowsx.h>
+
+#include <algorithm>
+
+#include "platform/win/Accessible.h"
+#include "platform/win/GdiCanvas.h"
+#include "platform/win/controlName.h"
+#include "platform/win/fonts.h"
+#include "platform/win/regions.h"
+#include "platform/win/text.h"
+#include "widgets/dpi.h"
+#include "widgets/win/darkColors.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr Color faceColor = rgb(112, 112, 112);
+
+int widthOf(HDC context, const std::string& text) {
+    const std::wstring shown = wide(text);
+    SIZE size{};
+    GetTextExtentPoint32W(context, shown.c_str(), static_cast<int>(shown.size()), &size);
+    return static_cast<int>(size.cx);
+}
+
+void drawLabel(HDC context, const std::string& text, const PixelRect& box, UINT format) {
+    RECT area = toRect(box);
+    DrawTextW(context, wide(text).c_str(), -1, &area, format | DT_SINGLELINE | DT_NOPREFIX);
+}
+
+}  // namespace
+
+ctlSlider::ctlSlider(HWND parent, int id, std::string_view name) {
+    WindowDesign design;
+    design.className = L"ctlSlider";
+    design.style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+    design.owner = parent;
+    design.id = id;
+    create(design);
+    setControlName(handle(), name);
+    showing_ = model_.LookChange.subscribe([this] { refresh(); });
+    following_ = model_.Change.subscribe([this] { Change.raise(); });
+    setDpi(static_cast<int>(GetDpiForWindow(handle())));
+}
+
+// Each of these may change the room that the caption needs.
+
+void ctlSlider::setMin(int min) {
+    model_.setMin(min);
+    arrange();
+}
+
+void ctlSlider::setMax(int max) {
+    model_.setMax(max);
+    arrange();
+}
+
+void ctlSlider::setStep(float step) {
+    model_.setStep(step);
+    arrange();
+}
+
+void ctlSlider::setCaption(const std::string& caption) {
+    model_.setCaption(caption);
+    arrange();
+}
+
+void ctlSlider::setDecimalSeparator(const std::string& separator) {
+    model_.setDecimalSeparator(separator);
+    arrange();
+}
+
+void ctlSlider::setMinText(const std::string& text) {
+    minText_ = text;
+    refresh();
+}
+
+void ctlSlider::setMaxText(const std::string& text) {
+    maxText_ = text;
+    refresh();
+}
+
+void ctlSlider::SetTooltip(const std::string& text) {
+    if (!tip_) {
+        tip_.emplace(handle());
+    }
+    tip_->setText(text);
+}
+
+void ctlSlider::setDpi(int dpi) {
+    if (dpi_ != dpi) {
+        dpi_ = dpi;
+        font_ = controlFont(dpi, FontLook::normal);
+    }
+    arrange();
+}
+
+void ctlSlider::arrange() {
+    const RECT client = clientRectangle();
+    const WindowContext context(handle());
+    const Selected font(context.get(), font_.get());
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(context.get(), &metrics);
+    const int captionWidth = std::max(widthOf(context.get(), model_.captionWith(model_.Min())),
+                                      widthOf(context.get(), model_.captionWith(model_.Max())));
+    model_.arrange({{static_cast<int>(client.right), static_cast<int>(client.bottom)},
+                    dpi_,
+                    static_cast<int>(metrics.tmHeight),
+                    captionWidth});
+}
+
+/// The window text and what a screen reader hears follow what is painted.
+void ctlSlider::refresh() {
+    if (handle() == nullptr) {
+        return;
+    }
+    Window::setCaption(model_.captionText());
+    if (const std::string value = model_.valueText(model_.Value()); value != toldValue_) {
+        toldValue_ = value;
+        NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, handle(), OBJID_CLIENT, CHILDID_SELF);
+    }
+    InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void ctlSlider::paintTexts(HDC context) const {
+    const SliderLayout& layout = model_.layout();
+    const Selected font(context, font_.get());
+    SetBkMode(context, TRANSPARENT);
+    SetTextColor(context, colorRef(Enabled() ? dark::text : dark::dimText));
+    const bool low = layout.lblMin.empty();
+    drawLabel(context, model_.captionText(), layout.lblCaption, low ? DT_LEFT : DT_CENTER);
+    drawLabel(context, minText_, layout.lblMin, DT_LEFT);
+    drawLabel(context, maxText_, layout.lblMax, DT_RIGHT);
+}
+
+void ctlSlider::paintHandle(HDC context) const {
+    const PixelRect box = model_.imgSlide();
+    const int line = lineWidthAt(dpi_);
+    const bool enabled = Enabled();
+    fillRect(context, toRect(box), enabled ? faceColor : dark::ground);
+    frameRect(context, box, line, enabled ? dark::outline : dark::dimOutline);
+    if (!enabled) {
+        return;
+    }
+    const PixelRect inner = box.grown(-line);
+    if (hover_ || model_.isHeld()) {
+        frameRect(context, inner, line, dark::hoverMark);
+    }
+    const int middle = box.left + (box.width() - line) / 2;
+    fillRect(context, toRect({middle, box.top + 4 * line, middle + line, box.bottom - 4 * line}),
+             dark::text);
+}
+
+void ctlSlider::paint(HDC context, PixelSize size) {
+    const SliderLayout& layout = model_.layout();
+    const int line = lineWidthAt(dpi_);
+    fillRect(context, {0, 0, size.width, size.height}, dark::ground);
+    const bool enabled = Enabled();
+    fillRect(context, toRect(layout.shpLine), enabled ? dark::outline : dark::dimOutline);
+    fillRect(context, toRect(layout.shpLine.grown(-line)), enabled ? dark::on : dark::ground);
+    paintTexts(context);
+    paintHandle(context);
+    if (GetFocus() == handle()) {
+        frameRect(context, {0, 0, size.width, size.height}, line, dark::on);
+    }
+}
+
+LRESULT ctlSlider::onPaint() {
+    const PaintScope scope(handle());
+    const RECT client = clientRectangle();
+    const PixelSize size{static_cast<int>(client.right), static_cast<int>(client.bottom)};
+    if (buffer_.resize(size)) {
+        paint(buffer_.context(), size);
+        BitBlt(scope.context(), 0, 0, size.width, size.height, buffer_.context(), 0, 0, SRCCOPY);
+    }
+    return 0;
+}
+
+LRESULT ctlSlider::onAccessibleFacts(LPARAM lParam) const {
+    AccessibleFacts& facts = wantedFacts(lParam);
+    facts.name = model_.Caption();
+    facts.value = model_.valueText(model_.Value());
+    facts.role = ROLE_SYSTEM_SLIDER;
+    return TRUE;
+}
+
+LRESULT ctlSlider::press(PixelPoint point) {
+    SetFocus(handle());
+    SetCapture(handle());
+    refresh();
+    model_.press(point);
+    return 0;
+}
+
+LRESULT ctlSlider::move(PixelPoint point) {
+    TRACKMOUSEEVENT wanted{sizeof(TRACKMOUSEEVENT), TME_LEAVE, handle(), 0};
+    TrackMouseEvent(&wanted);
+    hover(model_.imgSlide().contains(point));
+    model_.move(point);
+    return 0;
+}
+
+LRESULT ctlSlider::release() {
+    if (GetCapture() == handle()) {
+        ReleaseCapture();
+    }
+    return 0;
+}
+
+LRESULT ctlSlider::onCaptureChanged() {
+    model_.release();
+    refresh();
+    return 0;
+}
+
+void ctlSlider::hover(bool over) {
+    if (hover_ != over) {
+        hover_ = over;
+        refresh();
+    }
+}
+
+LRESULT ctlSlider::onEnable() {
+    hover_ = false;
+    release();
+    refresh();
+    return 0;
+}
+
+std::optional<LRESULT> ctlSlider::mouseMessage(UINT message, LPARAM lParam) {
+    const PixelPoint point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            return press(point);
+        case WM_MOUSEMOVE:
+            return move(point);
+        case WM_LBUTTONUP:
+            return release();
+        default:
+            return std::nullopt;
+    }
+}
+
+std::optional<LRESULT> ctlSlider::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (tip_ && message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+        tip_->relay(message, wParam, lParam);
+    }
+    switch (message) {
+        case WM_PAINT:
+            return onPaint();
+        case WM_ERASEBKGND:
+            return 1;
+        case WM_SIZE:
+            arrange();
+            return 0;
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
+            refresh();
+            return 0;
+        case WM_ENABLE:
+            return onEnable();
+        case WM_GETDLGCODE:
+            return DLGC_WANTARROWS;
+        case WM_KEYDOWN:
+            return model_.keyDown(static_cast<int>(wParam)) ? std::optional<LRESULT>(0)
+                                                            : std::nullopt;
+        case WM_MOUSELEAVE:
+            hover(false);
+            return 0;
+        case WM_CAPTURECHANGED:
+            return onCaptureChanged();
+        case WM_DPICHANGED_AFTERPARENT:
+            setDpi(static_cast<int>(GetDpiForWindow(handle())));
+            return 0;
+        case WM_GETOBJECT:
+            return answerAccessible(handle(), wParam, lParam);
+        case accessibleFactsMessage:
+            return onAccessibleFacts(lParam);
+        default:
+            return mouseMessage(message, lParam);
+    }
+}
+
+}  // namespace ormala
