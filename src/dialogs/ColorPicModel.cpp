@@ -1,0 +1,162 @@
+#include "dialogs/ColorPicModel.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+
+#include "scene/Input.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr Color black = rgb(0, 0, 0);
+constexpr Color white = rgb(255, 255, 255);
+constexpr int largestFactor = 100;
+constexpr float dimmest = 0.5F;
+
+/// From black to white and back in about a second.
+std::vector<Color> blinkTable() {
+    constexpr int steps = 32;
+    std::vector<Color> colors;
+    for (int step = 0; step < steps; ++step) {
+        const int rising = std::min(step, steps - step);
+        const int level = 255 * rising / (steps / 2);
+        colors.push_back(rgb(level, level, level));
+    }
+    return colors;
+}
+
+int keptFactor(int factor) {
+    return std::clamp(factor, 1, largestFactor);
+}
+
+int floorOfQuotient(int place, int factor) {
+    return place < 0 ? -1 : place / factor;
+}
+
+}  // namespace
+
+ColorPicModel::ColorPicModel() : blinkColors_(blinkTable()) {
+    setRGBColor(black);
+}
+
+void ColorPicModel::setRGBColor(Color color) {
+    rgbColor_ = std::clamp(color, black, white);
+    field_ = palette().find(rgbColor_, field_);
+}
+
+void ColorPicModel::SetRGBColorToCurrentPixelColor() {
+    rgbColor_ = palette().at(field_);
+}
+
+std::string ColorPicModel::valueText() const {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string text = "#";
+    // Red is the lowest byte and is read first.
+    for (const int shift : {4, 0, 12, 8, 20, 16}) {
+        text += digits[static_cast<std::size_t>(rgbColor_ >> shift & 0xF)];
+    }
+    return text;
+}
+
+void ColorPicModel::setPictureIndex(int index) {
+    pictureIndex_ = std::clamp(index, 0, paletteCount - 1);
+    field_ = palette().find(rgbColor_, palette().clamped(field_));
+}
+
+void ColorPicModel::setSizeFactorX(int factor) {
+    factor_.width = keptFactor(factor);
+}
+
+void ColorPicModel::setSizeFactorY(int factor) {
+    factor_.height = keptFactor(factor);
+}
+
+PixelSize ColorPicModel::size() const {
+    const PixelSize fields = palette().size;
+    return {fields.width * factor_.width, fields.height * factor_.height};
+}
+
+PixelRect ColorPicModel::fieldBox(PixelPoint field) const {
+    const int left = field.x * factor_.width;
+    const int top = field.y * factor_.height;
+    return {left, top, left + factor_.width, top + factor_.height};
+}
+
+Color ColorPicModel::markColor() const {
+    if (hasFocus_) {
+        return blinkColors_[blinkIndex_];
+    }
+    return Luminance(palette().at(field_)) < dimmest ? white : black;
+}
+
+void ColorPicModel::press(PixelPoint point) {
+    mouseIsDown_ = true;
+    PickAt(point);
+}
+
+void ColorPicModel::move(PixelPoint point) {
+    if (mouseIsDown_) {
+        PickAt(point);
+    }
+}
+
+void ColorPicModel::release(PixelPoint point) {
+    PickAt(point);
+    mouseIsDown_ = false;
+    if (doubleClicked_) {
+        doubleClicked_ = false;
+        DoubleClick.raise();
+    }
+}
+
+void ColorPicModel::cancel() {
+    mouseIsDown_ = false;
+    doubleClicked_ = false;
+}
+
+bool ColorPicModel::keyDown(int key) {
+    switch (key) {
+        case key::left:
+            pickField({field_.x - 1, field_.y});
+            return true;
+        case key::right:
+            pickField({field_.x + 1, field_.y});
+            return true;
+        case key::up:
+            pickField({field_.x, field_.y - 1});
+            return true;
+        case key::down:
+            pickField({field_.x, field_.y + 1});
+            return true;
+        default:
+            return false;
+    }
+}
+
+void ColorPicModel::setFocus(bool focused) {
+    hasFocus_ = focused;
+    blinkIndex_ = 0;
+}
+
+void ColorPicModel::tick() {
+    blinkIndex_ = (blinkIndex_ + 1) % blinkColors_.size();
+}
+
+PixelPoint ColorPicModel::fieldAt(PixelPoint point) const {
+    return palette().clamped(
+        {floorOfQuotient(point.x, factor_.width), floorOfQuotient(point.y, factor_.height)});
+}
+
+void ColorPicModel::PickAt(PixelPoint point) {
+    pickField(fieldAt(point));
+}
+
+void ColorPicModel::pickField(PixelPoint field) {
+    field_ = palette().clamped(field);
+    SetRGBColorToCurrentPixelColor();
+    RGBChanged.raise();
+}
+
+}  // namespace ormala

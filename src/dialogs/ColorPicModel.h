@@ -1,0 +1,84 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/Event.h"
+#include "dialogs/palettes.h"
+
+namespace ormala {
+
+/// What the colour picker holds and decides: the colour, the mark on its field, mouse, keys and
+/// blinking. Places are pixels of the shown palette.
+class ColorPicModel {
+  public:
+    ColorPicModel();
+
+    [[nodiscard]] Color RGBColor() const { return rgbColor_; }
+    /// Kept within black and white. The mark goes to the first field of that colour; where there is
+    /// none it stays. Raises no `RGBChanged`.
+    void setRGBColor(Color color);
+    /// The colour of the field under the mark becomes the chosen one.
+    void SetRGBColorToCurrentPixelColor();
+
+    /// The colour as screen readers are told of it, such as "#FFE600".
+    [[nodiscard]] std::string valueText() const;
+
+    [[nodiscard]] int PictureIndex() const { return pictureIndex_; }
+    /// An index beyond an end takes the palette at that end. The mark goes to the colour.
+    void setPictureIndex(int index);
+    /// The size of a field in pixels, each kept within 1 and 100.
+    [[nodiscard]] int SizeFactorX() const { return factor_.width; }
+    [[nodiscard]] int SizeFactorY() const { return factor_.height; }
+    void setSizeFactorX(int factor);
+    void setSizeFactorY(int factor);
+
+    [[nodiscard]] const Palette& palette() const { return paletteOf(pictureIndex_); }
+    /// Of the whole palette in pixels.
+    [[nodiscard]] PixelSize size() const;
+    /// The field under the mark, and its pixels.
+    [[nodiscard]] PixelPoint field() const { return field_; }
+    [[nodiscard]] PixelRect fieldBox(PixelPoint field) const;
+    [[nodiscard]] PixelRect shpSelected() const { return fieldBox(field_); }
+    /// At rest black or white, whichever stands out; blinking while the focus is here.
+    [[nodiscard]] Color markColor() const;
+
+    /// The left button goes down, moves and comes up again. A double click comes between its
+    /// second press and the release that ends it, and is told by that release.
+    void press(PixelPoint point);
+    void move(PixelPoint point);
+    void doubleClick() { doubleClicked_ = true; }
+    void release(PixelPoint point);
+    /// The button is lost without a release.
+    void cancel();
+    /// An arrow key picks the next field; false for any other key.
+    bool keyDown(int key);
+
+    void setFocus(bool focused);
+    [[nodiscard]] bool hasFocus() const { return hasFocus_; }
+    /// Wants to be called each 30 ms while the focus is here.
+    void tick();
+
+    /// The user has picked a field, be it the same one again. A handler must not destroy the
+    /// picker.
+    Event<> RGBChanged;
+    /// Raised last: a handler may destroy the picker.
+    Event<> DoubleClick;
+
+  private:
+    [[nodiscard]] PixelPoint fieldAt(PixelPoint point) const;
+    void PickAt(PixelPoint point);
+    void pickField(PixelPoint field);
+
+    Color rgbColor_ = 0;
+    int pictureIndex_ = 0;
+    PixelSize factor_{10, 10};
+    PixelPoint field_;
+    bool mouseIsDown_ = false;
+    bool doubleClicked_ = false;
+    bool hasFocus_ = false;
+    std::vector<Color> blinkColors_;
+    std::size_t blinkIndex_ = 0;
+};
+
+}  // namespace ormala

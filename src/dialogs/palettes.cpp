@@ -1,0 +1,103 @@
+#include "dialogs/palettes.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+
+namespace ormala {
+
+namespace {
+
+/// The hue in degrees, all else from 0 to 1.
+Color colorOf(double hue, double saturation, double lightness) {
+    const double reach = saturation * std::min(lightness, 1 - lightness);
+    const auto component = [&](double offset) {
+        const double place = std::fmod(offset + hue / 30, 12);
+        const double share = std::clamp(std::min(place - 3, 9 - place), -1.0, 1.0);
+        return static_cast<int>(std::lround(255 * (lightness - reach * share)));
+    };
+    return rgb(component(0), component(8), component(4));
+}
+
+Color grey(double lightness) {
+    return colorOf(0, 0, lightness);
+}
+
+double between(double first, double last, int step, int steps) {
+    return first + (last - first) * step / (steps - 1);
+}
+
+/// A row of equally spaced hues.
+void addHues(Palette& palette, int count, double saturation, double lightness) {
+    for (int column = 0; column < count; ++column) {
+        palette.colors.push_back(colorOf(360.0 * column / count, saturation, lightness));
+    }
+}
+
+/// From light to dark, with one row of the pure hues on the way.
+double lightnessOfRow(int row, int rows) {
+    constexpr double lightest = 0.92;
+    constexpr double pure = 0.5;
+    constexpr double darkest = 0.1;
+    const int middle = rows / 2;
+    return row <= middle ? between(lightest, pure, row, middle + 1)
+                         : between(pure, darkest, row - middle, rows - middle);
+}
+
+Palette huesByLightness() {
+    Palette palette{{25, 12}, {}};
+    for (int row = 0; row < palette.size.height; ++row) {
+        addHues(palette, 24, 1, lightnessOfRow(row, palette.size.height));
+        palette.colors.push_back(grey(between(1, 0, row, palette.size.height)));
+    }
+    return palette;
+}
+
+Palette pureColors() {
+    Palette palette{{12, 4}, {}};
+    for (int column = 0; column < palette.size.width; ++column) {
+        palette.colors.push_back(grey(between(0, 1, column, palette.size.width)));
+    }
+    for (const double lightness : {0.5, 0.25, 0.75}) {
+        addHues(palette, palette.size.width, 1, lightness);
+    }
+    return palette;
+}
+
+Palette mutedColors() {
+    Palette palette{{13, 8}, {}};
+    for (int row = 0; row < palette.size.height; ++row) {
+        const double lightness = between(0.88, 0.18, row, palette.size.height);
+        addHues(palette, 12, 0.28, lightness);
+        palette.colors.push_back(grey(lightness));
+    }
+    return palette;
+}
+
+}  // namespace
+
+Color Palette::at(PixelPoint field) const {
+    return colors.at(static_cast<std::size_t>(field.y * size.width + field.x));
+}
+
+PixelPoint Palette::clamped(PixelPoint field) const {
+    return {std::clamp(field.x, 0, size.width - 1), std::clamp(field.y, 0, size.height - 1)};
+}
+
+PixelPoint Palette::find(Color color, PixelPoint otherwise) const {
+    const auto found = std::ranges::find(colors, color);
+    if (found == colors.end()) {
+        return otherwise;
+    }
+    const int index = static_cast<int>(found - colors.begin());
+    return {index % size.width, index / size.width};
+}
+
+const Palette& paletteOf(int index) {
+    static const std::array<Palette, paletteCount> palettes = {huesByLightness(), pureColors(),
+                                                               mutedColors()};
+    return palettes.at(static_cast<std::size_t>(std::clamp(index, 0, paletteCount - 1)));
+}
+
+}  // namespace ormala

@@ -1,0 +1,215 @@
+#include "dialogs/win/ColorPic.h"
+
+#include <oleacc.h>
+#include <windowsx.h>
+
+#include <algorithm>
+
+#include "platform/win/Accessible.h"
+#include "platform/win/controlName.h"
+#include "platform/win/regions.h"
+#include "widgets/win/darkColors.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr UINT_PTR Timer1 = 1;
+constexpr UINT blinkInterval = 30;
+
+/// The part of a field's shorter side that a line of the mark takes.
+constexpr int markShare = 8;
+
+}  // namespace
+
+ColorPic::ColorPic(HWND parent, int id, std::string_view name) {
+    WindowDesign design;
+    design.className = L"ColorPic";
+    design.classStyle = CS_DBLCLKS;
+    design.style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+    design.owner = parent;
+    design.id = id;
+    create(design);
+    setControlName(handle(), name);
+    changing_ = model_.RGBChanged.subscribe([this] {
+        showColor();
+        RGBChanged.raise();
+    });
+    ending_ = model_.DoubleClick.subscribe([this] { DoubleClick.raise(); });
+    resize();
+}
+
+void ColorPic::setRGBColor(Color color) {
+    model_.setRGBColor(color);
+    showColor();
+}
+
+void ColorPic::SetRGBColorToCurrentPixelColor() {
+    model_.SetRGBColorToCurrentPixelColor();
+    showColor();
+}
+
+void ColorPic::setPictureIndex(int index) {
+    model_.setPictureIndex(index);
+    resize();
+}
+
+void ColorPic::setSizeFactorX(int factor) {
+    model_.setSizeFactorX(factor);
+    resize();
+}
+
+void ColorPic::setSizeFactorY(int factor) {
+    model_.setSizeFactorY(factor);
+    resize();
+}
+
+void ColorPic::place(PixelPoint corner) const {
+    SetWindowPos(handle(), nullptr, corner.x, corner.y, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void ColorPic::resize() {
+    const PixelSize size = model_.size();
+    SetWindowPos(handle(), nullptr, 0, 0, size.width, size.height,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void ColorPic::showColor() {
+    InvalidateRect(handle(), nullptr, FALSE);
+    NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, handle(), OBJID_CLIENT, CHILDID_SELF);
+}
+
+void ColorPic::paint(HDC context, const PixelRect& wanted) const {
+    const PixelSize fields = palette().size;
+    for (int y = 0; y < fields.height; ++y) {
+        for (int x = 0; x < fields.width; ++x) {
+            if (const PixelRect box = fieldBox({x, y}); box.meets(wanted)) {
+                fillRect(context, toRect(box), palette().at({x, y}));
+            }
+        }
+    }
+    const int line = std::max(1, std::min(SizeFactorX(), SizeFactorY()) / markShare);
+    frameRect(context, shpSelected(), line, model_.markColor());
+}
+
+/// While the mark blinks only its field is painted.
+LRESULT ColorPic::onPaint() {
+    const PaintScope scope(handle());
+    if (buffer_.resize(size())) {
+        const PixelRect wanted = fromRect(scope.area());
+        paint(buffer_.context(), wanted);
+        BitBlt(scope.context(), wanted.left, wanted.top, wanted.width(), wanted.height(),
+               buffer_.context(), wanted.left, wanted.top, SRCCOPY);
+    }
+    return 0;
+}
+
+LRESULT ColorPic::onFocus(bool focused) {
+    model_.setFocus(focused);
+    if (focused) {
+        SetTimer(handle(), Timer1, blinkInterval, nullptr);
+    } else {
+        KillTimer(handle(), Timer1);
+    }
+    InvalidateRect(handle(), nullptr, FALSE);
+    return 0;
+}
+
+LRESULT ColorPic::onTimer() {
+    model_.tick();
+    const RECT mark = toRect(shpSelected());
+    InvalidateRect(handle(), &mark, FALSE);
+    return 0;
+}
+
+void ColorPic::holdMouse() {
+    SetCapture(handle());
+    holdsMouse_ = true;
+}
+
+LRESULT ColorPic::press(PixelPoint point) {
+    SetFocus(handle());
+    holdMouse();
+    model_.press(point);
+    return 0;
+}
+
+LRESULT ColorPic::pressAgain() {
+    holdMouse();
+    model_.doubleClick();
+    return 0;
+}
+
+/// The release of a button that went down elsewhere picks nothing.
+LRESULT ColorPic::release(PixelPoint point) {
+    if (holdsMouse_) {
+        holdsMouse_ = false;
+        ReleaseCapture();
+        model_.release(point);
+    }
+    return 0;
+}
+
+LRESULT ColorPic::onCaptureChanged() {
+    if (holdsMouse_) {
+        holdsMouse_ = false;
+        model_.cancel();
+    }
+    return 0;
+}
+
+LRESULT ColorPic::onAccessibleFacts(LPARAM lParam) const {
+    AccessibleFacts& facts = wantedFacts(lParam);
+    facts.name = tip_.text();
+    facts.value = model_.valueText();
+    facts.role = ROLE_SYSTEM_LIST;
+    return TRUE;
+}
+
+std::optional<LRESULT> ColorPic::mouseMessage(UINT message, PixelPoint point) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+            return press(point);
+        case WM_LBUTTONDBLCLK:
+            return pressAgain();
+        case WM_MOUSEMOVE:
+            model_.move(point);
+            return 0;
+        case WM_LBUTTONUP:
+            return release(point);
+        default:
+            return std::nullopt;
+    }
+}
+
+std::optional<LRESULT> ColorPic::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    tip_.relay(handle(), message, wParam, lParam);
+    switch (message) {
+        case WM_PAINT:
+            return onPaint();
+        case WM_ERASEBKGND:
+            return 1;
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
+            return onFocus(message == WM_SETFOCUS);
+        case WM_TIMER:
+            return onTimer();
+        case WM_GETDLGCODE:
+            return DLGC_WANTARROWS;
+        case WM_KEYDOWN:
+            return model_.keyDown(static_cast<int>(wParam)) ? std::optional<LRESULT>(0)
+                                                            : std::nullopt;
+        case WM_CAPTURECHANGED:
+            return onCaptureChanged();
+        case WM_GETOBJECT:
+            return answerAccessible(handle(), wParam, lParam);
+        case accessibleFactsMessage:
+            return onAccessibleFacts(lParam);
+        default:
+            return mouseMessage(message, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+    }
+}
+
+}  // namespace ormala

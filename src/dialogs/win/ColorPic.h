@@ -1,0 +1,80 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "dialogs/ColorPicModel.h"
+#include "platform/win/BackBuffer.h"
+#include "platform/win/TipWindow.h"
+#include "platform/win/Window.h"
+
+namespace ormala {
+
+/// Shows one of the palettes, on which the user picks a colour by mouse or arrow keys. A mark
+/// stands on the chosen field and blinks while the focus is here.
+class ColorPic : public Window {
+  public:
+    /// A visible child of `parent` in its corner. `name` is its control name.
+    ColorPic(HWND parent, int id, std::string_view name);
+    ~ColorPic() override { destroy(); }
+
+    [[nodiscard]] Color RGBColor() const { return model_.RGBColor(); }
+    /// Kept within black and white. The mark goes to the first field of that colour; where there is
+    /// none it stays. Raises no `RGBChanged`.
+    void setRGBColor(Color color);
+    /// The colour of the field under the mark becomes the chosen one.
+    void SetRGBColorToCurrentPixelColor();
+
+    [[nodiscard]] int PictureIndex() const { return model_.PictureIndex(); }
+    /// The palette that is shown; see `palettes.h`.
+    void setPictureIndex(int index);
+    /// The size of a field in pixels of the screen, each kept within 1 and 100. The control takes
+    /// the size of its palette.
+    [[nodiscard]] int SizeFactorX() const { return model_.SizeFactorX(); }
+    [[nodiscard]] int SizeFactorY() const { return model_.SizeFactorY(); }
+    void setSizeFactorX(int factor);
+    void setSizeFactorY(int factor);
+    /// The upper left corner in the parent's pixels.
+    void place(PixelPoint corner) const;
+
+    [[nodiscard]] const Palette& palette() const { return model_.palette(); }
+    /// The pixels of a field, of the whole palette, and of the field under the mark.
+    [[nodiscard]] PixelRect fieldBox(PixelPoint field) const { return model_.fieldBox(field); }
+    [[nodiscard]] PixelSize size() const { return model_.size(); }
+    [[nodiscard]] PixelRect shpSelected() const { return model_.shpSelected(); }
+
+    /// Also what screen readers call the control.
+    void SetTooltip(const std::string& text) { tip_.setText(text); }
+
+    /// The user has picked a field, be it the same one again. A handler must not destroy the
+    /// picker.
+    Event<> RGBChanged;
+    /// Raised once the colour is final: a handler may destroy the picker.
+    Event<> DoubleClick;
+
+  private:
+    std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    std::optional<LRESULT> mouseMessage(UINT message, PixelPoint point);
+    LRESULT onPaint();
+    LRESULT onFocus(bool focused);
+    LRESULT onTimer();
+    LRESULT onCaptureChanged();
+    LRESULT onAccessibleFacts(LPARAM lParam) const;
+    LRESULT press(PixelPoint point);
+    LRESULT pressAgain();
+    LRESULT release(PixelPoint point);
+    void holdMouse();
+    void resize();
+    void showColor();
+    void paint(HDC context, const PixelRect& wanted) const;
+
+    ColorPicModel model_;
+    BackBuffer buffer_;
+    HoverTip tip_;
+    bool holdsMouse_ = false;
+    Subscription changing_;
+    Subscription ending_;
+};
+
+}  // namespace ormala
