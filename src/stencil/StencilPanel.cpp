@@ -3,8 +3,10 @@
 #include <cstddef>
 
 #include "language/MlStringModule.h"
+#include "stencil/PatternPicture.h"
 #include "stencil/PatternTable.h"
 #include "stencil/StencilReadOuts.h"
+#include "stencil/StencilSteps.h"
 
 namespace ormala {
 
@@ -17,6 +19,9 @@ constexpr Rect fileRect{10, 10, 80, 60};
 constexpr Color fileColor = 0xFFFF00;
 constexpr int fileFirstPattern = 6;
 constexpr int noPattern = -1;
+
+constexpr Color pictureBack = rgb(104, 104, 104);
+constexpr Color pictureInk = rgb(0, 0, 0);
 
 /// The keys of a pattern slot, counted from 1.
 std::string patternKey(std::size_t slot) {
@@ -44,11 +49,18 @@ PatternSetting patternValue(INIFile& file, std::size_t slot) {
 }  // namespace
 
 StencilPanel::StencilPanel(ctlRatioGrid& tool, const PanelPorts& ports,
-                           const ToolSettings& settings, const SpecialRatios& ratios)
+                           const StencilPorts& stencilPorts, const ToolSettings& settings,
+                           const SpecialRatios& ratios)
     : PanelCore(tool, tool.events(), tool.History(), ports),
       tool_(tool),
+      commands_(stencilPorts.commands),
+      previewTimer_(stencilPorts.previewTimer),
       settings_(settings),
-      ratios_(ratios) {
+      ratios_(ratios),
+      repeat_(stencilPorts.tmrFast, [this] {
+          setRepeating(false);
+          AddHistoryStep();
+      }) {
     ShowAllProps(false);
 }
 
@@ -62,7 +74,119 @@ void StencilPanel::setLineWidth(int lineCode) {
     view().showLineStyle(lineCode);
 }
 
+void StencilPanel::pressMove(int index, int shift) {
+    setRepeating(true);
+    repeat_.press(shift, [this, index, shift] { moveStep(index, shift); });
+}
+
+void StencilPanel::pressAngle(int index, int shift) {
+    setRepeating(true);
+    repeat_.press(shift, [this, index, shift] { angleStep(index, shift); });
+}
+
+void StencilPanel::pressMoveKey(int index, int shift) {
+    repeat_.pressKey([this, index, shift] { moveStep(index, shift); });
+}
+
+void StencilPanel::pressAngleKey(int index, int shift) {
+    repeat_.pressKey([this, index, shift] { angleStep(index, shift); });
+}
+
+void StencilPanel::moveStep(int index, int shift) {
+    const Grid* grid = shift != 0 ? &settings_.grid : nullptr;
+    const StencilState state{tool_.RectBound(), tool_.RotationAngle(), {}};
+    tool_.setRectBound(afterMoveStep(state, index, grid));
+    ShowAllProps(false);
+}
+
+void StencilPanel::angleStep(int index, int shift) {
+    tool_.ModifyAngle(index == 1, angleStepOf(shift));
+    ShowAllProps(false);
+}
+
+void StencilPanel::clickAngleZero(int shift) {
+    tool_.setRotationAngle(zeroAngleOf(shift));
+    changed();
+}
+
+void StencilPanel::clickFullSize() {
+    tool_.setRotationAngle(0);
+    tool_.CenterToScreen(false, 0, true, false);
+    changed();
+}
+
+void StencilPanel::clickMoveCenter(int shift) {
+    tool_.CenterToScreen((shift & modifier::ctrl) != 0, 0, false, false);
+    changed();
+}
+
+void StencilPanel::clickEditRatio() {
+    const double present = PixelRatio(tool_.RectBound(), false);
+    const auto wished = commands_.EditRatio(present);
+    if (wished && *wished != present) {
+        tool_.setRectBound(withPixelRatio(tool_.RectBound(), *wished));
+        changed();
+    }
+}
+
+void StencilPanel::clickSelectPattern() {
+    PatternList patterns = tool_.PatternList();
+    if (commands_.SelectPattern(patterns, patternTab_)) {
+        tool_.setPatternList(patterns);
+        AddHistoryStep();
+        view().showPattern();
+    }
+}
+
+void StencilPanel::clickColor() {
+    setColor(commands_.SelectColor(Color()));
+    AddHistoryStep();
+}
+
+void StencilPanel::clickLineStyle() {
+    setLineWidth(commands_.SelectLineStyle(LineWidth()));
+    AddHistoryStep();
+}
+
+void StencilPanel::clickSendMouseInput() {
+    endPreview();
+    commands_.applyMouseAction(tool_);
+}
+
+void StencilPanel::hoverSendMouseInput(bool over) {
+    if (over) {
+        previewTimer_.runPreviewTimer(true);
+    } else {
+        endPreview();
+    }
+}
+
+void StencilPanel::showMousePreview() {
+    previewTimer_.runPreviewTimer(false);
+    tool_.setPreviewMouseAction(true);
+}
+
+void StencilPanel::endPreview() {
+    previewTimer_.runPreviewTimer(false);
+    tool_.setPreviewMouseAction(false);
+}
+
+void StencilPanel::letGo() {
+    release();
+    endPreview();
+}
+
+void StencilPanel::changed() {
+    AddHistoryStep();
+    ShowAllProps(false);
+}
+
+PixelImage StencilPanel::patternPicture(PixelSize size, int lineWidth) const {
+    return GetPatternPicture(tool_.PatternList(), size, pictureBack, pictureInk, lineWidth);
+}
+
 void StencilPanel::LoadFromFile(INIFile& file) {
+    const ToolChanges changes(tool_);
     tool_.setRectBound(rectValue(file));
     tool_.setRotationAngle(finiteValue(file, "RotationAngle", 0));
     setColor(file.LongValue("Color", fileColor));

@@ -19,17 +19,6 @@ Point inOwnFrame(const Point& center, const GripDrag& drag, double rotationAngle
     return RotatePoint(center.x, center.y, held.x, held.y, twoPi - rotationAngle);
 }
 
-/// After a change of one side or corner the centre has moved in the rectangle's own frame. The
-/// shift keeps the opposite side or corner where it is on the screen.
-void keepOppositeInPlace(Rect& rect, const Point& oldCenter, double rotationAngle) {
-    const Point newCenter = RectCenter(rect);
-    const Point turned =
-        RotatePoint(oldCenter.x, oldCenter.y, newCenter.x, newCenter.y, rotationAngle);
-    const double dx = turned.x - newCenter.x;
-    const double dy = turned.y - newCenter.y;
-    rect = {rect.left + dx, rect.top + dy, rect.right + dx, rect.bottom + dy};
-}
-
 /// One dimension of the rectangle as a side grip sees it.
 struct Dimension {
     double& dragged;
@@ -131,6 +120,15 @@ void setCorner(Rect& rect, const Point& direction, const Point& corner) {
 }
 
 }  // namespace
+
+void keepOppositeInPlace(Rect& rect, const Point& oldCenter, double rotationAngle) {
+    const Point newCenter = RectCenter(rect);
+    const Point turned =
+        RotatePoint(oldCenter.x, oldCenter.y, newCenter.x, newCenter.y, rotationAngle);
+    const double dx = turned.x - newCenter.x;
+    const double dy = turned.y - newCenter.y;
+    rect = {rect.left + dx, rect.top + dy, rect.right + dx, rect.bottom + dy};
+}
 
 void DragSize(StencilState& state, const GripDrag& drag) {
     Rect& rect = state.RectBound;

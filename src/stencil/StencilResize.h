@@ -14,4 +14,8 @@ void DragSize(StencilState& state, const GripDrag& drag);
 /// A corner: the ratio of the pixel sizes stays, Ctrl keeps the centre.
 void DragSizeCorner(StencilState& state, const GripDrag& drag);
 
+/// After a change of one side or corner the centre has moved in the rectangle's own frame. The
+/// shift keeps the opposite side or corner where it is on the screen.
+void keepOppositeInPlace(Rect& rect, const Point& oldCenter, double rotationAngle);
+
 }  // namespace ormala

@@ -21,9 +21,8 @@ ctlRatioGrid::ctlRatioGrid(ToolHost& host, const ToolSettings& settings,
       settings_(settings),
       ratios_(ratios),
       history_(state_, [this](const StencilState& state) { load(state); }) {
-    SetDefaultProperties();
-    SetGripColors();
-    PositionAll();
+    setDefaultState();
+    gripSet().setBorderColors(HasFocus(), Selected());
 }
 
 ctlRatioGrid::~ctlRatioGrid() {
@@ -32,10 +31,14 @@ ctlRatioGrid::~ctlRatioGrid() {
     }
 }
 
-void ctlRatioGrid::SetDefaultProperties() {
+void ctlRatioGrid::setDefaultState() {
     state_.RotationAngle = 0;
     state_.PatternList = {};
     state_.PatternList[0].Pattern = PatternIndexFromId(sectionDoubleId);
+}
+
+void ctlRatioGrid::SetDefaultProperties() {
+    setDefaultState();
     refresh();
 }
 
@@ -65,6 +68,9 @@ void ctlRatioGrid::setRotationAngle(double angle) {
 }
 
 void ctlRatioGrid::PositionAll() {
+    if (changing()) {
+        return;
+    }
     PositionGrips();
     refresh();
 }

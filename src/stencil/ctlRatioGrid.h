@@ -20,6 +20,7 @@ class ctlRatioGrid : public GripTool, private Ticking {
   public:
     static constexpr int historySlots = StateHistory<StencilState>::slots;
 
+    /// Laid out by its first change.
     ctlRatioGrid(ToolHost& host, const ToolSettings& settings, const SpecialRatios& ratios);
     ~ctlRatioGrid() override;
     ctlRatioGrid(const ctlRatioGrid&) = delete;
@@ -43,7 +44,7 @@ class ctlRatioGrid : public GripTool, private Ticking {
     void setRectBound(const Rect& rect);
     [[nodiscard]] double RotationAngle() const { return state_.RotationAngle; }
     void setRotationAngle(double angle);
-    /// Brings every visual item in line with the state.
+    /// Brings every visual item in line with the state, unless several changes are under way.
     void PositionAll();
     void ModifyAngle(bool negative, AngleStep stepKind);
     /// To the centre of the worksheet, shifted by `offset` pixels both ways; over the whole of it
@@ -67,6 +68,7 @@ class ctlRatioGrid : public GripTool, private Ticking {
     void addItemsTo(DirtyRegion& region, const PixelRect& area) const override;
     void tick() override;
 
+    void setDefaultState();
     void load(const StencilState& state);
     [[nodiscard]] std::string dragState(const GripDrag& held);
     void moveCenterByKey(int dx, int dy, bool byGrid);

@@ -1,49 +1,17 @@
 #include "stencil/StencilPanel.h"
 
-#include <gtest/gtest.h>
-
-#include "support/FakePanelView.h"
-#include "support/FakeToolHost.h"
-#include "support/ManualLanguage.h"
+#include "stencil/StencilPanelFixture.h"
 
 namespace ormala {
 namespace {
 
-class StencilPanelTest : public testing::Test {
-  protected:
-    StencilPanelTest() {
-        tool_.resize({1000, 800});
-        panel_.finish();
-        later(1);
-    }
-
-    void later(float seconds) { clock_.now += seconds; }
-    /// As a drag on the worksheet does.
-    void change(const Rect& rect) {
-        tool_.setRectBound(rect);
-        tool_.events().change.raise();
-    }
-    void turnTo(double angle) {
-        tool_.setRotationAngle(angle);
-        panel_.AddHistoryStep();
-    }
-
-    ManualLanguage language_{languageEnglish};
-    FakeToolHost host_;
-    ToolSettings settings_;
-    SpecialRatios ratios_{[](int, std::string_view text) { return std::string(text); }, {}};
-    ctlRatioGrid tool_{host_, settings_, ratios_};
-    FakePanelView view_;
-    FakeToolVisibility visibility_;
-    ManualDayClock clock_;
-    StencilPanel panel_{tool_, {view_, visibility_, clock_}, settings_, ratios_};
-};
+class StencilPanelTest : public StencilPanelFixture {};
 
 TEST_F(StencilPanelTest, ShowsTheToolThatItWasGiven) {
     EXPECT_EQ(view_.texts.size(), 13U);
     EXPECT_EQ(view_.look, unselectedLook);
-    EXPECT_EQ(&panel_.RefControlControl(), &tool_);
-    EXPECT_FALSE(panel_.Hidden());
+    EXPECT_EQ(&panel_->RefControlControl(), &tool_);
+    EXPECT_FALSE(panel_->Hidden());
 }
 
 TEST_F(StencilPanelTest, ABurstOfChangesWritesTheReadOutsOnceAndOnceAfterIt) {
@@ -58,43 +26,43 @@ TEST_F(StencilPanelTest, ABurstOfChangesWritesTheReadOutsOnceAndOnceAfterIt) {
     EXPECT_TRUE(view_.timerRuns);
     EXPECT_EQ(view_.timerStarts, 19);
     later(0.11F);
-    panel_.ShowAllProps(true);
+    panel_->ShowAllProps(true);
     EXPECT_EQ(view_.refreshes, 2);
     EXPECT_EQ(view_.texts["lblPositionRight"], "right = 119 ");
     EXPECT_FALSE(view_.timerRuns);
 }
 
 TEST_F(StencilPanelTest, AHeldButtonRefreshesMoreOften) {
-    panel_.setRepeating(true);
+    panel_->setRepeating(true);
     view_.refreshes = 0;
     for (int i = 0; i < 4; ++i) {
         change({0, 0, 100.0 + i, 100});
         later(0.05F);
     }
     EXPECT_EQ(view_.refreshes, 4);
-    panel_.setRepeating(false);
+    panel_->setRepeating(false);
     change({0, 0, 50, 50});
     EXPECT_EQ(view_.refreshes, 4);
 }
 
 TEST_F(StencilPanelTest, ThePanelOfTheSelectedToolStandsOut) {
-    panel_.setSelected(true);
+    panel_->setSelected(true);
     EXPECT_TRUE(tool_.Selected());
-    EXPECT_TRUE(panel_.Selected());
+    EXPECT_TRUE(panel_->Selected());
     EXPECT_EQ(view_.look, selectedLook);
     EXPECT_EQ(view_.selections, 1);
     later(1);
     tool_.events().change.raise();
     EXPECT_EQ(view_.selections, 1);
     later(1);
-    panel_.setSelected(false);
+    panel_->setSelected(false);
     EXPECT_EQ(view_.look, unselectedLook);
     EXPECT_EQ(view_.selections, 1);
 }
 
 TEST_F(StencilPanelTest, PassesItsLookOnToTheToolAndToItsButtons) {
-    panel_.setColor(0x102030);
-    panel_.setLineWidth(5);
+    panel_->setColor(0x102030);
+    panel_->setLineWidth(5);
     EXPECT_EQ(tool_.Color(), 0x102030);
     EXPECT_EQ(tool_.LineWidth(), 5);
     EXPECT_EQ(view_.buttons["cmdColor"].back, 0x102030);
@@ -103,14 +71,14 @@ TEST_F(StencilPanelTest, PassesItsLookOnToTheToolAndToItsButtons) {
 
 TEST_F(StencilPanelTest, PauseHidesTheToolAndDisablesThePanel) {
     turnTo(1);
-    panel_.setPause(true);
+    panel_->setPause(true);
     EXPECT_FALSE(visibility_.visible[&tool_]);
     EXPECT_EQ(view_.enabling, (PanelEnabling{false, false, false}));
     EXPECT_EQ(view_.buttons["cmdPause"], (ButtonLook{rgb(112, 112, 112), true}));
     later(1);
-    panel_.ShowAllProps(true);
+    panel_->ShowAllProps(true);
     EXPECT_EQ(view_.enabling, (PanelEnabling{false, false, false}));
-    panel_.setPause(false);
+    panel_->setPause(false);
     EXPECT_TRUE(visibility_.visible[&tool_]);
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, false}));
     EXPECT_EQ(view_.buttons["cmdPause"], (ButtonLook{rgb(187, 168, 0), false}));
@@ -120,12 +88,12 @@ TEST_F(StencilPanelTest, UndoAndRedoShowTheStateThatCameBack) {
     turnTo(pi / 2);
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, false}));
     view_.patternPictures = 0;
-    panel_.Undo();
+    panel_->Undo();
     EXPECT_EQ(tool_.RotationAngle(), 0);
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, false, true}));
     EXPECT_EQ(view_.patternPictures, 1);
     later(1);
-    panel_.Redo();
+    panel_->Redo();
     EXPECT_EQ(tool_.RotationAngle(), pi / 2);
     EXPECT_EQ(view_.texts["lblAngle1"], "90.0\u00b0 ");
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, false}));
@@ -133,7 +101,7 @@ TEST_F(StencilPanelTest, UndoAndRedoShowTheStateThatCameBack) {
 
 TEST_F(StencilPanelTest, TheFirstStateIsNoStepOfUndo) {
     turnTo(1);
-    panel_.InitializeFinished();
+    panel_->InitializeFinished();
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, false, false}));
     EXPECT_FALSE(tool_.History().UndoPossible());
 }
@@ -156,7 +124,7 @@ TEST_F(StencilPanelTest, TheEndKeyBringsTheToolBackToItsDefaultPlace) {
     tool_.keyDown(key::end, 0);
     EXPECT_EQ(tool_.RotationAngle(), 0);
     EXPECT_EQ(tool_.RectBound(), middle);
-    panel_.Undo();
+    panel_->Undo();
     EXPECT_EQ(tool_.RotationAngle(), 1);
 }
 

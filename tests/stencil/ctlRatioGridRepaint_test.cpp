@@ -44,6 +44,26 @@ void dress(StencilOnSheet& stage, Dice& dice) {
     stage.tool.setRectBound({left, top, left + dice.whole(25, 200), top + dice.whole(25, 150)});
 }
 
+TEST(CtlRatioGridRepaint, SeveralChangesAtOnceAreRepaintedAtTheirEnd) {
+    Dice dice;
+    for (int i = 0; i < 30; ++i) {
+        StencilOnSheet stage(sheet);
+        dress(stage, dice);
+        RepaintWatch watch = watchOf(stage);
+        const int before = stage.host.repaints;
+        {
+            const ToolChanges changes(stage.tool);
+            const ToolChanges more(stage.tool);
+            dress(stage, dice);
+            stage.tool.setSelected(i % 2 == 0);
+            EXPECT_EQ(stage.host.repaints, before) << i;
+        }
+        EXPECT_EQ(stage.host.repaints, before + 1) << i;
+        EXPECT_EQ(watch.missed(), 0) << i;
+        EXPECT_EQ(watch.beyondFootprint(), 0) << i;
+    }
+}
+
 TEST(CtlRatioGridRepaint, CoversEveryPixelThatADragChanges) {
     Dice dice;
     for (int i = 0; i < 40; ++i) {

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <array>
+
+#include "scene/PixelRect.h"
+#include "stencil/PatternTable.h"
+
+namespace ormala {
+
+/// Where the controls of `ctlPatternSelect` stand, in pixels at 96 DPI.
+struct PatternSelectLayout {
+    struct Choice {
+        PixelRect button;
+        PixelRect label;
+    };
+
+    /// By their index in the `PatternTable`.
+    std::array<Choice, PatternTable::count> patterns;
+    /// The headings of the groups.
+    std::array<PixelRect, 3> groups;
+    Choice noPattern;
+    PixelRect rotationLabel;
+    PixelRect rotation;
+    PixelSize size;
+};
+
+/// The patterns of a group follow each other under its heading, in the order of the table. A group
+/// that has room beside the former one stands there.
+PatternSelectLayout patternSelectLayout();
+
+}  // namespace ormala
