@@ -42,8 +42,12 @@ constexpr ButtonLook switchLook(bool on) {
 
 }  // namespace
 
-MeasurePanel::MeasurePanel(ctlMeasure& tool, const PanelPorts& ports, const ToolSettings& settings)
-    : PanelCore(tool, tool.events(), tool.History(), ports), tool_(tool), settings_(settings) {
+MeasurePanel::MeasurePanel(ctlMeasure& tool, const PanelPorts& ports, MeasureCommands& commands,
+                           const ToolSettings& settings)
+    : PanelCore(tool, tool.events(), tool.History(), ports),
+      tool_(tool),
+      commands_(commands),
+      settings_(settings) {
     ShowAllProps(false);
 }
 
@@ -88,12 +92,30 @@ void MeasurePanel::toggleLengthLabels() {
     ShowAllProps(false);
 }
 
-void MeasurePanel::unitsChanged() {
-    tool_.PositionGrips();
-    ShowAllProps(false);
+void MeasurePanel::clickColorA() {
+    setColorA(commands_.SelectColor(ColorA()));
+    AddHistoryStep();
+}
+
+void MeasurePanel::clickColorB() {
+    setColorB(commands_.SelectColor(ColorB()));
+    AddHistoryStep();
+}
+
+void MeasurePanel::clickLineStyle() {
+    setLineWidth(commands_.SelectLineStyle(LineWidth()));
+    AddHistoryStep();
+}
+
+void MeasurePanel::clickUnits() {
+    if (commands_.SelectUnits(tool_)) {
+        tool_.PositionGrips();
+        ShowAllProps(false);
+    }
 }
 
 void MeasurePanel::LoadFromFile(INIFile& file) {
+    const ToolChanges changes(tool_);
     loadLines(file);
     setLineWidth(file.LongValue("LineWidth", solidOnePixel));
     setColorA(file.LongValue("ColorA", fileColorA));
@@ -145,6 +167,7 @@ bool MeasurePanel::visitKeys(ToolKeys& keys) const {
 }
 
 void MeasurePanel::setDefaultLook(ToolColors& colors) {
+    const ToolChanges changes(tool_);
     constexpr int kind = static_cast<int>(ToolKind::measurement);
     setColorA(colors.NextDefaultToolColor(kind, false));
     setColorB(colors.NextDefaultToolColor(kind, false));
@@ -164,6 +187,7 @@ MeasureUnits MeasurePanel::units() const {
 
 void MeasurePanel::inherit(const ToolPanel& former) {
     const auto& measure = dynamic_cast<const MeasurePanel&>(former);
+    const ToolChanges changes(tool_);
     setLineWidth(measure.LineWidth());
     tool_.setConnected(measure.tool_.Connected());
     tool_.setLabelsAngleVisible(measure.tool_.LabelsAngleVisible());

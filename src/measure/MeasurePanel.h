@@ -1,5 +1,6 @@
 #pragma once
 
+#include "measure/MeasureCommands.h"
 #include "measure/ctlMeasure.h"
 #include "scene/ToolSettings.h"
 #include "widgets/PanelCore.h"
@@ -11,7 +12,8 @@ namespace ormala {
 class MeasurePanel : public PanelCore {
   public:
     /// All must outlive the panel.
-    MeasurePanel(ctlMeasure& tool, const PanelPorts& ports, const ToolSettings& settings);
+    MeasurePanel(ctlMeasure& tool, const PanelPorts& ports, MeasureCommands& commands,
+                 const ToolSettings& settings);
 
     [[nodiscard]] ctlMeasure& RefControl() { return tool_; }
 
@@ -28,8 +30,10 @@ class MeasurePanel : public PanelCore {
     void connect(bool connected);
     void toggleAngleLabels();
     void toggleLengthLabels();
-    /// The user has changed the tool's units.
-    void unitsChanged();
+    void clickColorA();
+    void clickColorB();
+    void clickLineStyle();
+    void clickUnits();
 
     void LoadFromFile(INIFile& file) override;
     void StoreToFile(INIFile& file) const override;
@@ -57,6 +61,7 @@ class MeasurePanel : public PanelCore {
     bool visitKeys(ToolKeys& keys) const;
 
     ctlMeasure& tool_;
+    MeasureCommands& commands_;
     const ToolSettings& settings_;
     int number_ = 0;
 };

@@ -25,18 +25,21 @@ ctlMeasure::ctlMeasure(ToolHost& host, const ToolSettings& settings, const Other
       settings_(settings),
       others_(others),
       history_(state_, [this](const MeasureState& state) { load(state); }) {
-    SetGripColors();
+    gripSet().setBorderColors(HasFocus(), Selected());
     tagGrips();
-    PositionGrips();
 }
 
 void ctlMeasure::SetDefaultProperties() {
+    const ToolChanges changes(*this);
     signs_.LabelsLengthVisible = true;
     signs_.LabelsAngleVisible = true;
     setConnected(true);
 }
 
 void ctlMeasure::PositionGrips() {
+    if (changing()) {
+        return;
+    }
     for (int i = 0; i < measureGripCount; ++i) {
         gripSet().place(i, measureGripPoint(static_cast<MeasureGrip>(i), state_));
     }

@@ -21,6 +21,7 @@ class ctlMeasure : public GripTool {
   public:
     static constexpr int historySlots = StateHistory<MeasureState>::slots;
 
+    /// Laid out by its first change.
     ctlMeasure(ToolHost& host, const ToolSettings& settings, const OtherMeasures& others);
 
     void keyDown(int key, int shift) override;
@@ -28,7 +29,7 @@ class ctlMeasure : public GripTool {
 
     /// Both kinds of labels, and connected lines.
     void SetDefaultProperties();
-    /// Brings every visual item in line with the state.
+    /// Brings every visual item in line with the state, unless several changes are under way.
     void PositionGrips();
 
     // A new unit shows with the next `PositionGrips`.

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "measure/ManualMeasures.h"
+#include "support/FakePanelCommands.h"
 #include "support/FakePanelView.h"
 #include "support/FakeToolHost.h"
 #include "support/ManualLanguage.h"
@@ -35,7 +36,8 @@ class MeasurePanelTest : public testing::Test {
     FakePanelView view_;
     FakeToolVisibility visibility_;
     ManualDayClock clock_;
-    MeasurePanel panel_{tool_, {view_, visibility_, clock_}, settings_};
+    FakeMeasureCommands commands_;
+    MeasurePanel panel_{tool_, {view_, visibility_, clock_}, commands_, settings_};
 };
 
 TEST_F(MeasurePanelTest, ShowsWhatTheToolMeasures) {
@@ -50,14 +52,28 @@ TEST_F(MeasurePanelTest, ShowsWhatTheToolMeasures) {
 }
 
 TEST_F(MeasurePanelTest, ShowsLengthsInTheToolsUnits) {
-    tool_.setLengthMode(2);
-    tool_.setLengthFactor(3);
-    tool_.setLengthUnit("cm");
-    tool_.setAngleMode(1);
-    panel_.unitsChanged();
+    commands_.units = MeasureUnits{1, 2, 3, "cm"};
+    panel_.clickUnits();
+    EXPECT_EQ(commands_.unitsShown, std::vector{MeasureUnits{}});
     EXPECT_EQ(shown("lblLengthA"), "a = " + FormatLength(100, 2, 3, "cm", 100, {}) + " ");
     EXPECT_EQ(shown("lblLengthB"), "b = " + FormatLength(50, 2, 3, "cm", 100, {}) + " ");
     EXPECT_EQ(shown("lblAngleVertB"), FormatAngle(tool_.AngleVertB(), 1, {}) + " ");
+}
+
+TEST_F(MeasurePanelTest, TheYardstickReadsTheFactorWhateverItsLength) {
+    panel_.setUnits({0, 2, 7.5, "km"});
+    for (const double y : {150.0, 199.0, 1234.5}) {
+        tool_.setLineA({100, y, 100, 100});
+        EXPECT_EQ(shown("lblLengthA"), "a = " + FormatLength(7.5, 1, 1, "km", 1, {}) + " ");
+    }
+}
+
+TEST_F(MeasurePanelTest, AnotherUnitLeavesTheNumberAsItWas) {
+    tool_.setLineB({109, 100, 100, 100});
+    panel_.setUnits({0, 1, 1, "mi"});
+    EXPECT_EQ(shown("lblLengthB"), "b = 10.0 mi ");
+    panel_.setUnits({0, 1, 1, "km"});
+    EXPECT_EQ(shown("lblLengthB"), "b = 10.0 km ");
 }
 
 TEST_F(MeasurePanelTest, DuringADragTheTextsChangeAtMostEveryTenthOfASecond) {
@@ -154,6 +170,50 @@ TEST_F(MeasurePanelTest, AColourIsNoStepOfUndo) {
     panel_.setColorA(0x123456);
     panel_.AddHistoryStep();
     EXPECT_FALSE(tool_.History().UndoPossible());
+}
+
+TEST_F(MeasurePanelTest, ColoursAndLineComeFromTheirDialogs) {
+    commands_.color = rgb(0, 0, 64);
+    panel_.clickColorA();
+    commands_.color = rgb(255, 255, 128);
+    panel_.clickColorB();
+    commands_.lineStyle = 3;
+    panel_.clickLineStyle();
+    EXPECT_EQ(tool_.ColorA(), rgb(0, 0, 64));
+    EXPECT_EQ(tool_.ColorB(), rgb(255, 255, 128));
+    EXPECT_EQ(view_.buttons["cmdColorA"].text, rgb(255, 255, 255));
+    EXPECT_EQ(view_.lineStyle, 3);
+    EXPECT_FALSE(tool_.History().UndoPossible());
+}
+
+TEST_F(MeasurePanelTest, CancelledDialogsChangeNothing) {
+    const Color colorA = tool_.ColorA();
+    const MeasureUnits units{0, 1, 0.5, "km"};
+    panel_.setUnits(units);
+    view_.refreshes = 0;
+    panel_.clickColorA();
+    panel_.clickLineStyle();
+    panel_.clickUnits();
+    EXPECT_EQ(tool_.ColorA(), colorA);
+    EXPECT_EQ(commands_.unitsShown, std::vector{units});
+    EXPECT_EQ(tool_.LengthUnit(), "km");
+    EXPECT_EQ(tool_.LengthFactor(), 0.5);
+    EXPECT_FALSE(tool_.History().UndoPossible());
+    EXPECT_EQ(view_.refreshes, 0);
+}
+
+TEST_F(MeasurePanelTest, OnlyThePauseButtonBringsAPausedToolBack) {
+    panel_.togglePause();
+    EXPECT_FALSE(visibility_.visible[&tool_]);
+    EXPECT_FALSE(view_.enabling.controls);
+    panel_.togglePause();
+    EXPECT_TRUE(visibility_.visible[&tool_]);
+    EXPECT_TRUE(view_.enabling.controls);
+}
+
+TEST_F(MeasurePanelTest, TheButtonAsksForTheRemoval) {
+    panel_.remove();
+    EXPECT_EQ(view_.removeRequests, 1);
 }
 
 TEST_F(MeasurePanelTest, AnyModifierBlocksTheDeleteKey) {

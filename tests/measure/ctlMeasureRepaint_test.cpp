@@ -67,6 +67,37 @@ TEST(CtlMeasureRepaint, CoversEveryPixelThatADragChanges) {
     }
 }
 
+TEST(CtlMeasureRepaint, SeveralChangesAtOnceAreLaidOutAtTheirEndAndLookAsOneByOne) {
+    Dice dice;
+    Dice sameDice;
+    for (int i = 0; i < 30; ++i) {
+        MeasureOnSheet stage(sheet);
+        MeasureOnSheet oneByOne(sheet);
+        RepaintWatch watch(stage.tool, stage.host, sheet);
+        {
+            const ToolChanges changes(stage.tool);
+            const ToolChanges more(stage.tool);
+            dress(stage, dice);
+            EXPECT_EQ(stage.host.repaints, 0) << i;
+        }
+        EXPECT_GT(stage.host.repaints, 0) << i;
+        EXPECT_EQ(watch.missed(), 0) << i;
+        EXPECT_EQ(watch.beyondFootprint(), 0) << i;
+        dress(oneByOne, sameDice);
+        RasterCanvas atOnce(sheet);
+        RasterCanvas inSteps(sheet);
+        stage.tool.draw(atOnce);
+        oneByOne.tool.draw(inSteps);
+        int different = 0;
+        for (int pixel = 0; pixel < sheet.width * sheet.height; ++pixel) {
+            const int x = pixel % sheet.width;
+            const int y = pixel / sheet.width;
+            different += atOnce.at(x, y) == inSteps.at(x, y) ? 0 : 1;
+        }
+        EXPECT_EQ(different, 0) << i;
+    }
+}
+
 TEST(CtlMeasureRepaint, CoversLinesThatComeForwardOverEachOther) {
     MeasureOnSheet stage(sheet, false);
     stage.tool.setLineA({50, 50, 350, 250});
