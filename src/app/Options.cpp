@@ -37,10 +37,10 @@ void visitOptions(AnyOptions& options, Visitor&& visitor) {
     visitor("TransparencyTemplateMode", options.transparencyTemplateMode);
     visitor("Language", options.language);
     visitor("EditModeFormHeight", options.editModeFormHeight);
-    visitor("DefaultAngleMode", options.defaultAngleMode);
-    visitor("DefaultLengthMode", options.defaultLengthMode);
-    visitor("DefaultLengthFactor", options.defaultLengthFactor);
-    visitor("DefaultLengthUnit", options.defaultLengthUnit);
+    visitor("DefaultAngleMode", options.defaultUnits.AngleMode);
+    visitor("DefaultLengthMode", options.defaultUnits.LengthMode);
+    visitor("DefaultLengthFactor", options.defaultUnits.LengthFactor);
+    visitor("DefaultLengthUnit", options.defaultUnits.LengthUnit);
     visitor("WorksheetColor", options.worksheetColor);
     visitor("CrossHairEnabled", options.crossHairEnabled);
     visitor("GridEnabled", options.gridEnabled);
@@ -100,8 +100,8 @@ void mend(Options& options) {
     }
     options.transparencyEditMode = std::clamp(options.transparencyEditMode, 0, 100);
     options.transparencyTemplateMode = std::clamp(options.transparencyTemplateMode, 0, 100);
-    if (!(options.defaultLengthFactor > 0)) {
-        options.defaultLengthFactor = first.defaultLengthFactor;
+    if (!(options.defaultUnits.LengthFactor > 0)) {
+        options.defaultUnits.LengthFactor = first.defaultUnits.LengthFactor;
     }
     if (options.grid.stepX < 1) {
         options.grid.stepX = first.grid.stepX;

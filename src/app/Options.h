@@ -5,6 +5,7 @@
 #include "modAPI/colors.h"
 #include "modAPI/transforms.h"
 #include "storage/INIFile.h"
+#include "widgets/MeasureUnits.h"
 
 namespace ormala {
 
@@ -43,11 +44,8 @@ struct Options {
     int language = 9;
     /// Twips.
     int editModeFormHeight = 0;
-    int defaultAngleMode = 0;
-    int defaultLengthMode = 0;
-    /// The file holds it as a whole number.
-    double defaultLengthFactor = 1;
-    std::string defaultLengthUnit = "m";
+    /// Of new measuring tools. The file holds the factor as a whole number.
+    MeasureUnits defaultUnits;
     Color worksheetColor = 0x4F4F4F;
     bool crossHairEnabled = false;
     bool gridEnabled = false;

@@ -90,10 +90,12 @@ void ToolFile::loadTools() {
 ToolPanel* ToolFile::loadTool(const std::string& section) {
     INIFile& file = ports_.file;
     file.setCurrentSection(section);
-    ToolPanel* panel = ports_.tools.AddNewControl(file.LongValue("Type", 0));
+    const int kind = file.LongValue("Type", 0);
+    ToolPanel* panel = ports_.tools.AddNewControl(kind, [&file](ToolPanel& made) {
+        made.LoadFromFile(file);
+        made.setSelected(false);
+    });
     if (panel != nullptr) {
-        panel->LoadFromFile(file);
-        panel->setSelected(false);
         ports_.busy.refreshControlWindow();
     }
     return panel;

@@ -1,7 +1,6 @@
 #include "app/ToolList.h"
 
 #include <algorithm>
-#include <set>
 #include <utility>
 
 #include "language/MlStringModule.h"
@@ -31,6 +30,7 @@ void ToolList::prepareFirst(ToolKind kind) {
     if (tool == nullptr) {
         return;
     }
+    const ToolChanges changes(tool->control());
     const Pair& pair = append(kind, true, *tool);
     ToolPanel& panel = pair.panel();
     const bool measures = kind == ToolKind::measurement;
@@ -55,7 +55,7 @@ int ToolList::countOf(ToolKind kind) const {
     return static_cast<int>(std::ranges::count(pairs_, kind, &Pair::kind));
 }
 
-ToolPanel* ToolList::AddNewControl(int Kind) {
+ToolPanel* ToolList::AddNewControl(int Kind, const std::function<void(ToolPanel&)>& fill) {
     if (pairs_.size() >= largestCount) {
         ports_.messages.showError(
             MlString(302, "The maximum number of tools (33) has been reached."));
@@ -65,9 +65,10 @@ ToolPanel* ToolList::AddNewControl(int Kind) {
         return nullptr;
     }
     const auto kind = static_cast<ToolKind>(Kind);
-    Pair* pair = reuseFirst(kind);
+    std::optional<ToolChanges> changes;
+    Pair* pair = reuseFirst(kind, changes);
     if (pair == nullptr) {
-        pair = makePair(kind);
+        pair = makePair(kind, changes);
     }
     if (pair == nullptr) {
         return nullptr;
@@ -85,18 +86,22 @@ ToolPanel* ToolList::AddNewControl(int Kind) {
     panel.CenterToScreen(NextToolSize());
     panel.finish();
     listed.setVisible(true);
+    if (fill) {
+        fill(panel);
+    }
     return &panel;
 }
 
 /// The first pair of its kind, if it is the only one and not in use. It joins the list at its end,
 /// so that a set of tools comes back from its file in the order that it had.
-ToolList::Pair* ToolList::reuseFirst(ToolKind kind) {
+ToolList::Pair* ToolList::reuseFirst(ToolKind kind, std::optional<ToolChanges>& changes) {
     const auto at = std::ranges::find(pairs_, kind, &Pair::kind);
     if (at == pairs_.end() || !at->panel().Hidden() || countOf(kind) != 1) {
         return nullptr;
     }
     std::rotate(at, at + 1, pairs_.end());
     Pair& pair = pairs_.back();
+    changes.emplace(pair.panel().RefControlControl().control());
     pair.listed->setVisible(true);
     // So that the search for a free number doesn't find it.
     pair.panel().setNumber(0);
@@ -106,8 +111,8 @@ ToolList::Pair* ToolList::reuseFirst(ToolKind kind) {
     return &pair;
 }
 
-ToolList::Pair* ToolList::makePair(ToolKind kind) {
-    OverlayItem* tool = ports_.sheet.AddNewControl(static_cast<int>(kind));
+ToolList::Pair* ToolList::makePair(ToolKind kind, std::optional<ToolChanges>& changes) {
+    OverlayItem* tool = ports_.sheet.AddNewControl(static_cast<int>(kind), changes);
     return tool == nullptr ? nullptr : &append(kind, false, *tool);
 }
 
@@ -183,17 +188,15 @@ int ToolList::contentHeight() const {
 
 int ToolList::NextFreeMeasureNumber() const {
     constexpr int largestNumber = 1111;
-    std::set<int> taken;
+    std::vector<bool> taken(largestNumber + 1);
     for (const Pair& pair : pairs_) {
         if (pair.kind == ToolKind::measurement && !pair.panel().Hidden()) {
-            taken.insert(pair.panel().Number());
+            const int used = pair.panel().Number();
+            taken[used > 0 && used <= largestNumber ? static_cast<std::size_t>(used) : 0] = true;
         }
     }
-    int number = 1;
-    while (taken.contains(number)) {
-        ++number;
-    }
-    return number <= largestNumber ? number : 0;
+    const auto free = std::find(taken.begin() + 1, taken.end(), false);
+    return free == taken.end() ? 0 : static_cast<int>(free - taken.begin());
 }
 
 ToolPanel* ToolList::LastVisiblePanel(ToolKind kind) const {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "app/ListedPanel.h"
@@ -36,8 +38,8 @@ class ToolList {
     void showFirstTools();
 
     /// The panel of a new pair, selected; null for an unknown kind, and with a message to the user
-    /// if there are too many.
-    ToolPanel* AddNewControl(int Kind);
+    /// if there are too many. The tool is laid out once, after `fill`, which may change it further.
+    ToolPanel* AddNewControl(int Kind, const std::function<void(ToolPanel&)>& fill = {});
     /// Destroys the panel, unless it is a first one.
     void RemovePanel(const ToolPanel& panel);
     void RemoveAllTools();
@@ -68,8 +70,8 @@ class ToolList {
     };
 
     void prepareFirst(ToolKind kind);
-    Pair* reuseFirst(ToolKind kind);
-    Pair* makePair(ToolKind kind);
+    Pair* reuseFirst(ToolKind kind, std::optional<ToolChanges>& changes);
+    Pair* makePair(ToolKind kind, std::optional<ToolChanges>& changes);
     Pair& append(ToolKind kind, bool first, OverlayItem& tool);
     void setUpLook(ToolKind kind, ToolPanel& panel);
     double NextToolSize();

@@ -8,7 +8,6 @@ namespace {
 
 constexpr int captionIds[] = {303, 304, 305};
 constexpr int nameIds[] = {156, 162, 60};
-constexpr int tipIds[] = {157, 163, 161};
 
 std::string textOf(const int (&ids)[mode::count], int mode) {
     return mode >= 0 && mode < mode::count ? MlString(ids[mode], {}) : std::string{};
@@ -22,10 +21,6 @@ std::string captionOfMode(int mode) {
 
 std::string nameOfMode(int mode) {
     return textOf(nameIds, mode);
-}
-
-std::string tipOfMode(int mode) {
-    return textOf(tipIds, mode);
 }
 
 Color colorOfMode(int mode, int currentMode) {

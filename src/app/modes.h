@@ -19,9 +19,8 @@ constexpr int count = 3;
 /// The caption of the control window: the title and the mode.
 std::string captionOfMode(int mode);
 
-/// What a mode's button says and explains.
+/// What a mode's entry in the system menu says.
 std::string nameOfMode(int mode);
-std::string tipOfMode(int mode);
 
 /// The colour of a mode's button.
 Color colorOfMode(int mode, int currentMode);

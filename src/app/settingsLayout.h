@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "app/modes.h"
+#include "app/commands.h"
 #include "scene/PixelRect.h"
 
 namespace ormala {
@@ -11,14 +11,28 @@ namespace ormala {
 struct SettingsLayout {
     explicit SettingsLayout(int dpi);
 
-    /// The mode bar, in the order of the modes.
-    std::array<PixelRect, mode::count> btnMode;
+    [[nodiscard]] const PixelRect& boxOf(Command command) const {
+        return buttons[static_cast<std::size_t>(command)];
+    }
+
+    /// In the order of the commands.
+    std::array<PixelRect, commandCount> buttons;
+    /// The path line.
+    PixelRect lblPath;
+    /// The info line, which lies over the list.
+    PixelRect lblInfo;
     /// The list of panels; its bottom follows the window.
     PixelRect picOuter;
-    /// Of the client area: the fixed width, the least height and the one of a first start.
+    /// Of the client area: the fixed width, the least height and the one that a window has before
+    /// its list is filled.
     int width = 0;
     int shortHeight = 0;
     int firstHeight = 0;
 };
+
+/// Of the list of panels, in pixels.
+int listScrollBarWidth(int dpi);
+/// What a step of the arrows and a part of the wheel's glide move the list by.
+int listSmallChange(int dpi);
 
 }  // namespace ormala

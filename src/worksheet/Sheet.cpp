@@ -13,13 +13,14 @@ Sheet::Elements& Sheet::elements(ToolKind kind) {
     return arrays_[static_cast<std::size_t>(kind)];
 }
 
-OverlayItem* Sheet::add(ToolKind kind, bool visible) {
+OverlayItem* Sheet::add(ToolKind kind, bool visible, std::optional<ToolChanges>& changes) {
     auto made = factory_.makeTool(kind, host_);
     if (made == nullptr) {
         return nullptr;
     }
     const OverlayItem* former = front();
     OverlayItem& item = *made;
+    changes.emplace(item.control());
     elements(kind).push_back({std::move(made), visible});
     zOrder_.push_back(&item);
     item.resize(size_);
@@ -43,15 +44,21 @@ void Sheet::frontMayDifferFrom(const OverlayItem* former) {
 
 void Sheet::makeFirstControl(ToolKind kind) {
     if (elements(kind).empty()) {
-        add(kind, false);
+        std::optional<ToolChanges> changes;
+        add(kind, false, changes);
     }
 }
 
 OverlayItem* Sheet::AddNewControl(int kind) {
+    std::optional<ToolChanges> changes;
+    return AddNewControl(kind, changes);
+}
+
+OverlayItem* Sheet::AddNewControl(int kind, std::optional<ToolChanges>& changes) {
     if (kind < 0 || kind >= kinds) {
         return nullptr;
     }
-    return add(static_cast<ToolKind>(kind), true);
+    return add(static_cast<ToolKind>(kind), true, changes);
 }
 
 OverlayItem* Sheet::GetFirstControl(int kind) const {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "base/Event.h"
@@ -44,6 +45,8 @@ class Sheet {
     /// A further tool behind the last one of its kind, visible, in front of all others; null for an
     /// unknown kind.
     OverlayItem* AddNewControl(int kind);
+    /// The same, with changes under way from its making, which `changes` then ends.
+    OverlayItem* AddNewControl(int kind, std::optional<ToolChanges>& changes);
     /// Element 0 is only hidden, any other one is destroyed.
     void RemoveControl(const OverlayItem& item);
     /// Element 0 of that kind, null for another kind.
@@ -89,7 +92,7 @@ class Sheet {
     };
     using Elements = std::vector<Element>;
 
-    OverlayItem* add(ToolKind kind, bool visible);
+    OverlayItem* add(ToolKind kind, bool visible, std::optional<ToolChanges>& changes);
     [[nodiscard]] const Elements& elements(ToolKind kind) const;
     [[nodiscard]] Elements& elements(ToolKind kind);
     [[nodiscard]] const Element* find(const OverlayItem& item) const;

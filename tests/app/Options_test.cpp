@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "support/DecimalComma.h"
 #include "support/ManualLanguage.h"
 #include "support/MemoryINIFile.h"
 
@@ -33,10 +34,10 @@ const KeyCase keyCases[] = {
     {"TransparencyTemplateMode", " 100", [](Options& o) { o.transparencyTemplateMode = 100; }},
     {"Language", " 1031", [](Options& o) { o.language = 1031; }},
     {"EditModeFormHeight", " 8325", [](Options& o) { o.editModeFormHeight = 8325; }},
-    {"DefaultAngleMode", " 1", [](Options& o) { o.defaultAngleMode = 1; }},
-    {"DefaultLengthMode", " 2", [](Options& o) { o.defaultLengthMode = 2; }},
-    {"DefaultLengthFactor", " 12", [](Options& o) { o.defaultLengthFactor = 12; }},
-    {"DefaultLengthUnit", "\xB5m", [](Options& o) { o.defaultLengthUnit = "\u00b5m"; }},
+    {"DefaultAngleMode", " 1", [](Options& o) { o.defaultUnits.AngleMode = 1; }},
+    {"DefaultLengthMode", " 2", [](Options& o) { o.defaultUnits.LengthMode = 2; }},
+    {"DefaultLengthFactor", " 12", [](Options& o) { o.defaultUnits.LengthFactor = 12; }},
+    {"DefaultLengthUnit", "\xB5m", [](Options& o) { o.defaultUnits.LengthUnit = "\u00b5m"; }},
     {"WorksheetColor", " 16711680", [](Options& o) { o.worksheetColor = rgb(0, 0, 255); }},
     {"CrossHairEnabled", "-1", [](Options& o) { o.crossHairEnabled = true; }},
     {"GridEnabled", "-1", [](Options& o) { o.gridEnabled = true; }},
@@ -147,12 +148,12 @@ TEST_F(OptionsTest, WhatWasWrittenIsReadBack) {
 
 TEST_F(OptionsTest, ALengthFactorWithAFractionComesBackAsTheNearestWholeNumber) {
     Options options;
-    options.defaultLengthFactor = 2.7;
+    options.defaultUnits.LengthFactor = 2.7;
     writeOptions(file_, options);
-    EXPECT_EQ(readOptions(file_, languageEnglish).defaultLengthFactor, 3);
-    options.defaultLengthFactor = 2.4;
+    EXPECT_EQ(readOptions(file_, languageEnglish).defaultUnits.LengthFactor, 3);
+    options.defaultUnits.LengthFactor = 2.4;
     writeOptions(file_, options);
-    EXPECT_EQ(readOptions(file_, languageEnglish).defaultLengthFactor, 2);
+    EXPECT_EQ(readOptions(file_, languageEnglish).defaultUnits.LengthFactor, 2);
 }
 
 TEST_F(OptionsTest, AnyNumberButZeroReadsAsTrue) {
@@ -203,9 +204,9 @@ TEST_F(OptionsTest, AGridWithoutAStepGetsTheFirstOne) {
 }
 
 TEST_F(OptionsTest, ALengthFactorThatIsNotPositiveBecomesOne) {
-    EXPECT_EQ(readOne("DefaultLengthFactor", " 0").defaultLengthFactor, 1);
-    EXPECT_EQ(readOne("DefaultLengthFactor", "-2").defaultLengthFactor, 1);
-    EXPECT_EQ(readOne("DefaultLengthFactor", "x").defaultLengthFactor, 1);
+    EXPECT_EQ(readOne("DefaultLengthFactor", " 0").defaultUnits.LengthFactor, 1);
+    EXPECT_EQ(readOne("DefaultLengthFactor", "-2").defaultUnits.LengthFactor, 1);
+    EXPECT_EQ(readOne("DefaultLengthFactor", "x").defaultUnits.LengthFactor, 1);
 }
 
 TEST_F(OptionsTest, AMagnificationStaysBetweenOneAndTen) {
@@ -273,6 +274,18 @@ TEST_P(OptionsKeyTest, AChangeOfOneValueWritesOneOtherLine) {
 
 INSTANTIATE_TEST_SUITE_P(Every, OptionsKeyTest, testing::ValuesIn(keyCases),
                          [](const auto& test) { return std::string(test.param.key); });
+
+TEST(OptionsFile, HasTheSameBytesUnderALocaleWithADecimalComma) {
+    Options options;
+    options.defaultUnits.LengthFactor = 12345;
+    MemoryINIFile file;
+    writeOptions(file.file, options);
+    MemoryINIFile underComma;
+    const DecimalComma comma;
+    writeOptions(underComma.file, options);
+    EXPECT_EQ(underComma.bytes(), file.bytes());
+    EXPECT_EQ(readOptions(underComma.file, 9), options);
+}
 
 }  // namespace
 }  // namespace ormala

@@ -1,9 +1,8 @@
 #include "app/ToolFile.h"
 
-#include <clocale>
-
 #include "app/ToolFileFixture.h"
 #include "stencil/PatternTable.h"
+#include "support/DecimalComma.h"
 #include "support/exampleToolFile.h"
 
 namespace ormala {
@@ -159,18 +158,11 @@ TEST_F(ToolFileTest, ADecimalCommaEndsANumber) {
 
 TEST_F(ToolFileTest, FilesAreTheSameBytesUnderALocaleWithACommaAsDecimalSeparator) {
     stage_.settings.textForm.decimalSeparator = ",";
-    const char* const names[] = {"de_DE.UTF-8", "de_DE", "German", "fr_FR.UTF-8"};
-    for (const char* name : names) {
-        if (std::setlocale(LC_NUMERIC, name) != nullptr) {
-            break;
-        }
-    }
+    const DecimalComma comma;
     loadText(exampleToolFile);
     toolFile_.save();
-    const bool equal = toolFile_.compare();
-    std::setlocale(LC_NUMERIC, "C");
     EXPECT_EQ(bytes(), exampleToolFile);
-    EXPECT_TRUE(equal);
+    EXPECT_TRUE(toolFile_.compare());
     EXPECT_EQ(stage_.stencil(0).RefControl().RectBound().right, 560.5);
 }
 

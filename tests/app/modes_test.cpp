@@ -26,26 +26,14 @@ TEST(Modes, ANumberWithoutAModeHasNoTexts) {
     for (const int mode : {-1, 3}) {
         EXPECT_EQ(captionOfMode(mode), "Ormala");
         EXPECT_EQ(nameOfMode(mode), "");
-        EXPECT_EQ(tipOfMode(mode), "");
     }
 }
 
-TEST(Modes, TheButtonsSayTheirModes) {
+TEST(Modes, TheEntriesOfTheSystemMenuSayTheirModes) {
     const ManualLanguage language(languageEnglish);
     EXPECT_EQ(nameOfMode(mode::edit), "Edit");
     EXPECT_EQ(nameOfMode(mode::templateMode), "Template");
     EXPECT_EQ(nameOfMode(mode::pause), "Pause");
-}
-
-TEST(Modes, TheTipsExplainTheModesAndNameTheirKeys) {
-    const ManualLanguage language(languageEnglish);
-    EXPECT_EQ(tipOfMode(mode::edit),
-              "Edit mode: Manipulate the sizes and positions of the tools in the worksheet window."
-              "  F2");
-    EXPECT_EQ(tipOfMode(mode::templateMode),
-              "Template mode: The tools don't respond to mouse clicks, and they can be used as "
-              "templates.  F4");
-    EXPECT_EQ(tipOfMode(mode::pause), "Hide the worksheet window.  F3");
 }
 
 TEST(Modes, OnlyTheButtonOfTheCurrentModeIsLit) {

@@ -21,28 +21,42 @@ TEST_P(SettingsLayoutTest, TheShortWindowEndsTwelvePixelsAboveTheList) {
     EXPECT_NEAR(layout_.shortHeight, layout_.picOuter.top - scaled(12), 1);
 }
 
-TEST_P(SettingsLayoutTest, TheShortWindowStillShowsTheWholeBar) {
-    for (const PixelRect& button : layout_.btnMode) {
+TEST_P(SettingsLayoutTest, TheShortWindowStillShowsAllButtonsAndThePath) {
+    for (const PixelRect& button : layout_.buttons) {
         EXPECT_LT(button.bottom, layout_.shortHeight);
     }
+    EXPECT_LE(layout_.lblPath.bottom, layout_.shortHeight);
+}
+
+TEST_P(SettingsLayoutTest, ButtonsStandSideBySideWithinTheMargins) {
+    for (std::size_t i = 0; i < layout_.buttons.size(); ++i) {
+        const PixelRect& box = layout_.buttons[i];
+        EXPECT_FALSE(box.empty());
+        EXPECT_GE(box.left, layout_.picOuter.left);
+        EXPECT_LE(box.right, layout_.picOuter.right);
+        for (std::size_t j = 0; j < i; ++j) {
+            EXPECT_FALSE(box.meets(layout_.buttons[j])) << i << " and " << j;
+        }
+    }
+}
+
+TEST_P(SettingsLayoutTest, TheInfoLineLiesTwoLinesBelowThePathLine) {
+    EXPECT_NEAR(layout_.lblInfo.top, layout_.lblPath.top + 2 * layout_.lblPath.height(), 2);
+    EXPECT_EQ(layout_.lblInfo.left, layout_.lblPath.left);
 }
 
 TEST_P(SettingsLayoutTest, TheFirstWindowShowsTheWholeListAndTheSameMarginBelowAsAtItsLeft) {
     EXPECT_NEAR(layout_.firstHeight, layout_.picOuter.bottom + layout_.picOuter.left, 1);
 }
 
-TEST_P(SettingsLayoutTest, TheModesStandSideBySideInTheirOrder) {
-    const auto& buttons = layout_.btnMode;
-    EXPECT_EQ(buttons.front().left, layout_.picOuter.left);
-    EXPECT_EQ(buttons.back().right, layout_.picOuter.right);
-    for (std::size_t i = 0; i < buttons.size(); ++i) {
-        EXPECT_EQ(buttons[i].top, buttons[0].top);
-        EXPECT_EQ(buttons[i].bottom, buttons[0].bottom);
-        EXPECT_NEAR(buttons[i].width(), buttons[0].width(), scaled(1) + 1);
-        if (i > 0) {
-            EXPECT_GT(buttons[i].left, buttons[i - 1].right);
-        }
-    }
+TEST_P(SettingsLayoutTest, TheModesStandFirstInTheirOrder) {
+    const PixelRect& edit = layout_.boxOf(Command::editMode);
+    const PixelRect& templateMode = layout_.boxOf(Command::templateMode);
+    const PixelRect& pause = layout_.boxOf(Command::pauseMode);
+    EXPECT_EQ(edit.left, layout_.picOuter.left);
+    EXPECT_EQ(edit.right, templateMode.left);
+    EXPECT_EQ(templateMode.right, pause.left);
+    EXPECT_EQ(edit.top, pause.top);
 }
 
 INSTANTIATE_TEST_SUITE_P(AtDpi, SettingsLayoutTest, testing::Values(96, 120, 144, 192, 288));

@@ -50,6 +50,9 @@ class FakeOverlayItem : public OverlayItem, private ToolControl {
     void draw(Canvas& /*canvas*/) const override {}
     const DirtyRegion& footprint() const override { return footprint_; }
 
+    /// Changes are under way.
+    int openChanges = 0;
+
     bool Selected() const override { return selected_; }
     bool EditMode() const override { return editMode_; }
 
@@ -64,6 +67,8 @@ class FakeOverlayItem : public OverlayItem, private ToolControl {
         }
     }
     void setEditMode(bool editMode) override { editMode_ = editMode; }
+    void beginChanges() override { ++openChanges; }
+    void endChanges() override { --openChanges; }
     void LoseFocus() override {
         focused = false;
         ++focusLosses;

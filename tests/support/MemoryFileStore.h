@@ -85,7 +85,7 @@ class MemoryFileStore : public FileStore {
         return true;
     }
 
-  private:
+  protected:
     static std::string folderOf(const std::string& path) {
         const std::size_t end = path.rfind('\\');
         return end == std::string::npos ? std::string() : path.substr(0, end);

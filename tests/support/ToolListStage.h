@@ -10,6 +10,7 @@
 #include "app/ToolMaker.h"
 #include "measure/MeasurePanel.h"
 #include "stencil/StencilPanel.h"
+#include "support/FakePanelCommands.h"
 #include "support/FakePanelView.h"
 #include "support/FakeSheetPort.h"
 #include "support/MemoryMessagePresenter.h"
@@ -75,6 +76,9 @@ class ToolListStage : private PanelFactory, private ToolVisibility {
     QuietToolHost host_;
     SpecialRatios ratios_{[](int, std::string_view text) { return std::string(text); }, {}};
     ToolMaker maker_{settings, ratios_};
+    FakeStencilCommands stencilCommands_;
+    FakeMeasureCommands measureCommands_;
+    Event<> tmrFast_;
 
   public:
     Sheet sheet{port_, host_, maker_};
@@ -118,11 +122,12 @@ class ToolListStage : private PanelFactory, private ToolVisibility {
         auto made = std::make_unique<StagePanel>(kind);
         const PanelPorts ports{made->view, *this, clock};
         if (kind == ToolKind::stencil) {
-            made->core = std::make_unique<StencilPanel>(dynamic_cast<ctlRatioGrid&>(tool), ports,
-                                                        settings, ratios_);
+            made->core = std::make_unique<StencilPanel>(
+                dynamic_cast<ctlRatioGrid&>(tool), ports,
+                StencilPorts{stencilCommands_, stencilCommands_, tmrFast_}, settings, ratios_);
         } else {
-            made->core =
-                std::make_unique<MeasurePanel>(dynamic_cast<ctlMeasure&>(tool), ports, settings);
+            made->core = std::make_unique<MeasurePanel>(dynamic_cast<ctlMeasure&>(tool), ports,
+                                                        measureCommands_, settings);
         }
         const ToolPanel& core = *made->core;
         made->view.onRemove = [this, &core] { list.RemovePanel(core); };

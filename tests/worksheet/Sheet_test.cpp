@@ -53,6 +53,16 @@ TEST_F(SheetTest, ANewToolCoversTheWholeSheetInItsMode) {
     EXPECT_FALSE(add(measurement).EditMode());
 }
 
+TEST_F(SheetTest, ANewToolIsUnderChangesUntilItsMakerEndsThem) {
+    std::optional<ToolChanges> changes;
+    const auto& item = dynamic_cast<FakeOverlayItem&>(*sheet_.AddNewControl(stencil, changes));
+    EXPECT_EQ(item.openChanges, 1);
+    changes.reset();
+    EXPECT_EQ(item.openChanges, 0);
+    EXPECT_EQ(add(measurement).openChanges, 0);
+    EXPECT_EQ(addFirst(ToolKind::measurement, true).openChanges, 0);
+}
+
 TEST_F(SheetTest, AddingAnUnknownKindMakesNothing) {
     EXPECT_EQ(sheet_.AddNewControl(2), nullptr);
     EXPECT_EQ(sheet_.AddNewControl(-1), nullptr);

@@ -1,15 +1,26 @@
 #include "app/win/WindowsMessagePresenter.h"
 
-#include <windows.h>
-
 #include "app/modes.h"
+#include "platform/win/InputBarrier.h"
 #include "platform/win/text.h"
 
 namespace ormala {
 
+std::wstring WindowsMessagePresenter::title() const {
+    if (window_ == nullptr) {
+        return wide(applicationTitle);
+    }
+    std::wstring caption(static_cast<std::size_t>(GetWindowTextLengthW(window_)) + 1, L'\0');
+    caption.resize(static_cast<std::size_t>(
+        GetWindowTextW(window_, caption.data(), static_cast<int>(caption.size()))));
+    return caption;
+}
+
 void WindowsMessagePresenter::showError(const std::string& text) {
     SetCursor(LoadCursorW(nullptr, IDC_ARROW));
-    MessageBoxW(GetActiveWindow(), wide(text).c_str(), wide(applicationTitle).c_str(),
+    const HWND owner = GetActiveWindow();
+    const InputBarrier barrier(owner);
+    MessageBoxW(owner, wide(text).c_str(), title().c_str(),
                 MB_OK | MB_ICONSTOP | MB_TOPMOST | MB_SETFOREGROUND);
 }
 

@@ -1,16 +1,15 @@
 #include "app/win/frmSettings.h"
 
 #include <algorithm>
-#include <cwchar>
+#include <utility>
 
 #include "app/programFiles.h"
 #include "app/version.h"
 #include "app/win/screens.h"
+#include "app/win/timeOfSaving.h"
 #include "language/MlStringModule.h"
 #include "language/win/UserLocale.h"
-#include "measure/ctlMeasure.h"
 #include "platform/win/text.h"
-#include "stencil/ctlRatioGrid.h"
 #include "storage/modStorage.h"
 #include "storage/win/SpecialFolder.h"
 #include "worksheet/transparency.h"
@@ -21,6 +20,12 @@ namespace ormala {
 
 namespace {
 
+enum ControlId { idList = 200 };
+
+/// The shared clock `tmrFast`, in milliseconds.
+constexpr UINT_PTR tmrFast = 1;
+constexpr UINT tmrFastInterval = 40;
+
 constexpr const char* placementSection = "FormSettings";
 constexpr const char* framePlacementSection = "FormResizer";
 
@@ -30,22 +35,9 @@ constexpr const wchar_t* readyProperty = L"Ready";
 /// From the right edge of the screen on a first start, in pixels.
 constexpr int distanceFromRight = 80;
 
-/// Line code of the tools at first.
-constexpr int solidOnePixel = 2;
-
 SpecialRatios translatedRatios(const TextForm& form) {
     return SpecialRatios(
         [](int id, std::string_view defaultText) { return MlString(id, defaultText); }, form);
-}
-
-/// Local time in the form of the settings files.
-std::string timeOfSaving() {
-    SYSTEMTIME now{};
-    GetLocalTime(&now);
-    wchar_t text[32];
-    swprintf(text, std::size(text), L"%04d-%02d-%02d %02d:%02d:%02d", now.wYear, now.wMonth,
-             now.wDay, now.wHour, now.wMinute, now.wSecond);
-    return narrow(text);
 }
 
 }  // namespace
@@ -56,6 +48,7 @@ frmSettings::frmSettings(bool anotherRuns) : ratios_(translatedRatios(toolSettin
 
 frmSettings::~frmSettings() {
     wheelHook_.reset();
+    tools_.reset();
     resizer_.reset();
     worksheet_.reset();
     destroy();
@@ -71,11 +64,12 @@ void frmSettings::load(bool anotherRuns) {
     createWindow();
     loadWorksheet();
     factory_.setSheet(worksheet_->sheet());
+    makeControls();
     AddModeSystemMenuItems();
-    wheelHook_ = std::make_unique<MouseWheelHook>([this](bool down) { Scroll(down); });
+    wheelHook_ = std::make_unique<MouseWheelHook>([this](bool down) { tools_->Scroll(down); });
     loadResizer();
     refreshTexts();
-    prepareFirstTools();
+    loadTools();
     SetWindowPos(handle(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     placeWindow(anotherRuns);
     worksheet_->setClickAlpha(alphaOfTransparency(options_.transparencyEditMode));
@@ -113,16 +107,15 @@ void frmSettings::chooseLanguage(int localeLanguage) {
 void frmSettings::createWindow() {
     WindowDesign design;
     design.className = L"frmSettings";
-    design.style = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX;
-    design.classStyle = CS_HREDRAW | CS_VREDRAW;
+    design.style =
+        WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
+    design.extendedStyle = WS_EX_CONTROLPARENT;
     create(design);
     dpi_ = dpiOf(handle());
-    modeBar_.setDpi(dpi_);
-    const SettingsLayout& layout = modeBar_.layout();
     const SIZE frame = frameSize();
-    const int width = layout.width + frame.cx;
+    const int width = layout().width + frame.cx;
     SetWindowPos(handle(), nullptr, GetSystemMetrics(SM_CXSCREEN) - width - distanceFromRight,
-                 distanceFromRight, width, layout.firstHeight + frame.cy,
+                 distanceFromRight, width, layout().firstHeight + frame.cy,
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -158,6 +151,8 @@ void frmSettings::AddModeSystemMenuItems() {
 void frmSettings::refreshTexts() {
     toolSettings_.textForm.infinite = MlString(313, "infinite");
     ratios_ = translatedRatios(toolSettings_.textForm);
+    bar_->ApplyLanguage();
+    tools_->documents().UpdatePathLine();
     UpdateCaption();
     resizer_->SetRuntimeTexts(applicationTitle);
     const HMENU menu = GetSystemMenu(handle(), FALSE);
@@ -167,46 +162,28 @@ void frmSettings::refreshTexts() {
                     wide(nameOfMode(mode)).c_str());
     }
     SyncSystemMenu(mode_);
-    InvalidateRect(handle(), nullptr, FALSE);
 }
 
-void frmSettings::prepareFirstTools() {
-    prepareFirstStencil();
-    prepareFirstMeasure();
+void frmSettings::makeControls() {
+    bar_ = std::make_unique<CommandBar>(handle());
+    chosen_ = bar_->chosen.subscribe([this](Command command) { execute(command); });
+    const ToolsPane::Ports ports{handle(),    *this,         *bar_,   *worksheet_,
+                                 foreground_, toolSettings_, ratios_, options_.defaultUnits,
+                                 store_,      codePage_};
+    tools_ = std::make_unique<ToolsPane>(ports, idList);
+    layOutControls();
+    SetTimer(handle(), tmrFast, tmrFastInterval, nullptr);
 }
 
-void frmSettings::prepareFirstStencil() {
-    constexpr int kind = static_cast<int>(ToolKind::stencil);
-    Sheet& sheet = worksheet_->sheet();
-    sheet.makeFirstControl(ToolKind::stencil);
-    auto& stencil = dynamic_cast<ctlRatioGrid&>(*sheet.GetFirstControl(kind));
-    stencil.setColor(toolColors_.NextDefaultToolColor(kind, false));
-    stencil.SetDefaultProperties();
-    stencil.CenterToScreen(false, 0, false, true);
-    stencil.setLineWidth(solidOnePixel);
-    stencil.History().Add(true);
-    sheet.setVisible(stencil, true);
+void frmSettings::layOutControls() {
+    bar_->layOut(layout(), dpi_);
+    tools_->setDpi(dpi_);
 }
 
-void frmSettings::prepareFirstMeasure() {
-    constexpr int kind = static_cast<int>(ToolKind::measurement);
-    Sheet& sheet = worksheet_->sheet();
-    sheet.makeFirstControl(ToolKind::measurement);
-    auto& measure = dynamic_cast<ctlMeasure&>(*sheet.GetFirstControl(kind));
-    measure.setColorA(toolColors_.NextDefaultToolColor(kind, false));
-    measure.setColorB(toolColors_.NextDefaultToolColor(kind, false));
-    measure.setNumber(1);
-    measure.setLineWidth(solidOnePixel);
-    measure.SetDefaultProperties();
-    measure.setAngleMode(options_.defaultAngleMode);
-    measure.setLengthMode(options_.defaultLengthMode);
-    measure.setLengthFactor(options_.defaultLengthFactor);
-    measure.setLengthUnit(options_.defaultLengthUnit);
-    const RECT client = worksheet_->clientRectangle();
-    const PixelSize sheetSize{static_cast<int>(client.right), static_cast<int>(client.bottom)};
-    measure.CenterToScreen(false, toolSizes_.NextToolSize(sheetSize), true);
-    measure.History().Add(true);
-    sheet.setVisible(measure, true);
+void frmSettings::loadTools() {
+    tools_->tools().prepareFirstTools();
+    tools_->documents().loadAutomatic(toolsFilePath(GetSpecialFolder(folderApplicationData)));
+    tools_->UpdatePanelLayout(true, true);
 }
 
 void frmSettings::placeWindow(bool anotherRuns) {
@@ -220,13 +197,19 @@ void frmSettings::cutEditModeHeight() {
         std::min(pixelsOfTwips(options_.editModeFormHeight, dpi_), std::max(below, 0)));
 }
 
-void frmSettings::unload() {
-    if (unloaded_) {
+void frmSettings::save() {
+    if (std::exchange(saved_, true)) {
         return;
     }
-    unloaded_ = true;
+    tools_->documents().saveAutomatic(toolsFilePath(GetSpecialFolder(folderApplicationData)));
     SaveOptions();
+}
+
+void frmSettings::unload() {
+    save();
     wheelHook_.reset();
+    KillTimer(handle(), tmrFast);
+    tools_.reset();
     resizer_.reset();
     worksheet_.reset();
 }

@@ -3,13 +3,12 @@
 #include <memory>
 #include <string>
 
-#include "app/ListScroll.h"
 #include "app/Options.h"
 #include "app/SettingsHeight.h"
 #include "app/ToolMaker.h"
-#include "app/ToolSizes.h"
-#include "app/win/ModeBar.h"
+#include "app/win/CommandBar.h"
 #include "app/win/MouseWheelHook.h"
+#include "app/win/ToolsPane.h"
 #include "app/win/WindowsMessagePresenter.h"
 #include "base/Event.h"
 #include "platform/win/Window.h"
@@ -23,7 +22,7 @@ namespace ormala {
 
 /// The control window and main window of the program: it owns the options, the worksheet and the
 /// mode, and its closing ends the program.
-class frmSettings : public Window, public WorksheetCommands {
+class frmSettings : public Window, public WorksheetCommands, private ControlWindow {
   public:
     /// `anotherRuns` says whether another copy of the program is running.
     explicit frmSettings(bool anotherRuns);
@@ -45,6 +44,10 @@ class frmSettings : public Window, public WorksheetCommands {
 
     [[nodiscard]] frmWorksheet& worksheet() { return *worksheet_; }
     [[nodiscard]] frmResizer& resizer() { return *resizer_; }
+    [[nodiscard]] ToolsPane& tools() { return *tools_; }
+
+    /// Sees a message before the control that it is for: true if it was a key of the window.
+    bool preview(const MSG& message);
 
   private:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -54,42 +57,53 @@ class frmSettings : public Window, public WorksheetCommands {
     void raiseControlWindowAt(POINT screen) override;
     void closeProgram() override;
 
+    [[nodiscard]] PanelLayout::Window layoutWindow() const override;
+    void takeHeight(int height) override;
+    void raiseAboveAll() override;
+
     void load(bool anotherRuns);
     void openOptionsFile();
     void createWindow();
     void chooseLanguage(int localeLanguage);
     void AddModeSystemMenuItems();
+    void makeControls();
+    void layOutControls();
     void refreshTexts();
-    void prepareFirstTools();
-    void prepareFirstStencil();
-    void prepareFirstMeasure();
+    void loadTools();
     void loadWorksheet();
     void loadResizer();
     void placeWindow(bool anotherRuns);
     void cutEditModeHeight();
+    /// Tools and options, once.
+    void save();
     void unload();
     void SaveOptions();
 
     void applyModeToWindows(int mode);
     void layOutAnew();
-    void raiseAboveAll();
+    void execute(Command command);
     [[nodiscard]] ModeWindows windowsOf(int mode) const;
     void AdjustFormHeight(int mode, int formerMode);
     void SyncSystemMenu(int mode);
     void UpdateCaption();
-    void Scroll(bool down);
     [[nodiscard]] SettingsHeight::Present present() const;
     [[nodiscard]] SIZE frameSize() const;
+    [[nodiscard]] SettingsLayout layout() const { return SettingsLayout(dpi_); }
 
-    LRESULT onPaint();
+    LRESULT onErase(HDC context);
     LRESULT onSize(WPARAM kind);
+    LRESULT onActivate(WPARAM kind, HWND other);
+    LRESULT onMouseActivate(WPARAM wParam, LPARAM lParam);
+    LRESULT onFocus();
     LRESULT onGetMinMaxInfo(LPARAM lParam);
     LRESULT onSysCommand(WPARAM wParam, LPARAM lParam);
     LRESULT onDpiChanged(WPARAM wParam, LPARAM lParam);
     LRESULT onDisplayChange();
-    LRESULT onClick(LPARAM lParam);
+    LRESULT onTimer();
+    LRESULT onClose();
     LRESULT onEndSession(bool ending);
     bool onKey(int key);
+    bool focusNextControl(int shift);
 
     WindowsFileStore store_;
     WindowsCodePage codePage_;
@@ -100,22 +114,25 @@ class frmSettings : public Window, public WorksheetCommands {
     SpecialRatios ratios_;
     ToolMaker factory_{toolSettings_, ratios_};
     ForegroundMemory foreground_;
-    ToolColors toolColors_;
-    ToolSizes toolSizes_;
     int mode_ = mode::edit;
     /// The mode whose button is lit; during a change the new one already.
     int lit_ = mode::edit;
-    int dpi_ = 96;
-    ModeBar modeBar_{96};
+    int dpi_ = USER_DEFAULT_SCREEN_DPI;
     SettingsHeight height_;
-    ListScroll scrInner_;
+    std::unique_ptr<CommandBar> bar_;
+    Subscription chosen_;
     bool worksheetMaxSized_ = false;
     std::unique_ptr<frmWorksheet> worksheet_;
     Subscription worksheetResized_;
     std::unique_ptr<frmResizer> resizer_;
     Subscription worksheetPlaced_;
+    std::unique_ptr<ToolsPane> tools_;
     std::unique_ptr<MouseWheelHook> wheelHook_;
-    bool unloaded_ = false;
+    /// The program has come to the front, and the control window has not been told yet.
+    bool cameBack_ = false;
+    /// A click on a panel brings the window to the front and will take the focus to itself.
+    bool clickOnPanel_ = false;
+    bool saved_ = false;
 };
 
 }  // namespace ormala

@@ -1,17 +1,16 @@
 #include "app/win/frmSettings.h"
 // Needs the system's basic types, which come with the window.
 #include <shellapi.h>
-#include <windowsx.h>
 
 #include <utility>
 
 #include "app/win/screens.h"
 #include "language/MlStringModule.h"
+#include "platform/win/monitors.h"
 #include "platform/win/text.h"
 #include "scene/Input.h"
-#include "widgets/GripTool.h"
 
-// Modes, messages and keys of the control window.
+// Modes and commands of the control window.
 
 namespace ormala {
 
@@ -53,8 +52,8 @@ void frmSettings::SetReferenceLines(bool enabled) {
 void frmSettings::SetMode(int mode, bool minimise) {
     const int former = mode_;
     lit_ = mode;
-    InvalidateRect(handle(), nullptr, FALSE);
-    UpdateWindow(handle());
+    bar_->showMode(mode, worksheetMaxSized_);
+    RedrawWindow(handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     AdjustFormHeight(mode, former);
     applyModeToWindows(mode);
     mode_ = mode;
@@ -110,6 +109,7 @@ ModeWindows frmSettings::windowsOf(int mode) const {
 
 void frmSettings::setWorksheetMaxSized(bool maxSized) {
     if (std::exchange(worksheetMaxSized_, maxSized) != maxSized) {
+        bar_->showMode(lit_, maxSized);
         worksheetMaxSizedChanged.raise(maxSized);
     }
 }
@@ -122,7 +122,7 @@ void frmSettings::worksheetWindowNormal() {
 SettingsHeight::Present frmSettings::present() const {
     const RECT place = rectangle();
     return {stateOf(handle()), static_cast<int>(place.bottom - place.top),
-            modeBar_.layout().shortHeight + static_cast<int>(frameSize().cy)};
+            layout().shortHeight + static_cast<int>(frameSize().cy)};
 }
 
 SIZE frmSettings::frameSize() const {
@@ -135,9 +135,7 @@ SIZE frmSettings::frameSize() const {
 
 void frmSettings::AdjustFormHeight(int mode, int formerMode) {
     if (const auto height = height_.adjust(mode, formerMode, present())) {
-        const RECT place = rectangle();
-        SetWindowPos(handle(), nullptr, 0, 0, place.right - place.left, *height,
-                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        takeHeight(*height);
     }
 }
 
@@ -161,18 +159,7 @@ void frmSettings::ShowHelp() {
 }
 
 void frmSettings::stepHistory(OverlayItem& item, bool back) {
-    auto* tool = dynamic_cast<GripTool*>(&item);
-    if (tool == nullptr) {
-        return;
-    }
-    HistoryHelper& history = tool->History();
-    // Steps of the keys are in no record yet: without this they would be lost.
-    history.Add(false);
-    if (back) {
-        history.Undo();
-    } else {
-        history.Redo();
-    }
+    tools_->stepHistory(item, back);
 }
 
 void frmSettings::raiseControlWindowAt(POINT screen) {
@@ -183,136 +170,32 @@ void frmSettings::raiseControlWindowAt(POINT screen) {
     }
 }
 
+PanelLayout::Window frmSettings::layoutWindow() const {
+    const SettingsLayout places = layout();
+    const SettingsHeight::Present now = present();
+    const int below = static_cast<int>(workAreaAround(handle()).bottom - rectangle().top);
+    return {places.picOuter.left, places.picOuter.top, static_cast<int>(frameSize().cy), below,
+            now.height == now.shortHeight && mode_ == mode::templateMode};
+}
+
+void frmSettings::takeHeight(int height) {
+    const RECT place = rectangle();
+    SetWindowPos(handle(), nullptr, 0, 0, place.right - place.left, height,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void frmSettings::execute(Command command) {
+    if (const int mode = modeOfCommand(command); mode >= 0) {
+        SetMode(mode, minimises(command));
+    } else if (command == Command::worksheetNormal) {
+        worksheetWindowNormal();
+    } else {
+        tools_->execute(command);
+    }
+}
+
 void frmSettings::closeProgram() {
     PostMessageW(handle(), WM_CLOSE, 0, 0);
-}
-
-void frmSettings::Scroll(bool down) {
-    if (!scrInner_.Scroll(down).empty()) {
-        InvalidateRect(handle(), nullptr, FALSE);
-    }
-}
-
-std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-        case WM_PAINT:
-            return onPaint();
-        case WM_ERASEBKGND:
-            return 1;
-        case WM_SIZE:
-            return onSize(wParam);
-        case WM_GETMINMAXINFO:
-            return onGetMinMaxInfo(lParam);
-        case WM_SYSCOMMAND:
-            return onSysCommand(wParam, lParam);
-        case WM_DPICHANGED:
-            return onDpiChanged(wParam, lParam);
-        case WM_DISPLAYCHANGE:
-            return onDisplayChange();
-        case WM_LBUTTONDOWN:
-            return onClick(lParam);
-        case WM_KEYDOWN:
-            return onKey(static_cast<int>(wParam)) ? std::optional<LRESULT>(0) : std::nullopt;
-        case WM_CLOSE:
-            unload();
-            PostQuitMessage(0);
-            return 0;
-        case WM_ENDSESSION:
-            return onEndSession(wParam != FALSE);
-        default:
-            return std::nullopt;
-    }
-}
-
-LRESULT frmSettings::onPaint() {
-    const PaintScope scope(handle());
-    modeBar_.paint(scope.context(), clientRectangle(), lit_);
-    return 0;
-}
-
-LRESULT frmSettings::onSize(WPARAM kind) {
-    const WindowState state = kind == SIZE_MINIMIZED   ? WindowState::minimised
-                              : kind == SIZE_MAXIMIZED ? WindowState::maximised
-                                                       : WindowState::normal;
-    if (height_.resized(state)) {
-        AdjustFormHeight(mode_, mode_);
-    }
-    return 0;
-}
-
-LRESULT frmSettings::onGetMinMaxInfo(LPARAM lParam) {
-    auto& limits = *reinterpret_cast<MINMAXINFO*>(lParam);
-    const SIZE frame = frameSize();
-    const int width = modeBar_.layout().width + static_cast<int>(frame.cx);
-    limits.ptMinTrackSize.x = width;
-    limits.ptMaxTrackSize.x = width;
-    limits.ptMinTrackSize.y = modeBar_.layout().shortHeight + frame.cy;
-    return DefWindowProcW(handle(), WM_GETMINMAXINFO, 0, lParam);
-}
-
-LRESULT frmSettings::onSysCommand(WPARAM wParam, LPARAM lParam) {
-    const LRESULT result = DefWindowProcW(handle(), WM_SYSCOMMAND, wParam, lParam);
-    for (int mode = 0; mode < mode::count; ++mode) {
-        if (wParam == static_cast<WPARAM>(menuCommandOfMode(mode))) {
-            SetMode(mode, false);
-        }
-    }
-    return result;
-}
-
-LRESULT frmSettings::onDpiChanged(WPARAM wParam, LPARAM lParam) {
-    const int kept = twipsOfPixels(height_.editModeHeight(), dpi_);
-    dpi_ = HIWORD(wParam);
-    modeBar_.setDpi(dpi_);
-    height_.setEditModeHeight(pixelsOfTwips(kept, dpi_));
-    const RECT& place = *reinterpret_cast<const RECT*>(lParam);
-    SetWindowPos(handle(), nullptr, place.left, place.top, place.right - place.left,
-                 place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
-    InvalidateRect(handle(), nullptr, FALSE);
-    return 0;
-}
-
-LRESULT frmSettings::onDisplayChange() {
-    bringOntoScreens(handle());
-    if (resizer_) {
-        bringOntoScreens(resizer_->handle());
-    }
-    return 0;
-}
-
-LRESULT frmSettings::onClick(LPARAM lParam) {
-    const auto mode = modeBar_.modeAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
-    if (mode) {
-        SetMode(*mode, false);
-    }
-    return 0;
-}
-
-LRESULT frmSettings::onEndSession(bool ending) {
-    if (ending) {
-        unload();
-    }
-    return 0;
-}
-
-bool frmSettings::onKey(int key) {
-    const bool shiftOnly = heldModifiers() == modifier::shift;
-    switch (key) {
-        case key::f1:
-            ShowHelp();
-            return true;
-        case key::f2:
-            SetMode(mode::edit, false);
-            return true;
-        case key::f3:
-            SetMode(mode::pause, shiftOnly);
-            return true;
-        case key::f4:
-            SetMode(mode::templateMode, shiftOnly);
-            return true;
-        default:
-            return false;
-    }
 }
 
 }  // namespace ormala

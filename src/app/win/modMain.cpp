@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include "app/win/frmSettings.h"
+#include "platform/win/Accessible.h"
 #include "platform/win/handles.h"
 
 namespace {
@@ -14,11 +15,13 @@ Handle<HANDLE, &CloseHandle> runningMark(bool& anotherRuns) {
     return mutex;
 }
 
-int runMessages() {
+int runMessages(ormala::frmSettings& settings) {
     MSG message{};
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
+        if (!settings.preview(message)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
     }
     return static_cast<int>(message.wParam);
 }
@@ -26,8 +29,9 @@ int runMessages() {
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+    const ormala::AccessibleThread accessible;
     bool anotherRuns = false;
     const auto mark = runningMark(anotherRuns);
-    const ormala::frmSettings settings(anotherRuns);
-    return runMessages();
+    ormala::frmSettings settings(anotherRuns);
+    return runMessages(settings);
 }

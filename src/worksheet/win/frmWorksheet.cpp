@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "language/MlStringModule.h"
+#include "platform/win/dayTime.h"
+#include "platform/win/monitors.h"
 #include "platform/win/regions.h"
 #include "worksheet/transparency.h"
 
@@ -22,11 +24,10 @@ RECT primaryWorkArea() {
     return area;
 }
 
-RECT workAreaAround(HWND window) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
-    return monitor.rcWork;
+/// The screen the window is on; of the primary one, what the task bar leaves free.
+RECT areaToFill(HWND window) {
+    const MONITORINFO monitor = monitorAround(window);
+    return (monitor.dwFlags & MONITORINFOF_PRIMARY) != 0 ? primaryWorkArea() : monitor.rcMonitor;
 }
 
 RegionHandle systemRegion(const DirtyRegion& region) {
@@ -143,34 +144,18 @@ void frmWorksheet::setMaxSized(bool maxSized) {
 void frmWorksheet::prepareMaxSized(bool maxSized) {
     maxSized_ = maxSized;
     if (maxSized) {
-        const RECT area = workAreaAround(handle());
-        SetWindowPos(handle(), nullptr, area.left, area.top, area.right - area.left,
-                     area.bottom - area.top, SWP_NOZORDER | SWP_NOACTIVATE);
+        fillScreen();
     }
 }
 
 void frmWorksheet::fillScreen() {
-    WINDOWPLACEMENT placement{};
-    placement.length = sizeof placement;
-    GetWindowPlacement(handle(), &placement);
-    placement.showCmd = SW_SHOWMAXIMIZED;
-    SetWindowPlacement(handle(), &placement);
-    const RECT place = rectangle();
-    if (place.left == 0 && place.top == 0) {
-        fillPrimaryScreen();
+    if (IsZoomed(handle()) != FALSE) {
+        // Where a maximised window comes to lie is the system's choice.
+        ShowWindow(handle(), SW_SHOWNOACTIVATE);
     }
-}
-
-void frmWorksheet::fillPrimaryScreen() {
-    RECT area = primaryWorkArea();
-    // The normal position of a placement counts from the work area's corner.
-    OffsetRect(&area, -area.left, -area.top);
-    WINDOWPLACEMENT placement{};
-    placement.length = sizeof placement;
-    GetWindowPlacement(handle(), &placement);
-    placement.rcNormalPosition = area;
-    placement.showCmd = SW_RESTORE;
-    SetWindowPlacement(handle(), &placement);
+    const RECT area = areaToFill(handle());
+    SetWindowPos(handle(), nullptr, area.left, area.top, area.right - area.left,
+                 area.bottom - area.top, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void frmWorksheet::narrowAndWiden() {
@@ -241,11 +226,7 @@ void frmWorksheet::onBackgroundUp() {
 }
 
 void frmWorksheet::pollOutside() {
-    SYSTEMTIME now{};
-    GetLocalTime(&now);
-    const float seconds = static_cast<float>((now.wHour * 60 + now.wMinute) * 60 + now.wSecond) +
-                          static_cast<float>(now.wMilliseconds) / 1000;
-    if (!clickable_ || !outsidePoll_.due(seconds)) {
+    if (!clickable_ || !outsidePoll_.due(secondsSinceMidnight())) {
         return;
     }
     POINT cursor{};

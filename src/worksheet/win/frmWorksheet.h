@@ -86,7 +86,6 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
 
     void ApplyLayered();
     void fillScreen();
-    void fillPrimaryScreen();
     LRESULT onPress(int button, WPARAM wParam, LPARAM lParam);
     LRESULT onMove(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onRelease(int button, WPARAM wParam, LPARAM lParam);

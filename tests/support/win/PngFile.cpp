@@ -1,115 +1,106 @@
 #include "support/win/PngFile.h"
 
-#include <array>
+#include <windows.h>
+// Need the system's basic types.
+#include <objidl.h>
+// Needs the types of COM.
+#include <gdiplus.h>
+
 #include <cstdint>
-#include <fstream>
 #include <stdexcept>
-#include <string>
-#include <string_view>
 
 namespace ormala::test {
 
 namespace {
 
-/// The polynomial of the PNG standard's check sum, bits reversed.
-constexpr std::uint32_t crcPolynomial = 0xEDB88320U;
-
-constexpr std::array<std::uint32_t, 256> crcTable() {
-    std::array<std::uint32_t, 256> table{};
-    for (std::uint32_t byte = 0; byte < 256; ++byte) {
-        std::uint32_t value = byte;
-        for (int bit = 0; bit < 8; ++bit) {
-            value = (value & 1U) != 0 ? (value >> 1U) ^ crcPolynomial : value >> 1U;
-        }
-        table[byte] = value;
+/// The system's library for pictures, for as long as it lives.
+class PictureLibrary {
+  public:
+    PictureLibrary() {
+        const Gdiplus::GdiplusStartupInput input;
+        Gdiplus::GdiplusStartup(&token_, &input, nullptr);
     }
-    return table;
-}
+    ~PictureLibrary() { Gdiplus::GdiplusShutdown(token_); }
+    PictureLibrary(const PictureLibrary&) = delete;
+    PictureLibrary& operator=(const PictureLibrary&) = delete;
 
-std::uint32_t crc(std::string_view bytes) {
-    static constexpr auto table = crcTable();
-    std::uint32_t value = 0xFFFFFFFFU;
-    for (const char byte : bytes) {
-        value = table[(value ^ static_cast<unsigned char>(byte)) & 0xFFU] ^ (value >> 8U);
+  private:
+    ULONG_PTR token_ = 0;
+};
+
+/// The pixels of a bitmap as 0x00RRGGBB.
+class LockedPixels {
+  public:
+    LockedPixels(Gdiplus::Bitmap& bitmap, UINT mode) : bitmap_(bitmap) {
+        const Gdiplus::Rect all(0, 0, static_cast<int>(bitmap.GetWidth()),
+                                static_cast<int>(bitmap.GetHeight()));
+        valid_ = bitmap.GetLastStatus() == Gdiplus::Ok &&
+                 bitmap.LockBits(&all, mode, PixelFormat32bppRGB, &data_) == Gdiplus::Ok;
     }
-    return ~value;
-}
-
-std::uint32_t adler(std::string_view bytes) {
-    constexpr std::uint32_t modulus = 65521;
-    std::uint32_t low = 1;
-    std::uint32_t high = 0;
-    for (const char byte : bytes) {
-        low = (low + static_cast<unsigned char>(byte)) % modulus;
-        high = (high + low) % modulus;
-    }
-    return (high << 16U) | low;
-}
-
-std::string bigEndian(std::uint32_t value) {
-    std::string bytes;
-    for (const unsigned shift : {24U, 16U, 8U, 0U}) {
-        bytes += static_cast<char>((value >> shift) & 0xFFU);
-    }
-    return bytes;
-}
-
-std::string chunk(std::string_view type, std::string_view content) {
-    const std::string body = std::string(type) + std::string(content);
-    return bigEndian(static_cast<std::uint32_t>(content.size())) + body + bigEndian(crc(body));
-}
-
-/// A zlib stream of stored blocks, which hold up to 65535 bytes each.
-std::string stored(std::string_view bytes) {
-    constexpr std::size_t blockSize = 65535;
-    std::string stream = "\x78\x01";
-    for (std::size_t at = 0; at < bytes.size(); at += blockSize) {
-        const std::string_view block = bytes.substr(at, blockSize);
-        const auto length = static_cast<std::uint16_t>(block.size());
-        const bool last = at + blockSize >= bytes.size();
-        stream += last ? '\1' : '\0';
-        for (const unsigned part : {0U + length, 0xFFFFU - length}) {
-            stream += static_cast<char>(part & 0xFFU);
-            stream += static_cast<char>(part >> 8U);
-        }
-        stream += block;
-    }
-    return stream + bigEndian(adler(bytes));
-}
-
-std::string scanLines(const Picture& picture) {
-    const ScreenRect& rect = picture.rect();
-    std::string bytes;
-    for (int y = rect.top; y < rect.bottom; ++y) {
-        bytes += '\0';
-        for (int x = rect.left; x < rect.right; ++x) {
-            const Color color = picture.at({x, y});
-            for (const unsigned shift : {0U, 8U, 16U}) {
-                bytes += static_cast<char>((color >> shift) & 0xFFU);
-            }
+    ~LockedPixels() {
+        if (valid_) {
+            bitmap_.UnlockBits(&data_);
         }
     }
-    return bytes;
+    LockedPixels(const LockedPixels&) = delete;
+    LockedPixels& operator=(const LockedPixels&) = delete;
+
+    [[nodiscard]] bool valid() const { return valid_; }
+    [[nodiscard]] std::uint32_t* row(int y) const {
+        return reinterpret_cast<std::uint32_t*>(static_cast<BYTE*>(data_.Scan0) + y * data_.Stride);
+    }
+
+  private:
+    Gdiplus::Bitmap& bitmap_;
+    Gdiplus::BitmapData data_{};
+    bool valid_ = false;
+};
+
+/// Red and blue change their places.
+constexpr Color turned(Color color) {
+    return (color & 0xFFU) << 16U | (color & 0xFF00U) | (color >> 16U & 0xFFU);
 }
 
-std::string header(const Picture& picture) {
-    constexpr std::string_view eightBitRgb("\x08\x02\x00\x00\x00", 5);
-    return bigEndian(static_cast<std::uint32_t>(picture.rect().width())) +
-           bigEndian(static_cast<std::uint32_t>(picture.rect().height())) +
-           std::string(eightBitRgb);
-}
+/// The number by which the library knows its writer of PNG files.
+constexpr CLSID pngWriter = {
+    0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
 
 }  // namespace
 
 void savePng(const Picture& picture, const std::filesystem::path& path) {
-    std::ofstream file(path, std::ios::binary);
-    file << "\x89PNG\r\n\x1A\n"
-         << chunk("IHDR", header(picture)) << chunk("IDAT", stored(scanLines(picture)))
-         << chunk("IEND", "");
-    file.close();
-    if (!file) {
+    const PictureLibrary library;
+    const ScreenRect& rect = picture.rect();
+    Gdiplus::Bitmap bitmap(rect.width(), rect.height(), PixelFormat32bppRGB);
+    {
+        const LockedPixels pixels(bitmap, Gdiplus::ImageLockModeWrite);
+        for (int y = 0; y < rect.height(); ++y) {
+            for (int x = 0; x < rect.width(); ++x) {
+                pixels.row(y)[x] = turned(picture.at({rect.left + x, rect.top + y}));
+            }
+        }
+    }
+    if (bitmap.Save(path.c_str(), &pngWriter, nullptr) != Gdiplus::Ok) {
         throw std::runtime_error("cannot write the picture " + path.string());
     }
+}
+
+Picture loadPng(const std::filesystem::path& path) {
+    const PictureLibrary library;
+    Gdiplus::Bitmap bitmap(path.c_str());
+    const LockedPixels read(bitmap, Gdiplus::ImageLockModeRead);
+    if (!read.valid()) {
+        throw std::runtime_error("cannot read the picture " + path.string());
+    }
+    const int width = static_cast<int>(bitmap.GetWidth());
+    const int height = static_cast<int>(bitmap.GetHeight());
+    std::vector<Color> pixels;
+    pixels.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            pixels.push_back(turned(read.row(y)[x]));
+        }
+    }
+    return {{0, 0, width, height}, std::move(pixels)};
 }
 
 }  // namespace ormala::test

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/Documents.h"
+#include "app/settingsLayout.h"
+#include "base/Event.h"
+#include "widgets/win/Label.h"
+#include "widgets/win/ZelvikButtonXP.h"
+
+namespace ormala {
+
+/// The buttons above the list in the control window, the path line and the info line.
+class CommandBar {
+  public:
+    /// Children of `parent`, without places until `layOut`.
+    explicit CommandBar(HWND parent);
+
+    void layOut(const SettingsLayout& layout, int dpi);
+    void ApplyLanguage();
+    /// Which buttons show, can be pressed and are lit in this mode.
+    void showMode(int mode, bool worksheetMaxSized);
+
+    void showPathLine(const PathLine& line);
+    /// The width that a path has to fit, in pixels.
+    [[nodiscard]] int pathWidth() const;
+    /// The width of a text on the path line is measured with this.
+    [[nodiscard]] const Label& lblPath() const { return lblPath_; }
+
+    /// Empty for none.
+    void showInfo(const std::string& text);
+
+    Event<Command> chosen;
+
+  private:
+    [[nodiscard]] ZelvikButtonXP& button(Command command) {
+        return *buttons_[static_cast<std::size_t>(command)];
+    }
+    void makeButton(HWND parent, const CommandDesign& design);
+
+    std::vector<std::unique_ptr<ZelvikButtonXP>> buttons_;
+    std::vector<Subscription> clicks_;
+    Label lblPath_;
+    Label lblInfo_;
+};
+
+}  // namespace ormala

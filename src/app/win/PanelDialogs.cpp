@@ -1,0 +1,62 @@
+#include "app/win/PanelDialogs.h"
+
+#include "app/modes.h"
+#include "app/win/MouseAction.h"
+#include "dialogs/win/frmColor.h"
+#include "dialogs/win/frmLineStyle.h"
+#include "measure/win/frmUnit.h"
+#include "stencil/win/frmPatternSelect.h"
+#include "stencil/win/frmRatio.h"
+
+namespace ormala {
+
+namespace {
+
+/// Made with these arguments if it isn't there yet.
+template <typename Dialog, typename... Args>
+Dialog& made(std::unique_ptr<Dialog>& dialog, const Args&... args) {
+    if (dialog == nullptr) {
+        dialog = std::make_unique<Dialog>(args...);
+    }
+    return *dialog;
+}
+
+}  // namespace
+
+PanelDialogs::PanelDialogs(const Ports& ports) : ports_(ports) {}
+
+PanelDialogs::~PanelDialogs() = default;
+
+Color PanelDialogs::SelectColor(Color present) {
+    return made(frmColor_).GetColor(ports_.owner, present);
+}
+
+int PanelDialogs::SelectLineStyle(int present) {
+    return made(frmLineStyle_).GetLineStyle(ports_.owner, present);
+}
+
+bool PanelDialogs::SelectPattern(PatternList& patterns, int& tab) {
+    return made(frmPatternSelect_).SelectPattern(patterns, tab, ports_.owner);
+}
+
+std::optional<double> PanelDialogs::EditRatio(double present) {
+    return made(frmRatio_, ports_.ratios, ports_.textForm).EditRatio(ports_.owner, present);
+}
+
+void PanelDialogs::applyMouseAction(ctlRatioGrid& stencil) {
+    ormala::applyMouseAction(stencil, ports_.worksheet, ports_.owner);
+}
+
+bool PanelDialogs::SelectUnits(ctlMeasure& tool) {
+    frmUnit& dialog =
+        made(frmUnit_, std::string(applicationTitle), ports_.textForm.decimalSeparator);
+    const MeasureUnits former = ports_.defaultUnits;
+    const bool changed =
+        dialog.SelectUnits(ports_.owner, tool, ports_.defaultUnits) == frmUnit::changed;
+    if (ports_.defaultUnits != former) {
+        defaultUnitsChanged.raise();
+    }
+    return changed;
+}
+
+}  // namespace ormala

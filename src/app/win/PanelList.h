@@ -1,0 +1,70 @@
+#pragma once
+
+#include "app/ListScroll.h"
+#include "platform/win/Window.h"
+#include "scene/PixelRect.h"
+#include "widgets/win/Scroll.h"
+
+namespace ormala {
+
+/// An area of a window in the panels' colour, which holds further controls.
+class PictureBox : public Window {
+  public:
+    /// A child of `parent` without a size. `name` is its control name.
+    PictureBox(HWND parent, int id, std::string_view name);
+    ~PictureBox() override { destroy(); }
+
+  protected:
+    std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+};
+
+/// The scrolling list of panels in the control window: `picOuter` is what shows of it, `picInner`
+/// inside holds the panels and may be taller, and `scrInner` at the right edge scrolls it. All
+/// lengths are pixels of the window's monitor.
+class PanelList : public PictureBox {
+  public:
+    PanelList(HWND parent, int id);
+    ~PanelList() override { destroy(); }
+
+    /// The parent of the panels.
+    [[nodiscard]] HWND picInner() const { return picInner_.handle(); }
+    [[nodiscard]] int contentWidth() const;
+    [[nodiscard]] int contentTop() const { return scroll_.Value(); }
+
+    void setDpi(int dpi);
+    void resize(const PixelRect& box);
+    /// Of all panels together.
+    void setContentHeight(int height);
+    /// Of a panel, in pixels of the content.
+    [[nodiscard]] PixelRect placeInContent(HWND panel) const;
+    /// While many panels come and go the list stays hidden.
+    void setBulkUpdate(bool bulkUpdate);
+
+    /// Scrolls so that a panel of the content shows, its head if not all of it.
+    void EnsurePanelVisible(int panelTop, int panelHeight);
+    /// One notch of the wheel, as a glide.
+    void Scroll(bool down);
+    /// The shared clock of 40 ms.
+    void tick();
+
+    /// Another part of the content shows now.
+    Event<> viewChanged;
+    /// Whether some of a panel of the content shows.
+    [[nodiscard]] bool shows(HWND panel) const;
+
+  private:
+    [[nodiscard]] PixelSize inside() const;
+    void layOut();
+    void adoptHeights();
+    void moveContent();
+
+    PictureBox picInner_;
+    ormala::Scroll scrInner_;
+    Subscription scrolled_;
+    ListScroll scroll_;
+    int content_ = 0;
+    int dpi_ = USER_DEFAULT_SCREEN_DPI;
+    bool bulkUpdate_ = false;
+};
+
+}  // namespace ormala

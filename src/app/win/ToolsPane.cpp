@@ -1,0 +1,216 @@
+#include "app/win/ToolsPane.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/version.h"
+#include "app/win/timeOfSaving.h"
+
+namespace ormala {
+
+namespace {
+
+/// A panel is removed once the event is over in which its tool or its button asked for that.
+constexpr UINT wmRemovePanel = WM_APP + 1;
+
+}  // namespace
+
+ToolsPane::ToolsPane(const Ports& ports, int id)
+    : ports_(ports),
+      messages_(ports.window),
+      toolsFile_(ports.store, ports.codePage, fileMessages_),
+      list_(ports.window, id),
+      panelDialogs_({ports.window, ports.worksheet.handle(), ports.ratios, ports.settings.textForm,
+                     ports.defaultUnits}),
+      panelMaker_(
+          {list_, ports.worksheet.sheet(), *this, panelDialogs_, ports.settings, ports.ratios}),
+      dialogs_(ports.window, ports.bar),
+      tools_({ports.worksheet.sheet(), panelMaker_, *this, messages_}),
+      defaultUnitsChanged_(panelDialogs_.defaultUnitsChanged.subscribe(
+          [this] { tools_.setUnits(ports_.defaultUnits); })),
+      viewChanged_(list_.viewChanged.subscribe([this] { tellPanelsWhatShows(); })),
+      toolFile_({toolsFile_, ports.store, tools_, *this}, {versionText, timeOfSaving}),
+      documents_({toolsFile_, ports.store, toolFile_, tools_, *this, dialogs_}) {
+    tools_.setUnits(ports.defaultUnits);
+}
+
+ToolsPane::~ToolsPane() = default;
+
+void ToolsPane::setDpi(int dpi) {
+    list_.setDpi(dpi);
+    panelMaker_.setDpi(dpi);
+    tools_.ArrangePanels();
+}
+
+void ToolsPane::resize(const PixelRect& box) {
+    list_.resize(box);
+}
+
+void ToolsPane::UpdatePanelLayout(bool AdjustFormHeight, bool Force) {
+    const int content = tools_.contentHeight();
+    if (AdjustFormHeight) {
+        const auto height =
+            layout_.UpdatePanelLayout(content, Force, ports_.controlWindow.layoutWindow());
+        if (height) {
+            ports_.controlWindow.takeHeight(*height);
+        }
+    }
+    list_.setContentHeight(content);
+}
+
+void ToolsPane::tellPanelsWhatShows() {
+    for (PanelWindow* panel : panelMaker_.panels()) {
+        panel->setSeen(list_.shows(panel->handle()));
+    }
+}
+
+void ToolsPane::tick() {
+    list_.tick();
+    panelMaker_.tmrFast.raise();
+}
+
+void ToolsPane::stepHistory(const OverlayItem& tool, bool back) {
+    for (PanelWindow* panel : panelMaker_.panels()) {
+        PanelCore& core = panel->core();
+        if (&core.RefControlControl() == &tool) {
+            // Steps of the keys are in no record yet: without this they would be lost.
+            core.AddHistoryStep();
+            if (back) {
+                core.Undo();
+            } else {
+                core.Redo();
+            }
+        }
+    }
+}
+
+void ToolsPane::execute(Command command) {
+    switch (command) {
+        case Command::addStencil:
+            addTool(ToolKind::stencil);
+            break;
+        case Command::addMeasure:
+            addTool(ToolKind::measurement);
+            break;
+        case Command::newTools:
+            documents_.New();
+            break;
+        case Command::load:
+            documents_.Load();
+            break;
+        case Command::save:
+            documents_.Save();
+            break;
+        case Command::saveAs:
+            documents_.SaveAs();
+            break;
+        default:
+            break;
+    }
+}
+
+void ToolsPane::addTool(ToolKind kind) {
+    tools_.AddNewControl(static_cast<int>(kind));
+    if (!list_.isVisible()) {
+        // A window that has come up without tools has no room for the first one's panel.
+        UpdatePanelLayout(true, true);
+    }
+}
+
+void ToolsPane::refresh() {
+    // What has changed is invalid already.
+    RedrawWindow(ports_.window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+void ToolsPane::beginBusy(const std::string& info, bool hourglass) {
+    if (hourglass) {
+        SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+    }
+    list_.setBulkUpdate(true);
+    ports_.bar.showInfo(info);
+    refresh();
+}
+
+void ToolsPane::endBusy() {
+    list_.setBulkUpdate(false);
+    ports_.bar.showInfo({});
+    SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+}
+
+void ToolsPane::refreshWorksheet() {
+    UpdateWindow(ports_.worksheet.handle());
+}
+
+void ToolsPane::panelSelected(PanelWindow& panel) {
+    focused_ = panel.handle();
+    if (GetActiveWindow() == ports_.window) {
+        if (IsChild(focused_, GetFocus()) == FALSE) {
+            SetFocus(focused_);
+        }
+    } else {
+        // The keyboard stays with the tool, and what its panel shows stays in sight.
+        ports_.controlWindow.raiseAboveAll();
+    }
+    EnsurePanelVisible(panel);
+}
+
+void ToolsPane::panelGotFocus(PanelWindow& panel) {
+    if (restoringFocus_) {
+        return;
+    }
+    if (ports_.foreground.LastForegroundWindow == ports_.window) {
+        focused_ = panel.handle();
+        ports_.worksheet.sheet().SelectControl(panel.core().RefControlControl());
+    } else {
+        SetFocusToSelectedControl();
+        ports_.foreground.LastForegroundWindow = GetForegroundWindow();
+    }
+}
+
+void ToolsPane::SetFocusToSelectedControl() {
+    const bool former = std::exchange(restoringFocus_, true);
+    for (PanelWindow* panel : panelMaker_.panels()) {
+        if (panel->core().Selected() && panel->isVisible()) {
+            SetFocus(list_.handle());
+            SetFocus(panel->handle());
+            focused_ = panel->handle();
+            break;
+        }
+    }
+    restoringFocus_ = former;
+}
+
+bool ToolsPane::hasPanelAt(POINT screen) const {
+    return std::ranges::any_of(panelMaker_.panels(), [screen](const PanelWindow* panel) {
+        const RECT place = panel->rectangle();
+        return panel->isVisible() && PtInRect(&place, screen) != FALSE;
+    });
+}
+
+void ToolsPane::giveFocusToPanel() {
+    const PanelWindow* panel = panelMaker_.panelOf(focused_);
+    SetFocus(panel != nullptr && panel->isVisible() ? panel->handle() : list_.handle());
+}
+
+void ToolsPane::EnsurePanelVisible(const PanelWindow& panel) {
+    const PixelRect box = list_.placeInContent(panel.handle());
+    list_.EnsurePanelVisible(box.top, box.height());
+}
+
+void ToolsPane::removePanel(PanelWindow& panel) {
+    PostMessageW(ports_.window, wmRemovePanel, 0, reinterpret_cast<LPARAM>(panel.handle()));
+}
+
+std::optional<LRESULT> ToolsPane::onMessage(UINT message, LPARAM lParam) {
+    if (message != wmRemovePanel) {
+        return std::nullopt;
+    }
+    if (PanelWindow* panel = panelMaker_.panelOf(reinterpret_cast<HWND>(lParam))) {
+        if (!panel->core().Hidden()) {
+            tools_.RemovePanel(panel->core());
+        }
+    }
+    return 0;
+}
+
+}  // namespace ormala

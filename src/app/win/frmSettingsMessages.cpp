@@ -1,0 +1,215 @@
+#include "app/win/frmSettings.h"
+// Needs the system's basic types, which come with the window.
+#include <windowsx.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "app/win/screens.h"
+#include "scene/Input.h"
+
+// Messages and keys of the control window.
+
+namespace ormala {
+
+namespace {
+
+/// In front of the worksheet, once that has come to the front itself.
+constexpr UINT wmRaise = WM_APP + 2;
+
+}  // namespace
+
+std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_ERASEBKGND:
+            return onErase(reinterpret_cast<HDC>(wParam));
+        case WM_ACTIVATEAPP:
+            cameBack_ = wParam != FALSE;
+            foreground_.LastForegroundWindow = nullptr;
+            return std::nullopt;
+        case WM_ACTIVATE:
+            return onActivate(wParam, reinterpret_cast<HWND>(lParam));
+        case WM_MOUSEACTIVATE:
+            return onMouseActivate(wParam, lParam);
+        case WM_SETFOCUS:
+            return onFocus();
+        case wmRaise:
+            raiseAboveAll();
+            return 0;
+        case WM_SIZE:
+            return onSize(wParam);
+        case WM_GETMINMAXINFO:
+            return onGetMinMaxInfo(lParam);
+        case WM_SYSCOMMAND:
+            return onSysCommand(wParam, lParam);
+        case WM_DPICHANGED:
+            return onDpiChanged(wParam, lParam);
+        case WM_DISPLAYCHANGE:
+            return onDisplayChange();
+        case WM_TIMER:
+            return onTimer();
+        case WM_CLOSE:
+            return onClose();
+        case WM_QUERYENDSESSION:
+            return tools_->documents().ConfirmDiscard() ? TRUE : FALSE;
+        case WM_ENDSESSION:
+            return onEndSession(wParam != FALSE);
+        default:
+            return tools_ ? tools_->onMessage(message, lParam) : std::nullopt;
+    }
+}
+
+LRESULT frmSettings::onErase(HDC context) {
+    constexpr COLORREF ground = 0x606060;
+    const RECT client = clientRectangle();
+    SetDCBrushColor(context, ground);
+    FillRect(context, &client, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    return 1;
+}
+
+LRESULT frmSettings::onSize(WPARAM kind) {
+    const WindowState state = kind == SIZE_MINIMIZED   ? WindowState::minimised
+                              : kind == SIZE_MAXIMIZED ? WindowState::maximised
+                                                       : WindowState::normal;
+    if (height_.resized(state)) {
+        AdjustFormHeight(mode_, mode_);
+    }
+    if (tools_ && state != WindowState::minimised) {
+        PixelRect list = layout().picOuter;
+        const int bottom = static_cast<int>(clientRectangle().bottom) - list.left;
+        list.bottom = std::max(bottom, list.top);
+        tools_->resize(list);
+        tools_->UpdatePanelLayout(false, false);
+    }
+    return 0;
+}
+
+LRESULT frmSettings::onGetMinMaxInfo(LPARAM lParam) {
+    auto& limits = *reinterpret_cast<MINMAXINFO*>(lParam);
+    const SIZE frame = frameSize();
+    const int width = layout().width + static_cast<int>(frame.cx);
+    limits.ptMinTrackSize.x = width;
+    limits.ptMaxTrackSize.x = width;
+    limits.ptMinTrackSize.y = layout().shortHeight + frame.cy;
+    return DefWindowProcW(handle(), WM_GETMINMAXINFO, 0, lParam);
+}
+
+LRESULT frmSettings::onSysCommand(WPARAM wParam, LPARAM lParam) {
+    const LRESULT result = DefWindowProcW(handle(), WM_SYSCOMMAND, wParam, lParam);
+    for (int mode = 0; mode < mode::count; ++mode) {
+        if (wParam == static_cast<WPARAM>(menuCommandOfMode(mode))) {
+            SetMode(mode, false);
+        }
+    }
+    return result;
+}
+
+LRESULT frmSettings::onDpiChanged(WPARAM wParam, LPARAM lParam) {
+    const int kept = twipsOfPixels(height_.editModeHeight(), dpi_);
+    dpi_ = HIWORD(wParam);
+    layOutControls();
+    height_.setEditModeHeight(pixelsOfTwips(kept, dpi_));
+    const RECT& place = *reinterpret_cast<const RECT*>(lParam);
+    SetWindowPos(handle(), nullptr, place.left, place.top, place.right - place.left,
+                 place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    InvalidateRect(handle(), nullptr, FALSE);
+    return 0;
+}
+
+LRESULT frmSettings::onDisplayChange() {
+    bringOntoScreens(handle());
+    if (resizer_) {
+        bringOntoScreens(resizer_->handle());
+    }
+    return 0;
+}
+
+LRESULT frmSettings::onActivate(WPARAM kind, HWND other) {
+    if (LOWORD(kind) == WA_INACTIVE) {
+        if (other != nullptr && other == worksheet_->handle()) {
+            // A worksheet that comes to the front must not cover the panels.
+            PostMessageW(handle(), wmRaise, 0, 0);
+        }
+    } else if (!std::exchange(cameBack_, false)) {
+        // From another window of the program: whatever gets the focus now, the user chose it.
+        foreground_.LastForegroundWindow = handle();
+    }
+    return DefWindowProcW(handle(), WM_ACTIVATE, kind, reinterpret_cast<LPARAM>(other));
+}
+
+LRESULT frmSettings::onMouseActivate(WPARAM wParam, LPARAM lParam) {
+    const DWORD place = GetMessagePos();
+    clickOnPanel_ = tools_->hasPanelAt({GET_X_LPARAM(place), GET_Y_LPARAM(place)});
+    return DefWindowProcW(handle(), WM_MOUSEACTIVATE, wParam, lParam);
+}
+
+LRESULT frmSettings::onFocus() {
+    if (!std::exchange(clickOnPanel_, false)) {
+        tools_->giveFocusToPanel();
+    }
+    return 0;
+}
+
+LRESULT frmSettings::onTimer() {
+    tools_->tick();
+    return 0;
+}
+
+LRESULT frmSettings::onClose() {
+    // While a dialog of the window is open, that has to be answered first.
+    if (IsWindowEnabled(handle()) != FALSE && tools_->documents().ConfirmDiscard()) {
+        unload();
+        PostQuitMessage(0);
+    }
+    return 0;
+}
+
+LRESULT frmSettings::onEndSession(bool ending) {
+    if (ending) {
+        // The windows stay, since a message of one of them may be in hand at this moment.
+        save();
+    }
+    return 0;
+}
+
+bool frmSettings::preview(const MSG& message) {
+    const bool own = message.hwnd == handle() || IsChild(handle(), message.hwnd) != FALSE;
+    if (!own || message.message != WM_KEYDOWN) {
+        return false;
+    }
+    const int key = static_cast<int>(message.wParam);
+    return onKey(key) || (key == VK_TAB && focusNextControl(heldModifiers()));
+}
+
+bool frmSettings::focusNextControl(int shift) {
+    if ((shift & ~modifier::shift) != 0) {
+        return false;
+    }
+    const HWND next = GetNextDlgTabItem(handle(), GetFocus(), shift == modifier::shift);
+    if (next != nullptr) {
+        SetFocus(next);
+    }
+    return true;
+}
+
+bool frmSettings::onKey(int key) {
+    const bool shiftOnly = heldModifiers() == modifier::shift;
+    switch (key) {
+        case key::f1:
+            ShowHelp();
+            return true;
+        case key::f2:
+            SetMode(mode::edit, false);
+            return true;
+        case key::f3:
+            SetMode(mode::pause, shiftOnly);
+            return true;
+        case key::f4:
+            SetMode(mode::templateMode, shiftOnly);
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace ormala
