@@ -95,7 +95,11 @@ class Modes : public testing::Test {
     }
 
     void press(int key) {
-        SendMessageW(settings_->handle(), WM_KEYDOWN, static_cast<WPARAM>(key), 0);
+        MSG message{};
+        message.hwnd = settings_->handle();
+        message.message = WM_KEYDOWN;
+        message.wParam = static_cast<WPARAM>(key);
+        EXPECT_TRUE(settings_->preview(message));
     }
 
     test::AppDataFolder folder_;

@@ -6,6 +6,7 @@
 #include "platform/win/text.h"
 #include "stencil/ctlRatioGrid.h"
 #include "support/win/Wait.h"
+#include "win/ModalPlayer.h"
 
 namespace ormala {
 namespace {
@@ -116,12 +117,14 @@ TEST_F(frmSettingsTest, FollowsTheResolutionOfItsMonitor) {
     EXPECT_NEAR(now.right - now.left, 2 * (place.right - place.left), 40);
 }
 
-TEST_F(frmSettingsTest, ClickOnTheModeBarChangesTheMode) {
-    const SettingsLayout layout(static_cast<int>(GetDpiForWindow(settings_.handle())));
-    const PixelRect& box = layout.btnMode[2];
-    SendMessageW(settings_.handle(), WM_LBUTTONDOWN, MK_LBUTTON,
-                 MAKELPARAM((box.left + box.right) / 2, (box.top + box.bottom) / 2));
-    EXPECT_EQ(settings_.GetMode(), 2);
+TEST_F(frmSettingsTest, ButtonsOfTheModesChangeThem) {
+    for (const int mode : {2, 1, 0}) {
+        const HWND button = namedChild(settings_.handle(), "btnMode(" + std::to_string(mode) + ")");
+        ASSERT_NE(button, nullptr);
+        SendMessageW(button, BM_CLICK, 0, 0);
+        EXPECT_EQ(settings_.GetMode(), mode);
+        EXPECT_EQ(SendMessageW(button, BM_GETCHECK, 0, 0), BST_CHECKED);
+    }
 }
 
 TEST_F(frmSettingsTest, UndoBringsBackWhatTheKeysMoved) {

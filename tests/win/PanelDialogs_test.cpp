@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "app/win/ToolsPane.h"
+#include "app/win/frmSettings.h"
+#include "e2e/support/AppDataFolder.h"
+#include "measure/ctlMeasure.h"
+#include "stencil/ctlRatioGrid.h"
+#include "win/EnglishTexts.h"
+#include "win/ModalPlayer.h"
+
+namespace ormala {
+namespace {
+
+/// The dialogs that the panels of the running program open.
+class PanelDialogsTest : public testing::Test {
+  protected:
+    [[nodiscard]] HWND panel(const wchar_t* className) const {
+        const HWND inner = namedChild(settings_.handle(), "picInner");
+        return FindWindowExW(inner, nullptr, className, nullptr);
+    }
+    [[nodiscard]] HWND stencilPanel() const { return panel(L"ctlSetRatioGrid"); }
+    [[nodiscard]] HWND measurePanel() const { return panel(L"ctlSetMeasure"); }
+    [[nodiscard]] OverlayItem* tool(int kind) {
+        return settings_.worksheet().sheet().GetFirstControl(kind);
+    }
+    [[nodiscard]] ctlRatioGrid& stencil() { return dynamic_cast<ctlRatioGrid&>(*tool(0)); }
+    [[nodiscard]] ctlMeasure& measure() { return dynamic_cast<ctlMeasure&>(*tool(1)); }
+
+    /// Clicks a button and, in the dialog that opens, presses the keys.
+    void play(HWND panel, const char* button, const std::string& dialog, const char* control,
+              std::initializer_list<int> keys) {
+        player_.untilActive(dialog).until("the focus", [dialog, control] {
+            return GetFocus() == namedChild(GetActiveWindow(), control);
+        });
+        for (const int key : keys) {
+            player_.key(key);
+        }
+        SendMessageW(namedChild(panel, button), BM_CLICK, 0, 0);
+        EXPECT_TRUE(player_.done());
+    }
+    void pickColor(HWND panel, const char* button, std::initializer_list<int> keys) {
+        play(panel, button, "frmColor", "ColorPicker", keys);
+    }
+    void pickLine(HWND panel, std::initializer_list<int> keys) {
+        play(panel, "cmdLineStyle", "frmLineStyle", "LineSelect", keys);
+    }
+
+    test::AppDataFolder folder_;
+    EnglishTexts english_;
+    frmSettings settings_{false};
+    ModalPlayer player_;
+};
+
+TEST_F(PanelDialogsTest, TheColorOfAStencilIsPicked) {
+    const Color former = stencil().Color();
+    pickColor(stencilPanel(), "cmdColor", {VK_RIGHT, VK_DOWN, VK_RETURN});
+    EXPECT_NE(stencil().Color(), former);
+    const Color picked = stencil().Color();
+    pickColor(stencilPanel(), "cmdColor", {VK_DOWN, VK_ESCAPE});
+    EXPECT_EQ(stencil().Color(), picked);
+}
+
+TEST_F(PanelDialogsTest, TheColorOfEachLineOfAMeasureIsPicked) {
+    const Color formerA = measure().ColorA();
+    const Color formerB = measure().ColorB();
+    pickColor(measurePanel(), "cmdColorA", {VK_RIGHT, VK_DOWN, VK_RETURN});
+    EXPECT_NE(measure().ColorA(), formerA);
+    EXPECT_EQ(measure().ColorB(), formerB);
+    pickColor(measurePanel(), "cmdColorB", {VK_RIGHT, VK_DOWN, VK_RETURN});
+    EXPECT_NE(measure().ColorB(), formerB);
+}
+
+TEST_F(PanelDialogsTest, TheLineStyleOfEitherToolIsChosen) {
+    stencil().setLineWidth(2);
+    pickLine(stencilPanel(), {VK_DOWN, VK_RETURN});
+    EXPECT_EQ(stencil().LineWidth(), 3);
+    measure().setLineWidth(2);
+    pickLine(measurePanel(), {VK_UP, VK_UP, VK_RETURN});
+    EXPECT_EQ(measure().LineWidth(), 0);
+    pickLine(measurePanel(), {VK_DOWN, VK_ESCAPE});
+    EXPECT_EQ(measure().LineWidth(), 0);
+}
+
+}  // namespace
+}  // namespace ormala

@@ -1,0 +1,170 @@
+#include "app/win/ToolsPane.h"
+
+#include <gtest/gtest.h>
+
+#include "app/win/frmSettings.h"
+#include "e2e/support/AppDataFolder.h"
+#include "language/MlStringModule.h"
+#include "platform/win/controlName.h"
+#include "platform/win/text.h"
+#include "stencil/ctlRatioGrid.h"
+#include "support/win/Wait.h"
+#include "win/ModalPlayer.h"
+
+namespace ormala {
+namespace {
+
+std::string textOf(HWND window) {
+    wchar_t text[400]{};
+    GetWindowTextW(window, text, 400);
+    return narrow(text);
+}
+
+/// The panels of the running program.
+class ToolsPaneTest : public testing::Test {
+  protected:
+    [[nodiscard]] HWND panel(const wchar_t* className) const {
+        const HWND inner = namedChild(settings_.handle(), "picInner");
+        return FindWindowExW(inner, nullptr, className, nullptr);
+    }
+    [[nodiscard]] HWND stencil() const { return panel(L"ctlSetRatioGrid"); }
+    [[nodiscard]] HWND measure() const { return panel(L"ctlSetMeasure"); }
+    static void click(HWND panel, std::string_view name) {
+        SendMessageW(namedChild(panel, name), BM_CLICK, 0, 0);
+    }
+    [[nodiscard]] Sheet& sheet() { return settings_.worksheet().sheet(); }
+
+    test::AppDataFolder folder_;
+    frmSettings settings_{false};
+};
+
+TEST_F(ToolsPaneTest, AFirstStartShowsAPanelOfEachKind) {
+    EXPECT_TRUE(IsWindowVisible(stencil()));
+    EXPECT_TRUE(IsWindowVisible(measure()));
+    EXPECT_EQ(textOf(namedChild(stencil(), "lblTitle")), "Stencil Tool");
+    EXPECT_EQ(textOf(namedChild(measure(), "lblTitle")), "Measurement Tool 1");
+    EXPECT_EQ(textOf(namedChild(measure(), "lblAngleVert")), "Vertical angle ");
+}
+
+TEST_F(ToolsPaneTest, PauseHidesTheToolAndLeavesOnlyItsOwnButton) {
+    click(measure(), "cmdPause");
+    const OverlayItem* tool = sheet().GetFirstControl(1);
+    EXPECT_FALSE(sheet().isVisible(*tool));
+    for (const char* name : {"cmdDelete", "cmdColorA", "cmdLineStyle", "optMode(0)", "cmdUndo"}) {
+        EXPECT_FALSE(IsWindowEnabled(namedChild(measure(), name))) << name;
+    }
+    EXPECT_TRUE(IsWindowEnabled(namedChild(measure(), "cmdPause")));
+    click(measure(), "cmdPause");
+    EXPECT_TRUE(sheet().isVisible(*tool));
+    EXPECT_TRUE(IsWindowEnabled(namedChild(measure(), "cmdDelete")));
+    EXPECT_FALSE(IsWindowEnabled(namedChild(measure(), "cmdUndo")));
+}
+
+TEST_F(ToolsPaneTest, UndoOfADisconnectShowsTheLinesConnectedAgain) {
+    const auto connected = [&] {
+        return SendMessageW(namedChild(measure(), "optMode(0)"), BM_GETCHECK, 0, 0) == BST_CHECKED;
+    };
+    EXPECT_TRUE(connected());
+    click(measure(), "optMode(1)");
+    EXPECT_TRUE(test::waitUntil([&] { return !connected(); }));
+    click(measure(), "cmdUndo");
+    EXPECT_TRUE(test::waitUntil(connected));
+}
+
+TEST_F(ToolsPaneTest, TextsFollowTheLanguageAndComeBack) {
+    GetLanguageSupport().ChangeLanguage(languageGerman);
+    EXPECT_EQ(textOf(namedChild(stencil(), "lblTitle")), "Schablonenwerkzeug");
+    EXPECT_EQ(textOf(namedChild(measure(), "lblTitle")), "Messwerkzeug 1");
+    EXPECT_EQ(textOf(namedChild(stencil(), "cmdUndo")), "Rückgängig");
+    EXPECT_TRUE(textOf(namedChild(stencil(), "lblPositionTop")).starts_with("oben = "));
+    GetLanguageSupport().ChangeLanguage(languageEnglish);
+    EXPECT_EQ(textOf(namedChild(stencil(), "lblTitle")), "Stencil Tool");
+    EXPECT_EQ(textOf(namedChild(stencil(), "cmdUndo")), "Undo");
+}
+
+TEST_F(ToolsPaneTest, PanelsFollowTheResolutionOfTheirMonitor) {
+    RECT before{};
+    GetClientRect(stencil(), &before);
+    RECT place = settings_.rectangle();
+    place.right += place.right - place.left;
+    place.bottom += place.bottom - place.top;
+    SendMessageW(settings_.handle(), WM_DPICHANGED, MAKEWPARAM(192, 192),
+                 reinterpret_cast<LPARAM>(&place));
+    RECT now{};
+    GetClientRect(stencil(), &now);
+    const int former = static_cast<int>(GetDpiForSystem());
+    EXPECT_NEAR(now.right, MulDiv(before.right, 192, former), 2);
+    EXPECT_NEAR(now.bottom, MulDiv(before.bottom, 192, former), 2);
+    RECT next{};
+    GetWindowRect(measure(), &next);
+    RECT first{};
+    GetWindowRect(stencil(), &first);
+    EXPECT_EQ(next.top, first.bottom);
+}
+
+/// The control names of a panel's controls that wait for painting.
+std::vector<std::string> waitingForPainting(HWND panel) {
+    std::vector<std::string> names;
+    if (GetUpdateRect(panel, nullptr, FALSE) != FALSE) {
+        names.emplace_back("panel");
+    }
+    for (HWND control = GetWindow(panel, GW_CHILD); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT)) {
+        if (GetUpdateRect(control, nullptr, FALSE) != FALSE) {
+            names.push_back(textOf(control));
+        }
+    }
+    return names;
+}
+
+TEST_F(ToolsPaneTest, ARefreshRepaintsOnlyTheReadOutThatHasChanged) {
+    ToolList& tools = settings_.tools().tools();
+    auto& core = dynamic_cast<PanelCore&>(*tools.LastVisiblePanel(ToolKind::stencil));
+    auto& tool = dynamic_cast<ctlRatioGrid&>(core.RefControlControl());
+    tool.setRotationAngle(0);
+    core.ShowAllProps(true);
+    const auto paint = [&] {
+        RedrawWindow(stencil(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    };
+    paint();
+    core.ShowAllProps(true);
+    EXPECT_EQ(waitingForPainting(stencil()), std::vector<std::string>{});
+    // Too little for the degrees.
+    tool.setRotationAngle(0.0006);
+    core.ShowAllProps(true);
+    EXPECT_EQ(waitingForPainting(stencil()), std::vector<std::string>{"0.001 rad "});
+}
+
+TEST_F(ToolsPaneTest, ARefreshOfAMeasuringToolThatStandsStillRepaintsNothing) {
+    ToolList& tools = settings_.tools().tools();
+    auto& core = dynamic_cast<PanelCore&>(*tools.LastVisiblePanel(ToolKind::measurement));
+    core.ShowAllProps(true);
+    RedrawWindow(measure(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    core.ShowAllProps(true);
+    EXPECT_EQ(waitingForPainting(measure()), std::vector<std::string>{});
+}
+
+TEST_F(ToolsPaneTest, DeleteRemovesTheFirstPairFromSight) {
+    click(stencil(), "cmdDelete");
+    EXPECT_TRUE(test::waitUntil([&] { return IsWindowVisible(stencil()) == FALSE; }));
+    EXPECT_FALSE(sheet().isVisible(*sheet().GetFirstControl(0)));
+    RECT place{};
+    GetWindowRect(measure(), &place);
+    RECT inner{};
+    GetWindowRect(namedChild(settings_.handle(), "picInner"), &inner);
+    EXPECT_EQ(place.top, inner.top);
+}
+
+TEST_F(ToolsPaneTest, WithoutPanelsTheListIsEmptyAndTheWheelDoesNothing) {
+    settings_.tools().tools().RemoveAllTools();
+    RECT inner{};
+    GetClientRect(namedChild(settings_.handle(), "picInner"), &inner);
+    EXPECT_EQ(inner.bottom, 0);
+    EXPECT_FALSE(IsWindowEnabled(namedChild(settings_.handle(), "scrInner")));
+    settings_.tools().Scroll(true);
+    GetClientRect(namedChild(settings_.handle(), "picInner"), &inner);
+    EXPECT_EQ(inner.bottom, 0);
+}
+
+}  // namespace
+}  // namespace ormala
