@@ -1,38 +1,10 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "e2e/SheetScene.h"
+#include "e2e/SheetFrame.h"
 
 namespace ormala::test {
 namespace {
-
-/// Between the frame's client area and the worksheet.
-constexpr int margin = 5;
-
-DesktopWindow frameOf(SheetScene& scene) {
-    return scene.program().window("frmResizer");
-}
-
-bool worksheetFits(SheetScene& scene) {
-    const ScreenRect client = frameOf(scene).clientRect();
-    const ScreenRect hole{client.left + margin, client.top + margin, client.right - margin,
-                          client.bottom - margin};
-    return waitUntil([&] { return scene.worksheet().rect() == hole; });
-}
-
-/// Moves and sizes the frame from outside: a window manager listens to no synthetic mouse.
-void place(SheetScene& scene, const ScreenRect& rect) {
-    SetWindowPos(frameOf(scene).handle(), nullptr, rect.left, rect.top, rect.width(), rect.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-    frameOf(scene).settle();
-}
-
-/// A point of the title bar that the control window does not cover.
-ScreenPoint titleBar(SheetScene& scene) {
-    const ScreenRect frame = frameOf(scene).rect();
-    const int height = frameOf(scene).clientRect().top - frame.top;
-    return {frame.left + frame.width() / 3, frame.top + height / 2 + 1};
-}
 
 ScreenRect workArea() {
     RECT area{};
@@ -68,14 +40,15 @@ TEST(Frame, HoleShowsTheBackdropWhenTheToolsAreGone) {
 TEST(Frame, WorksheetFollowsEveryStepOfAMove) {
     SheetScene scene;
     for (int step = 1; step <= 5; ++step) {
-        place(scene, {300 - 30 * step, 200 - 20 * step, 1100 - 30 * step, 700 - 20 * step});
+        place(frameOf(scene),
+              {300 - 30 * step, 200 - 20 * step, 1100 - 30 * step, 700 - 20 * step});
         EXPECT_TRUE(worksheetFits(scene)) << step;
     }
 }
 
 TEST(Frame, CannotBeMadeSmallerThanItsLeastSize) {
     SheetScene scene;
-    place(scene, {100, 100, 140, 140});
+    place(frameOf(scene), {100, 100, 140, 140});
     const int dpi = static_cast<int>(GetDpiForWindow(frameOf(scene).handle()));
     const ScreenRect now = frameOf(scene).rect();
     EXPECT_EQ(now.width(), MulDiv(200, dpi, 96));
@@ -85,7 +58,7 @@ TEST(Frame, CannotBeMadeSmallerThanItsLeastSize) {
 
 TEST(Frame, DoubleClickOnTheTitleBarMeansFullScreen) {
     SheetScene scene;
-    scene.mouse.doubleClick(titleBar(scene));
+    scene.mouse.doubleClick(titleBarOf(scene));
     frameOf(scene).waitUntilHidden();
     EXPECT_TRUE(waitUntil([&] { return scene.worksheet().rect() == workArea(); }));
     EXPECT_TRUE(scene.worksheet().isVisible());
@@ -111,7 +84,7 @@ TEST(Frame, CloseBoxMeansPause) {
 
 TEST(Frame, PlaceIsKeptFromRunToRun) {
     SheetScene scene;
-    place(scene, {120, 90, 900, 700});
+    place(frameOf(scene), {120, 90, 900, 700});
     ASSERT_TRUE(worksheetFits(scene));
     scene.restart();
     EXPECT_EQ(frameOf(scene).rect(), (ScreenRect{120, 90, 900, 700}));

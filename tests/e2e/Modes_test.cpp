@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "e2e/SheetScene.h"
 
 namespace ormala::test {
@@ -9,16 +11,19 @@ constexpr const char* editCaption = "Ormala - Edit";
 constexpr const char* templateCaption = "Ormala - Template";
 constexpr const char* pauseCaption = "Ormala - Pause";
 
-/// Where the middle of a button of the mode bar is, in thirds of the window's width.
 ScreenPoint modeButton(const SheetScene& scene, int mode) {
+    return scene.settings().named("btnMode(" + std::to_string(mode) + ")").center();
+}
+
+/// A place of the control window without a control.
+ScreenPoint emptyPlace(const SheetScene& scene) {
     const ScreenRect client = scene.settings().clientRect();
-    return {client.left + client.width() * (2 * mode + 1) / 6, client.top + 16};
+    return {client.left + 2, client.top + 2};
 }
 
 TEST(Modes, KeysOfTheControlWindowChangeThem) {
     SheetScene scene;
-    scene.mouse.click(
-        {scene.settings().clientRect().left + 20, scene.settings().clientRect().bottom - 10});
+    scene.mouse.click(emptyPlace(scene));
     keyboard::press(VK_F4);
     scene.settings().waitForText(templateCaption);
     EXPECT_TRUE(scene.worksheet().isVisible());
@@ -52,8 +57,7 @@ TEST(Modes, ButtonsOfTheBarChangeThem) {
 
 TEST(Modes, ShiftMinimisesTheControlWindowAsWell) {
     SheetScene scene;
-    scene.mouse.click(
-        {scene.settings().clientRect().left + 20, scene.settings().clientRect().bottom - 10});
+    scene.mouse.click(emptyPlace(scene));
     keyboard::press(VK_F4, Modifiers::Shift);
     scene.settings().waitForText(templateCaption);
     EXPECT_TRUE(waitUntil([&] { return scene.settings().isMinimised(); }));
@@ -62,8 +66,7 @@ TEST(Modes, ShiftMinimisesTheControlWindowAsWell) {
 
 TEST(Modes, ShiftWithCtrlDoesNotMinimise) {
     SheetScene scene;
-    scene.mouse.click(
-        {scene.settings().clientRect().left + 20, scene.settings().clientRect().bottom - 10});
+    scene.mouse.click(emptyPlace(scene));
     keyboard::press(VK_F3, Modifiers::Shift | Modifiers::Ctrl);
     scene.settings().waitForText(pauseCaption);
     EXPECT_FALSE(scene.settings().isMinimised());
@@ -94,11 +97,43 @@ TEST(Modes, ControlWindowStandsShortOutsideEditModeAndGetsItsHeightBack) {
     EXPECT_EQ(scene.settings().rect().width(), first.width());
 }
 
+TEST(Modes, MinimisingTwinsChangeThemAndMinimise) {
+    SheetScene scene;
+    scene.mouse.click(scene.settings().named("cmdTemplateMin").center());
+    scene.settings().waitForText(templateCaption);
+    EXPECT_TRUE(waitUntil([&] { return scene.settings().isMinimised(); }));
+    scene.settings().post(WM_SYSCOMMAND, SC_RESTORE);
+    // A minimised window stands far outside the screen.
+    EXPECT_TRUE(waitUntil(
+        [&] { return !scene.settings().isMinimised() && scene.settings().rect().left > -1000; }));
+    EXPECT_FALSE(scene.settings().named("cmdTemplateMin").isVisible());
+    scene.mouse.click(scene.settings().named("cmdPauseMin").center());
+    scene.settings().waitForText(pauseCaption);
+    EXPECT_TRUE(waitUntil([&] { return scene.settings().isMinimised(); }));
+}
+
+TEST(Modes, PauseLeavesOnlyWhatNeedsNoWorksheet) {
+    SheetScene scene;
+    keyboard::press(VK_F3);
+    scene.settings().waitForText(pauseCaption);
+    for (const char* name : {"cmdAddGrid", "cmdAddMeasure", "cmdNew", "cmdLoad", "cmdSave",
+                             "cmdSaveAs", "cmdWorksheetWindowNormal"}) {
+        EXPECT_FALSE(scene.settings().named(name).isEnabled()) << name;
+    }
+    EXPECT_TRUE(scene.settings().named("btnMode(0)").isEnabled());
+}
+
+TEST(Modes, CloseBoxOfTheFramePauses) {
+    SheetScene scene;
+    scene.program().window("frmResizer").post(WM_SYSCOMMAND, SC_CLOSE);
+    scene.settings().waitForText(pauseCaption);
+    EXPECT_FALSE(scene.worksheet().isVisible());
+}
+
 TEST(Modes, FirstClickInTheCoveredControlWindowBringsItForward) {
     SheetScene scene;
     scene.mouse.click(scene.onScreen({40, 40}));
-    const ScreenRect client = scene.settings().clientRect();
-    scene.mouse.click({client.left + 20, client.bottom - 10});
+    scene.mouse.click(emptyPlace(scene));
     EXPECT_TRUE(waitUntil([&] { return scene.settings().isForeground(); }));
 }
 

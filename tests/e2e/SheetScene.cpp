@@ -63,9 +63,12 @@ void SheetScene::start() {
     program_->waitUntilReady();
 }
 
-void SheetScene::restart() {
+void SheetScene::restart(const std::function<void()>& between) {
     EXPECT_EQ(program_->close(), 0U);
     program_.reset();
+    if (between) {
+        between();
+    }
     start();
 }
 

@@ -24,8 +24,12 @@ class SheetScene {
     [[nodiscard]] Program& program() { return *program_; }
     [[nodiscard]] DesktopWindow worksheet() const { return program_->worksheet(); }
     [[nodiscard]] DesktopWindow settings() const { return program_->settings(); }
-    /// Ends the program and starts it again on the same profile.
-    void restart();
+    [[nodiscard]] DesktopWindow window(std::string_view className) const {
+        return program_->window(className);
+    }
+    /// Ends the program and starts it again on the same profile. `between` is done while it does
+    /// not run.
+    void restart(const std::function<void()>& between = {});
 
     /// The stencil as it should be now; scenarios drag it along.
     StencilModel model;

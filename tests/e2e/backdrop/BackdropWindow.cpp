@@ -17,10 +17,10 @@ namespace {
 
 constexpr UINT askQuestion = WM_APP;
 
-/// Not quite the whole screen: a window manager would lift a window that covers a monitor over the
+/// Not quite the whole monitor: a window manager would lift a window that covers a monitor over the
 /// topmost ones as soon as it is active. The last row is left out.
 ScreenRect coveredPart() {
-    ScreenRect rect = screen::virtualScreen();
+    ScreenRect rect = screen::primaryMonitor();
     rect.bottom -= 1;
     return rect;
 }

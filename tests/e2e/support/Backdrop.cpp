@@ -24,7 +24,6 @@ std::vector<std::wstring> arguments(const BackdropLook& look, const BackdropOpti
 
 Backdrop::Backdrop(const BackdropLook& look, const BackdropOptions& options)
     : look_(look),
-      origin_(screen::virtualScreen().origin()),
       process_(testProgramFolder() / "backdrop.exe", arguments(look, options)),
       window_(waitForTopLevel(process_.id(), narrow(backdropClass))) {
     const ScreenRect shown = rect();
@@ -41,8 +40,7 @@ Backdrop::~Backdrop() {
 }
 
 Color Backdrop::colorAt(ScreenPoint point) const {
-    const ScreenPoint inside = point - origin_;
-    return backdropColor(look_, inside.x, inside.y);
+    return backdropColor(look_, point.x, point.y);
 }
 
 Picture Backdrop::picture(const ScreenRect& rect) const {

@@ -19,7 +19,7 @@ struct BackdropOptions {
     std::string question;
 };
 
-/// A running backdrop program: a window over all monitors but their last row, in known colours,
+/// A running backdrop program: a window over the main monitor but its last row, in known colours,
 /// behind all topmost windows. It closes at the object's end.
 class Backdrop {
   public:
@@ -52,8 +52,6 @@ class Backdrop {
 
   private:
     BackdropLook look_;
-    /// The virtual screen's upper left corner, where the pattern begins.
-    ScreenPoint origin_;
     ChildProcess process_;
     DesktopWindow window_;
 };

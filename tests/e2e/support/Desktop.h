@@ -24,6 +24,7 @@
 #include "e2e/support/MessageBoxWindow.h"
 #include "e2e/support/Mouse.h"
 #include "e2e/support/Program.h"
+#include "e2e/support/SecondMonitor.h"
 #include "e2e/support/SettingsFile.h"
 #include "e2e/support/StageFailure.h"
 #include "support/win/ChildProcess.h"

@@ -114,6 +114,9 @@ void Mouse::release(MouseButton button) {
 void Mouse::click(ScreenPoint point, MouseButton button, Modifiers modifiers) {
     moveTo(point);
     const HeldKeys keys(modifiers);
+    if (modifiers != Modifiers::None) {
+        makeSureHeld(keys);
+    }
     press(button);
     release(button);
 }
@@ -136,15 +139,15 @@ void Mouse::drag(ScreenPoint from, ScreenPoint to, int steps, Modifiers modifier
         moveTo({part(from.x, to.x), part(from.y, to.y)});
     }
     if (modifiers != Modifiers::None) {
-        holdAtTheEnd(keys);
+        makeSureHeld(keys);
     }
     release(button);
 }
 
-void Mouse::holdAtTheEnd(const HeldKeys& keys) {
+void Mouse::makeSureHeld(const HeldKeys& keys) {
     // The state of the keys is asked anew only after this time.
     constexpr milliseconds freshState{60};
-    requireSoon("keys held at the end of a drag", [&] {
+    requireSoon("keys held", [&] {
         pause(freshState);
         return !keys.holdAgain();
     });

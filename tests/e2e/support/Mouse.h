@@ -38,8 +38,8 @@ class Mouse {
     void wheel(int notches, Modifiers modifiers = Modifiers::None);
 
   private:
-    /// Makes sure that the keys are held when the drag has arrived: each move may let go of them.
-    static void holdAtTheEnd(const HeldKeys& keys);
+    /// Each move may let go of them.
+    static void makeSureHeld(const HeldKeys& keys);
 
     std::vector<MouseButton> held_;
 };

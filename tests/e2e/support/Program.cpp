@@ -46,7 +46,7 @@ void Program::waitUntilReady() const {
     for (const DesktopWindow& window : topLevelWindows(process_.id())) {
         window.settle();
     }
-    screen::waitUntilStill(screen::primaryMonitor());
+    screen::waitUntilStill(screen::virtualScreen());
     pause(restBeforeFirstClick);
 }
 

@@ -1,0 +1,272 @@
+#include <gtest/gtest.h>
+
+#include <numbers>
+
+#include "e2e/ToolPanel.h"
+
+namespace ormala::test {
+namespace {
+
+constexpr double fullTurn = 2 * std::numbers::pi;
+
+/// What the dialog of patterns is to be given, and what the file keeps of it.
+struct Slot {
+    int pattern;
+    /// A row of the list of rotations, which begins with none.
+    int rotationRow;
+    int id;
+    double rotation;
+};
+
+/// Halves, diagonals at an eighth, a small circle, thirds at a twentieth, root(2) at a quarter.
+constexpr Slot chosen[] = {{1, 0, 2, 0},
+                           {18, 1, 19, fullTurn / 8},
+                           {12, 0, 11, 0},
+                           {2, 10, 3, fullTurn / 20},
+                           {16, 2, 17, fullTurn / 4}};
+
+std::string indexed(const char* name, int index) {
+    return std::string(name) + "(" + std::to_string(index) + ")";
+}
+
+SettingsFile oneStencil() {
+    return ToolSet().stencil({205, 155, 365, 257}).file();
+}
+
+SettingsFile oneMeasure() {
+    return ToolSet().measure({{200, 300}, {300, 300}}, {{200, 360}, {260, 360}}, false).file();
+}
+
+/// A dialog that a button of a panel has opened.
+class Dialog {
+  public:
+    Dialog(PanelScene& scene, std::string_view className)
+        : scene_(scene), window_(scene.program().waitForWindow(className)) {}
+
+    [[nodiscard]] DesktopWindow control(std::string_view name) const {
+        return PanelScene::control(window_, name);
+    }
+    void press(std::string_view name) const { scene_.press(control(name)); }
+    /// Leaves it by a button.
+    void leave(std::string_view name) const {
+        press(name);
+        window_.waitUntilHidden();
+    }
+    void escape() const {
+        keyboard::press(VK_ESCAPE);
+        window_.waitUntilHidden();
+    }
+    /// The middle of a list's row.
+    [[nodiscard]] ScreenPoint row(std::string_view list, int index) const {
+        const DesktopWindow rows = control(list);
+        const auto height = static_cast<int>(rows.send(LB_GETITEMHEIGHT).value());
+        return rows.at(30, index * height + height / 2);
+    }
+    /// As a user does: goes to the field, and writes over what stands there.
+    void enter(std::string_view name, std::string_view text) const {
+        focusByTab(field(name));
+        keyboard::press(VK_END);
+        keyboard::press(VK_HOME, Modifiers::Shift);
+        keyboard::type(text);
+    }
+
+  private:
+    /// Where the letters go to: the control or the edit field in it.
+    [[nodiscard]] DesktopWindow field(std::string_view name) const {
+        const DesktopWindow found = control(name).child("Edit");
+        return found.exists() ? found : control(name);
+    }
+
+    PanelScene& scene_;
+    DesktopWindow window_;
+};
+
+class PanelDialogs : public testing::Test {
+  protected:
+    /// Where the stencil is, with the mouse where it touches nothing.
+    static Picture stencilPicture(PanelScene& scene) {
+        scene.mouse.moveTo(scene.onScreen({150, 330}));
+        const ScreenPoint corner = scene.onScreen({190, 140});
+        return screen::waitUntilStill({corner.x, corner.y, corner.x + 190, corner.y + 130});
+    }
+    static void choose(const Dialog& dialog, int tab, const Slot& slot) {
+        dialog.press(indexed("btnTab", tab));
+        dialog.press(indexed("optPattern", slot.pattern));
+        if (slot.rotationRow > 0) {
+            focusByTab(dialog.control("cboRotation"));
+            keyboard::press(VK_DOWN, Modifiers::None, slot.rotationRow);
+        }
+    }
+    static SettingsFile withSlots(SettingsFile file) {
+        int slot = 1;
+        for (const Slot& each : chosen) {
+            file.set("Tool 1", "PatternID" + std::to_string(slot), " " + std::to_string(each.id));
+            file.set("Tool 1", "PatternPreRotation" + std::to_string(slot),
+                     " " + std::to_string(each.rotation));
+            ++slot;
+        }
+        return file;
+    }
+};
+
+TEST_F(PanelDialogs, TheStencilShowsThePatternsChosenInAllSlots) {
+    Picture shown;
+    {
+        PanelScene scene(oneStencil(), userOptions());
+        const ToolPanel panel(scene);
+        const Picture before = stencilPicture(scene);
+        panel.press("cmdSelectPattern");
+        const Dialog dialog(scene, "frmPatternSelect");
+        for (int tab = 0; tab < 5; ++tab) {
+            choose(dialog, tab, chosen[tab]);
+        }
+        dialog.leave("cmdOK");
+        shown = stencilPicture(scene);
+        EXPECT_FALSE(difference(shown, before).empty());
+        EXPECT_TRUE(waitUntil([&] { return panel.isEnabled("cmdUndo"); }));
+        panel.press("cmdUndo");
+        EXPECT_TRUE(difference(stencilPicture(scene), before).empty());
+        panel.press("cmdRedo");
+        EXPECT_TRUE(difference(stencilPicture(scene), shown).empty());
+        EXPECT_EQ(scene.program().close(), 0U);
+        const SettingsFile kept = SettingsFile::read(scene.data().toolsFile());
+        int slot = 1;
+        for (const Slot& each : chosen) {
+            EXPECT_EQ(kept.number("Tool 1", "PatternID" + std::to_string(slot)), each.id);
+            EXPECT_NEAR(
+                kept.number("Tool 1", "PatternPreRotation" + std::to_string(slot)).value_or(-1),
+                each.rotation, 1e-5);
+            ++slot;
+        }
+    }
+    PanelScene other(withSlots(oneStencil()), userOptions());
+    EXPECT_TRUE(difference(stencilPicture(other), shown).empty());
+}
+
+TEST_F(PanelDialogs, HalvesAreLinesThroughTheMiddle) {
+    PanelScene scene(oneStencil(), userOptions());
+    const ToolPanel panel(scene);
+    panel.pressByKeys("cmdSelectPattern");
+    const Dialog dialog(scene, "frmPatternSelect");
+    dialog.press("optPattern(1)");
+    dialog.leave("cmdOK");
+    const Picture picture = stencilPicture(scene);
+    const Color ground = picture.at(picture.rect().origin());
+    const auto isLine = [&](int x, int y) { return picture.at(scene.onScreen({x, y})) != ground; };
+    // Between the grips.
+    for (const int y : {185, 195, 217, 228}) {
+        for (int x = 245; x < 325; ++x) {
+            EXPECT_EQ(isLine(x, y), x == 285) << x << ", " << y;
+        }
+    }
+    for (const int x : {245, 260, 310, 325}) {
+        for (int y = 180; y < 232; ++y) {
+            EXPECT_EQ(isLine(x, y), y == 206) << x << ", " << y;
+        }
+    }
+}
+
+TEST_F(PanelDialogs, EscapeLeavesThePatternsAsTheyWere) {
+    PanelScene scene(oneStencil(), userOptions());
+    const ToolPanel panel(scene);
+    const Picture before = stencilPicture(scene);
+    panel.press("imgPattern");
+    const Dialog dialog(scene, "frmPatternSelect");
+    dialog.press("optPattern(15)");
+    dialog.escape();
+    EXPECT_TRUE(difference(stencilPicture(scene), before).empty());
+    EXPECT_FALSE(panel.isEnabled("cmdUndo"));
+}
+
+TEST_F(PanelDialogs, ARowOfTheRatiosIsAppliedToTheWidth) {
+    PanelScene scene(oneStencil(), userOptions());
+    const ToolPanel panel(scene);
+    EXPECT_EQ(panel.control("lblRatioDescription").text(), "");
+    panel.press("cmdEditRatio");
+    const Dialog dialog(scene, "frmRatio");
+    scene.mouse.click(dialog.row("lstRatio", 3));
+    dialog.leave("cmdOK");
+    // 4:3 of 103 pixels about the same centre.
+    EXPECT_TRUE(panel.shows("lblPositionLeft", 217));
+    EXPECT_TRUE(panel.shows("lblPositionRight", 353));
+    EXPECT_TRUE(panel.shows("lblSizeHeight", 103));
+    EXPECT_TRUE(panel.shows("lblRatioWH", 1.333));
+    EXPECT_TRUE(panel.shows("lblRatioDescription", 4));
+    panel.press("cmdUndo");
+    EXPECT_TRUE(panel.shows("lblPositionLeft", 205));
+}
+
+TEST_F(PanelDialogs, ADoubleClickOnARowAppliesIt) {
+    PanelScene scene(oneStencil(), userOptions());
+    const ToolPanel panel(scene);
+    panel.pressByKeys("cmdEditRatio");
+    const Dialog dialog(scene, "frmRatio");
+    dialog.press("optInvert(0)");
+    scene.mouse.doubleClick(dialog.row("lstRatio", 12));
+    // 1:2 of 103 pixels.
+    EXPECT_TRUE(panel.shows("lblRatioWH", 0.5));
+    EXPECT_TRUE(panel.shows("lblPositionTop", 155));
+    EXPECT_TRUE(panel.shows("lblPositionBottom", 257));
+}
+
+TEST_F(PanelDialogs, EscapeLeavesTheRatioAsItWas) {
+    PanelScene scene(oneStencil(), userOptions());
+    const ToolPanel panel(scene);
+    panel.press("cmdEditRatio");
+    const Dialog dialog(scene, "frmRatio");
+    scene.mouse.click(dialog.row("lstRatio", 0));
+    dialog.escape();
+    EXPECT_TRUE(panel.shows("lblPositionLeft", 205));
+    EXPECT_TRUE(panel.shows("lblPositionRight", 365));
+    EXPECT_FALSE(panel.isEnabled("cmdUndo"));
+}
+
+TEST_F(PanelDialogs, UnitsAreThoseOfTheToolAndByDefaultOfNewOnes) {
+    PanelScene scene(oneMeasure(), userOptions());
+    const ToolPanel panel(scene);
+    panel.press("cmdUnits");
+    const Dialog dialog(scene, "frmUnit");
+    dialog.press("optLengthUnit(1)");
+    dialog.enter("txnFactor", localised("2.7"));
+    dialog.enter("cboUnit", "km");
+    dialog.press("optAngleUnit(1)");
+    dialog.press("chkDefault");
+    dialog.leave("cmdOK");
+    EXPECT_TRUE(panel.shows("lblLengthA", 272.7));
+    EXPECT_TRUE(panel.shows("lblLengthB", 164.7));
+    EXPECT_TRUE(panel.control("lblLengthA").text().ends_with(" km "));
+    EXPECT_TRUE(panel.control("lblAngleA").text().ends_with(" rad "));
+    scene.press("cmdAddMeasure");
+    ASSERT_TRUE(scene.waitForPanels(2));
+    const ToolPanel added(scene, 1);
+    EXPECT_TRUE(waitUntil([&] { return added.control("lblLengthA").text().ends_with(" km "); }));
+    EXPECT_TRUE(added.control("lblAngleA").text().ends_with(" rad "));
+    EXPECT_EQ(scene.program().close(), 0U);
+    const SettingsFile options = SettingsFile::read(scene.data().optionsFile());
+    EXPECT_EQ(options.number("Options", "DefaultLengthMode"), 1);
+    // The options keep whole numbers.
+    EXPECT_EQ(options.number("Options", "DefaultLengthFactor"), 3);
+    EXPECT_EQ(options.number("Options", "DefaultAngleMode"), 1);
+    const SettingsFile kept = SettingsFile::read(scene.data().toolsFile());
+    EXPECT_EQ(kept.number("Tool 1", "LengthFactor"), 2.7);
+    EXPECT_EQ(kept.number("Tool 2", "LengthFactor"), 2.7);
+}
+
+TEST_F(PanelDialogs, EscapeLeavesTheUnitsAsTheyWere) {
+    PanelScene scene(oneMeasure(), userOptions());
+    const ToolPanel panel(scene);
+    panel.pressByKeys("cmdUnits");
+    const Dialog dialog(scene, "frmUnit");
+    dialog.press("optLengthUnit(2)");
+    dialog.enter("txnFactor", "7");
+    dialog.press("chkDefault");
+    dialog.escape();
+    EXPECT_TRUE(panel.shows("lblLengthA", 101));
+    scene.press("cmdAddMeasure");
+    ASSERT_TRUE(scene.waitForPanels(2));
+    // The length of a new tool's line, which is no end of a unit.
+    EXPECT_TRUE(ToolPanel(scene, 1).shows("lblLengthA", 202.4));
+}
+
+}  // namespace
+}  // namespace ormala::test

@@ -1,0 +1,161 @@
+#include "e2e/PanelScene.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "e2e/support/StageFailure.h"
+
+namespace ormala::test {
+
+namespace {
+
+/// The number form of the settings files.
+std::string number(int value) {
+    return (value < 0 ? "" : " ") + std::to_string(value);
+}
+
+/// English texts also on a system that speaks another language.
+SettingsFile inEnglish(SettingsFile options) {
+    if (!options.value("Options", "Language")) {
+        options.set("Options", "Language", " 9");
+    }
+    return options;
+}
+
+/// The name field of the system's file dialogs.
+constexpr int fileNameField = 1148;
+
+}  // namespace
+
+std::string localised(std::string_view text) {
+    wchar_t separator[8]{};
+    GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_SDECIMAL, separator, 8);
+    std::string local(text);
+    for (std::size_t i = 1; i + 1 < local.size(); ++i) {
+        const auto digit = [&](std::size_t at) { return local[at] >= '0' && local[at] <= '9'; };
+        if (local[i] == '.' && digit(i - 1) && digit(i + 1)) {
+            local[i] = static_cast<char>(separator[0]);
+        }
+    }
+    return local;
+}
+
+std::string ToolSet::nextSection() {
+    return "Tool " + std::to_string(++count_);
+}
+
+ToolSet& ToolSet::stencil(const ScreenRect& rect) {
+    const std::string section = nextSection();
+    file_.set(section, "Type", " 0");
+    file_.set(section, "RectBoundTop", number(rect.top));
+    file_.set(section, "RectBoundRight", number(rect.right));
+    file_.set(section, "RectBoundBottom", number(rect.bottom));
+    file_.set(section, "RectBoundLeft", number(rect.left));
+    return *this;
+}
+
+ToolSet& ToolSet::measure(const Line& a, const Line& b, bool connected, int toolNumber) {
+    const std::string section = nextSection();
+    file_.set(section, "Type", " 1");
+    file_.set(section, "Connected", connected ? "-1" : " 0");
+    const auto setPoint = [&](const std::string& line, const char* index, ScreenPoint point) {
+        file_.set(section, line + "X" + index, number(point.x));
+        file_.set(section, line + "Y" + index, number(point.y));
+    };
+    setPoint("A", "1", a.first);
+    setPoint("A", "2", a.second);
+    setPoint("B", "1", b.first);
+    setPoint("B", "2", b.second);
+    file_.set(section, "Number", number(toolNumber));
+    return *this;
+}
+
+PanelScene::PanelScene(const SettingsFile& tools, const SettingsFile& options,
+                       const BackdropLook& look)
+    : backdrop_(look) {
+    tools.write(data_.toolsFile());
+    inEnglish(options).write(data_.optionsFile());
+    start();
+}
+
+void PanelScene::start() {
+    program_ = std::make_unique<Program>(data_);
+    program_->waitUntilReady();
+}
+
+void PanelScene::restart() {
+    EXPECT_EQ(program_->close(), 0U);
+    program_.reset();
+    start();
+}
+
+ScreenPoint PanelScene::onScreen(ScreenPoint sheet) const {
+    return worksheet().at(sheet.x, sheet.y);
+}
+
+std::vector<DesktopWindow> PanelScene::panels() const {
+    std::vector<DesktopWindow> found;
+    for (const DesktopWindow& window : settings().descendants()) {
+        const std::string name = window.className();
+        if ((name == "ctlSetRatioGrid" || name == "ctlSetMeasure") && window.hasStyle(WS_VISIBLE)) {
+            found.push_back(window);
+        }
+    }
+    std::ranges::sort(found, {}, [](const DesktopWindow& window) { return window.rect().top; });
+    return found;
+}
+
+DesktopWindow PanelScene::panel(std::size_t index) const {
+    const auto found = panels();
+    if (index >= found.size()) {
+        throw StageFailure("There is no panel " + std::to_string(index));
+    }
+    return found[index];
+}
+
+DesktopWindow PanelScene::control(std::string_view name) const {
+    return control(settings(), name);
+}
+
+DesktopWindow PanelScene::control(const DesktopWindow& panel, std::string_view name) {
+    const DesktopWindow found = panel.named(name);
+    if (!found.exists()) {
+        throw StageFailure("There is no control " + std::string(name));
+    }
+    return found;
+}
+
+bool PanelScene::waitForPanels(std::size_t count) const {
+    return waitUntil([&] { return panels().size() == count; });
+}
+
+bool PanelScene::says(const DesktopWindow& panel, std::string_view name, std::string_view text) {
+    const DesktopWindow label = control(panel, name);
+    const std::string expected = localised(text);
+    if (waitUntil([&] { return label.text() == expected; })) {
+        return true;
+    }
+    ADD_FAILURE() << name << " says '" << label.text() << "', not '" << expected << "'";
+    return false;
+}
+
+void PanelScene::press(const DesktopWindow& control) {
+    mouse.click(control.center());
+}
+
+void PanelScene::answerFileDialog(std::string_view title, const std::filesystem::path& path) {
+    const DesktopWindow dialog = waitForTopLevel(program_->process().id(), "#32770", title);
+    const std::u8string name = path.u8string();
+    dialog.item(fileNameField).setText({reinterpret_cast<const char*>(name.data()), name.size()});
+    dialog.post(WM_COMMAND, IDOK);
+    dialog.waitUntilClosed();
+}
+
+void PanelScene::cancelFileDialog(std::string_view title) {
+    const DesktopWindow dialog = waitForTopLevel(program_->process().id(), "#32770", title);
+    dialog.post(WM_COMMAND, IDCANCEL);
+    dialog.waitUntilClosed();
+}
+
+}  // namespace ormala::test

@@ -1,0 +1,195 @@
+#include <gtest/gtest.h>
+
+#include "e2e/PanelScene.h"
+
+namespace ormala::test {
+namespace {
+
+constexpr const char* tooMany = "The maximum number of tools (33) has been reached.";
+
+/// A stencil at the left and one at the right; their centre grips are at (200, 200) and (500, 200).
+SettingsFile twoStencils() {
+    return ToolSet().stencil({100, 100, 300, 300}).stencil({400, 100, 600, 300}).file();
+}
+
+/// The ground of a panel tells the selected one.
+bool looksSelected(const DesktopWindow& panel) {
+    constexpr Color selectedGround = 0x4A4A4A;
+    const ScreenRect rect = panel.rect();
+    return waitUntil([&] {
+        return screen::pixel({rect.left + 2, rect.center().y}) == selectedGround;
+    });
+}
+
+/// A place of a panel that no button grows over.
+void clickTitle(PanelScene& scene, std::size_t panel) {
+    scene.press(PanelScene::control(scene.panel(panel), "lblTitle"));
+}
+
+TEST(ToolList, ToolsAreAddedUntilTheyAreRefused) {
+    PanelScene scene(SettingsFile{});
+    const DesktopWindow add = scene.control("cmdAddGrid");
+    // The first pair of the other kind counts, though it is not in use.
+    for (std::size_t count = 1; count <= 33; ++count) {
+        PanelScene::choose(add);
+        ASSERT_TRUE(scene.waitForPanels(count)) << count;
+    }
+    scene.press("cmdAddMeasure");
+    const auto message = scene.program().waitForMessageBox("Ormala - Edit");
+    EXPECT_EQ(message.text(), tooMany);
+    message.answer(IDOK);
+    EXPECT_EQ(scene.panels().size(), 33U);
+}
+
+TEST(ToolList, TheFirstToolFindsRoomForItsPanel) {
+    PanelScene scene(SettingsFile{});
+    scene.press("cmdAddGrid");
+    ASSERT_TRUE(scene.waitForPanels(1));
+    EXPECT_TRUE(waitUntil([&] {
+        return scene.control("picOuter").rect().height() >= scene.panel(0).rect().height();
+    }));
+    EXPECT_TRUE(looksSelected(scene.panel(0)));
+}
+
+TEST(ToolList, ARemovedNumberIsGivenToTheNextMeasuringTool) {
+    PanelScene scene(SettingsFile{});
+    for (std::size_t count = 1; count <= 3; ++count) {
+        scene.press("cmdAddMeasure");
+        ASSERT_TRUE(scene.waitForPanels(count));
+    }
+    EXPECT_TRUE(PanelScene::says(scene.panel(1), "lblTitle", "Measurement Tool 2"));
+    PanelScene::choose(PanelScene::control(scene.panel(1), "cmdDelete"));
+    ASSERT_TRUE(scene.waitForPanels(2));
+    scene.press("cmdAddMeasure");
+    ASSERT_TRUE(scene.waitForPanels(3));
+    EXPECT_TRUE(PanelScene::says(scene.panel(2), "lblTitle", "Measurement Tool 2"));
+}
+
+TEST(ToolList, APressOnAToolSelectsItsPanel) {
+    PanelScene scene(twoStencils());
+    EXPECT_TRUE(looksSelected(scene.panel(0)));
+    scene.mouse.click(scene.onScreen({500, 200}));
+    EXPECT_TRUE(looksSelected(scene.panel(1)));
+    EXPECT_FALSE(scene.program().settings().isForeground());
+}
+
+TEST(ToolList, TheKeysStillMoveAToolThatWasSelectedByThePress) {
+    PanelScene scene(twoStencils());
+    scene.mouse.click(scene.onScreen({500, 200}));
+    ASSERT_TRUE(looksSelected(scene.panel(1)));
+    EXPECT_TRUE(PanelScene::says(scene.panel(1), "lblCenterX", "X = 499.5 "));
+    keyboard::press(VK_RIGHT);
+    EXPECT_TRUE(PanelScene::says(scene.panel(1), "lblCenterX", "X = 500.5 "));
+}
+
+TEST(ToolList, AClickOnAPanelSelectsItsTool) {
+    PanelScene scene(twoStencils());
+    clickTitle(scene, 1);
+    EXPECT_TRUE(looksSelected(scene.panel(1)));
+    clickTitle(scene, 0);
+    EXPECT_TRUE(looksSelected(scene.panel(0)));
+}
+
+TEST(ToolList, ComingBackFromAnotherProgramThroughAPanelKeepsTheSelection) {
+    PanelScene scene(twoStencils());
+    clickTitle(scene, 0);
+    ASSERT_TRUE(looksSelected(scene.panel(0)));
+    scene.backdrop().window().activate();
+    clickTitle(scene, 1);
+    EXPECT_TRUE(waitUntil([&] { return scene.settings().isForeground(); }));
+    EXPECT_TRUE(looksSelected(scene.panel(0)));
+    // The next click is the user's choice.
+    clickTitle(scene, 1);
+    EXPECT_TRUE(looksSelected(scene.panel(1)));
+}
+
+TEST(ToolList, DeleteKeyAndMenuOfTheToolRemoveThePair) {
+    PanelScene scene(twoStencils());
+    scene.mouse.click(scene.onScreen({500, 200}));
+    keyboard::press(VK_DELETE);
+    EXPECT_TRUE(scene.waitForPanels(1));
+    scene.mouse.click(scene.onScreen({200, 200}), MouseButton::Right);
+    const DesktopWindow menu = waitForTopLevel(scene.program().process().id(), "#32768");
+    keyboard::press(VK_DOWN);
+    keyboard::press(VK_RETURN);
+    menu.waitUntilHidden();
+    EXPECT_TRUE(scene.waitForPanels(0));
+}
+
+SettingsFile manyStencils(int count) {
+    ToolSet tools;
+    for (int i = 0; i < count; ++i) {
+        tools.stencil({40 + 10 * i, 40 + 10 * i, 140 + 10 * i, 140 + 10 * i});
+    }
+    return tools.file();
+}
+
+int contentTop(const PanelScene& scene) {
+    return scene.control("picInner").rect().top - scene.control("picOuter").rect().top;
+}
+
+TEST(ToolList, WheelAndThumbAndArrowsScrollIt) {
+    PanelScene scene(manyStencils(12));
+    ASSERT_TRUE(scene.waitForPanels(12));
+    ASSERT_EQ(contentTop(scene), 0);
+    scene.mouse.moveTo(scene.panel(1).center());
+    scene.mouse.wheel(-1);
+    EXPECT_TRUE(waitUntil([&] { return contentTop(scene) < -50; }));
+    scene.mouse.wheel(3);
+    EXPECT_TRUE(waitUntil([&] { return contentTop(scene) == 0; }));
+
+    const DesktopWindow bar = scene.control("scrInner");
+    scene.press(PanelScene::control(bar, "cmdBR"));
+    EXPECT_TRUE(waitUntil([&] { return contentTop(scene) < 0; }));
+    scene.press(PanelScene::control(bar, "cmdTL"));
+    EXPECT_TRUE(waitUntil([&] { return contentTop(scene) == 0; }));
+
+    const ScreenPoint thumb = PanelScene::control(bar, "cmdMove").center();
+    scene.mouse.drag(thumb, {thumb.x, bar.rect().bottom});
+    const int end =
+        scene.control("picOuter").rect().height() - scene.control("picInner").rect().height();
+    EXPECT_TRUE(waitUntil([&] { return contentTop(scene) == end; }));
+}
+
+TEST(ToolList, WheelOverTheWorksheetScrollsItToo) {
+    PanelScene scene(manyStencils(12));
+    scene.mouse.moveTo(scene.onScreen({600, 500}));
+    scene.mouse.wheel(-1);
+    EXPECT_TRUE(waitUntil([&] { return contentTop(scene) < -50; }));
+}
+
+TEST(ToolList, SelectionBringsThePanelIntoView) {
+    PanelScene scene(manyStencils(12));
+    // The centre of the last stencil.
+    scene.mouse.click(scene.onScreen({200, 200}));
+    const ScreenRect list = scene.control("picOuter").rect();
+    EXPECT_TRUE(waitUntil([&] {
+        const ScreenRect last = scene.panel(11).rect();
+        return last.top >= list.top && last.bottom <= list.bottom;
+    }));
+    EXPECT_TRUE(looksSelected(scene.panel(11)));
+}
+
+TEST(ToolList, ToolsComeBackAtTheNextStartInTheirOrder) {
+    PanelScene scene(SettingsFile{});
+    scene.press("cmdAddMeasure");
+    ASSERT_TRUE(scene.waitForPanels(1));
+    scene.press("cmdAddGrid");
+    ASSERT_TRUE(scene.waitForPanels(2));
+    scene.press("cmdAddMeasure");
+    ASSERT_TRUE(scene.waitForPanels(3));
+    const DesktopWindow label = PanelScene::control(scene.panel(2), "lblLengthA");
+    // A new tool comes up with both of its lines as points.
+    EXPECT_TRUE(waitUntil([&] { return !label.text().starts_with("a = 1"); }));
+    const std::string length = label.text();
+    scene.restart();
+    ASSERT_TRUE(scene.waitForPanels(3));
+    EXPECT_EQ(scene.panel(0).className(), "ctlSetMeasure");
+    EXPECT_EQ(scene.panel(1).className(), "ctlSetRatioGrid");
+    EXPECT_TRUE(PanelScene::says(scene.panel(2), "lblTitle", "Measurement Tool 2"));
+    EXPECT_TRUE(PanelScene::says(scene.panel(2), "lblLengthA", length));
+    EXPECT_TRUE(looksSelected(scene.panel(0)));
+}
+
+}  // namespace
+}  // namespace ormala::test

@@ -1,0 +1,97 @@
+#!/usr/bin/env python3
+"""The second monitor of a virtual screen, left of the main one, where x is negative for Windows.
+
+    second_monitor.py open MAIN SECOND           gives both monitors their sizes, each WxH
+    second_monitor.py serve MAIN SECOND FOLDER   takes the second away and gives it back on request
+
+Who wants a change puts a file "request" into the folder, which holds "absent" or "present". The
+file goes when the change is made, and "answer" then holds "done" or what went wrong.
+"""
+
+import os
+import pathlib
+import subprocess
+import sys
+import time
+
+MAIN, SECOND = "DUMMY0", "DUMMY1"
+POLL_SECONDS = 0.02
+# The driver shows nothing, so that any blanking will do.
+BLANKING = (16, 32, 64)
+FRAMES_PER_SECOND = 60
+
+
+def xrandr(*arguments):
+    subprocess.run(["xrandr", *arguments], check=True, capture_output=True, text=True, timeout=30)
+
+
+def mode_of(output):
+    return f"stage-{output}"
+
+
+def add_mode(output, size):
+    across, down = ([length, *(length + part for part in BLANKING)] for length in size)
+    clock = across[-1] * down[-1] * FRAMES_PER_SECOND / 1e6
+    xrandr("--newmode", mode_of(output), f"{clock:.2f}", *map(str, across + down))
+    xrandr("--addmode", output, mode_of(output))
+
+
+def lay_out(main, second):
+    """The screen is what the monitors cover: Wine takes its corner for theirs."""
+    fit = f"{main[0] + second[0]}x{max(main[1], second[1])}"
+    if not second[0]:
+        leftmost = ("--output", SECOND, "--off")
+    else:
+        leftmost = ("--output", SECOND, "--mode", mode_of(SECOND), "--pos", "0x0")
+    rest = ("--output", MAIN, "--primary", "--mode", mode_of(MAIN), "--pos", f"{second[0]}x0")
+    xrandr("--fb", fit, *leftmost, *rest)
+    # The question makes the server look: until then it says what was connected before.
+    xrandr("--query")
+
+
+def answer_to(wanted, main, second):
+    try:
+        lay_out(main, {"absent": (0, 0), "present": second}[wanted])
+    except subprocess.CalledProcessError as error:
+        return error.stderr
+    except (KeyError, subprocess.TimeoutExpired) as error:
+        return f"{type(error).__name__}: {error}"
+    return "done"
+
+
+def serve(main, second, folder):
+    request, answer, draft = folder / "request", folder / "answer", folder / "answer.new"
+    while True:
+        if request.exists():
+            wanted = request.read_text(encoding="utf-8").strip()
+            draft.write_text(answer_to(wanted, main, second), encoding="utf-8")
+            request.unlink()
+            os.replace(draft, answer)
+        time.sleep(POLL_SECONDS)
+
+
+def size_of(text):
+    width, height = text.split("x")
+    return int(width), int(height)
+
+
+def open_both(main, second):
+    try:
+        add_mode(MAIN, main)
+        add_mode(SECOND, second)
+        lay_out(main, second)
+    except subprocess.CalledProcessError as error:
+        sys.exit(f"No second monitor: {error.stderr.strip()}")
+
+
+def main(arguments):
+    if len(arguments) == 3 and arguments[0] == "open":
+        open_both(*map(size_of, arguments[1:]))
+    elif len(arguments) == 4 and arguments[0] == "serve":
+        serve(*map(size_of, arguments[1:3]), pathlib.Path(arguments[3]))
+    else:
+        sys.exit(__doc__)
+
+
+if __name__ == "__main__":
+    main(sys.argv[1:])
