@@ -12,27 +12,23 @@
 namespace ormala {
 namespace {
 
-const char* const path = "C:\\Data\\Ormala\\Ormala.ini";
-
 std::string writtenOptions() {
-    test::MemoryINIFile file;
-    file.ini.setPath(path);
-    file.ini.setCurrentSection(optionsSection);
+    MemoryINIFile file;
+    file.file.setCurrentSection(optionsSection);
     {
-        const auto group = file.ini.group();
-        writeOptions(file.ini, Options{});
+        const auto group = file.file.group();
+        writeOptions(file.file, Options{});
     }
-    return file.store.read(path).bytes;
+    return file.bytes();
 }
 
 void readAllOptions(benchmark::State& state) {
-    test::MemoryINIFile file;
-    file.store.replace(path, writtenOptions());
-    file.ini.setPath(path);
-    file.ini.setCurrentSection(optionsSection);
+    MemoryINIFile file;
+    file.bytes() = writtenOptions();
+    file.file.setCurrentSection(optionsSection);
     for (auto _ : state) {
-        const auto group = file.ini.group();
-        benchmark::DoNotOptimize(readOptions(file.ini, 9));
+        const auto group = file.file.group();
+        benchmark::DoNotOptimize(readOptions(file.file, 9));
     }
 }
 BENCHMARK(readAllOptions)->Name("options file/work");

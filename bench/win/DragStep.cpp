@@ -4,6 +4,7 @@
 
 #include "Figures.h"
 #include "benchmarks.h"
+#include "measure/ctlMeasure.h"
 #include "platform/win/regions.h"
 #include "stencil/PatternTable.h"
 #include "win/TestSheet.h"
@@ -12,12 +13,27 @@ namespace ormala::bench {
 
 namespace {
 
-constexpr int stencilCount = 33;
+constexpr int toolCount = 33;
 
-std::string named(const char* what, PixelSize size) {
-    return std::string(what) + ", " + std::to_string(size.width) + " x " +
-           std::to_string(size.height);
+std::string named(const std::string& what, PixelSize size) {
+    return what + ", " + std::to_string(size.width) + " x " + std::to_string(size.height);
 }
+
+/// Places for tools, the same ones in each run.
+class Places {
+  public:
+    explicit Places(PixelSize size) : size_(size) {}
+
+    double pick(int below) { return static_cast<double>(random_() % static_cast<unsigned>(below)); }
+    Point corner() {
+        const double left = pick(size_.width * 2 / 3);
+        return {left, pick(size_.height * 2 / 3)};
+    }
+
+  private:
+    PixelSize size_;
+    std::mt19937 random_{7};
+};
 
 PatternList fivePatterns(int first) {
     PatternList patterns;
@@ -28,16 +44,14 @@ PatternList fivePatterns(int first) {
 }
 
 /// Adds the stencils; the last one, 600 x 400, is in front.
-ctlRatioGrid& fill(TestSheet& sheet, PixelSize size) {
-    std::mt19937 random(7);
-    const auto pick = [&](int below) {
-        return static_cast<double>(random() % static_cast<unsigned>(below));
-    };
-    for (int i = 1; i < stencilCount; ++i) {
-        const double left = pick(size.width * 2 / 3);
-        const double top = pick(size.height * 2 / 3);
+ctlRatioGrid& addStencils(TestSheet& sheet, PixelSize size) {
+    Places places(size);
+    for (int i = 1; i < toolCount; ++i) {
+        const Point at = places.corner();
+        const double width = 200 + places.pick(800);
+        const double height = 150 + places.pick(500);
         sheet
-            .addStencil({left, top, left + 200 + pick(800), top + 150 + pick(500)}, pick(628) / 100,
+            .addStencil({at.x, at.y, at.x + width, at.y + height}, places.pick(628) / 100,
                         rgb(255, 159, 0))
             .setPatternList(fivePatterns(i));
     }
@@ -45,6 +59,35 @@ ctlRatioGrid& fill(TestSheet& sheet, PixelSize size) {
     const double top = size.height / 2 - 200;
     ctlRatioGrid& front = sheet.addStencil({left, top, left + 599, top + 399}, 0, rgb(0, 191, 191));
     front.setPatternList(fivePatterns(2));
+    UpdateWindow(sheet.window().handle());
+    return front;
+}
+
+ctlMeasure& addMeasure(TestSheet& sheet, const Line& a, const Line& b) {
+    auto& tool = dynamic_cast<ctlMeasure&>(*sheet.window().sheet().AddNewControl(1));
+    tool.SetDefaultProperties();
+    tool.setColorA(rgb(0, 0, 255));
+    tool.setColorB(rgb(255, 0, 0));
+    tool.setLineA(a);
+    tool.setLineB(b);
+    tool.PositionGrips();
+    tool.History().Add(true);
+    return tool;
+}
+
+/// Adds connected measuring tools; the last one, in front, has lines of 600 and 400 pixels.
+ctlMeasure& addMeasures(TestSheet& sheet, PixelSize size) {
+    Places places(size);
+    for (int i = 1; i < toolCount; ++i) {
+        const Point a = places.corner();
+        const Point b = places.corner();
+        const Point joint = places.corner();
+        addMeasure(sheet, {a.x, a.y, joint.x, joint.y}, {b.x, b.y, joint.x, joint.y});
+    }
+    const double left = size.width / 2 - 300;
+    const double top = size.height / 2 - 200;
+    ctlMeasure& front =
+        addMeasure(sheet, {left + 600, top, left, top}, {left, top + 400, left, top});
     UpdateWindow(sheet.window().handle());
     return front;
 }
@@ -91,11 +134,9 @@ class PlainBlit : public Window {
     BackBuffer bitmap_;
 };
 
-}  // namespace
-
-void dragStep(PixelSize sheetSize) {
-    TestSheet sheet(sheetSize);
-    ctlRatioGrid& front = fill(sheet, sheetSize);
+/// Drags the tool in front by its first grip.
+void dragFront(TestSheet& sheet, PixelSize sheetSize, const GripTool& front,
+               const std::string& what) {
     const PlainBlit blit(sheetSize);
     const GdiFonts fonts(96);
     const Point at = front.grips()[0].center();
@@ -123,13 +164,26 @@ void dragStep(PixelSize sheetSize) {
         }));
     }
     sheet.mouse(WM_LBUTTONUP, 0, x, y);
-    report(named("step of a drag", sheetSize), median(steps), "ms",
-           median(blits) + median(drawings), "one blit and one drawing");
+    report(named(what, sheetSize), median(steps), "ms",
+           {median(blits) + median(drawings), "one blit and one drawing", 2});
+}
+
+}  // namespace
+
+void dragStep(PixelSize sheetSize) {
+    {
+        TestSheet sheet(sheetSize);
+        const GripTool& front = addStencils(sheet, sheetSize);
+        dragFront(sheet, sheetSize, front, "step of a stencil's drag");
+    }
+    TestSheet sheet(sheetSize);
+    const GripTool& front = addMeasures(sheet, sheetSize);
+    dragFront(sheet, sheetSize, front, "step of a measuring tool's drag");
 }
 
 void hoverMoves(PixelSize sheetSize) {
     TestSheet sheet(sheetSize);
-    fill(sheet, sheetSize);
+    addStencils(sheet, sheetSize);
     const HWND window = sheet.window().handle();
     int repaints = 0;
     int moves = 0;

@@ -19,10 +19,13 @@ double median(std::vector<double> values) {
     return *middle;
 }
 
-void report(const std::string& what, double figure, const std::string& unit, double limit,
-            const std::string& limitName) {
-    std::printf("%-46s %9.3f %-3s  ratio %5.2f to %s (%.3f %s)\n", what.c_str(), figure,
-                unit.c_str(), figure / limit, limitName.c_str(), limit, unit.c_str());
+void report(const std::string& what, double figure, const std::string& unit, const Limit& limit) {
+    std::printf("%-46s %9.3f %-3s  ratio %5.2f", what.c_str(), figure, unit.c_str(),
+                figure / limit.value);
+    if (limit.mostRatio) {
+        std::printf(" (at most %g)", *limit.mostRatio);
+    }
+    std::printf(" to %s (%.3f %s)\n", limit.name.c_str(), limit.value, unit.c_str());
     std::fflush(stdout);
 }
 

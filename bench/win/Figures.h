@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,8 +12,16 @@ double elapsed(const std::function<void()>& work);
 
 double median(std::vector<double> values);
 
+/// What a figure is held against.
+struct Limit {
+    /// In the unit of the figure.
+    double value = 0;
+    std::string name;
+    /// The largest ratio that was promised, none if the figure is only watched.
+    std::optional<double> mostRatio = std::nullopt;
+};
+
 /// Prints a figure beside the limit that was taken in the same run.
-void report(const std::string& what, double figure, const std::string& unit, double limit,
-            const std::string& limitName);
+void report(const std::string& what, double figure, const std::string& unit, const Limit& limit);
 
 }  // namespace ormala::bench

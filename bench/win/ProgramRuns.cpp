@@ -71,8 +71,8 @@ void start() {
         program.push_back(startTime(ormala, L"frmSettings"));
         bare.push_back(startTime(empty, L"EmptyWindow"));
     }
-    report("start to the painted worksheet", median(program), "ms", median(bare),
-           "an empty window program");
+    report("start to the painted worksheet", median(program), "ms",
+           {median(bare), "an empty window program"});
 }
 
 void idle() {
@@ -88,7 +88,7 @@ void idle() {
     Sleep(seconds * 1000);
     const auto used = child.processorTime() - before;
     report("processor time in 30 s of idling", static_cast<double>(used.count()), "ms",
-           seconds * 1000 / 100.0, "one per cent of a core");
+           {seconds * 1000 / 100.0, "one per cent of a core", 1});
     PostMessageW(mainWindow(child.id(), L"frmSettings"), WM_CLOSE, 0, 0);
     child.waitForExit();
 }

@@ -16,10 +16,20 @@ int main(int argc, char** argv) {
             bench::hoverMoves(size);
         }
     }
+    if (wanted("files")) {
+        bench::toolFiles();
+    }
+    if (wanted("add")) {
+        bench::addedTools();
+    }
+    if (wanted("panels")) {
+        bench::controlWindow();
+    }
     if (wanted("start")) {
         bench::start();
     }
     if (wanted("idle")) {
+        bench::idlePanels();
         bench::idle();
     }
     return 0;

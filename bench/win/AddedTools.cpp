@@ -1,0 +1,36 @@
+#include <string>
+#include <vector>
+
+#include "Figures.h"
+#include "QuietToolList.h"
+#include "benchmarks.h"
+
+namespace ormala::bench {
+
+namespace {
+
+constexpr int runs = 100;
+
+void measure(ToolKind kind, const std::string& what) {
+    constexpr int toolsAtStart = 2;
+    constexpr int toolsBeforeLast = 32;
+    std::vector<double> firsts;
+    std::vector<double> lasts;
+    for (int i = 0; i < runs; ++i) {
+        QuietToolList tools;
+        firsts.push_back(elapsed([&] { tools.add(kind, 1); }));
+        tools.add(kind, toolsBeforeLast - 1 - toolsAtStart);
+        lasts.push_back(elapsed([&] { tools.add(kind, 1); }));
+    }
+    report("adding the 33rd " + what, median(lasts), "ms",
+           {median(firsts), "the first one added", 2});
+}
+
+}  // namespace
+
+void addedTools() {
+    measure(ToolKind::stencil, "stencil");
+    measure(ToolKind::measurement, "measuring tool");
+}
+
+}  // namespace ormala::bench

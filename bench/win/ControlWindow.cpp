@@ -1,0 +1,212 @@
+#include <algorithm>
+#include <cstdio>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "Figures.h"
+#include "app/win/frmSettings.h"
+#include "benchmarks.h"
+#include "e2e/support/AppDataFolder.h"
+#include "stencil/ctlRatioGrid.h"
+#include "support/win/TemporaryFolder.h"
+#include "support/win/Wait.h"
+#include "support/win/WideText.h"
+
+namespace ormala::bench {
+
+namespace {
+
+constexpr std::size_t toolCount = 33;
+constexpr int runs = 9;
+
+/// The program in this process, with its windows on the screen and without tools.
+class ControlWindowStage {
+  public:
+    ControlWindowStage() { list().RemoveAllTools(); }
+
+    [[nodiscard]] ToolList& list() { return settings_.tools().tools(); }
+    [[nodiscard]] ToolsPane& pane() { return settings_.tools(); }
+    [[nodiscard]] PanelCore& lastPanel() {
+        return dynamic_cast<PanelCore&>(list().GetPanelsInVisualOrder().back().listed.panel());
+    }
+    /// The lowest panel of a stencil.
+    [[nodiscard]] HWND lastStencilPanel() {
+        const HWND inner =
+            FindWindowExW(FindWindowExW(settings_.handle(), nullptr, L"PictureBox", nullptr),
+                          nullptr, L"PictureBox", nullptr);
+        HWND last = nullptr;
+        int lowest = std::numeric_limits<int>::min();
+        HWND panel = nullptr;
+        while ((panel = FindWindowExW(inner, panel, L"ctlSetRatioGrid", nullptr)) != nullptr) {
+            RECT place{};
+            GetWindowRect(panel, &place);
+            if (IsWindowVisible(panel) != FALSE && place.top > lowest) {
+                lowest = static_cast<int>(place.top);
+                last = panel;
+            }
+        }
+        return last;
+    }
+
+    /// Adds a tool until its panel is painted.
+    void add(ToolKind kind) {
+        pane().execute(kind == ToolKind::stencil ? Command::addStencil : Command::addMeasure);
+        paint();
+    }
+    void fill(ToolKind kind) {
+        while (list().GetPanelsInVisualOrder().size() < toolCount) {
+            add(kind);
+        }
+    }
+    void paint() {
+        RedrawWindow(settings_.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        UpdateWindow(settings_.worksheet().handle());
+        GdiFlush();
+    }
+    /// What the system still has to say is said, and the throttled read-outs are shown.
+    static void settle() { test::pause(test::milliseconds(200)); }
+
+  private:
+    const test::AppDataFolder folder_;
+    frmSettings settings_{false};
+};
+
+int windowsToPaint(HWND window) {
+    int count = GetUpdateRect(window, nullptr, FALSE) != FALSE ? 1 : 0;
+    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;
+         child = GetWindow(child, GW_HWNDNEXT)) {
+        count += windowsToPaint(child);
+    }
+    return count;
+}
+
+void addPanels(ControlWindowStage& stage, ToolKind kind, const std::string& what) {
+    std::vector<double> firsts;
+    std::vector<double> lasts;
+    for (int i = 0; i < runs; ++i) {
+        stage.list().RemoveAllTools();
+        // The first pair has its window already.
+        stage.add(kind);
+        ControlWindowStage::settle();
+        firsts.push_back(elapsed([&] { stage.add(kind); }));
+        while (stage.list().GetPanelsInVisualOrder().size() + 1 < toolCount) {
+            stage.add(kind);
+        }
+        ControlWindowStage::settle();
+        lasts.push_back(elapsed([&] { stage.add(kind); }));
+    }
+    report("adding the 33rd " + what + " with its panel", median(lasts), "ms",
+           {median(firsts), "the first panel made", 2});
+}
+
+void loadPanels(ControlWindowStage& stage, ToolKind kind, const std::string& what) {
+    const test::TemporaryFolder folder;
+    const std::string path = test::narrow((folder.path() / "tools.OM").wstring());
+    stage.fill(kind);
+    stage.pane().documents().saveAutomatic(path);
+    std::vector<double> times;
+    for (int i = 0; i < runs; ++i) {
+        times.push_back(elapsed([&] {
+            stage.pane().documents().loadAutomatic(path);
+            stage.paint();
+        }));
+        ControlWindowStage::settle();
+    }
+    std::printf("%-46s %9.3f ms\n", ("load of 33 " + what + " with their panels").c_str(),
+                median(times));
+    std::fflush(stdout);
+}
+
+/// Such a small turn of a stencil changes its angle in radians and not that in degrees.
+void refreshPanel(ControlWindowStage& stage) {
+    auto& stencil = dynamic_cast<ctlRatioGrid&>(stage.lastPanel().RefControlControl());
+    const HWND window = stage.lastStencilPanel();
+    ControlWindowStage::settle();
+    std::vector<double> times;
+    int most = 0;
+    for (int i = 0; i < 200; ++i) {
+        stencil.setRotationAngle(i % 2 == 0 ? 0.0006 : 0);
+        stage.paint();
+        times.push_back(elapsed([&] {
+            stage.lastPanel().ShowAllProps(true);
+            most = std::max(most, windowsToPaint(window));
+            stage.paint();
+        }));
+    }
+    std::printf("%-46s %9.3f ms   at most %d of its controls repainted (at most 1)\n",
+                "refresh of a panel, one read-out changed", median(times), most);
+    std::fflush(stdout);
+}
+
+void turnWheel(ControlWindowStage& stage, const std::string& what) {
+    constexpr int notches = 20;
+    constexpr int steps = 8;
+    std::vector<double> times;
+    for (const bool down : {false, true}) {
+        for (int i = 0; i < 2 * notches; ++i) {
+            stage.pane().Scroll(!down);
+        }
+        for (int i = 0; i < notches; ++i) {
+            times.push_back(elapsed([&] {
+                                stage.pane().Scroll(down);
+                                stage.paint();
+                            }) /
+                            steps);
+        }
+    }
+    report("a step of the wheel through 33 " + what, median(times), "ms",
+           {8, "what the glide allows it", 1});
+}
+
+/// Of this process: Wine does not know that of another one.
+double processorTime() {
+    FILETIME made{};
+    FILETIME ended{};
+    FILETIME kernel{};
+    FILETIME user{};
+    GetProcessTimes(GetCurrentProcess(), &made, &ended, &kernel, &user);
+    const auto ticks = [](const FILETIME& time) {
+        return static_cast<double>(time.dwHighDateTime) * 4294967296.0 + time.dwLowDateTime;
+    };
+    return (ticks(kernel) + ticks(user)) / 10000;
+}
+
+/// Handles messages as the program does, without polling.
+void idleFor(UINT milliseconds) {
+    const UINT_PTR end = SetTimer(nullptr, 0, milliseconds, nullptr);
+    MSG message{};
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        if (message.hwnd == nullptr && message.message == WM_TIMER && message.wParam == end) {
+            break;
+        }
+        DispatchMessageW(&message);
+    }
+    KillTimer(nullptr, end);
+}
+
+}  // namespace
+
+void idlePanels() {
+    ControlWindowStage stage;
+    stage.fill(ToolKind::stencil);
+    ControlWindowStage::settle();
+    constexpr int seconds = 15;
+    const double before = processorTime();
+    idleFor(seconds * 1000);
+    report("15 s of idling with 33 panels", processorTime() - before, "ms",
+           {seconds * 1000 / 100.0, "one per cent of a core", 1});
+}
+
+void controlWindow() {
+    ControlWindowStage stage;
+    addPanels(stage, ToolKind::stencil, "stencil");
+    refreshPanel(stage);
+    turnWheel(stage, "stencils");
+    loadPanels(stage, ToolKind::stencil, "stencils");
+    addPanels(stage, ToolKind::measurement, "measuring tool");
+    turnWheel(stage, "measuring tools");
+    loadPanels(stage, ToolKind::measurement, "measuring tools");
+}
+
+}  // namespace ormala::bench
