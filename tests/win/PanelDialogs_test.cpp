@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "app/win/ToolsPane.h"
 #include "app/win/frmSettings.h"
@@ -81,6 +82,27 @@ TEST_F(PanelDialogsTest, TheLineStyleOfEitherToolIsChosen) {
     EXPECT_EQ(measure().LineWidth(), 0);
     pickLine(measurePanel(), {VK_DOWN, VK_ESCAPE});
     EXPECT_EQ(measure().LineWidth(), 0);
+}
+
+TEST_F(PanelDialogsTest, TheFrameIsAsideDuringTheMouseAction) {
+    std::vector<bool> shown;
+    MeasureUnits units;
+    const TextForm form;
+    const SpecialRatios ratios([](int, std::string_view text) { return std::string(text); }, form);
+    PanelDialogs dialogs(
+        {settings_.handle(), settings_.worksheet().handle(), ratios, form, units, [&](bool show) {
+             shown.push_back(show);
+             return true;
+         }});
+    StencilCommands& commands = dialogs;
+    commands.applyMouseAction(stencil());
+    EXPECT_EQ(shown, (std::vector<bool>{false, true}));
+}
+
+TEST_F(PanelDialogsTest, TheFrameComesBackAfterTheMouseAction) {
+    EXPECT_TRUE(settings_.resizer().isVisible());
+    SendMessageW(namedChild(stencilPanel(), "cmdSendMouseInput"), BM_CLICK, 0, 0);
+    EXPECT_TRUE(settings_.resizer().isVisible());
 }
 
 }  // namespace

@@ -44,7 +44,12 @@ std::optional<double> PanelDialogs::EditRatio(double present) {
 }
 
 void PanelDialogs::applyMouseAction(ctlRatioGrid& stencil) {
+    // None of the program's windows may lie under the drag.
+    const bool framed = ports_.showFrame(false);
     ormala::applyMouseAction(stencil, ports_.worksheet, ports_.owner);
+    if (framed) {
+        ports_.showFrame(true);
+    }
 }
 
 bool PanelDialogs::SelectUnits(ctlMeasure& tool) {

@@ -32,6 +32,8 @@ class PanelDialogs : public StencilCommands, public MeasureCommands {
         const TextForm& textForm;
         /// What new measuring tools measure in, which the dialog of units can change.
         MeasureUnits& defaultUnits;
+        /// Shows or hides the worksheet's frame; answers whether it was shown.
+        std::function<bool(bool)> showFrame;
     };
 
     explicit PanelDialogs(const Ports& ports);

@@ -21,7 +21,8 @@ ToolsPane::ToolsPane(const Ports& ports, int id)
       toolsFile_(ports.store, ports.codePage, fileMessages_),
       list_(ports.window, id),
       panelDialogs_({ports.window, ports.worksheet.handle(), ports.ratios, ports.settings.textForm,
-                     ports.defaultUnits}),
+                     ports.defaultUnits,
+                     [this](bool shown) { return ports_.controlWindow.showFrame(shown); }}),
       panelMaker_(
           {list_, ports.worksheet.sheet(), *this, panelDialogs_, ports.settings, ports.ratios}),
       dialogs_(ports.window, ports.bar),

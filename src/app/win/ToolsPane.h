@@ -25,6 +25,8 @@ class ControlWindow {
     virtual void takeHeight(int height) = 0;
     /// In front of the worksheet, without activating it.
     virtual void raiseAboveAll() = 0;
+    /// Shows or hides the worksheet's frame; answers whether it was shown.
+    virtual bool showFrame(bool shown) = 0;
 };
 
 /// The tools of the control window: the list of their panels, the documents they are kept in, and

@@ -60,6 +60,7 @@ class frmSettings : public Window, public WorksheetCommands, private ControlWind
     [[nodiscard]] PanelLayout::Window layoutWindow() const override;
     void takeHeight(int height) override;
     void raiseAboveAll() override;
+    bool showFrame(bool shown) override;
 
     void load(bool anotherRuns);
     void openOptionsFile();

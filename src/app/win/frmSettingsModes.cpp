@@ -103,6 +103,16 @@ void frmSettings::raiseAboveAll() {
     SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, keepPlaceAndOwner);
 }
 
+bool frmSettings::showFrame(bool shown) {
+    const bool was = resizer_->isVisible();
+    if (shown) {
+        resizer_->show();
+    } else {
+        resizer_->hide();
+    }
+    return was;
+}
+
 ModeWindows frmSettings::windowsOf(int mode) const {
     return windowsOfMode(mode, worksheet_->MaxSized(), options_.templateWithBorder);
 }
