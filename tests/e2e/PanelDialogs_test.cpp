@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <numbers>
+#include <optional>
 
 #include "e2e/ToolPanel.h"
 
@@ -56,6 +57,7 @@ class Dialog {
         keyboard::press(VK_ESCAPE);
         window_.waitUntilHidden();
     }
+    [[nodiscard]] const DesktopWindow& window() const { return window_; }
     /// The middle of a list's row.
     [[nodiscard]] ScreenPoint row(std::string_view list, int index) const {
         const DesktopWindow rows = control(list);
@@ -219,6 +221,58 @@ TEST_F(PanelDialogs, EscapeLeavesTheRatioAsItWas) {
     EXPECT_TRUE(panel.shows("lblPositionLeft", 205));
     EXPECT_TRUE(panel.shows("lblPositionRight", 365));
     EXPECT_FALSE(panel.isEnabled("cmdUndo"));
+}
+
+/// The colour that the closed program has kept for its stencil.
+std::optional<double> keptColor(PanelScene& scene) {
+    EXPECT_EQ(scene.program().close(), 0U);
+    return SettingsFile::read(scene.data().toolsFile()).number("Tool 1", "Color");
+}
+
+constexpr double white = 0xFFFFFF;
+constexpr double black = 0;
+
+TEST_F(PanelDialogs, ADragOutOfThePaletteEndsOnItsNearestColor) {
+    PanelScene scene(oneStencil(), userOptions());
+    ToolPanel(scene).press("cmdColor");
+    const Dialog dialog(scene, "frmColor");
+    const ScreenRect palette = dialog.control("ColorPicker").rect();
+    scene.mouse.drag(palette.center(), {palette.right - 6, palette.bottom + 40});
+    dialog.leave("cmdOK");
+    EXPECT_EQ(keptColor(scene), black);
+}
+
+TEST_F(PanelDialogs, ADoubleClickOnAColorPicksItAndClosesTheDialog) {
+    PanelScene scene(oneStencil(), userOptions());
+    ToolPanel(scene).pressByKeys("cmdColor");
+    const Dialog dialog(scene, "frmColor");
+    const ScreenRect palette = dialog.control("ColorPicker").rect();
+    scene.mouse.doubleClick({palette.right - 6, palette.top + 6});
+    dialog.window().waitUntilHidden();
+    EXPECT_EQ(keptColor(scene), white);
+}
+
+TEST_F(PanelDialogs, EscapeLeavesTheColorAsItWas) {
+    PanelScene scene(oneStencil(), userOptions());
+    ToolPanel(scene).press("cmdColor");
+    const Dialog dialog(scene, "frmColor");
+    const ScreenRect palette = dialog.control("ColorPicker").rect();
+    scene.mouse.click({palette.right - 6, palette.top + 6});
+    dialog.escape();
+    constexpr double ofTheFile = 0xFFFF00;
+    EXPECT_EQ(keptColor(scene), ofTheFile);
+}
+
+TEST_F(PanelDialogs, ALineStyleIsPickedByADoubleClick) {
+    PanelScene scene(oneStencil(), userOptions());
+    ToolPanel(scene).press("cmdLineStyle");
+    const Dialog dialog(scene, "frmLineStyle");
+    const ScreenRect lines = dialog.control("LineSelect").rect();
+    // The last of five rows is three pixels wide.
+    scene.mouse.doubleClick({lines.center().x, lines.bottom - lines.height() / 10});
+    dialog.window().waitUntilHidden();
+    EXPECT_EQ(scene.program().close(), 0U);
+    EXPECT_EQ(SettingsFile::read(scene.data().toolsFile()).number("Tool 1", "LineWidth"), 4);
 }
 
 TEST_F(PanelDialogs, UnitsAreThoseOfTheToolAndByDefaultOfNewOnes) {
