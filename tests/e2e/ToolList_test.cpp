@@ -51,6 +51,18 @@ TEST(ToolList, TheFirstToolFindsRoomForItsPanel) {
     EXPECT_TRUE(looksSelected(scene.panel(0)));
 }
 
+TEST(ToolList, SmallButtonsOfANewPanelGrowUnderTheMouse) {
+    PanelScene scene(twoStencils());
+    scene.press("cmdAddGrid");
+    ASSERT_TRUE(scene.waitForPanels(3));
+    const int listEnd = scene.control("picOuter").rect().bottom;
+    ASSERT_TRUE(waitUntil([&] { return scene.panel(2).rect().bottom <= listEnd; }));
+    const DesktopWindow step = PanelScene::control(scene.panel(2), "cmdMove(0)");
+    const int atRest = step.rect().width();
+    scene.mouse.moveTo(step.center());
+    EXPECT_TRUE(waitUntil([&] { return step.rect().width() > atRest; }));
+}
+
 TEST(ToolList, ARemovedNumberIsGivenToTheNextMeasuringTool) {
     PanelScene scene(SettingsFile{});
     for (std::size_t count = 1; count <= 3; ++count) {
