@@ -30,9 +30,16 @@ TEST(DragReadOut, StandsBesideTheGripAndFitsItsText) {
     info.place({600, 400}, {1000, 800}, FakeTextMeter());
     EXPECT_EQ(info.label().box(), (PixelRect{566, 391, 588, 408}));
     EXPECT_EQ(info.label().FontSize(), readableFontSize);
+}
+
+TEST(DragReadOut, RepaintsBeyondItsBoxAsItsLettersMay) {
+    DragReadOut info;
+    info.show();
+    info.setText("abc", FakeTextMeter());
     DirtyRegion region;
     info.addTo(region);
-    EXPECT_EQ(region.bounds(), info.label().box());
+    constexpr int overhang = 4;
+    EXPECT_EQ(region.bounds(), info.label().box().grown(overhang));
 }
 
 TEST(DragReadOut, HiddenCoversAndDrawsNothing) {
