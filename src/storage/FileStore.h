@@ -11,7 +11,7 @@ constexpr int errorFileNotFound = 2;
 constexpr int errorPathNotFound = 3;
 
 /// A settings file has some ten thousand bytes; a file beyond this size is none and isn't read.
-constexpr std::size_t largestSettingsFile = std::size_t{4} << 20U;
+constexpr std::size_t largestSettingsFile = std::size_t{16} << 20U;
 
 struct ReadResult {
     enum class Status {

@@ -45,7 +45,7 @@ class PanelsGolden : public testing::TestWithParam<LanguageAndDpi> {
             PixelSize{columns * size_.width, looks / columns * size_.height});
     }
     [[nodiscard]] PanelWindow::Ports ports() {
-        return {ground_->handle(), host_, visibility_, clock_, tmrFast_};
+        return {ground_->handle(), ++made_, host_, visibility_, clock_, tmrFast_};
     }
     void show(PanelWindow& panel, int look) {
         panel.setDpi(GetParam().dpi);
@@ -73,6 +73,7 @@ class PanelsGolden : public testing::TestWithParam<LanguageAndDpi> {
     Event<> tmrFast_;
     PixelSize size_;
     std::unique_ptr<ControlPanel> ground_;
+    int made_ = 0;
 };
 
 TEST_P(PanelsGolden, StencilsLookAsTheyAlwaysDid) {

@@ -46,6 +46,8 @@ class PanelMaker : public PanelFactory, private ToolVisibility, private DayClock
 
     Ports ports_;
     std::vector<PanelWindow*> panels_;
+    /// How many panels there have been.
+    int made_ = 0;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
 };
 

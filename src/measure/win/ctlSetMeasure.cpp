@@ -6,7 +6,7 @@ namespace ormala {
 
 ctlSetMeasure::ctlSetMeasure(ctlMeasure& tool, const Ports& ports, MeasureCommands& commands,
                              const ToolSettings& settings)
-    : PanelWindow(L"ctlSetMeasure", measurePanelDesign(), ports),
+    : PanelWindow(L"ctlSetMeasure", "SetMeasure", measurePanelDesign(), ports),
       core_(tool, {*this, ports.visibility, ports.clock}, commands, settings) {
     button("cmdColorA").setCaption("a");
     button("cmdColorB").setCaption("b");

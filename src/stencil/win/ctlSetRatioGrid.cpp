@@ -18,7 +18,7 @@ std::string indexed(const char* name, int index) {
 
 ctlSetRatioGrid::ctlSetRatioGrid(ctlRatioGrid& tool, const Ports& ports, StencilCommands& commands,
                                  const ToolSettings& settings, const SpecialRatios& ratios)
-    : PanelWindow(L"ctlSetRatioGrid", stencilPanelDesign(), ports),
+    : PanelWindow(L"ctlSetRatioGrid", "SetRatioGrid", stencilPanelDesign(), ports),
       core_(tool, {*this, ports.visibility, ports.clock}, {commands, *this, ports.tmrFast},
             settings, ratios) {
     connectSteps();

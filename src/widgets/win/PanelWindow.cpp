@@ -42,14 +42,17 @@ auto* find(const Controls& controls, std::string_view name) {
 
 }  // namespace
 
-PanelWindow::PanelWindow(const wchar_t* className, const PanelDesign& design, const Ports& ports)
+PanelWindow::PanelWindow(const wchar_t* className, std::string_view name, const PanelDesign& design,
+                         const Ports& ports)
     : design_(design), host_(ports.host), dpi_(USER_DEFAULT_SCREEN_DPI) {
     WindowDesign window;
     window.className = className;
     window.style = WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS;
     window.extendedStyle = WS_EX_CONTROLPARENT;
     window.owner = ports.parent;
+    window.id = ports.id;
     create(window);
+    setControlName(handle(), std::string(name) + "(" + std::to_string(ports.id) + ")");
     int id = 1;
     for (const PanelControl& control : design_.controls) {
         makeControl(control, id++);

@@ -39,6 +39,8 @@ class PanelWindow : public Window, protected PanelView {
     /// What a panel's window is made with. All must outlive it.
     struct Ports {
         HWND parent;
+        /// Its control ID and the number in its name, from 1 on.
+        int id;
         PanelHost& host;
         ToolVisibility& visibility;
         const DayClock& clock;
@@ -61,7 +63,8 @@ class PanelWindow : public Window, protected PanelView {
 
   protected:
     /// Invisible. The design must outlive it.
-    PanelWindow(const wchar_t* className, const PanelDesign& design, const Ports& ports);
+    PanelWindow(const wchar_t* className, std::string_view name, const PanelDesign& design,
+                const Ports& ports);
     /// The interval of `tmrButtonBig`, in milliseconds.
     [[nodiscard]] virtual UINT growthInterval() const = 0;
     /// Connects the commands that all panels have and shows the texts, once the core stands.
