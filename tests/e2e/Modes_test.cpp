@@ -115,6 +115,17 @@ TEST(Modes, TheTwinOfPauseMinimisesAndHidesItself) {
     EXPECT_TRUE(scene.settings().named("cmdTemplateMin").hasStyle(WS_VISIBLE));
 }
 
+TEST(Modes, AMinimisedControlWindowComesBackWhereItStood) {
+    SheetScene scene;
+    const ScreenRect before = scene.settings().rect();
+    scene.mouse.click(scene.settings().named("cmdTemplateMin").center());
+    EXPECT_TRUE(waitUntil([&] { return scene.settings().isMinimised(); }));
+    // A window manager may still be about to put it away.
+    screen::waitUntilStill(before);
+    scene.settings().post(WM_SYSCOMMAND, SC_RESTORE);
+    EXPECT_TRUE(waitUntil([&] { return scene.settings().rect().origin() == before.origin(); }));
+}
+
 TEST(Modes, PauseLeavesOnlyWhatNeedsNoWorksheet) {
     SheetScene scene;
     keyboard::press(VK_F3);

@@ -22,12 +22,15 @@ bool liesIn(const ScreenRect& area, const ScreenRect& rect) {
            rect.bottom <= area.bottom && rect.width() > 0 && rect.height() > 0;
 }
 
+/// Where the control window stands on the second monitor: right of all that is dragged.
+constexpr int controlLeft = 960;
+
 /// The program with its worksheet and its control window on the second monitor.
 class Monitors : public testing::Test {
   protected:
     Monitors() {
         moveTo(frameOf(scene_), second_.rect().origin() + ScreenPoint{30, 180});
-        moveTo(scene_.settings(), second_.rect().origin() + ScreenPoint{700, 40});
+        moveTo(scene_.settings(), second_.rect().origin() + ScreenPoint{controlLeft, 40});
         EXPECT_TRUE(liesIn(second_.rect(), frameOf(scene_).rect())) << frameOf(scene_).rect();
         EXPECT_TRUE(liesIn(second_.rect(), scene_.settings().rect())) << scene_.settings().rect();
         EXPECT_TRUE(worksheetFits(scene_));
@@ -98,6 +101,7 @@ TEST_F(Monitors, WorksheetLiesInTheFrameAtNegativeCoordinates) {
 }
 
 TEST_F(Monitors, WorksheetLiesInAFrameOnBothMonitors) {
+    moveTo(scene_.settings(), second_.rect().origin() + ScreenPoint{200, 40});
     moveTo(frameOf(scene_), {-400, 100});
     EXPECT_EQ(frameOf(scene_).rect().left, -400);
     EXPECT_TRUE(worksheetFits(scene_));
@@ -122,7 +126,7 @@ TEST_F(Monitors, FullScreenMeansTheMonitorOfTheFrame) {
     setMode(menuPause, "Ormala - Pause");
     setMode(menuEdit, "Ormala - Edit");
     EXPECT_TRUE(fills(second_.rect())) << scene_.worksheet().rect();
-    EXPECT_EQ(scene_.settings().rect().left, second_.rect().left + 700);
+    EXPECT_EQ(scene_.settings().rect().left, second_.rect().left + controlLeft);
     EXPECT_EQ(frameOf(scene_).rect(), framed);
 }
 

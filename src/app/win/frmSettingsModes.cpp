@@ -99,6 +99,10 @@ void frmSettings::layOutAnew() {
 }
 
 void frmSettings::raiseAboveAll() {
+    if (IsIconic(handle()) != FALSE) {
+        // Even without being moved, a minimised window could forget where it stood.
+        return;
+    }
     SetWindowPos(handle(), HWND_TOPMOST, 0, 0, 0, 0, keepPlaceAndOwner);
     SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, keepPlaceAndOwner);
 }
