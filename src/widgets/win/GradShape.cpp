@@ -20,11 +20,6 @@ GradShape::GradShape(HWND parent, int id, std::string_view name) {
     setControlName(handle(), name);
 }
 
-void GradShape::place(const PixelRect& box) {
-    SetWindowPos(handle(), nullptr, box.left, box.top, box.width(), box.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 LRESULT GradShape::paint() {
     const PaintScope scope(handle());
     const PixelRect client = fromRect(clientRectangle());

@@ -14,9 +14,6 @@ class GradShape : public Window {
     GradShape(HWND parent, int id, std::string_view name);
     ~GradShape() override { destroy(); }
 
-    /// In the parent's client pixels.
-    void place(const PixelRect& box);
-    void setVisible(bool visible) { ShowWindow(handle(), visible ? SW_SHOWNA : SW_HIDE); }
     [[nodiscard]] const GradientDesign& design() const { return design_; }
     void setColorTopLeft(Color color) { set(&GradientDesign::ColorTopLeft, color); }
     void setColorBottomRight(Color color) { set(&GradientDesign::ColorBottomRight, color); }

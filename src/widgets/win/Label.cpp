@@ -25,11 +25,6 @@ Label::Label(HWND parent, int id, std::string_view name) {
     setDpi(static_cast<int>(GetDpiForWindow(handle())));
 }
 
-void Label::place(const PixelRect& box) {
-    SetWindowPos(handle(), nullptr, box.left, box.top, box.width(), box.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 void Label::setText(std::string_view text) {
     if (text_ != text) {
         text_ = text;

@@ -21,9 +21,6 @@ class Label : public Window {
     Label(HWND parent, int id, std::string_view name);
     ~Label() override { destroy(); }
 
-    /// In the parent's client pixels.
-    void place(const PixelRect& box);
-    void setVisible(bool visible) { ShowWindow(handle(), visible ? SW_SHOWNA : SW_HIDE); }
     [[nodiscard]] const std::string& text() const { return text_; }
     /// Repaints only if the text is another one, as do all that follow.
     void setText(std::string_view text);

@@ -27,11 +27,6 @@ PixelSize ZelvikButtonXP::size() const {
     return {client.width(), client.height()};
 }
 
-void ZelvikButtonXP::place(const PixelRect& box) {
-    SetWindowPos(handle(), nullptr, box.left, box.top, box.width(), box.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 void ZelvikButtonXP::setCaption(std::string_view caption) {
     if (design_.Caption != caption) {
         design_.Caption = caption;

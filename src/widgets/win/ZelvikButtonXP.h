@@ -23,13 +23,10 @@ using PictureMaker = std::function<PixelImage(PixelSize)>;
 /// its `Value`, which only its owner changes. A handler of any event may destroy it.
 class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface {
   public:
-    /// A visible child of `parent` without a size. `name` is its control name.
+    /// A visible child of `parent` without a size; a side that is placed below 10 pixels at 96 DPI
+    /// becomes that. `name` is its control name.
     ZelvikButtonXP(HWND parent, int id, std::string_view name);
     ~ZelvikButtonXP() override { destroy(); }
-
-    /// In the parent's client pixels; a side below 10 pixels at 96 DPI becomes that.
-    void place(const PixelRect& box);
-    void setVisible(bool visible) { ShowWindow(handle(), visible ? SW_SHOWNA : SW_HIDE); }
 
     /// A letter after "&" is the access key, which the owner routes to `pressAccessKey`.
     void setCaption(std::string_view caption);
