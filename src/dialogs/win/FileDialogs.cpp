@@ -8,6 +8,7 @@
 
 #include "language/MlStringModule.h"
 #include "platform/win/text.h"
+#include "storage/modStorage.h"
 
 namespace ormala {
 
@@ -55,7 +56,9 @@ std::string PickToolsFile(HWND owner, bool forSaving) {
     record.Flags =
         OFN_LONGNAMES | OFN_HIDEREADONLY | (forSaving ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST);
     const BOOL picked = forSaving ? GetSaveFileNameW(&record) : GetOpenFileNameW(&record);
-    return picked != FALSE ? narrow(file.c_str()) : std::string();
+    std::string name = picked != FALSE ? narrow(file) : std::string();
+    CutAtNull(name);
+    return name;
 }
 
 std::string CompactPathForDisplay(const std::string& path, HDC context, int width) {
@@ -70,7 +73,9 @@ std::string CompactPathForDisplay(const std::string& path, HDC context, int widt
         DrawTextW(context, shortened.data(), static_cast<int>(length), &room,
                   DT_CALCRECT | DT_SINGLELINE | DT_NOPREFIX | DT_PATH_ELLIPSIS | DT_MODIFYSTRING);
     }
-    return narrow(shortened.c_str());
+    std::string text = narrow(shortened);
+    CutAtNull(text);
+    return text;
 }
 
 }  // namespace ormala
