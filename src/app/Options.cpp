@@ -43,14 +43,14 @@ void visitOptions(AnyOptions& options, Visitor&& visitor) {
     visitor("DefaultLengthUnit", options.defaultUnits.LengthUnit);
     visitor("WorksheetColor", options.worksheetColor);
     visitor("CrossHairEnabled", options.crossHairEnabled);
-    visitor("GridEnabled", options.gridEnabled);
-    visitor("GridStyle", options.gridStyle);
-    visitor("GridLineWidth", options.gridLineWidth);
-    visitor("GridColor", options.gridColor);
-    visitor("GridSizeX", options.grid.stepX);
-    visitor("GridSizeY", options.grid.stepY);
-    visitor("GridOffsetX", options.grid.originX);
-    visitor("GridOffsetY", options.grid.originY);
+    visitor("GridEnabled", options.grid.enabled);
+    visitor("GridStyle", options.grid.style);
+    visitor("GridLineWidth", options.grid.lineWidth);
+    visitor("GridColor", options.grid.color);
+    visitor("GridSizeX", options.grid.steps.stepX);
+    visitor("GridSizeY", options.grid.steps.stepY);
+    visitor("GridOffsetX", options.grid.steps.originX);
+    visitor("GridOffsetY", options.grid.steps.originY);
     visitor("LensVisible", options.lensVisible);
     visitLens(options.lens, visitor);
 }
@@ -103,11 +103,11 @@ void mend(Options& options) {
     if (!(options.defaultUnits.LengthFactor > 0)) {
         options.defaultUnits.LengthFactor = first.defaultUnits.LengthFactor;
     }
-    if (options.grid.stepX < 1) {
-        options.grid.stepX = first.grid.stepX;
+    if (options.grid.steps.stepX < 1) {
+        options.grid.steps.stepX = first.grid.steps.stepX;
     }
-    if (options.grid.stepY < 1) {
-        options.grid.stepY = first.grid.stepY;
+    if (options.grid.steps.stepY < 1) {
+        options.grid.steps.stepY = first.grid.steps.stepY;
     }
     options.lens.factor = std::clamp(options.lens.factor, 1, 10);
 }

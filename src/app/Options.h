@@ -2,33 +2,13 @@
 
 #include <string>
 
+#include "magnifier/LensOptions.h"
 #include "modAPI/colors.h"
-#include "modAPI/transforms.h"
 #include "storage/INIFile.h"
 #include "widgets/MeasureUnits.h"
+#include "worksheet/BackgroundGrid.h"
 
 namespace ormala {
-
-/// The magnifier's part of the options.
-struct LensOptions {
-    /// 1 to 10.
-    int factor = 4;
-    bool sticked = false;
-    bool cursorOn = true;
-    bool hotSpotOn = true;
-    Color hotSpotColor = rgb(0, 0, 255);
-    int hotSpotStyle = 2;
-    int hotSpotDrawMode = 9;
-    bool gridOn = true;
-    Color gridColor = rgb(191, 191, 191);
-    int gridDrawMode = 9;
-    bool topScales = true;
-    bool bottomScales = true;
-    int topOrigin = 0;
-    int bottomOrigin = 1;
-
-    bool operator==(const LensOptions&) const = default;
-};
 
 /// All that the options file keeps, with the defaults of a first start.
 struct Options {
@@ -48,12 +28,7 @@ struct Options {
     MeasureUnits defaultUnits;
     Color worksheetColor = 0x4F4F4F;
     bool crossHairEnabled = false;
-    bool gridEnabled = false;
-    /// 0 none, 1 points, 2 lines.
-    int gridStyle = 2;
-    int gridLineWidth = 2;
-    Color gridColor = 0x7D7D7D;
-    Grid grid;
+    BackgroundGrid grid;
     bool lensVisible = false;
     LensOptions lens;
 

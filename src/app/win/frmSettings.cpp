@@ -99,7 +99,7 @@ void frmSettings::chooseLanguage(int localeLanguage) {
     }
     MlSetLanguage(options_.language, {});
     options_.language = CurrentLanguage();
-    toolSettings_.grid = options_.grid;
+    toolSettings_.grid = options_.grid.steps;
     toolSettings_.textForm.decimalSeparator = decimalSeparator();
     SetReferenceLines(options_.showReferenceLines);
 }
