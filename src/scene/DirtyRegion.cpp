@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "modAPI/clipping.h"
+#include "modAPI/constants.h"
 #include "modAPI/transforms.h"
 #include "scene/strokes.h"
 
@@ -14,6 +15,22 @@ namespace {
 /// A piece of this length has a box of at most this size squared, about what a grip's repaint
 /// costs.
 constexpr double pieceLength = 96;
+/// An arc bends, so that its pieces are shorter. Of a quarter of an oval there are enough for any
+/// screen and few enough for an oval far larger than it.
+constexpr double arcLength = 32;
+constexpr double mostArcs = 16;
+
+/// About the middle of the box, from side to side.
+PixelRect mirroredAcross(const PixelRect& box, const PixelRect& part) {
+    const int sum = box.left + box.right;
+    return {sum - part.right, part.top, sum - part.left, part.bottom};
+}
+
+/// From top to bottom.
+PixelRect mirroredDown(const PixelRect& box, const PixelRect& part) {
+    const int sum = box.top + box.bottom;
+    return {part.left, sum - part.bottom, part.right, sum - part.top};
+}
 
 }  // namespace
 
@@ -62,6 +79,29 @@ void DirtyRegion::addOutline(const PixelRect& box, int width) {
     add({box.left, box.bottom - acrossY, box.right, box.bottom});
     add({box.left, box.top, box.left + acrossX, box.bottom});
     add({box.right - acrossX, box.top, box.right, box.bottom});
+}
+
+void DirtyRegion::addOutlineClosely(const PixelRect& box, int width) {
+    const Point half{box.width() / 2.0, box.height() / 2.0};
+    const double arcs = std::ceil(halfPi * std::max(half.x, half.y) / arcLength);
+    const int pieces = static_cast<int>(std::min(arcs, mostArcs));
+    for (int i = 0; i < pieces; ++i) {
+        const double from = halfPi * i / pieces;
+        const double to = halfPi * (i + 1) / pieces;
+        // Of the upper left quarter; the others mirror it.
+        const Rect arc{half.x * (1 - std::cos(from)), half.y * (1 - std::sin(to)),
+                       half.x * (1 - std::cos(to)), half.y * (1 - std::sin(from))};
+        const PixelRect piece =
+            PixelRect{box.left + static_cast<int>(arc.left), box.top + static_cast<int>(arc.top),
+                      box.left + static_cast<int>(std::ceil(arc.right)),
+                      box.top + static_cast<int>(std::ceil(arc.bottom))}
+                .grown(width + 1)
+                .intersected(box);
+        for (const PixelRect& part : {piece, mirroredAcross(box, piece)}) {
+            add(part);
+            add(mirroredDown(box, part));
+        }
+    }
 }
 
 PixelRect DirtyRegion::bounds() const {

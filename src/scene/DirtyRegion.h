@@ -22,6 +22,9 @@ class DirtyRegion {
     void addStroke(const Pen& pen, const Line& line, const PixelRect& area);
     /// The four sides of the box of an oval outline, not its inside.
     void addOutline(const PixelRect& box, int width);
+    /// The same in many small pieces along it, for a large outline that changes with each move of
+    /// the mouse while little else does: a fifth of those pixels or less.
+    void addOutlineClosely(const PixelRect& box, int width);
 
     [[nodiscard]] std::span<const PixelRect> rects() const { return rects_; }
     [[nodiscard]] bool empty() const { return rects_.empty(); }

@@ -33,10 +33,12 @@ constexpr int down = 40;
 constexpr int remove = 46;
 constexpr int y = 89;
 constexpr int z = 90;
+constexpr int menu = 93;
 constexpr int f1 = 112;
 constexpr int f2 = 113;
 constexpr int f3 = 114;
 constexpr int f4 = 115;
+constexpr int f12 = 123;
 }  // namespace key
 
 /// One mouse event in worksheet pixels.

@@ -16,8 +16,8 @@ constexpr PixelRect area{0, 0, sheet.width, sheet.height};
 
 int paintedOutside(const RasterCanvas& canvas, const DirtyRegion& region) {
     int outside = 0;
-    for (int y = 0; y < sheet.height; ++y) {
-        for (int x = 0; x < sheet.width; ++x) {
+    for (int y = 0; y < canvas.size().height; ++y) {
+        for (int x = 0; x < canvas.size().width; ++x) {
             if (canvas.at(x, y) != RasterCanvas::empty && !region.meets({x, y, x + 1, y + 1})) {
                 ++outside;
             }
@@ -100,6 +100,25 @@ TEST(DirtyRegion, OutlineCoversTheOvalAndNotItsInside) {
     region.clear();
     region.addOutline({}, 1);
     EXPECT_TRUE(region.empty());
+}
+
+TEST(DirtyRegion, CloseOutlineCoversTheOvalInSmallPieces) {
+    for (const PixelRect box :
+         {PixelRect{10, 10, 890, 890}, PixelRect{0, 300, 899, 420}, PixelRect{400, 3, 410, 893},
+          PixelRect{-700, 40, 850, 1500}, PixelRect{100, 100, 485, 485}, PixelRect{10, 10, 31, 31},
+          PixelRect{5, 5, 6, 6}}) {
+        for (const int width : {1, 6}) {
+            RasterCanvas canvas({900, 900});
+            canvas.shape({ShapeKind::oval, box, 1, width, std::nullopt});
+            DirtyRegion region;
+            region.addOutlineClosely(box, width);
+            EXPECT_EQ(paintedOutside(canvas, region), 0) << box.width() << ", " << width;
+        }
+    }
+    DirtyRegion region;
+    region.addOutlineClosely({0, 0, 2001, 2001}, 1);
+    EXPECT_FALSE(region.meets({200, 960, 1800, 1040})) << "the strip within";
+    EXPECT_FALSE(region.dense());
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "platform/win/BackBuffer.h"
 
+#include <cstddef>
+
 namespace ormala {
 
 namespace {
@@ -20,6 +22,7 @@ bool BackBuffer::resize(PixelSize size) {
     // The context lets go of the bitmap first: a selected bitmap cannot be destroyed.
     context_.reset();
     bitmap_.reset();
+    pixels_ = nullptr;
     size_ = {};
     if (size.width <= 0 || size.height <= 0) {
         return true;
@@ -36,11 +39,17 @@ bool BackBuffer::resize(PixelSize size) {
     if (!bitmap_) {
         return false;
     }
+    pixels_ = static_cast<std::uint32_t*>(bits);
     context_.reset(CreateCompatibleDC(nullptr));
     SelectObject(context_.get(), bitmap_.get());
     size_ = size;
     room_ = size;
     return true;
+}
+
+PixelView BackBuffer::view() const {
+    GdiFlush();
+    return {pixels_, room_.width, pixels_ != nullptr ? size_ : PixelSize{}};
 }
 
 }  // namespace ormala

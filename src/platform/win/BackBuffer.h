@@ -1,7 +1,10 @@
 #pragma once
 
+#include <cstdint>
+
 #include "platform/win/handles.h"
 #include "scene/PixelRect.h"
+#include "scene/PixelView.h"
 
 namespace ormala {
 
@@ -15,10 +18,14 @@ class BackBuffer {
 
     [[nodiscard]] HDC context() const { return context_.get(); }
     [[nodiscard]] PixelSize size() const { return size_; }
+    /// The pixels themselves, once all that was drawn before has arrived; good until the next
+    /// change of size.
+    [[nodiscard]] PixelView view() const;
 
   private:
     MemoryContext context_;
     BitmapHandle bitmap_;
+    std::uint32_t* pixels_ = nullptr;
     PixelSize size_;
     PixelSize room_;
 };

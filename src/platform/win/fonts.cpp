@@ -42,4 +42,8 @@ FontHandle worksheetFont(int dpi, int points) {
     return tahoma(dpi, points, FW_NORMAL, NONANTIALIASED_QUALITY);
 }
 
+FontHandle coverageFont(int dpi, int points) {
+    return tahoma(dpi, points, FW_NORMAL, ANTIALIASED_QUALITY);
+}
+
 }  // namespace ormala

@@ -19,4 +19,7 @@ SharedFont sharedControlFont(int dpi, FontLook look, int points = 8);
 /// The same type not smoothed, for texts on a ground that is keyed out.
 FontHandle worksheetFont(int dpi, int points);
 
+/// The same type smoothed in grey alone, whose pixels say how much of them a letter covers.
+FontHandle coverageFont(int dpi, int points = 8);
+
 }  // namespace ormala

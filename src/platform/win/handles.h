@@ -71,6 +71,22 @@ class WindowContext {
     HDC context_;
 };
 
+/// The device context of a window for drawing over its children too.
+class UnclippedContext {
+  public:
+    explicit UnclippedContext(HWND window)
+        : window_(window), context_(GetDCEx(window, nullptr, DCX_CACHE | DCX_CLIPSIBLINGS)) {}
+    UnclippedContext(const UnclippedContext&) = delete;
+    UnclippedContext& operator=(const UnclippedContext&) = delete;
+    ~UnclippedContext() { ReleaseDC(window_, context_); }
+
+    [[nodiscard]] HDC get() const { return context_; }
+
+  private:
+    HWND window_;
+    HDC context_;
+};
+
 /// Between the beginning and the end of a window's painting.
 class PaintScope {
   public:

@@ -2,6 +2,22 @@
 
 namespace ormala {
 
+namespace {
+
+int metricOr(int index, int fallback) {
+    const int value = GetSystemMetrics(SM_CMONITORS) == 0 ? 0 : GetSystemMetrics(index);
+    return value != 0 ? value : fallback;
+}
+
+}  // namespace
+
+RECT virtualScreen() {
+    const LONG left = metricOr(SM_XVIRTUALSCREEN, 0);
+    const LONG top = metricOr(SM_YVIRTUALSCREEN, 0);
+    return {left, top, left + metricOr(SM_CXVIRTUALSCREEN, GetSystemMetrics(SM_CXSCREEN)),
+            top + metricOr(SM_CYVIRTUALSCREEN, GetSystemMetrics(SM_CYSCREEN))};
+}
+
 MONITORINFO monitorAround(HWND window) {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;

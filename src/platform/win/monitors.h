@@ -7,6 +7,9 @@ namespace ormala {
 /// The monitor that the window is on, or is next to.
 MONITORINFO monitorAround(HWND window);
 
+/// The bounds of all screens together; those of the primary one where the system does not tell.
+RECT virtualScreen();
+
 /// What that monitor has for windows.
 RECT workAreaAround(HWND window);
 

@@ -29,6 +29,28 @@ RegionHandle regionOf(std::span<const PixelRect> rects) {
     return RegionHandle(ExtCreateRegion(nullptr, static_cast<DWORD>(size), data.data()));
 }
 
+RegionHandle regionOf(const DirtyRegion& region) {
+    if (region.dense()) {
+        const PixelRect bounds = region.bounds();
+        return regionOf({&bounds, 1});
+    }
+    return regionOf(region.rects());
+}
+
+std::vector<PixelRect> rectsOf(HRGN region) {
+    const DWORD size = GetRegionData(region, 0, nullptr);
+    std::vector<RGNDATA> data(size / sizeof(RGNDATA) + 1);
+    std::vector<PixelRect> rects;
+    if (size == 0 || GetRegionData(region, size, data.data()) == 0) {
+        return rects;
+    }
+    rects.resize(data.front().rdh.nCount);
+    // A rectangle is laid out as the system's.
+    static_assert(sizeof(PixelRect) == sizeof(RECT));
+    std::memcpy(rects.data(), data.front().Buffer, rects.size() * sizeof(RECT));
+    return rects;
+}
+
 RegionHandle updateRegionOf(HWND window) {
     RegionHandle region(CreateRectRgn(0, 0, 0, 0));
     GetUpdateRgn(window, region.get(), FALSE);

@@ -1,14 +1,21 @@
 #pragma once
 
 #include <span>
+#include <vector>
 
 #include "platform/win/handles.h"
+#include "scene/DirtyRegion.h"
 #include "scene/PixelRect.h"
 
 namespace ormala {
 
 /// The union of the rectangles.
 RegionHandle regionOf(std::span<const PixelRect> rects);
+/// Its bounds, if that costs no more than its pieces.
+RegionHandle regionOf(const DirtyRegion& region);
+
+/// Disjoint rectangles that make up the region.
+std::vector<PixelRect> rectsOf(HRGN region);
 
 /// What the system wants the window to repaint.
 RegionHandle updateRegionOf(HWND window);
