@@ -1,4 +1,5 @@
 #include "language/TextTable.h"
+#include "language/productAddresses.h"
 
 namespace ormala {
 
@@ -270,11 +271,11 @@ constexpr TextRow rows[] = {
     {348, "About..."},
     {349, "about"},
     {350, "E-Mail to the author:"},
-    {351, ""},
+    {351, productMailAddress},
     {352, "Check for new versions at:"},
     {355, "Version:"},
     {374, "About "},
-    {375, ""},
+    {375, productWebAddress},
     {377, "Loading..."},
     {378, "Removing all tools..."},
 };

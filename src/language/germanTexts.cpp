@@ -1,4 +1,5 @@
 #include "language/TextTable.h"
+#include "language/productAddresses.h"
 
 namespace ormala {
 
@@ -269,11 +270,11 @@ constexpr TextRow rows[] = {
     {348, "Info..."},
     {349, "Info"},
     {350, "E-Mail an den Autor:"},
-    {351, ""},
+    {351, productMailAddress},
     {352, "Nach neuen Versionen schauen:"},
     {355, "Version:"},
     {374, "Info über "},
-    {375, ""},
+    {375, productWebAddress},
     {377, "Lade..."},
     {378, "Entferne alle Werkzeuge..."},
 };

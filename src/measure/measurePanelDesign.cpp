@@ -7,8 +7,8 @@ namespace {
 // Columns: the names of the rows, and a value for each line.
 constexpr int left = 4;
 constexpr int firstValue = 82;
-constexpr int secondValue = 178;
-constexpr int right = 274;
+constexpr int secondValue = 187;
+constexpr int right = 292;
 
 constexpr int firstRow = 25;
 constexpr int rowPitch = 18;

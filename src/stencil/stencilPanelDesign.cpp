@@ -6,16 +6,16 @@ namespace {
 
 // Columns: the names of the rows, and two values with a pair of steps behind each.
 constexpr int left = 4;
-constexpr int firstValue = 60;
-constexpr int firstSteps = 126;
-constexpr int secondValue = 163;
-constexpr int secondSteps = 240;
-constexpr int right = 274;
+constexpr int firstValue = 67;
+constexpr int firstSteps = 141;
+constexpr int secondValue = 177;
+constexpr int secondSteps = 260;
+constexpr int right = 292;
 
 constexpr int firstRow = 25;
 constexpr int rowPitch = 18;
 constexpr int rowHeight = 16;
-constexpr int stepWidth = 17;
+constexpr int stepWidth = 16;
 /// The picture of the patterns with the angle and the ratio at its right.
 constexpr int pictureTop = firstRow + 4 * rowPitch + 4;
 constexpr int pictureSize = 52;
@@ -99,26 +99,27 @@ void addAngleAndRatio(std::vector<PanelControl>& controls) {
     constexpr int descriptionTop = ratioTop + rowPitch;
     constexpr int lastStep = right - stepWidth;
     /// Of the angle and the ratio.
-    constexpr int value = 116;
+    constexpr int value = 122;
+    constexpr int turns = lastStep - 6 - 2 * stepWidth;
     const PixelRect picture{left, pictureTop, left + pictureSize, pictureTop + pictureSize};
-    controls.insert(
-        controls.end(),
-        {{"imgPattern", PanelPart::image, picture, 0, 11},
-         {"lblAngle", PanelPart::header, field(firstValue, value, angleTop), 35},
-         {"lblAngle1", PanelPart::value, field(value, 162, angleTop), 0, 34},
-         {"lblAngle2", PanelPart::value, field(162, 215, angleTop), 0, 32},
-         {"cmdAngle(0)", PanelPart::button, step(216, 0, angleTop), 0, 184,
-          Picture::rotateCounterclockwise, roundAtLeft},
-         {"cmdAngle(1)", PanelPart::button, step(216, 1, angleTop), 0, 185,
-          Picture::rotateClockwise, roundAtRight},
-         {"cmdAngleZero", PanelPart::button, field(lastStep, right, angleTop), 0, 187,
-          Picture::angleZero},
-         {"lblRatio", PanelPart::header, field(firstValue, value, ratioTop), 18, 19},
-         {"lblRatioWH", PanelPart::value, field(value, 192, ratioTop), 0, 17},
-         {"lblRatioHW", PanelPart::value, field(192, right, ratioTop), 0, 13},
-         {"lblRatioDescription", PanelPart::value, field(firstValue, 250, descriptionTop), 0, 15},
-         {"cmdEditRatio", PanelPart::button, field(lastStep, right, descriptionTop), 0, 192,
-          Picture::editRatio}});
+    controls.insert(controls.end(),
+                    {{"imgPattern", PanelPart::image, picture, 0, 11},
+                     {"lblAngle", PanelPart::header, field(firstValue, value, angleTop), 35},
+                     {"lblAngle1", PanelPart::value, field(value, 172, angleTop), 0, 34},
+                     {"lblAngle2", PanelPart::value, field(172, turns, angleTop), 0, 32},
+                     {"cmdAngle(0)", PanelPart::button, step(turns, 0, angleTop), 0, 184,
+                      Picture::rotateCounterclockwise, roundAtLeft},
+                     {"cmdAngle(1)", PanelPart::button, step(turns, 1, angleTop), 0, 185,
+                      Picture::rotateClockwise, roundAtRight},
+                     {"cmdAngleZero", PanelPart::button, field(lastStep, right, angleTop), 0, 187,
+                      Picture::angleZero},
+                     {"lblRatio", PanelPart::header, field(firstValue, value, ratioTop), 18, 19},
+                     {"lblRatioWH", PanelPart::value, field(value, 205, ratioTop), 0, 17},
+                     {"lblRatioHW", PanelPart::value, field(205, right, ratioTop), 0, 13},
+                     {"lblRatioDescription", PanelPart::value,
+                      field(firstValue, lastStep, descriptionTop), 0, 15},
+                     {"cmdEditRatio", PanelPart::button, field(lastStep, right, descriptionTop), 0,
+                      192, Picture::editRatio}});
 }
 
 void addCommands(std::vector<PanelControl>& controls) {

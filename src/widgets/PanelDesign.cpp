@@ -6,7 +6,7 @@ namespace {
 
 constexpr int commandWidth = 26;
 constexpr int commandHeight = 24;
-constexpr int groupGap = 12;
+constexpr int groupGap = 18;
 constexpr int belowCommands = 7;
 constexpr int bottomBandHeight = 4;
 

@@ -49,7 +49,7 @@ struct PanelDesign {
 };
 
 /// Of all panels: the list's width without its scroll bar.
-inline constexpr int panelWidth = 278;
+inline constexpr int panelWidth = 296;
 
 /// The row of buttons at the bottom of a panel, in groups.
 class CommandRow {

@@ -57,12 +57,11 @@ void frmUnit::makeControls() {
 }
 
 void frmUnit::makeButtons() {
-    chkDefault_ = makeButton(idDefault, "chkDefault", "Use as default for new measurement tools");
-    chkDefault_->setControlType(1);
+    chkDefault_ = std::make_unique<CheckButton>(handle(), idDefault, "chkDefault");
+    chkDefault_->setCaption("Use as default for new measurement tools");
     startGroup(chkDefault_->handle());
     cmdOK_ = makeButton(IDOK, "cmdOK", "OK");
     cmdCancel_ = makeButton(IDCANCEL, "cmdCancel", "Cancel");
-    handlers_.push_back(chkDefault_->Click.subscribe([this] { toggleDefault(); }));
     handlers_.push_back(optLengthUnit_.Change.subscribe([this] { updateEnabled(); }));
 }
 
@@ -108,8 +107,7 @@ HWND frmUnit::firstFocus() const {
 }
 
 void frmUnit::show(const MeasureUnits& units) {
-    chkDefault_->setValue(false);
-    dressButton(*chkDefault_);
+    chkDefault_->setChecked(false);
     optAngleUnit_.select(units.AngleMode);
     optLengthUnit_.select(units.LengthMode);
     txnFactor_->setValue(units.LengthFactor);
@@ -120,19 +118,13 @@ void frmUnit::show(const MeasureUnits& units) {
 UnitChoice frmUnit::entered() const {
     return {
         {optAngleUnit_.selected(), optLengthUnit_.selected(), txnFactor_->Value(), cboUnit_.text()},
-        chkDefault_->Value()};
+        chkDefault_->checked()};
 }
 
 void frmUnit::updateEnabled() {
     const bool enabled = entered().hasRealUnit();
     txnFactor_->setEnabled(enabled);
     cboUnit_.setEnabled(enabled);
-}
-
-void frmUnit::toggleDefault() {
-    const bool on = !chkDefault_->Value();
-    chkDefault_->setValue(on);
-    dressButton(*chkDefault_, on);
 }
 
 void frmUnit::command(int id, int notification) {

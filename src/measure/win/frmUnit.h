@@ -4,6 +4,7 @@
 
 #include "measure/UnitChoice.h"
 #include "measure/ctlMeasure.h"
+#include "widgets/win/CheckButton.h"
 #include "widgets/win/ComboField.h"
 #include "widgets/win/GroupBox.h"
 #include "widgets/win/ModalDialog.h"
@@ -39,7 +40,6 @@ class frmUnit : public ModalDialog {
     void show(const MeasureUnits& units);
     [[nodiscard]] UnitChoice entered() const;
     void updateEnabled();
-    void toggleDefault();
 
     std::string title_;
     std::string decimalSeparator_;
@@ -48,7 +48,7 @@ class frmUnit : public ModalDialog {
     std::unique_ptr<TextBoxNumeric> txnFactor_;
     ComboField cboUnit_;
     OptionGroup optAngleUnit_;
-    std::unique_ptr<ZelvikButtonXP> chkDefault_;
+    std::unique_ptr<CheckButton> chkDefault_;
     std::unique_ptr<ZelvikButtonXP> cmdOK_;
     std::unique_ptr<ZelvikButtonXP> cmdCancel_;
     GroupBox fraLength_;

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "language/MlStringModule.h"
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/controlName.h"
 #include "platform/win/pixels.h"
@@ -83,12 +82,6 @@ PixelRect commandPlace(int number) {
     return {right - commandSize.width, at.page.bottom - commandSize.height, right, at.page.bottom};
 }
 
-void relabel(ZelvikButtonXP& button, int textId) {
-    if (const std::string text = MlString(textId, {}); !text.empty()) {
-        button.setCaption(text);
-    }
-}
-
 }  // namespace
 
 frmPatternSelect::frmPatternSelect() {
@@ -149,10 +142,10 @@ void frmPatternSelect::ApplyLanguage() {
     label(handle(), textCaption);
     label(lblPreview_.handle(), textPreview);
     for (int tab = 0; tab < patternSlots; ++tab) {
-        relabel(*btnTab_.at(static_cast<std::size_t>(tab)).button, textFirstTab + tab);
+        label(*btnTab_.at(static_cast<std::size_t>(tab)).button, textFirstTab + tab);
     }
-    relabel(*cmdOK_, textOK);
-    relabel(*cmdCancel_, textCancel);
+    label(*cmdOK_, textOK);
+    label(*cmdCancel_, textCancel);
     PatternSelect_->ApplyLanguage();
 }
 

@@ -19,6 +19,10 @@ WindowId windowAt(PixelPoint point) {
     return WindowFromPoint({point.x, point.y});
 }
 
+void placeBehind(const ZelvikButtonXP& button, HWND before) {
+    SetWindowPos(button.handle(), before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
 }  // namespace
 
 bool ButtonGrowth::hasWork(PixelPoint mouse, int dpi) const {
@@ -64,11 +68,17 @@ void ButtonGrowth::reset(int dpi) {
 
 void ButtonGrowth::apply(const GrowthSteps& steps, int dpi) {
     for (const std::size_t index : steps.shrink) {
-        resize(entries_[index], false, dpi);
+        Entry& entry = entries_[index];
+        placeBehind(*entry.button, entry.before != nullptr ? entry.before : HWND_TOP);
+        resize(entry, false, dpi);
     }
     if (steps.grow) {
-        BringWindowToTop(entries_[*steps.grow].button->handle());
-        resize(entries_[*steps.grow], true, dpi);
+        Entry& entry = entries_[*steps.grow];
+        if (!entry.grown) {
+            entry.before = GetWindow(entry.button->handle(), GW_HWNDPREV);
+        }
+        placeBehind(*entry.button, HWND_TOP);
+        resize(entry, true, dpi);
     }
 }
 

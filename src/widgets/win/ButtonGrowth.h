@@ -25,6 +25,9 @@ class ButtonGrowth {
         ZelvikButtonXP* button;
         bool grown = false;
         WindowId grownOver = nullptr;
+        /// The control in front of it at rest, which it goes back behind: the Tab key follows that
+        /// order.
+        HWND before = nullptr;
     };
 
     [[nodiscard]] bool hasWork(PixelPoint mouse, int dpi) const;

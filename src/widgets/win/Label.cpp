@@ -9,6 +9,7 @@
 #include "platform/win/pixels.h"
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
+#include "widgets/win/controlFontSize.h"
 
 namespace ormala {
 
@@ -35,7 +36,12 @@ void Label::setText(std::string_view text) {
 
 void Label::setBold(bool bold) {
     bold_ = bold;
-    change(font_, sharedControlFont(dpi_, bold ? FontLook::bold : FontLook::normal));
+    change(font_, sharedControlFont(dpi_, bold ? FontLook::bold : FontLook::normal, points_));
+}
+
+void Label::setFontSize(int points) {
+    points_ = points;
+    setBold(bold_);
 }
 
 void Label::setDpi(int dpi) {
@@ -97,6 +103,11 @@ std::optional<LRESULT> Label::onMessage(UINT message, WPARAM wParam, LPARAM lPar
         case WM_DPICHANGED_AFTERPARENT:
             setDpi(static_cast<int>(GetDpiForWindow(handle())));
             return 0;
+        case controlFontSizeMessage:
+            setFontSize(static_cast<int>(wParam));
+            return 0;
+        case WM_GETFONT:
+            return reinterpret_cast<LRESULT>(font());
         case WM_GETOBJECT:
             return answerAccessible(handle(), wParam, lParam);
         case accessibleFactsMessage:

@@ -28,6 +28,8 @@ class Label : public Window {
     void setBackColor(Color color) { change(backColor_, color); }
     void setAlignment(Alignment alignment) { change(alignment_, alignment); }
     void setBold(bool bold);
+    /// In points; at first 8.
+    void setFontSize(int points);
     /// The ground is a gradient from top to bottom, which continues that of a `GradShape` behind
     /// it of the same height.
     void setGradient(Color top, Color bottom);
@@ -57,6 +59,7 @@ class Label : public Window {
     std::optional<GradientDesign> gradient_;
     Alignment alignment_ = Alignment::left;
     bool bold_ = false;
+    int points_ = 8;
     int dpi_ = 96;
     SharedFont font_;
     HoverTip tip_;

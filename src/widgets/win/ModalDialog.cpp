@@ -8,7 +8,6 @@
 #include "platform/win/fonts.h"
 #include "platform/win/monitors.h"
 #include "platform/win/regions.h"
-#include "platform/win/text.h"
 #include "widgets/dialogPlace.h"
 #include "widgets/dpi.h"
 #include "widgets/win/OptionGroup.h"
@@ -90,18 +89,6 @@ void ModalDialog::place(HWND child, const PixelRect& designed) const {
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void ModalDialog::label(HWND window, int textId) {
-    if (const std::string text = MlString(textId, ""); !text.empty()) {
-        SetWindowTextW(window, wide(text).c_str());
-    }
-}
-
-void ModalDialog::label(ZelvikButtonXP& button, int textId) {
-    if (const std::string text = MlString(textId, ""); !text.empty()) {
-        button.setCaption(text);
-    }
-}
-
 void ModalDialog::place(ZelvikButtonXP& button, const PixelRect& designed) const {
     button.setDpi(dpi_);
     button.place(scaledToDpi(designed, dpi_));
@@ -117,10 +104,6 @@ std::unique_ptr<ZelvikButtonXP> ModalDialog::makeButton(int id, std::string_view
     }
     buttons_.push_back(id);
     return button;
-}
-
-void ModalDialog::startGroup(HWND child) {
-    SetWindowLongPtrW(child, GWL_STYLE, GetWindowLongPtrW(child, GWL_STYLE) | WS_GROUP);
 }
 
 PixelSize ModalDialog::outerSize() const {
@@ -214,7 +197,7 @@ void ModalDialog::leave() {
 int ModalDialog::defaultButton() const {
     constexpr LRESULT pushButton = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
     const HWND focus = GetFocus();
-    const bool isButton = focus != nullptr && GetParent(focus) == handle() &&
+    const bool isButton = focus != nullptr && IsChild(handle(), focus) != FALSE &&
                           (SendMessageW(focus, WM_GETDLGCODE, 0, 0) & pushButton) != 0;
     return isButton ? GetDlgCtrlID(focus) : IDOK;
 }

@@ -11,6 +11,7 @@
 #include "platform/win/Window.h"
 #include "scene/PixelRect.h"
 #include "widgets/win/ZelvikButtonXP.h"
+#include "widgets/win/labeling.h"
 
 namespace ormala {
 
@@ -53,11 +54,6 @@ class ModalDialog : public Window {
     /// A button in the colours of the dialogs. IDOK and IDCANCEL leave the dialog.
     std::unique_ptr<ZelvikButtonXP> makeButton(int id, std::string_view name,
                                                std::string_view caption);
-    /// Arrow keys do not go from the controls made before to this one.
-    static void startGroup(HWND child);
-    /// Gives a window the text of that number, or leaves it its own where the language has none.
-    static void label(HWND window, int textId);
-    static void label(ZelvikButtonXP& button, int textId);
 
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 

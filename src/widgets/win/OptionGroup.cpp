@@ -19,10 +19,11 @@ void setStyleBit(HWND window, LONG_PTR bit, bool on) {
 }  // namespace
 
 void OptionGroup::create(HWND parent, int firstId, std::string_view name,
-                         const std::vector<std::string>& captions) {
+                         const std::vector<std::string>& captions, int firstNumber) {
     for (const std::string& caption : captions) {
-        const int index = static_cast<int>(buttons_.size());
-        const std::string ownName = std::string(name) + "(" + std::to_string(index) + ")";
+        const int index = size();
+        const std::string ownName =
+            std::string(name) + "(" + std::to_string(firstNumber + index) + ")";
         buttons_.push_back(std::make_unique<ZelvikButtonXP>(parent, firstId + index, ownName));
         ZelvikButtonXP& button = *buttons_.back();
         button.setCaption(caption);
@@ -30,18 +31,23 @@ void OptionGroup::create(HWND parent, int firstId, std::string_view name,
         dressButton(button);
         setStyleBit(button.handle(), WS_GROUP, index == 0);
         choosing_.push_back(button.Click.subscribe([this, index] { choose(index); }));
-        choosing_.push_back(button.gotFocus.subscribe([this, index] { choose(index); }));
+        choosing_.push_back(button.gotFocus.subscribe([this, index] {
+            if (hasChoice()) {
+                choose(index);
+            }
+        }));
     }
 }
 
 void OptionGroup::select(int index) {
     selected_ = index;
-    for (int i = 0; i < static_cast<int>(buttons_.size()); ++i) {
+    const int reached = hasChoice() ? index : 0;
+    for (int i = 0; i < size(); ++i) {
         ZelvikButtonXP& button = (*this)[i];
         const bool on = i == index;
         button.setValue(on);
         dressButton(button, on);
-        setStyleBit(button.handle(), WS_TABSTOP, on);
+        setStyleBit(button.handle(), WS_TABSTOP, i == reached);
     }
 }
 
@@ -53,8 +59,11 @@ void OptionGroup::choose(int index) {
 }
 
 HWND OptionGroup::focusTarget() const {
-    const auto index = static_cast<std::size_t>(selected_);
-    return buttons_[index < buttons_.size() ? index : 0]->handle();
+    return buttons_[static_cast<std::size_t>(hasChoice() ? selected_ : 0)]->handle();
+}
+
+void startGroup(HWND child) {
+    setStyleBit(child, WS_GROUP, true);
 }
 
 void dressButton(ZelvikButtonXP& button, bool on) {

@@ -7,6 +7,7 @@
 #include "scene/Input.h"
 #include "widgets/dpi.h"
 #include "widgets/linePicture.h"
+#include "widgets/win/controlFontSize.h"
 
 namespace ormala {
 
@@ -53,6 +54,8 @@ PanelWindow::PanelWindow(const wchar_t* className, std::string_view name, const 
     window.id = ports.id;
     create(window);
     setControlName(handle(), std::string(name) + "(" + std::to_string(ports.id) + ")");
+    subscriptions_.push_back(ports.fontSizeChange.subscribe(
+        [this](int points) { SetFontSizeOfControls(handle(), points); }));
     int id = 1;
     for (const PanelControl& control : design_.controls) {
         makeControl(control, id++);

@@ -46,6 +46,8 @@ class PanelWindow : public Window, protected PanelView {
         const DayClock& clock;
         /// The shared clock of held buttons, 40 ms.
         Event<>& tmrFast;
+        /// The size of type of all windows of controls, when that changes.
+        Event<int>& fontSizeChange;
     };
 
     /// Timers of derived panels have this number and higher ones.

@@ -5,8 +5,6 @@
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
 #include "scene/dpi.h"
-#include "widgets/buttonShape.h"
-#include "widgets/win/buttonPainter.h"
 
 namespace ormala {
 
@@ -160,13 +158,21 @@ const PixelImage& ZelvikButtonXP::currentPicture() {
     return shown.image;
 }
 
+ButtonFaceLook ZelvikButtonXP::look() {
+    return {design_, model_.state(), size(), dpi_, font_->get(), currentPicture()};
+}
+
+ButtonContent ZelvikButtonXP::content() {
+    const WindowContext context(handle());
+    return layOutButton(context.get(), look());
+}
+
 LRESULT ZelvikButtonXP::paint() {
     const PaintScope scope(handle());
     const PixelSize whole = size();
     BackBuffer buffer;
     if (buffer.resize(whole) && buffer.context() != nullptr) {
-        paintButton(buffer.context(),
-                    {design_, model_.state(), whole, dpi_, font_->get(), currentPicture()});
+        paintButton(buffer.context(), look());
         BitBlt(scope.context(), 0, 0, whole.width, whole.height, buffer.context(), 0, 0, SRCCOPY);
     }
     return 0;

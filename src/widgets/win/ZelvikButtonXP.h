@@ -13,6 +13,7 @@
 #include "widgets/ButtonDesign.h"
 #include "widgets/ButtonModel.h"
 #include "widgets/buttonShape.h"
+#include "widgets/win/buttonPainter.h"
 
 namespace ormala {
 
@@ -68,6 +69,9 @@ class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface
     /// In pixels at 96 DPI.
     void setPictureSize(int width, int height);
 
+    /// Where picture and caption stand in the button; empty for what it does not have.
+    [[nodiscard]] ButtonContent content();
+
     /// Clicks if that is the access key of the caption, in either case; false if it isn't, or if
     /// the button is disabled.
     bool pressAccessKey(wchar_t key);
@@ -99,6 +103,7 @@ class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface
     void showText();
     void applyShape();
     LRESULT paint();
+    [[nodiscard]] ButtonFaceLook look();
     const PixelImage& currentPicture();
     void keepLeastSize(LPARAM lParam) const;
     LRESULT onSize();

@@ -5,6 +5,7 @@
 #include "scene/dpi.h"
 #include "widgets/buttonShape.h"
 #include "widgets/win/ZelvikButtonXP.h"
+#include "widgets/win/controlFontSize.h"
 
 namespace ormala {
 
@@ -185,6 +186,11 @@ std::optional<LRESULT> ZelvikButtonXP::askedMessage(UINT message, WPARAM wParam,
             if (Enabled()) {
                 model_.clickOnce();
             }
+            return 0;
+        case WM_GETFONT:
+            return reinterpret_cast<LRESULT>(font_->get());
+        case controlFontSizeMessage:
+            setFont(fontLook_, static_cast<int>(wParam));
             return 0;
         case WM_GETOBJECT:
             return answerAccessible(handle(), wParam, lParam);

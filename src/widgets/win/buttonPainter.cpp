@@ -7,7 +7,6 @@
 #include "scene/dpi.h"
 #include "scene/pixelImages.h"
 #include "widgets/buttonFace.h"
-#include "widgets/buttonShape.h"
 
 namespace ormala {
 
@@ -56,14 +55,19 @@ void paintFocusRectangle(HDC context, const ButtonFaceLook& look) {
 
 }  // namespace
 
+ButtonContent layOutButton(HDC context, const ButtonFaceLook& look) {
+    const Selected font(context, look.font);
+    return LayoutContent(look.design, look.size, look.picture.size, look.dpi,
+                         [context, &look](int width) {
+                             return measureCaption(context, wide(look.design.Caption), width);
+                         });
+}
+
 void paintButton(HDC context, const ButtonFaceLook& look) {
     const Selected font(context, look.font);
     SetBkMode(context, TRANSPARENT);
     const ButtonDesign& design = look.design;
-    const ButtonContent content = LayoutContent(
-        design, look.size, look.picture.size, look.dpi, [context, &design](int width) {
-            return measureCaption(context, wide(design.Caption), width);
-        });
+    const ButtonContent content = layOutButton(context, look);
     PixelImage face = buttonFace(design, look.state, look.size, look.dpi, &systemColor);
     const int shift = pictureShift(design, look.state, look.dpi);
     blendOnto(face, pictureInState(look.picture, design, look.state),

@@ -4,6 +4,7 @@
 #include "scene/PixelImage.h"
 #include "widgets/ButtonDesign.h"
 #include "widgets/ButtonModel.h"
+#include "widgets/buttonShape.h"
 
 namespace ormala {
 
@@ -17,6 +18,9 @@ struct ButtonFaceLook {
     /// Empty for none.
     const PixelImage& picture;
 };
+
+/// Where picture and caption stand.
+ButtonContent layOutButton(HDC context, const ButtonFaceLook& look);
 
 /// Paints the whole button, its origin at that of the device context.
 void paintButton(HDC context, const ButtonFaceLook& look);

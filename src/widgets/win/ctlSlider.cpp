@@ -8,10 +8,10 @@
 #include "platform/win/Accessible.h"
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/controlName.h"
-#include "platform/win/fonts.h"
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
 #include "widgets/dpi.h"
+#include "widgets/win/controlFontSize.h"
 #include "widgets/win/darkColors.h"
 
 namespace ormala {
@@ -92,25 +92,38 @@ void ctlSlider::SetTooltip(const std::string& text) {
 }
 
 void ctlSlider::setDpi(int dpi) {
-    if (dpi_ != dpi) {
-        dpi_ = dpi;
-        font_ = controlFont(dpi, FontLook::normal);
-    }
+    dpi_ = dpi;
+    setFontSize(points_);
+}
+
+void ctlSlider::setFontSize(int points) {
+    points_ = points;
+    font_ = sharedControlFont(dpi_, FontLook::normal, points);
     arrange();
 }
 
 void ctlSlider::arrange() {
     const RECT client = clientRectangle();
     const WindowContext context(handle());
-    const Selected font(context.get(), font_.get());
+    const Selected font(context.get(), font_->get());
     TEXTMETRICW metrics{};
     GetTextMetricsW(context.get(), &metrics);
-    const int captionWidth = std::max(widthOf(context.get(), model_.captionWith(model_.Min())),
-                                      widthOf(context.get(), model_.captionWith(model_.Max())));
     model_.arrange({{static_cast<int>(client.right), static_cast<int>(client.bottom)},
                     dpi_,
                     static_cast<int>(metrics.tmHeight),
-                    captionWidth});
+                    std::max(captionWidth(), captionRoom_)});
+}
+
+int ctlSlider::captionWidth() const {
+    const WindowContext context(handle());
+    const Selected font(context.get(), font_->get());
+    return std::max(widthOf(context.get(), model_.captionWith(model_.Min())),
+                    widthOf(context.get(), model_.captionWith(model_.Max())));
+}
+
+void ctlSlider::setCaptionRoom(int width) {
+    captionRoom_ = width;
+    arrange();
 }
 
 /// The window text and what a screen reader hears follow what is painted.
@@ -128,7 +141,7 @@ void ctlSlider::refresh() {
 
 void ctlSlider::paintTexts(HDC context) const {
     const SliderLayout& layout = model_.layout();
-    const Selected font(context, font_.get());
+    const Selected font(context, font_->get());
     SetBkMode(context, TRANSPARENT);
     SetTextColor(context, colorRef(Enabled() ? dark::text : dark::dimText));
     const bool low = layout.lblMin.empty();
@@ -277,6 +290,11 @@ std::optional<LRESULT> ctlSlider::onMessage(UINT message, WPARAM wParam, LPARAM 
         case WM_DPICHANGED_AFTERPARENT:
             setDpi(static_cast<int>(GetDpiForWindow(handle())));
             return 0;
+        case controlFontSizeMessage:
+            setFontSize(static_cast<int>(wParam));
+            return 0;
+        case WM_GETFONT:
+            return reinterpret_cast<LRESULT>(font_->get());
         case WM_GETOBJECT:
             return answerAccessible(handle(), wParam, lParam);
         case accessibleFactsMessage:

@@ -7,6 +7,7 @@
 #include "platform/win/BackBuffer.h"
 #include "platform/win/TipWindow.h"
 #include "platform/win/Window.h"
+#include "platform/win/fonts.h"
 #include "widgets/SliderModel.h"
 
 namespace ormala {
@@ -30,6 +31,11 @@ class ctlSlider : public Window {
     void setStep(float step);
     [[nodiscard]] const std::string& Caption() const { return model_.Caption(); }
     void setCaption(const std::string& caption);
+    /// Of the caption at its longest value, in pixels.
+    [[nodiscard]] int captionWidth() const;
+    /// Leaves a caption in front of the track at least that room, so that the tracks of several
+    /// sliders begin at one place.
+    void setCaptionRoom(int width);
     [[nodiscard]] const std::string& MinText() const { return minText_; }
     void setMinText(const std::string& text);
     [[nodiscard]] const std::string& MaxText() const { return maxText_; }
@@ -42,6 +48,8 @@ class ctlSlider : public Window {
     void SetTooltip(const std::string& text);
     /// The resolution of the screen that it is drawn for; at first that of its window.
     void setDpi(int dpi);
+    /// In points; at first 8.
+    void setFontSize(int points);
     [[nodiscard]] const SliderLayout& layout() const { return model_.layout(); }
     [[nodiscard]] PixelRect imgSlide() const { return model_.imgSlide(); }
 
@@ -68,12 +76,14 @@ class ctlSlider : public Window {
     SliderModel model_;
     std::string minText_ = "Min";
     std::string maxText_ = "Max";
-    FontHandle font_;
+    SharedFont font_;
     BackBuffer buffer_;
     std::optional<TipWindow> tip_;
     /// The value that screen readers were told of last.
     std::string toldValue_;
     int dpi_ = 0;
+    int points_ = 8;
+    int captionRoom_ = 0;
     bool hover_ = false;
     Subscription showing_;
     Subscription following_;
