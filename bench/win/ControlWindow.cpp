@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Figures.h"
+#include "ProcessorTime.h"
 #include "app/win/frmSettings.h"
 #include "benchmarks.h"
 #include "e2e/support/AppDataFolder.h"
@@ -157,32 +158,6 @@ void turnWheel(ControlWindowStage& stage, const std::string& what) {
     }
     report("a step of the wheel through 33 " + what, median(times), "ms",
            {8, "what the glide allows it", 1});
-}
-
-/// Of this process: Wine does not know that of another one.
-double processorTime() {
-    FILETIME made{};
-    FILETIME ended{};
-    FILETIME kernel{};
-    FILETIME user{};
-    GetProcessTimes(GetCurrentProcess(), &made, &ended, &kernel, &user);
-    const auto ticks = [](const FILETIME& time) {
-        return static_cast<double>(time.dwHighDateTime) * 4294967296.0 + time.dwLowDateTime;
-    };
-    return (ticks(kernel) + ticks(user)) / 10000;
-}
-
-/// Handles messages as the program does, without polling.
-void idleFor(UINT milliseconds) {
-    const UINT_PTR end = SetTimer(nullptr, 0, milliseconds, nullptr);
-    MSG message{};
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        if (message.hwnd == nullptr && message.message == WM_TIMER && message.wParam == end) {
-            break;
-        }
-        DispatchMessageW(&message);
-    }
-    KillTimer(nullptr, end);
 }
 
 }  // namespace

@@ -11,6 +11,12 @@ void dragStep(PixelSize sheetSize);
 /// Moves across the sheet of stencils on which no grip changes.
 void hoverMoves(PixelSize sheetSize);
 
+/// A repaint of the background grid in steps of 5 pixels, beside one without it.
+void gridRepaint();
+
+/// A move of the cross hair, which repaints nothing of the worksheet.
+void crossHairMoves();
+
 /// Saving and loading 33 tools of a kind, without repainting.
 void toolFiles();
 
@@ -28,5 +34,12 @@ void idlePanels();
 
 /// Processor time of the program while nothing happens.
 void idle();
+
+/// A frame of the magnifier in several sizes and factors, the rate of frames, and its processor
+/// time while nothing changes.
+void lens();
+
+/// A hundred thousand frames of the magnifier: what they leave of memory and handles.
+void lensSoak();
 
 }  // namespace ormala::bench

@@ -16,6 +16,12 @@ int main(int argc, char** argv) {
             bench::hoverMoves(size);
         }
     }
+    if (wanted("grid")) {
+        bench::gridRepaint();
+    }
+    if (wanted("crosshair")) {
+        bench::crossHairMoves();
+    }
     if (wanted("files")) {
         bench::toolFiles();
     }
@@ -31,6 +37,13 @@ int main(int argc, char** argv) {
     if (wanted("idle")) {
         bench::idlePanels();
         bench::idle();
+    }
+    if (wanted("lens")) {
+        bench::lens();
+    }
+    // Takes minutes, and only when it is asked for.
+    if (argc > 1 && wanted("lens-soak")) {
+        bench::lensSoak();
     }
     return 0;
 }

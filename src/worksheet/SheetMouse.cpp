@@ -31,6 +31,7 @@ void SheetMouse::BroadcastMouseMove(const MouseInput& input, const MouseSource& 
             item->control().GlobalMouseMove(input, source);
         }
     }
+    broadcast.raise();
 }
 
 void SheetMouse::press(const MouseInput& input) {
@@ -53,6 +54,8 @@ void SheetMouse::move(const MouseInput& input) {
     BroadcastMouseMove(input, source);
     if (item != nullptr) {
         item->mouseMove(input, source);
+    } else {
+        backgroundMove.raise(input);
     }
     if (input.button == mouseButton::none) {
         // Also after a release that fell where no event came from.
@@ -67,6 +70,7 @@ void SheetMouse::release(const MouseInput& input, int stillHeld) {
     }
     if (item != nullptr) {
         item->mouseUp(input, sourceOf(item));
+        toolUp.raise();
     } else {
         backgroundUp.raise(input);
     }
@@ -77,6 +81,9 @@ void SheetMouse::lost() {
     letGo();
     if (item != nullptr) {
         item->mouseUp({}, sourceOf(item));
+        toolUp.raise();
+    } else {
+        backgroundLost.raise();
     }
 }
 

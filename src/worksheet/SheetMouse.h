@@ -24,9 +24,16 @@ class SheetMouse {
 
     [[nodiscard]] bool holding() const { return holder_ != nullptr || background_; }
 
-    /// Presses and releases that no tool took.
+    /// What no tool took.
     Event<const MouseInput&> backgroundDown;
+    Event<const MouseInput&> backgroundMove;
     Event<const MouseInput&> backgroundUp;
+    /// The mouse was taken away from the background.
+    Event<> backgroundLost;
+    /// A tool has handled a release.
+    Event<> toolUp;
+    /// All tools have heard where the mouse is.
+    Event<> broadcast;
 
   private:
     [[nodiscard]] OverlayItem* itemAt(const MouseInput& input) const;

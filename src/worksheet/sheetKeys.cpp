@@ -8,6 +8,8 @@ SheetCommand sheetCommandOf(int key, int shift) {
     const bool shiftOnly = shift == modifier::shift;
     const bool ctrlOnly = shift == modifier::ctrl;
     switch (key) {
+        case key::menu:
+            return SheetCommand::contextMenu;
         case key::f1:
             return SheetCommand::help;
         case key::f2:
@@ -16,6 +18,8 @@ SheetCommand sheetCommandOf(int key, int shift) {
             return shiftOnly ? SheetCommand::pauseAndMinimise : SheetCommand::pauseMode;
         case key::f4:
             return shiftOnly ? SheetCommand::templateAndMinimise : SheetCommand::templateMode;
+        case key::f12:
+            return SheetCommand::options;
         case key::tab:
             return shiftOnly ? SheetCommand::previousTool : SheetCommand::nextTool;
         case key::z:

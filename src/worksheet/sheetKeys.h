@@ -4,12 +4,14 @@ namespace ormala {
 
 enum class SheetCommand {
     none,
+    contextMenu,
     help,
     editMode,
     pauseMode,
     pauseAndMinimise,
     templateMode,
     templateAndMinimise,
+    options,
     nextTool,
     previousTool,
     undo,

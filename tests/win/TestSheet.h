@@ -34,11 +34,22 @@ class NotedCommands : public WorksheetCommands {
     void ShowHelp() override { ++helps; }
     void stepHistory(OverlayItem& item, bool back) override { steps.emplace_back(&item, back); }
     void raiseControlWindowAt(POINT screen) override { raisedAt.push_back(screen); }
+    bool raiseLens(bool onlySticked) override {
+        lensRaises.push_back(onlySticked);
+        return lensShown;
+    }
+    void ShowContextMenu(POINT screen) override { menusAt.push_back(screen); }
+    void ShowOptions(int page) override { optionPages.push_back(page); }
     void closeProgram() override { ++closes; }
 
     std::vector<std::pair<int, bool>> modes;
     std::vector<std::pair<OverlayItem*, bool>> steps;
     std::vector<POINT> raisedAt;
+    std::vector<POINT> menusAt;
+    std::vector<int> optionPages;
+    /// The magnifier, asked to be raised.
+    bool lensShown = false;
+    std::vector<bool> lensRaises;
     int helps = 0;
     int closes = 0;
 };

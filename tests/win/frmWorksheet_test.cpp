@@ -50,6 +50,16 @@ TEST(frmWorksheet, BackgroundVanishesAtFullOpacityToo) {
     EXPECT_NE(extendedStyle(window) & WS_EX_TRANSPARENT, 0U);
 }
 
+TEST(frmWorksheet, TakesTheFocusOnlyWhileItTakesTheMouse) {
+    TestSheet sheet(sheetSize);
+    const HWND window = sheet.window().handle();
+    EXPECT_EQ(extendedStyle(window) & WS_EX_NOACTIVATE, 0U);
+    sheet.window().setClickable(false);
+    EXPECT_NE(extendedStyle(window) & WS_EX_NOACTIVATE, 0U);
+    sheet.window().setClickable(true);
+    EXPECT_EQ(extendedStyle(window) & WS_EX_NOACTIVATE, 0U);
+}
+
 TEST(frmWorksheet, ToolOfTheBackgroundColorIsKeyedOutWithIt) {
     TestSheet sheet(sheetSize);
     sheet.addStencil({100, 100, 300, 250}, 0, rgb(79, 79, 79));
@@ -147,6 +157,17 @@ TEST(frmWorksheet, LossOfTheMouseEndsTheDragAsOneStep) {
     EXPECT_TRUE(stencil.History().UndoPossible());
     sheet.mouse(WM_MOUSEMOVE, 0, 300, 300);
     EXPECT_EQ(stencil.RectBound(), (Rect{130, 100, 330, 250}));
+}
+
+TEST(frmWorksheet, FurtherButtonDoesNotEndTheDrag) {
+    TestSheet sheet(sheetSize);
+    ctlRatioGrid& stencil = sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
+    sheet.mouse(WM_MOUSEMOVE, 0, 200, 175);
+    sheet.mouse(WM_LBUTTONDOWN, MK_LBUTTON, 200, 175);
+    sheet.mouse(WM_MOUSEMOVE, MK_LBUTTON, 205, 175);
+    sheet.mouse(WM_MBUTTONDOWN, MK_LBUTTON | MK_MBUTTON, 205, 175);
+    EXPECT_TRUE(stencil.grips().active().has_value());
+    EXPECT_EQ(GetCapture(), sheet.window().handle());
 }
 
 TEST(frmWorksheet, AltDoesNotOpenAMenu) {

@@ -267,5 +267,65 @@ TEST_F(SheetMouseTest, OutsideTheToolInADragStillHoldsTheMouse) {
     EXPECT_EQ(right_.source.holder, &left_.control());
 }
 
+/// What the worksheet hears of the mouse besides presses and releases of the background.
+class SheetMouseEventsTest : public SheetMouseTest {
+  protected:
+    int moves_ = 0;
+    int losses_ = 0;
+    int toolUps_ = 0;
+    int broadcasts_ = 0;
+
+  private:
+    Subscription move_ = mouse_.backgroundMove.subscribe([this](const MouseInput&) { ++moves_; });
+    Subscription lost_ = mouse_.backgroundLost.subscribe([this] { ++losses_; });
+    Subscription toolUp_ = mouse_.toolUp.subscribe([this] { ++toolUps_; });
+    Subscription broadcast_ = mouse_.broadcast.subscribe([this] { ++broadcasts_; });
+};
+
+TEST_F(SheetMouseEventsTest, AMoveOverTheBackgroundIsTheBackgrounds) {
+    mouse_.move(at(mouseButton::none, 250, 50));
+    EXPECT_EQ(moves_, 1);
+    mouse_.move(at(mouseButton::none, 25, 50));
+    EXPECT_EQ(moves_, 1);
+}
+
+TEST_F(SheetMouseEventsTest, TheHeldBackgroundHearsMovesOverTools) {
+    mouse_.press(at(mouseButton::left, 250, 50));
+    mouse_.move(at(mouseButton::left, 25, 50));
+    EXPECT_EQ(moves_, 1);
+}
+
+TEST_F(SheetMouseEventsTest, MovesOfAHeldToolAreNotTheBackgrounds) {
+    mouse_.press(at(mouseButton::left, 25, 50));
+    mouse_.move(at(mouseButton::left, 250, 50));
+    EXPECT_EQ(moves_, 0);
+}
+
+TEST_F(SheetMouseEventsTest, EveryBroadcastIsToldOnceAllToolsHaveHeardIt) {
+    mouse_.move(at(mouseButton::none, 25, 50));
+    mouse_.move(at(mouseButton::none, 250, 50));
+    mouse_.outside(-30, 50, false);
+    EXPECT_EQ(broadcasts_, 3);
+}
+
+TEST_F(SheetMouseEventsTest, AReleaseOnAToolIsTold) {
+    mouse_.press(at(mouseButton::left, 25, 50));
+    mouse_.release(at(mouseButton::left, 25, 50), 0);
+    EXPECT_EQ(toolUps_, 1);
+    mouse_.press(at(mouseButton::left, 250, 50));
+    mouse_.release(at(mouseButton::left, 250, 50), 0);
+    EXPECT_EQ(toolUps_, 1);
+}
+
+TEST_F(SheetMouseEventsTest, ALostCaptureOfTheBackgroundIsTold) {
+    mouse_.press(at(mouseButton::left, 250, 50));
+    mouse_.lost();
+    EXPECT_EQ(losses_, 1);
+    mouse_.press(at(mouseButton::left, 25, 50));
+    mouse_.lost();
+    EXPECT_EQ(losses_, 1);
+    EXPECT_EQ(toolUps_, 1);
+}
+
 }  // namespace
 }  // namespace ormala

@@ -34,6 +34,13 @@ TEST(SheetKeys, ModifiersDoNotMatterToHelpAndEditMode) {
     }
 }
 
+TEST(SheetKeys, MenuKeyAndF12ShowMenuAndOptionsWithAnyModifier) {
+    for (int shift = 0; shift < 8; ++shift) {
+        EXPECT_EQ(sheetCommandOf(key::menu, shift), SheetCommand::contextMenu) << shift;
+        EXPECT_EQ(sheetCommandOf(key::f12, shift), SheetCommand::options) << shift;
+    }
+}
+
 TEST(SheetKeys, TabGoesForthAndWithShiftBack) {
     EXPECT_EQ(sheetCommandOf(key::tab, 0), SheetCommand::nextTool);
     EXPECT_EQ(sheetCommandOf(key::tab, modifier::shift), SheetCommand::previousTool);

@@ -1,25 +1,55 @@
 #include "worksheet/win/SheetPainter.h"
 
+#include <algorithm>
+#include <cstdint>
+
+#include "platform/win/pixels.h"
 #include "platform/win/regions.h"
 
 namespace ormala {
 
+namespace {
+
+/// In the order of a bitmap's bytes.
+std::uint32_t bitmapPixel(COLORREF color) {
+    return RGB(GetBValue(color), GetGValue(color), GetRValue(color));
+}
+
+}  // namespace
+
 void SheetPainter::resize(PixelSize size) {
-    if (buffered_ && size == rest_.size()) {
+    if (buffered_ && size == size_) {
         return;
     }
+    size_ = size;
     buffered_ = rest_.resize(size) && shown_.resize(size);
+    makeGridRows();
     allChanged();
 }
 
 void SheetPainter::setBackground(COLORREF color) {
     background_ = color;
+    makeGridRows();
     allChanged();
 }
 
+void SheetPainter::setGrid(const BackgroundGrid& grid) {
+    grid_ = grid;
+    makeGridRows();
+    allChanged();
+}
+
+void SheetPainter::makeGridRows() {
+    gridRows_.reset();
+    if (GridRows::shows(grid_)) {
+        gridRows_.emplace(
+            grid_, size_,
+            GridRows::Pixels{bitmapPixel(background_), bitmapPixel(colorRef(grid_.color))});
+    }
+}
+
 void SheetPainter::allChanged() {
-    const PixelSize size = rest_.size();
-    restDirty_.reset(CreateRectRgn(0, 0, size.width, size.height));
+    restDirty_.reset(CreateRectRgn(0, 0, size_.width, size_.height));
 }
 
 void SheetPainter::restChanged(HRGN region) {
@@ -35,8 +65,28 @@ void SheetPainter::fill(HDC context, const PixelRect& area) const {
     FillRect(context, &rect, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
-void SheetPainter::drawAtRest(HDC context, const PixelRect& area) const {
-    fill(context, area);
+void SheetPainter::layGridInBuffer(HRGN region) const {
+    const PixelView rest = rest_.view();
+    const PixelRect all{0, 0, size_.width, size_.height};
+    for (const PixelRect& rect : rectsOf(region)) {
+        const PixelRect part = rect.intersected(all);
+        for (int y = part.top; y < part.bottom; ++y) {
+            const auto from = gridRows_->row(y).begin();
+            std::copy(from + part.left, from + part.right, rest.row(y) + part.left);
+        }
+    }
+}
+
+void SheetPainter::layGrid(HDC context, const PixelRect& area) const {
+    const PixelRect part = area.intersected({0, 0, size_.width, size_.height});
+    for (int y = part.top; y < part.bottom; ++y) {
+        copyRow(context, {part.left, y},
+                gridRows_->row(y).subspan(static_cast<std::size_t>(part.left),
+                                          static_cast<std::size_t>(part.width())));
+    }
+}
+
+void SheetPainter::drawToolsAtRest(HDC context, const PixelRect& area) const {
     const OverlayItem* front = sheet_.front();
     GdiCanvas canvas(context, area, fonts_);
     for (const OverlayItem* item : sheet_.zOrder()) {
@@ -47,19 +97,28 @@ void SheetPainter::drawAtRest(HDC context, const PixelRect& area) const {
 }
 
 void SheetPainter::drawFront(HDC context, const PixelRect& area) const {
+    GdiCanvas canvas(context, area, fonts_);
     const OverlayItem* front = sheet_.front();
     if (front != nullptr && front->footprint().meets(area)) {
-        GdiCanvas canvas(context, area, fonts_);
         front->draw(canvas);
     }
+    compass_.draw(canvas);
 }
 
 void SheetPainter::refreshRest() {
-    if (restDirty_) {
-        const RegionHandle dirty = std::move(restDirty_);
-        const ClipScope clip(rest_.context(), dirty.get());
-        drawAtRest(rest_.context(), boundsOf(dirty.get()));
+    if (!restDirty_) {
+        return;
     }
+    const RegionHandle dirty = std::move(restDirty_);
+    const PixelRect area = boundsOf(dirty.get());
+    if (gridRows_) {
+        layGridInBuffer(dirty.get());
+    }
+    const ClipScope clip(rest_.context(), dirty.get());
+    if (!gridRows_) {
+        fill(rest_.context(), area);
+    }
+    drawToolsAtRest(rest_.context(), area);
 }
 
 void SheetPainter::paintThroughBuffer(HDC context, HRGN region, const PixelRect& area) {
@@ -76,6 +135,16 @@ void SheetPainter::paintThroughBuffer(HDC context, HRGN region, const PixelRect&
            area.top, SRCCOPY);
 }
 
+void SheetPainter::paintDirectly(HDC context, const PixelRect& area) const {
+    if (gridRows_) {
+        layGrid(context, area);
+    } else {
+        fill(context, area);
+    }
+    drawToolsAtRest(context, area);
+    drawFront(context, area);
+}
+
 void SheetPainter::paint(HWND window) {
     const RegionHandle region = updateRegionOf(window);
     const PaintScope scope(window);
@@ -86,8 +155,7 @@ void SheetPainter::paint(HWND window) {
     if (buffered_) {
         paintThroughBuffer(scope.context(), region.get(), area);
     } else {
-        drawAtRest(scope.context(), area);
-        drawFront(scope.context(), area);
+        paintDirectly(scope.context(), area);
     }
 }
 

@@ -1,21 +1,28 @@
 #pragma once
 
+#include <optional>
+
 #include "platform/win/BackBuffer.h"
 #include "platform/win/GdiCanvas.h"
+#include "worksheet/CircleCompass.h"
+#include "worksheet/GridRows.h"
 #include "worksheet/Sheet.h"
 
 namespace ormala {
 
-/// Paints the worksheet in two layers: everything at rest (the background and all tools but the
-/// foremost) is kept in a bitmap, and the foremost tool is drawn over it, both within the changed
-/// region. So a drag costs one copy of that region and the drawing of one tool.
+/// Paints the worksheet in two layers: everything at rest (the background with its grid and all
+/// tools but the foremost) is kept in a bitmap, and the foremost tool and the compass are drawn
+/// over it, all within the changed region. So a drag costs one copy of that region and the drawing
+/// of one tool.
 class SheetPainter {
   public:
-    SheetPainter(const Sheet& sheet, const GdiFonts& fonts) : sheet_(sheet), fonts_(fonts) {}
+    SheetPainter(const Sheet& sheet, const CircleCompass& compass, const GdiFonts& fonts)
+        : sheet_(sheet), compass_(compass), fonts_(fonts) {}
 
     void resize(PixelSize size);
     void setBackground(COLORREF color);
     [[nodiscard]] COLORREF background() const { return background_; }
+    void setGrid(const BackgroundGrid& grid);
 
     /// The layer at rest is to be drawn anew in this region before it is shown the next time.
     void restChanged(HRGN region);
@@ -25,14 +32,23 @@ class SheetPainter {
   private:
     void allChanged();
     void refreshRest();
+    void makeGridRows();
     void fill(HDC context, const PixelRect& area) const;
-    void drawAtRest(HDC context, const PixelRect& area) const;
+    void layGridInBuffer(HRGN region) const;
+    void layGrid(HDC context, const PixelRect& area) const;
+    void drawToolsAtRest(HDC context, const PixelRect& area) const;
     void drawFront(HDC context, const PixelRect& area) const;
+    void paintDirectly(HDC context, const PixelRect& area) const;
     void paintThroughBuffer(HDC context, HRGN region, const PixelRect& area);
 
     const Sheet& sheet_;
+    const CircleCompass& compass_;
     const GdiFonts& fonts_;
     COLORREF background_ = 0;
+    BackgroundGrid grid_;
+    PixelSize size_;
+    /// None while no grid is to be seen.
+    std::optional<GridRows> gridRows_;
     BackBuffer rest_;
     BackBuffer shown_;
     /// Null if the layer at rest is up to date.

@@ -15,8 +15,8 @@ namespace {
 constexpr UINT_PTR tmrCrosshair = 1;
 constexpr UINT tmrCrosshairInterval = 20;
 
-/// Raises or moves a window without activating it and without touching its owner's place.
-constexpr UINT keepPlaceAndOwner = SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
+/// Seconds between two broadcasts of a mouse that is outside the worksheet.
+constexpr float outsideInterval = 0.1F;
 
 RECT primaryWorkArea() {
     RECT area{};
@@ -28,14 +28,6 @@ RECT primaryWorkArea() {
 RECT areaToFill(HWND window) {
     const MONITORINFO monitor = monitorAround(window);
     return (monitor.dwFlags & MONITORINFOF_PRIMARY) != 0 ? primaryWorkArea() : monitor.rcMonitor;
-}
-
-RegionHandle systemRegion(const DirtyRegion& region) {
-    if (region.dense()) {
-        const PixelRect bounds = region.bounds();
-        return regionOf({&bounds, 1});
-    }
-    return regionOf(region.rects());
 }
 
 int systemDpi() {
@@ -52,7 +44,9 @@ frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
       commands_(commands),
       sheet_(*this, *this, factory),
       mouse_(sheet_),
-      painter_(sheet_, fonts_) {
+      painter_(sheet_, compass_, fonts_),
+      outsidePolls_(outsideInterval),
+      crossHairMoves_(tmrCrosshairInterval / 1000.0F) {
     WindowDesign design;
     design.className = L"frmWorksheet";
     // Some window managers of other systems leave a window without it to itself, and it has then no
@@ -62,17 +56,33 @@ frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
     design.place = primaryWorkArea();
     create(design);
     tip_ = std::make_unique<TipWindow>(handle());
-    backgroundDown_ =
-        mouse_.backgroundDown.subscribe([this](const MouseInput&) { onBackgroundDown(); });
-    backgroundUp_ = mouse_.backgroundUp.subscribe([this](const MouseInput&) { onBackgroundUp(); });
-    withdrawn_ = sheet_.withdrawn.subscribe([this](const OverlayItem& item) { showTip(item, 0); });
+    CrossHairX_ = std::make_unique<frmCrossHair>(handle(), "CrossHairX");
+    CrossHairY_ = std::make_unique<frmCrossHair>(handle(), "CrossHairY");
+    subscribeToMouse();
     SetTimer(handle(), tmrCrosshair, tmrCrosshairInterval, nullptr);
 }
 
 frmWorksheet::~frmWorksheet() {
     KillTimer(handle(), tmrCrosshair);
+    CrossHairX_.reset();
+    CrossHairY_.reset();
     tip_.reset();
     destroy();
+}
+
+void frmWorksheet::subscribeToMouse() {
+    using Input = const MouseInput&;
+    subscriptions_.push_back(
+        mouse_.backgroundDown.subscribe([this](Input input) { onBackgroundDown(input); }));
+    subscriptions_.push_back(
+        mouse_.backgroundMove.subscribe([this](Input input) { onBackgroundMove(input); }));
+    subscriptions_.push_back(
+        mouse_.backgroundUp.subscribe([this](Input input) { onBackgroundUp(input); }));
+    subscriptions_.push_back(mouse_.backgroundLost.subscribe([this] { hideCompass(); }));
+    subscriptions_.push_back(mouse_.toolUp.subscribe([this] { commands_.raiseLens(true); }));
+    subscriptions_.push_back(mouse_.broadcast.subscribe([this] { UpdateCrossHair(); }));
+    subscriptions_.push_back(
+        sheet_.withdrawn.subscribe([this](const OverlayItem& item) { showTip(item, 0); }));
 }
 
 void frmWorksheet::setOwner(HWND owner) {
@@ -82,8 +92,10 @@ void frmWorksheet::setOwner(HWND owner) {
 void frmWorksheet::ApplyLayered() {
     const LayeredLook look =
         layeredLook(clickable_, static_cast<Color>(painter_.background()), alpha_, clickAlpha_);
+    // Without the mouse it obeys no keys either, and must not take them from who does.
+    const DWORD focus = clickable_ ? 0 : WS_EX_NOACTIVATE;
     SetWindowLongPtrW(handle(), GWL_EXSTYLE,
-                      static_cast<LONG_PTR>(look.extendedStyle | WS_EX_TOPMOST));
+                      static_cast<LONG_PTR>(look.extendedStyle | WS_EX_TOPMOST | focus));
     SetLayeredWindowAttributes(handle(), look.colorKey, static_cast<BYTE>(look.alpha), look.flags);
 }
 
@@ -91,6 +103,10 @@ void frmWorksheet::setClickable(bool clickable) {
     clickable_ = clickable;
     ApplyLayered();
     sheet_.setEditMode(clickable);
+    if (!clickable) {
+        hideCompass();
+    }
+    SyncCrossHair();
     paintNow();
 }
 
@@ -176,7 +192,7 @@ void frmWorksheet::rememberForeground() {
 }
 
 void frmWorksheet::repaintTool(const OverlayItem& item) {
-    const RegionHandle region = systemRegion(item.footprint());
+    const RegionHandle region = regionOf(item.footprint());
     painter_.restChanged(region.get());
     InvalidateRgn(handle(), region.get(), FALSE);
 }
@@ -185,7 +201,7 @@ void frmWorksheet::repaint(const OverlayItem& item, const DirtyRegion& region) {
     if (region.empty() || !sheet_.isVisible(item)) {
         return;
     }
-    const RegionHandle changed = systemRegion(region);
+    const RegionHandle changed = regionOf(region);
     if (&item != sheet_.front()) {
         painter_.restChanged(changed.get());
     }
@@ -215,18 +231,8 @@ void frmWorksheet::runTimer(Ticking& ticking, int interval, bool running) {
     }
 }
 
-void frmWorksheet::onBackgroundDown() {
-    SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, keepPlaceAndOwner);
-}
-
-void frmWorksheet::onBackgroundUp() {
-    POINT cursor{};
-    GetCursorPos(&cursor);
-    commands_.raiseControlWindowAt(cursor);
-}
-
 void frmWorksheet::pollOutside() {
-    if (!clickable_ || !outsidePoll_.due(secondsSinceMidnight())) {
+    if (!clickable_ || !outsidePolls_.due(secondsSinceMidnight())) {
         return;
     }
     POINT cursor{};

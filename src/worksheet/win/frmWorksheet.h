@@ -7,11 +7,14 @@
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/TipWindow.h"
 #include "platform/win/Window.h"
-#include "worksheet/OutsidePoll.h"
+#include "worksheet/BackgroundGrid.h"
+#include "worksheet/CircleCompass.h"
+#include "worksheet/RateLimit.h"
 #include "worksheet/Sheet.h"
 #include "worksheet/SheetMouse.h"
 #include "worksheet/sheetKeys.h"
 #include "worksheet/win/SheetPainter.h"
+#include "worksheet/win/frmCrossHair.h"
 
 namespace ormala {
 
@@ -26,6 +29,13 @@ class WorksheetCommands {
     virtual void stepHistory(OverlayItem& item, bool back) = 0;
     /// A click on the sheet may have been meant for a control window beneath it.
     virtual void raiseControlWindowAt(POINT screen) = 0;
+    /// Brings the magnifier to the top without activating it, if it is shown and, with
+    /// `onlySticked`, follows the mouse. Whether it did.
+    virtual bool raiseLens(bool onlySticked) = 0;
+    /// At a place of the screen.
+    virtual void ShowContextMenu(POINT screen) = 0;
+    /// The pages are numbered from 0.
+    virtual void ShowOptions(int page) = 0;
     virtual void closeProgram() = 0;
 };
 
@@ -61,6 +71,17 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     void prepareMaxSized(bool maxSized);
     void setBackground(COLORREF color);
 
+    [[nodiscard]] const BackgroundGrid& grid() const { return grid_; }
+    [[nodiscard]] bool GridEnabled() const { return grid_.enabled; }
+    /// Paints nothing: the grid is seen after `RefreshGrid`.
+    void setGrid(const BackgroundGrid& grid) { grid_ = grid; }
+    void RefreshGrid();
+    [[nodiscard]] bool CrossHairEnabled() const { return crossHairEnabled_; }
+    /// Two lines through the mouse, shown while the worksheet takes it.
+    void setCrossHairEnabled(bool enabled);
+    /// Two circles that open with a drag on the background.
+    void setCircleCompassEnabled(bool enabled) { circleCompassEnabled_ = enabled; }
+
     void show();
     void hide();
     /// Lets the window lay itself out and repaint after it was hidden.
@@ -72,6 +93,10 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
 
     /// Raised when the window has a new size.
     Event<> resized;
+    /// Raised when the window has moved.
+    Event<> placed;
+    /// Raised after each painting.
+    Event<> painted;
 
   private:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -98,8 +123,18 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     void repeatMove(int shift);
     bool obey(SheetCommand command);
     void pollOutside();
-    void onBackgroundDown();
-    void onBackgroundUp();
+    void subscribeToMouse();
+    void onBackgroundDown(const MouseInput& input);
+    void onBackgroundMove(const MouseInput& input);
+    void onBackgroundUp(const MouseInput& input);
+    void raiseUppermost();
+    void ShowContextMenu();
+    void hideCompass();
+    void repaintCompass();
+    void SyncCrossHair();
+    void UpdateCrossHair();
+    void placeCrossHair();
+    LRESULT onPaint();
     void paintNow();
 
     GdiFonts fonts_;
@@ -109,15 +144,21 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     std::vector<Ticking*> timers_;
     Sheet sheet_;
     SheetMouse mouse_;
+    CircleCompass compass_;
     SheetPainter painter_;
-    Subscription backgroundDown_;
-    Subscription backgroundUp_;
-    Subscription withdrawn_;
+    std::vector<Subscription> subscriptions_;
     std::unique_ptr<TipWindow> tip_;
     const OverlayItem* tipOwner_ = nullptr;
-    OutsidePoll outsidePoll_;
+    /// The line along the worksheet, and the one down it.
+    std::unique_ptr<frmCrossHair> CrossHairX_;
+    std::unique_ptr<frmCrossHair> CrossHairY_;
+    BackgroundGrid grid_;
+    RateLimit outsidePolls_;
+    RateLimit crossHairMoves_;
     /// The last move of a drag.
     MouseInput lastMove_;
+    bool crossHairEnabled_ = false;
+    bool circleCompassEnabled_ = false;
     bool clickable_ = false;
     bool maxSized_ = true;
     int alpha_ = 255;

@@ -20,8 +20,7 @@ MouseInput mouseInput(int button, WPARAM wParam, LPARAM lParam) {
 std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_PAINT:
-            painter_.paint(handle());
-            return 0;
+            return onPaint();
         case WM_ERASEBKGND:
             return 1;
         case WM_MOUSEMOVE:
@@ -58,6 +57,9 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
             return onTimer(wParam);
         case WM_SIZE:
             return onResize();
+        case WM_MOVE:
+            placed.raise();
+            return std::nullopt;
         case WM_DISPLAYCHANGE:
             return onDisplayChange();
         case WM_CLOSE:
@@ -74,7 +76,10 @@ LRESULT frmWorksheet::onPress(int button, WPARAM wParam, LPARAM lParam) {
         SetFocus(handle());
     }
     mouse_.press(mouseInput(button, wParam, lParam));
-    SetCapture(handle());
+    if (GetCapture() != handle()) {
+        // Taking it twice would mean losing it.
+        SetCapture(handle());
+    }
     paintNow();
     return 0;
 }
@@ -113,6 +118,10 @@ LRESULT frmWorksheet::onTimer(WPARAM id) {
         paintNow();
     } else {
         pollOutside();
+        if (crossHairMoves_.refused()) {
+            // The last move of a fast hand came too early.
+            UpdateCrossHair();
+        }
     }
     return 0;
 }
@@ -171,6 +180,14 @@ bool frmWorksheet::obey(SheetCommand command) {
     switch (command) {
         case SheetCommand::none:
             return false;
+        case SheetCommand::contextMenu:
+            ShowContextMenu();
+            break;
+        case SheetCommand::options: {
+            constexpr int worksheetPage = 1;
+            commands_.ShowOptions(worksheetPage);
+            break;
+        }
         case SheetCommand::help:
             commands_.ShowHelp();
             break;

@@ -1,0 +1,167 @@
+#include "worksheet/win/frmCrossHair.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "platform/win/controlName.h"
+#include "platform/win/regions.h"
+#include "support/win/Wait.h"
+#include "win/TestSheet.h"
+
+namespace ormala {
+namespace {
+
+HWND crossHairOf(HWND worksheet, const char* name) {
+    HWND window = nullptr;
+    while ((window = FindWindowExW(nullptr, window, L"frmCrossHair", nullptr)) != nullptr) {
+        if (GetWindow(window, GW_OWNER) == worksheet && controlName(window) == name) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+PixelRect placeOf(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    return fromRect(place);
+}
+
+/// A worksheet with its cross hair, and a cursor that the tests move.
+class frmCrossHairTest : public testing::Test {
+  protected:
+    frmCrossHairTest() { moveCursor(sheet_.left + 200, sheet_.top + 100); }
+
+    static void moveCursor(int x, int y) {
+        EXPECT_TRUE(test::waitUntil([&] {
+            SetCursorPos(x, y);
+            test::pause(test::milliseconds{1});
+            POINT now{};
+            GetCursorPos(&now);
+            return now.x == x && now.y == y;
+        }));
+    }
+    [[nodiscard]] bool visible(HWND window) const { return IsWindowVisible(window) != FALSE; }
+    [[nodiscard]] bool waitForPlace(HWND window, const PixelRect& place) const {
+        return test::waitUntil([&] { return placeOf(window) == place; });
+    }
+
+    TestSheet test_{{640, 480}};
+    frmWorksheet& worksheet_ = test_.window();
+    const PixelRect sheet_ = placeOf(worksheet_.handle());
+    const HWND x_ = crossHairOf(worksheet_.handle(), "CrossHairX");
+    const HWND y_ = crossHairOf(worksheet_.handle(), "CrossHairY");
+};
+
+TEST_F(frmCrossHairTest, HasTwoLinesThatStayHiddenUntilTheyAreEnabled) {
+    ASSERT_NE(x_, nullptr);
+    ASSERT_NE(y_, nullptr);
+    EXPECT_FALSE(worksheet_.CrossHairEnabled());
+    EXPECT_FALSE(visible(x_));
+    EXPECT_FALSE(visible(y_));
+}
+
+TEST_F(frmCrossHairTest, NeverTakesAClickAndIsFaintAndTopmost) {
+    worksheet_.setCrossHairEnabled(true);
+    for (const HWND line : {x_, y_}) {
+        const auto style = static_cast<DWORD>(GetWindowLongPtrW(line, GWL_EXSTYLE));
+        constexpr DWORD layeredAndTransparent = 0x80020;
+        EXPECT_EQ(style & layeredAndTransparent, layeredAndTransparent);
+        EXPECT_NE(style & WS_EX_TOPMOST, 0U);
+        EXPECT_EQ(SendMessageW(line, WM_NCHITTEST, 0, 0), HTTRANSPARENT);
+        COLORREF key = 0;
+        BYTE alpha = 0;
+        DWORD flags = 0;
+        GetLayeredWindowAttributes(line, &key, &alpha, &flags);
+        EXPECT_EQ(alpha, 84);
+        EXPECT_EQ(flags, static_cast<DWORD>(LWA_ALPHA));
+        EXPECT_EQ(GetWindow(line, GW_OWNER), worksheet_.handle());
+    }
+}
+
+TEST_F(frmCrossHairTest, IsBlackAllOver) {
+    worksheet_.setCrossHairEnabled(true);
+    for (const HWND line : {x_, y_}) {
+        UpdateWindow(line);
+        const PixelMap map = readClient(line);
+        EXPECT_EQ(std::ranges::count(map.pixels, RGB(0, 0, 0)), std::ssize(map.pixels));
+    }
+}
+
+TEST_F(frmCrossHairTest, LinesAreOnePixelWideAndCrossAtTheCursor) {
+    worksheet_.setCrossHairEnabled(true);
+    const int x = sheet_.left + 200;
+    const int y = sheet_.top + 100;
+    EXPECT_EQ(placeOf(x_), (PixelRect{sheet_.left, y, sheet_.right, y + 1}));
+    EXPECT_EQ(placeOf(y_), (PixelRect{x, sheet_.top, x + 1, sheet_.bottom}));
+    EXPECT_TRUE(visible(x_));
+    EXPECT_TRUE(visible(y_));
+}
+
+TEST_F(frmCrossHairTest, FollowsTheMouseToItsLastPlaceHoweverFastItMoved) {
+    worksheet_.setCrossHairEnabled(true);
+    for (int step = 0; step <= 10; ++step) {
+        const int x = sheet_.left + 210 + step;
+        moveCursor(x, sheet_.top + 120);
+        test_.mouse(WM_MOUSEMOVE, 0, 210 + step, 120);
+    }
+    EXPECT_TRUE(waitForPlace(x_, {sheet_.left, sheet_.top + 120, sheet_.right, sheet_.top + 121}));
+    EXPECT_TRUE(
+        waitForPlace(y_, {sheet_.left + 220, sheet_.top, sheet_.left + 221, sheet_.bottom}));
+}
+
+TEST_F(frmCrossHairTest, AboveTheSheetButWithinItsWidthTheVerticalLineStays) {
+    worksheet_.setCrossHairEnabled(true);
+    moveCursor(sheet_.left + 250, sheet_.top - 10);
+    EXPECT_TRUE(test::waitUntil([&] { return !visible(x_); }));
+    EXPECT_TRUE(
+        waitForPlace(y_, {sheet_.left + 250, sheet_.top, sheet_.left + 251, sheet_.bottom}));
+    EXPECT_TRUE(visible(y_));
+    moveCursor(sheet_.right + 30, sheet_.top + 70);
+    EXPECT_TRUE(test::waitUntil([&] { return visible(x_) && !visible(y_); }));
+}
+
+TEST_F(frmCrossHairTest, ExistsInEditModeOnly) {
+    worksheet_.setCrossHairEnabled(true);
+    worksheet_.setClickable(false);
+    EXPECT_FALSE(visible(x_));
+    EXPECT_FALSE(visible(y_));
+    test_.mouse(WM_MOUSEMOVE, 0, 150, 150);
+    test::pause(test::milliseconds{150});
+    EXPECT_FALSE(visible(x_));
+    worksheet_.setClickable(true);
+    EXPECT_TRUE(visible(x_));
+    EXPECT_TRUE(visible(y_));
+    worksheet_.setCrossHairEnabled(false);
+    EXPECT_FALSE(visible(x_));
+    EXPECT_FALSE(visible(y_));
+}
+
+TEST_F(frmCrossHairTest, AMoveRepaintsNothingOfTheWorksheet) {
+    worksheet_.setCrossHairEnabled(true);
+    test::pause(test::milliseconds{50});
+    int paints = 0;
+    const Subscription painted = worksheet_.painted.subscribe([&] { ++paints; });
+    for (int step = 0; step < 5; ++step) {
+        moveCursor(sheet_.left + 300 + 10 * step, sheet_.top + 200);
+        test_.mouse(WM_MOUSEMOVE, 0, 300 + 10 * step, 200);
+        test::pause(test::milliseconds{30});
+    }
+    EXPECT_TRUE(
+        waitForPlace(y_, {sheet_.left + 340, sheet_.top, sheet_.left + 341, sheet_.bottom}));
+    EXPECT_EQ(paints, 0);
+}
+
+TEST_F(frmCrossHairTest, LiesAboveTheWorksheetAfterAPressOnTheBackground) {
+    worksheet_.setCrossHairEnabled(true);
+    test_.drag(50, 60, 55, 60, 2);
+    HWND above = GetWindow(worksheet_.handle(), GW_HWNDPREV);
+    while (above != nullptr && above != x_) {
+        above = GetWindow(above, GW_HWNDPREV);
+    }
+    EXPECT_EQ(above, x_);
+}
+
+}  // namespace
+}  // namespace ormala
