@@ -4,13 +4,14 @@
 #include <vector>
 
 #include "base/Event.h"
+#include "dialogs/MousePicking.h"
 #include "dialogs/palettes.h"
 
 namespace ormala {
 
 /// What the colour picker holds and decides: the colour, the mark on its field, mouse, keys and
 /// blinking. Places are pixels of the shown palette.
-class ColorPicModel {
+class ColorPicModel : public MousePicking {
   public:
     ColorPicModel();
 
@@ -43,14 +44,11 @@ class ColorPicModel {
     /// At rest black or white, whichever stands out; blinking while the focus is here.
     [[nodiscard]] Color markColor() const;
 
-    /// The left button goes down, moves and comes up again. A double click comes between its
-    /// second press and the release that ends it, and is told by that release.
-    void press(PixelPoint point);
-    void move(PixelPoint point);
-    void doubleClick() { doubleClicked_ = true; }
-    void release(PixelPoint point);
-    /// The button is lost without a release.
-    void cancel();
+    void press(PixelPoint point) override;
+    void move(PixelPoint point) override;
+    void doubleClick() override { doubleClicked_ = true; }
+    void release(PixelPoint point) override;
+    void cancel() override;
     /// An arrow key picks the next field; false for any other key.
     bool keyDown(int key);
 

@@ -42,7 +42,7 @@ void LineSelectModel::press(PixelPoint point) {
     }
 }
 
-void LineSelectModel::release() {
+void LineSelectModel::release(PixelPoint /*point*/) {
     if (doubleClicked_) {
         doubleClicked_ = false;
         DoubleClick.raise();

@@ -4,12 +4,13 @@
 #include <string>
 
 #include "base/Event.h"
+#include "dialogs/MousePicking.h"
 #include "scene/PixelRect.h"
 
 namespace ormala {
 
 /// What the list of line styles holds and decides: five rows of equal height, one of them chosen.
-class LineSelectModel {
+class LineSelectModel : public MousePicking {
   public:
     static constexpr int rowCount = 5;
 
@@ -28,12 +29,10 @@ class LineSelectModel {
     [[nodiscard]] PixelRect shpFocus() const { return row(lineIndex_); }
     [[nodiscard]] std::optional<int> rowAt(PixelPoint point) const;
 
-    /// The left button goes down, is clicked twice, comes up again.
-    void press(PixelPoint point);
-    void doubleClick() { doubleClicked_ = true; }
-    void release();
-    /// The button is lost without a release.
-    void cancel() { doubleClicked_ = false; }
+    void press(PixelPoint point) override;
+    void doubleClick() override { doubleClicked_ = true; }
+    void release(PixelPoint point) override;
+    void cancel() override { doubleClicked_ = false; }
     /// Arrows choose the row before or after, Enter is a double click; false for any other key.
     bool keyDown(int key);
 

@@ -66,11 +66,14 @@ Palette pureColors() {
 }
 
 Palette mutedColors() {
+    // White, black and the first colour of the worksheet among the greys.
+    constexpr std::array<int, 8> greys{255, 219, 183, 147, 111, 79, 40, 0};
     Palette palette{{13, 8}, {}};
     for (int row = 0; row < palette.size.height; ++row) {
         const double lightness = between(0.88, 0.18, row, palette.size.height);
         addHues(palette, 12, 0.28, lightness);
-        palette.colors.push_back(grey(lightness));
+        const int level = greys.at(static_cast<std::size_t>(row));
+        palette.colors.push_back(rgb(level, level, level));
     }
     return palette;
 }

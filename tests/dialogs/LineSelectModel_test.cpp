@@ -58,25 +58,25 @@ TEST_F(LineSelectModelTest, APressChoosesItsRow) {
     list_->press({60, 71});
     list_->press({60, 101});
     EXPECT_EQ(list_->LineIndex(), 3);
-    list_->release();
+    list_->release({});
     EXPECT_EQ(events_, "c");
 }
 
 TEST_F(LineSelectModelTest, ADoubleClickIsToldByItsRelease) {
     list_->press({60, 70});
-    list_->release();
+    list_->release({});
     list_->doubleClick();
     EXPECT_EQ(events_, "c");
-    list_->release();
+    list_->release({});
     EXPECT_EQ(events_, "cd");
-    list_->release();
+    list_->release({});
     EXPECT_EQ(events_, "cd");
 }
 
 TEST_F(LineSelectModelTest, ALostButtonEndsTheDoubleClick) {
     list_->doubleClick();
     list_->cancel();
-    list_->release();
+    list_->release({});
     EXPECT_EQ(events_, "");
 }
 

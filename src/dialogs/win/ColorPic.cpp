@@ -1,7 +1,6 @@
 #include "dialogs/win/ColorPic.h"
 
 #include <oleacc.h>
-#include <windowsx.h>
 
 #include <algorithm>
 
@@ -124,64 +123,12 @@ LRESULT ColorPic::onTimer() {
     return 0;
 }
 
-void ColorPic::holdMouse() {
-    SetCapture(handle());
-    holdsMouse_ = true;
-}
-
-LRESULT ColorPic::press(PixelPoint point) {
-    SetFocus(handle());
-    holdMouse();
-    model_.press(point);
-    return 0;
-}
-
-LRESULT ColorPic::pressAgain() {
-    holdMouse();
-    model_.doubleClick();
-    return 0;
-}
-
-/// The release of a button that went down elsewhere picks nothing.
-LRESULT ColorPic::release(PixelPoint point) {
-    if (holdsMouse_) {
-        holdsMouse_ = false;
-        ReleaseCapture();
-        model_.release(point);
-    }
-    return 0;
-}
-
-LRESULT ColorPic::onCaptureChanged() {
-    if (holdsMouse_) {
-        holdsMouse_ = false;
-        model_.cancel();
-    }
-    return 0;
-}
-
 LRESULT ColorPic::onAccessibleFacts(LPARAM lParam) const {
     AccessibleFacts& facts = wantedFacts(lParam);
     facts.name = tip_.text();
     facts.value = model_.valueText();
     facts.role = ROLE_SYSTEM_LIST;
     return TRUE;
-}
-
-std::optional<LRESULT> ColorPic::mouseMessage(UINT message, PixelPoint point) {
-    switch (message) {
-        case WM_LBUTTONDOWN:
-            return press(point);
-        case WM_LBUTTONDBLCLK:
-            return pressAgain();
-        case WM_MOUSEMOVE:
-            model_.move(point);
-            return 0;
-        case WM_LBUTTONUP:
-            return release(point);
-        default:
-            return std::nullopt;
-    }
 }
 
 std::optional<LRESULT> ColorPic::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -201,14 +148,12 @@ std::optional<LRESULT> ColorPic::onMessage(UINT message, WPARAM wParam, LPARAM l
         case WM_KEYDOWN:
             return model_.keyDown(static_cast<int>(wParam)) ? std::optional<LRESULT>(0)
                                                             : std::nullopt;
-        case WM_CAPTURECHANGED:
-            return onCaptureChanged();
         case WM_GETOBJECT:
             return answerAccessible(handle(), wParam, lParam);
         case accessibleFactsMessage:
             return onAccessibleFacts(lParam);
         default:
-            return mouseMessage(message, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+            return mouse_.onMessage(handle(), message, lParam);
     }
 }
 

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "dialogs/ColorPicModel.h"
+#include "dialogs/win/HeldMouse.h"
 #include "platform/win/BackBuffer.h"
 #include "platform/win/TipWindow.h"
 #include "platform/win/Window.h"
@@ -55,24 +56,18 @@ class ColorPic : public Window {
 
   private:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    std::optional<LRESULT> mouseMessage(UINT message, PixelPoint point);
     LRESULT onPaint();
     LRESULT onFocus(bool focused);
     LRESULT onTimer();
-    LRESULT onCaptureChanged();
     LRESULT onAccessibleFacts(LPARAM lParam) const;
-    LRESULT press(PixelPoint point);
-    LRESULT pressAgain();
-    LRESULT release(PixelPoint point);
-    void holdMouse();
     void resize();
     void showColor();
     void paint(HDC context, const PixelRect& wanted) const;
 
     ColorPicModel model_;
+    HeldMouse mouse_{model_};
     BackBuffer buffer_;
     HoverTip tip_;
-    bool holdsMouse_ = false;
     Subscription changing_;
     Subscription ending_;
 };

@@ -1,9 +1,9 @@
 #include "dialogs/win/ctlLineSelect.h"
 
 #include <oleacc.h>
-#include <windowsx.h>
 
 #include "platform/win/Accessible.h"
+#include "platform/win/OriginScope.h"
 #include "platform/win/controlName.h"
 #include "platform/win/pixels.h"
 #include "platform/win/regions.h"
@@ -18,30 +18,12 @@ namespace {
 /// Round each sample, in pixels at 96 DPI; the frame of the chosen row fills it.
 constexpr int rowMargin = 4;
 
-/// Moves the origin for the time of one drawing.
-class OriginScope {
-  public:
-    OriginScope(HDC context, int x, int y) : context_(context) {
-        SetViewportOrgEx(context, x, y, &former_);
-    }
-    OriginScope(const OriginScope&) = delete;
-    OriginScope& operator=(const OriginScope&) = delete;
-    ~OriginScope() {
-        SetViewportOrgEx(context_, static_cast<int>(former_.x), static_cast<int>(former_.y),
-                         nullptr);
-    }
-
-  private:
-    HDC context_;
-    POINT former_{};
-};
-
-/// Enter belongs to the control that has it, and not to the dialog's button.
-LRESULT wantedKeys(LPARAM lParam) {
+/// Enter that belongs to the control that has it, and not to the dialog's button.
+LRESULT wantedKeys(LPARAM lParam, bool takesEnter) {
     const auto* const asked = reinterpret_cast<const MSG*>(lParam);
     const bool isEnter =
         asked != nullptr && asked->message == WM_KEYDOWN && asked->wParam == VK_RETURN;
-    return DLGC_WANTARROWS | (isEnter ? DLGC_WANTMESSAGE : 0);
+    return DLGC_WANTARROWS | (isEnter && takesEnter ? DLGC_WANTMESSAGE : 0);
 }
 
 }  // namespace
@@ -124,60 +106,12 @@ LRESULT ctlLineSelect::onFocus() {
     return 0;
 }
 
-void ctlLineSelect::holdMouse() {
-    SetCapture(handle());
-    holdsMouse_ = true;
-}
-
-LRESULT ctlLineSelect::press(PixelPoint point) {
-    SetFocus(handle());
-    holdMouse();
-    model_.press(point);
-    return 0;
-}
-
-LRESULT ctlLineSelect::pressAgain() {
-    holdMouse();
-    model_.doubleClick();
-    return 0;
-}
-
-LRESULT ctlLineSelect::release() {
-    if (holdsMouse_) {
-        holdsMouse_ = false;
-        ReleaseCapture();
-        model_.release();
-    }
-    return 0;
-}
-
-LRESULT ctlLineSelect::onCaptureChanged() {
-    if (holdsMouse_) {
-        holdsMouse_ = false;
-        model_.cancel();
-    }
-    return 0;
-}
-
 LRESULT ctlLineSelect::onAccessibleFacts(LPARAM lParam) const {
     AccessibleFacts& facts = wantedFacts(lParam);
     facts.name = tip_.text();
     facts.value = model_.valueText();
     facts.role = ROLE_SYSTEM_LIST;
     return TRUE;
-}
-
-std::optional<LRESULT> ctlLineSelect::mouseMessage(UINT message, PixelPoint point) {
-    switch (message) {
-        case WM_LBUTTONDOWN:
-            return press(point);
-        case WM_LBUTTONDBLCLK:
-            return pressAgain();
-        case WM_LBUTTONUP:
-            return release();
-        default:
-            return std::nullopt;
-    }
 }
 
 std::optional<LRESULT> ctlLineSelect::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -193,18 +127,16 @@ std::optional<LRESULT> ctlLineSelect::onMessage(UINT message, WPARAM wParam, LPA
         case WM_KILLFOCUS:
             return onFocus();
         case WM_GETDLGCODE:
-            return wantedKeys(lParam);
+            return wantedKeys(lParam, takesEnter_);
         case WM_KEYDOWN:
             return model_.keyDown(static_cast<int>(wParam)) ? std::optional<LRESULT>(0)
                                                             : std::nullopt;
-        case WM_CAPTURECHANGED:
-            return onCaptureChanged();
         case WM_GETOBJECT:
             return answerAccessible(handle(), wParam, lParam);
         case accessibleFactsMessage:
             return onAccessibleFacts(lParam);
         default:
-            return mouseMessage(message, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+            return mouse_.onMessage(handle(), message, lParam);
     }
 }
 

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "dialogs/LineSelectModel.h"
+#include "dialogs/win/HeldMouse.h"
 #include "platform/win/BackBuffer.h"
 #include "platform/win/TipWindow.h"
 #include "platform/win/Window.h"
@@ -24,6 +25,8 @@ class ctlLineSelect : public Window {
     /// An index beyond an end becomes that end. Raises no `Change`.
     void setLineIndex(int index);
 
+    /// Enter is a double click, as at first, or goes to the dialog.
+    void setTakesEnter(bool takes) { takesEnter_ = takes; }
     /// The resolution of the screen that it is drawn for; at first that of its window.
     void setDpi(int dpi);
     /// In pixels; `index` from 0 to 4.
@@ -40,25 +43,20 @@ class ctlLineSelect : public Window {
 
   private:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    std::optional<LRESULT> mouseMessage(UINT message, PixelPoint point);
     LRESULT onPaint();
     LRESULT onSize();
     LRESULT onFocus();
-    LRESULT onCaptureChanged();
     LRESULT onAccessibleFacts(LPARAM lParam) const;
-    LRESULT press(PixelPoint point);
-    LRESULT pressAgain();
-    LRESULT release();
-    void holdMouse();
     void showChoice();
     void paint(HDC context, const RECT& client) const;
     void paintRow(HDC context, int index) const;
 
     LineSelectModel model_;
+    HeldMouse mouse_{model_};
     BackBuffer buffer_;
     HoverTip tip_;
     int dpi_ = 96;
-    bool holdsMouse_ = false;
+    bool takesEnter_ = true;
     Subscription changing_;
     Subscription ending_;
 };

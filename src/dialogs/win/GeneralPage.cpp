@@ -1,0 +1,28 @@
+#include "dialogs/win/GeneralPage.h"
+
+#include "widgets/win/labeling.h"
+
+namespace ormala {
+
+namespace {
+
+enum Id { idLanguage = 11, idLanguageFrame = 21, idTemplateWithBorder };
+
+}  // namespace
+
+GeneralPage::GeneralPage(HWND parent, int id, OptionValues& values) : OptionsPage(parent, id, 0) {
+    make(optLanguage_, {idLanguage, "optLanguage", languageChoices}, values.language);
+    // In both languages at once, so that everyone finds the own one.
+    optLanguage_[0].setCaption("English / Englisch");
+    optLanguage_[1].setCaption("German / Deutsch");
+    chkTemplateWithBorder_ =
+        makeCheck(idTemplateWithBorder, "chkTemplateWithBorder", values.templateWithBorder);
+    makeFrame(fraLanguage_, idLanguageFrame, "fraLanguage");
+    fraLanguage_.setText(" Language / Sprache ");
+}
+
+void GeneralPage::ApplyLanguage() {
+    label(*chkTemplateWithBorder_, 86);
+}
+
+}  // namespace ormala
