@@ -4,9 +4,13 @@
 
 namespace ormala {
 
+/// The factors of the enlargement.
+constexpr int leastFactor = 1;
+constexpr int mostFactor = 10;
+
 /// What the user sets of the magnifier, with the defaults of a first start.
 struct LensOptions {
-    /// 1 to 10.
+    /// `leastFactor` to `mostFactor`.
     int factor = 4;
     bool sticked = false;
     bool cursorOn = true;

@@ -1,0 +1,95 @@
+#include "magnifier/win/LensImage.h"
+
+#include <cstring>
+#include <utility>
+
+#include "magnifier/win/pointers.h"
+#include "platform/win/GdiCanvas.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr int idLens = 1;
+
+bool samePixels(const PixelView& a, const PixelView& b) {
+    if (a.size != b.size) {
+        return false;
+    }
+    const std::size_t bytes = static_cast<std::size_t>(a.size.width) * sizeof *a.pixels;
+    for (int y = 0; y < a.size.height; ++y) {
+        if (std::memcmp(a.row(y), b.row(y), bytes) != 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+LensImage::LensImage(HWND parent) : picLens_(parent, idLens, "picLens") {}
+
+void LensImage::setPlace(const LensLayout& layout) {
+    picLens_.setPlace(layout.picLens);
+    picInter_.resize({layout.SourceWidth, layout.SourceHeight});
+    lastPicture_.resize({layout.SourceWidth, layout.SourceHeight});
+    lastLook_.reset();
+}
+
+void LensImage::forgetPointer() {
+    knownPointer_ = nullptr;
+}
+
+void LensImage::refresh(const LensImageLook& look, PixelPoint source, const PixelRect& bounds) {
+    capture(look.layout, source, bounds);
+    const HCURSOR pointer = look.options.cursorOn ? currentPointer() : nullptr;
+    if (look == lastLook_ && pointer == lastPointer_ &&
+        samePixels(picInter_.view(), lastPicture_.view())) {
+        return;
+    }
+    lastLook_ = look;
+    lastPointer_ = pointer;
+    enlarge(look.layout);
+    DrawCursor(look, pointer);
+    const PixelView picBuff = picLens_.picture().view();
+    DrawGrid(picBuff, look, &systemColor);
+    DrawHotSpot(picBuff, look, &systemColor);
+    // A grid that is switched on keeps the last row and column free at any factor.
+    picLens_.setRim(look.options.gridOn && look.layout.GridTrim == 0 ? 1 : 0);
+    picLens_.setChanged();
+    std::swap(picInter_, lastPicture_);
+}
+
+void LensImage::capture(const LensLayout& layout, PixelPoint source, const PixelRect& bounds) {
+    const WindowContext screen(nullptr);
+    const PixelRect area{source.x, source.y, source.x + layout.SourceWidth,
+                         source.y + layout.SourceHeight};
+    // Screens of different sizes leave gaps.
+    if (area.intersected(bounds) != area || GetSystemMetrics(SM_CMONITORS) > 1) {
+        fillPlain(picInter_.context(), {0, 0, layout.SourceWidth, layout.SourceHeight}, lensGround);
+    }
+    if (BitBlt(picInter_.context(), 0, 0, layout.SourceWidth, layout.SourceHeight, screen.get(),
+               source.x, source.y, SRCCOPY | CAPTUREBLT) == FALSE) {
+        // The screen is locked, and what it showed before is no news.
+        fillPlain(picInter_.context(), {0, 0, layout.SourceWidth, layout.SourceHeight}, lensGround);
+    }
+}
+
+void LensImage::enlarge(const LensLayout& layout) const {
+    // The default stretch mode differs from plain replication only where a picture shrinks.
+    StretchBlt(picLens_.picture().context(), 0, 0, layout.LensWidth, layout.LensHeight,
+               picInter_.context(), 0, 0, layout.SourceWidth, layout.SourceHeight, SRCCOPY);
+}
+
+void LensImage::DrawCursor(const LensImageLook& look, HCURSOR pointer) {
+    if (!look.options.cursorOn) {
+        return;
+    }
+    if (pointer != knownPointer_) {
+        knownPointer_ = pointer;
+        pointerPicture_ = pictureOfPointer(pointer);
+    }
+    drawPointer(picLens_.picture().view(), pointerPicture_, look.hotSpot, look.layout.Factor);
+}
+
+}  // namespace ormala

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+
+#include "magnifier/PointerPicture.h"
+#include "magnifier/lensOverlays.h"
+#include "magnifier/win/LensPicture.h"
+
+namespace ormala {
+
+/// The enlarged image with everything that lies on it. All its bitmaps are made with the layout,
+/// none in a frame.
+class LensImage {
+  public:
+    explicit LensImage(HWND parent);
+
+    [[nodiscard]] LensPicture& picLens() { return picLens_; }
+    void setPlace(const LensLayout& layout);
+    /// One frame: captures the screen at `source` and draws the image, unless it is the same
+    /// picture with the same look as in the last frame. What lies outside `bounds` shows the
+    /// ground.
+    void refresh(const LensImageLook& look, PixelPoint source, const PixelRect& bounds);
+    /// The pointer's picture is fetched anew for the next frame that is drawn.
+    void forgetPointer();
+
+  private:
+    void capture(const LensLayout& layout, PixelPoint source, const PixelRect& bounds);
+    void enlarge(const LensLayout& layout) const;
+    void DrawCursor(const LensImageLook& look, HCURSOR pointer);
+
+    /// With `picBuff` as its picture.
+    LensPicture picLens_;
+    BackBuffer picInter_;
+    /// What the last frame shows, and how.
+    BackBuffer lastPicture_;
+    std::optional<LensImageLook> lastLook_;
+    HCURSOR lastPointer_ = nullptr;
+    /// Kept until the screen has another pointer.
+    HCURSOR knownPointer_ = nullptr;
+    PointerPicture pointerPicture_;
+};
+
+}  // namespace ormala

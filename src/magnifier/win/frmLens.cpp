@@ -1,0 +1,290 @@
+#include "magnifier/win/frmLens.h"
+
+#include <algorithm>
+
+#include "language/MlStringModule.h"
+#include "magnifier/lensTexts.h"
+#include "magnifier/win/scaleFont.h"
+#include "platform/win/regions.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr UINT tmrMainInterval = 15;
+/// A window that nobody sees needs no more than to know where the mouse is by and by.
+constexpr UINT hiddenInterval = 60;
+
+constexpr DWORD style = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_CLIPCHILDREN;
+/// A tool window has a small caption and no button on the task bar.
+constexpr DWORD extendedStyle = WS_EX_TOOLWINDOW | WS_EX_TOPMOST;
+
+PixelSize sizeOf(const RECT& rect) {
+    return {static_cast<int>(rect.right - rect.left), static_cast<int>(rect.bottom - rect.top)};
+}
+
+PixelSize firstSize(HWND window) {
+    const UINT dpi = GetDpiForWindow(window);
+    const PixelSize client = firstLensClient(static_cast<int>(dpi));
+    RECT outer{0, 0, client.width, client.height};
+    AdjustWindowRectExForDpi(&outer, style, FALSE, extendedStyle, dpi);
+    return sizeOf(outer);
+}
+
+}  // namespace
+
+frmLens::Parts::Parts(HWND parent)
+    : image(parent),
+      rulers{LensRuler(parent, LensScale::top), LensRuler(parent, LensScale::bottom),
+             LensRuler(parent, LensScale::right), LensRuler(parent, LensScale::left)} {}
+
+std::array<LensPicture*, lensScaleCount + 1> frmLens::Parts::pictures() {
+    return {&image.picLens(), &rulers[0].picture(), &rulers[1].picture(), &rulers[2].picture(),
+            &rulers[3].picture()};
+}
+
+frmLens::frmLens(LensCommands& commands) : commands_(commands) {
+    constexpr int withoutGaps = 3;
+    constexpr POINT firstPlace{120, 120};
+    FormFrame_.setFrameStyle(withoutGaps);
+    WindowDesign design;
+    design.className = L"frmLens";
+    design.style = style;
+    design.extendedStyle = extendedStyle;
+    design.place = {firstPlace.x, firstPlace.y, firstPlace.x, firstPlace.y};
+    create(design);
+    OriginalExStyle_ = GetWindowLongPtrW(handle(), GWL_EXSTYLE);
+    bounds_ = commands_.RefreshScreenBounds();
+    parts_ = std::make_unique<Parts>(handle());
+    painting_ = parts_->image.picLens().painting.subscribe([this] { RefreshLens(); });
+    relabeling_ = GetLanguageSupport().LanguageChange.subscribe([this] { SetLensCaption(); });
+    setDpi(static_cast<int>(GetDpiForWindow(handle())));
+    setOptions(LensOptions{});
+    const PixelSize size = firstSize(handle());
+    SetWindowPos(handle(), nullptr, 0, 0, size.width, size.height,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    runTimer(false);
+}
+
+LensOptions frmLens::options() const {
+    LensOptions present = options_;
+    present.topScales = RulTOn();
+    present.bottomScales = RulBOn();
+    present.topOrigin = ruler(LensScale::top).origin();
+    present.bottomOrigin = ruler(LensScale::bottom).origin();
+    return present;
+}
+
+void frmLens::setOptions(const LensOptions& options) {
+    const int factor = options.factor;
+    options_ = options;
+    // Each setter lays out with the factor that is in force, which must be one.
+    options_.factor = std::clamp(factor, leastFactor, mostFactor);
+    setRulTOn(options.topScales);
+    setRulLOn(options.topScales);
+    ruler(LensScale::top).setOrigin(options.topOrigin);
+    ruler(LensScale::left).setOrigin(options.topOrigin);
+    setRulBOn(options.bottomScales);
+    setRulROn(options.bottomScales);
+    ruler(LensScale::bottom).setOrigin(options.bottomOrigin);
+    ruler(LensScale::right).setOrigin(options.bottomOrigin);
+    setSticked(options.sticked);
+    setFactor(factor);
+    SetMenuCheckBoxes();
+}
+
+void frmLens::runTimer(bool shown) {
+    SetTimer(handle(), tmrMain, shown ? tmrMainInterval : hiddenInterval, nullptr);
+}
+
+void frmLens::show(HWND owner) {
+    SetWindowLongPtrW(handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
+    readBounds();
+    setVisible(true);
+    Update();
+}
+
+void frmLens::setFactor(int factor) {
+    options_.factor = std::clamp(factor, leastFactor, mostFactor);
+    SetLensCaption();
+    menuChanged.raise();
+    LayoutLens();
+}
+
+void frmLens::setSticked(bool sticked) {
+    options_.sticked = sticked;
+    menuChanged.raise();
+    SetLensCaption();
+    LayoutLens();
+    SetMode(LensMode_);
+}
+
+void frmLens::setRulerOn(LensScale scale, bool on) {
+    ruler(scale).setOn(on);
+    LayoutLens();
+}
+
+void frmLens::SetMode(int Mode) {
+    constexpr int edit = 0;
+    LensMode_ = Mode;
+    setLayered(Sticked() && Mode == edit);
+}
+
+void frmLens::setLayered(bool layered) {
+    constexpr BYTE opaque = 255;
+    const LONG_PTR former = GetWindowLongPtrW(handle(), GWL_EXSTYLE);
+    SetWindowLongPtrW(handle(), GWL_EXSTYLE, OriginalExStyle_ | (layered ? WS_EX_LAYERED : 0));
+    if (layered) {
+        SetLayeredWindowAttributes(handle(), CLR_INVALID, opaque, LWA_ALPHA);
+    } else if ((former & WS_EX_LAYERED) != 0) {
+        // What the window showed is gone with the layer.
+        RedrawWindow(handle(), nullptr, nullptr,
+                     RDW_ERASE | RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN);
+    }
+}
+
+bool frmLens::isNormal() const {
+    return IsIconic(handle()) == FALSE && IsZoomed(handle()) == FALSE;
+}
+
+void frmLens::UpdatePosition() {
+    if (!Sticked() || !isVisible() || !isNormal()) {
+        return;
+    }
+    const PixelPoint place = lensBesideMouse(CursorPoint_, sizeOf(rectangle()), bounds_, dpi_);
+    SetWindowPos(handle(), nullptr, place.x, place.y, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void frmLens::Update() {
+    if (isVisible()) {
+        onTick();
+    }
+}
+
+void frmLens::onTick() {
+    constexpr int ticksBetweenBounds = 300;
+    if (tickCount_ == ticksBetweenBounds) {
+        tickCount_ = 0;
+        readBounds();
+    }
+    ++tickCount_;
+    // Where the mouse cannot be asked for, it is where it was.
+    if (POINT cursor{}; GetCursorPos(&cursor) != FALSE) {
+        CursorPoint_ = {static_cast<int>(cursor.x), static_cast<int>(cursor.y)};
+    }
+    findSource();
+    RefreshLens();
+    UpdatePosition();
+}
+
+void frmLens::readBounds() {
+    bounds_ = commands_.RefreshScreenBounds();
+    // The system may have given another pointer the place of a former one.
+    parts_->image.forgetPointer();
+}
+
+void frmLens::findSource() {
+    source_ = lensSourceAt(CursorPoint_, {layout_.SourceWidth, layout_.SourceHeight}, bounds_);
+}
+
+void frmLens::RefreshLens() {
+    if (!isVisible()) {
+        return;
+    }
+    DrawRulers();
+    parts_->image.refresh(imageLook(), source_, bounds_);
+    showChanged();
+}
+
+void frmLens::showChanged() {
+    const auto pictures = parts_->pictures();
+    const bool nothing =
+        std::ranges::all_of(pictures, [](const LensPicture* part) { return part->isShown(); });
+    if (nothing) {
+        return;
+    }
+    // All at once, over the child windows: the drawing of one part does not wait for the screen to
+    // have another one.
+    const UnclippedContext context(handle());
+    for (LensPicture* part : pictures) {
+        part->show(context.get());
+    }
+}
+
+LensImageLook frmLens::imageLook() const {
+    return {options_, layout_, {CursorPoint_.x - source_.x, CursorPoint_.y - source_.y}};
+}
+
+void frmLens::DrawRulers() {
+    const ScaleOrigins origins{source_, worksheet_, {bounds_.left, bounds_.top}};
+    for (const LensScale scale : lensScales) {
+        ruler(scale).draw(layout_, glyphs_, origins, dpi_);
+    }
+}
+
+LensFace frmLens::face() const {
+    LensFace face{sizeOf(clientRectangle()), options_.factor, options_.gridOn, {}, dpi_};
+    for (const LensScale scale : lensScales) {
+        face.visible[indexOf(scale)] = ruler(scale).isOn();
+    }
+    return face;
+}
+
+void frmLens::LayoutLens() {
+    layout_ = layOutLens(face());
+    findSource();
+    parts_->image.setPlace(layout_);
+    for (const LensScale scale : lensScales) {
+        ruler(scale).setPlace(layout_.scales[indexOf(scale)]);
+    }
+    RefreshLens();
+}
+
+void frmLens::SetLensCaption() {
+    setCaption(lensCaption(Factor(), Sticked()));
+}
+
+void frmLens::mnuLensGrid_Click() {
+    options_.gridOn = !options_.gridOn;
+    LayoutLens();
+    SetMenuCheckBoxes();
+}
+
+void frmLens::mnuLensCursor_Click() {
+    options_.cursorOn = !options_.cursorOn;
+    RefreshLens();
+    SetMenuCheckBoxes();
+}
+
+void frmLens::mnuLensHotSpot_Click() {
+    options_.hotSpotOn = !options_.hotSpotOn;
+    RefreshLens();
+    SetMenuCheckBoxes();
+}
+
+void frmLens::mnuLensTopLeftScales_Click() {
+    const bool on = !RulTOn();
+    setRulTOn(on);
+    setRulLOn(on);
+    SetMenuCheckBoxes();
+}
+
+void frmLens::mnuLensBottomRightScales_Click() {
+    const bool on = !RulBOn();
+    setRulBOn(on);
+    setRulROn(on);
+    SetMenuCheckBoxes();
+}
+
+LensMenuState frmLens::menuState() const {
+    return {Factor(),        Sticked(),     options_.cursorOn, options_.hotSpotOn,
+            options_.gridOn, Factor() != 1, RulTOn(),          RulBOn()};
+}
+
+void frmLens::setDpi(int dpi) {
+    dpi_ = dpi;
+    glyphs_ = scaleGlyphs(dpi);
+}
+
+}  // namespace ormala

@@ -1,0 +1,164 @@
+#include <oleacc.h>
+
+#include "magnifier/lensTexts.h"
+#include "magnifier/win/frmLens.h"
+#include "platform/win/Accessible.h"
+#include "platform/win/regions.h"
+
+// The messages of the magnifier.
+
+namespace ormala {
+
+std::optional<LRESULT> frmLens::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_PAINT:
+            return onPaint();
+        case WM_ERASEBKGND:
+            return 1;
+        case WM_TIMER:
+            onTick();
+            return 0;
+        case WM_SHOWWINDOW:
+            runTimer(wParam != FALSE);
+            return std::nullopt;
+        case WM_SIZE:
+            return onSize();
+        case WM_GETMINMAXINFO:
+            return onGetMinMaxInfo(lParam);
+        case WM_ACTIVATE:
+            if (LOWORD(wParam) != WA_INACTIVE) {
+                onActivate();
+            }
+            return std::nullopt;
+        case WM_RBUTTONUP:
+            return onRightRelease();
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+            return onKey(static_cast<int>(wParam));
+        case WM_CLOSE:
+            closeRequested.raise();
+            return 0;
+        case WM_DPICHANGED:
+            return onDpiChanged(wParam, lParam);
+        case WM_DISPLAYCHANGE:
+        case WM_SETTINGCHANGE:
+            readBounds();
+            return std::nullopt;
+        case WM_GETOBJECT:
+            return answerAccessible(handle(), wParam, lParam);
+        case accessibleFactsMessage:
+            return onAccessibleFacts(lParam);
+        default:
+            return std::nullopt;
+    }
+}
+
+LRESULT frmLens::onPaint() {
+    const PaintScope scope(handle());
+    const PixelRect client = fromRect(clientRectangle());
+    if (!ground_.resize({client.width(), client.height()})) {
+        return 0;
+    }
+    fillPlain(ground_.context(), toRect(client), lensGround);
+    GdiCanvas canvas(ground_.context(), client, fonts_);
+    FormFrame_.draw(canvas);
+    BitBlt(scope.context(), 0, 0, client.width(), client.height(), ground_.context(), 0, 0,
+           SRCCOPY);
+    return 0;
+}
+
+LRESULT frmLens::onSize() {
+    const PixelRect client = fromRect(clientRectangle());
+    FormFrame_.resize(client);
+    if (parts_ && IsIconic(handle()) == FALSE) {
+        InvalidateRect(handle(), nullptr, FALSE);
+        if (client.height() >= 1) {
+            LayoutLens();
+        }
+        SetLensCaption();
+    }
+    return 0;
+}
+
+LRESULT frmLens::onGetMinMaxInfo(LPARAM lParam) const {
+    const PixelSize least = leastLensSize(dpi_);
+    auto& limits = *reinterpret_cast<MINMAXINFO*>(lParam);
+    limits.ptMinTrackSize = {least.width, least.height};
+    return 0;
+}
+
+LRESULT frmLens::onDpiChanged(WPARAM wParam, LPARAM lParam) {
+    const RECT& place = *reinterpret_cast<const RECT*>(lParam);
+    setDpi(LOWORD(wParam));
+    if (Sticked()) {
+        // Another size could bring it back onto the screen that it comes from, without end.
+        LayoutLens();
+        return 0;
+    }
+    SetWindowPos(handle(), nullptr, place.left, place.top, place.right - place.left,
+                 place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    LayoutLens();
+    return 0;
+}
+
+void frmLens::onActivate() const {
+    SetWindowPos(handle(), HWND_TOPMOST, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+}
+
+LRESULT frmLens::onRightRelease() {
+    POINT mouse{};
+    GetCursorPos(&mouse);
+    commands_.showLensMenu({static_cast<int>(mouse.x), static_cast<int>(mouse.y)});
+    return 0;
+}
+
+std::optional<LRESULT> frmLens::onKey(int key) {
+    const LensKey asked = lensKeyOf(key, heldModifiers());
+    if (asked == LensKey::none) {
+        return std::nullopt;
+    }
+    obey(asked);
+    return 0;
+}
+
+void frmLens::obey(LensKey key) {
+    constexpr int edit = 0;
+    constexpr int templateMode = 1;
+    constexpr int pause = 2;
+    constexpr int optionsPage = 2;
+    switch (key) {
+        case LensKey::none:
+            break;
+        case LensKey::menu:
+            return showMenuAtOrigin();
+        case LensKey::help:
+            return commands_.ShowHelp();
+        case LensKey::options:
+            return commands_.ShowOptions(optionsPage);
+        case LensKey::editMode:
+            return commands_.SetMode(edit, false);
+        case LensKey::pauseMode:
+        case LensKey::pauseAndMinimise:
+            return commands_.SetMode(pause, key == LensKey::pauseAndMinimise);
+        case LensKey::templateMode:
+        case LensKey::templateAndMinimise:
+            return commands_.SetMode(templateMode, key == LensKey::templateAndMinimise);
+    }
+}
+
+void frmLens::showMenuAtOrigin() {
+    POINT origin{0, 0};
+    ClientToScreen(handle(), &origin);
+    commands_.showLensMenu({static_cast<int>(origin.x), static_cast<int>(origin.y)});
+}
+
+LRESULT frmLens::onAccessibleFacts(LPARAM lParam) const {
+    // The caption is empty while the window follows the mouse; its name is not.
+    AccessibleFacts& facts = wantedFacts(lParam);
+    facts.name = lensTitle(Factor());
+    facts.role = ROLE_SYSTEM_CLIENT;
+    return TRUE;
+}
+
+}  // namespace ormala

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <windows.h>
+
+#include "magnifier/PointerPicture.h"
+
+namespace ormala {
+
+/// The pointer that the screen has now; null if there is none.
+HCURSOR currentPointer();
+
+/// How that pointer looks; empty for one without a bitmap.
+PointerPicture pictureOfPointer(HCURSOR pointer);
+
+}  // namespace ormala
