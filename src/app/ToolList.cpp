@@ -206,12 +206,6 @@ ToolPanel* ToolList::LastVisiblePanel(ToolKind kind) const {
     return at == pairs_.rend() ? nullptr : &at->panel();
 }
 
-ListedPanel* ToolList::selectedPanel() const {
-    const auto at = std::ranges::find_if(
-        pairs_, [](const Pair& pair) { return pair.listed->visible() && pair.panel().Selected(); });
-    return at == pairs_.end() ? nullptr : at->listed.get();
-}
-
 double ToolList::NextToolSize() {
     return sizes_.NextToolSize(ports_.sheet.size());
 }

@@ -58,8 +58,6 @@ class ToolList {
     [[nodiscard]] int NextFreeMeasureNumber() const;
     /// Null if no panel of that kind is visible.
     [[nodiscard]] ToolPanel* LastVisiblePanel(ToolKind kind) const;
-    /// The visible panel whose tool is selected, null without any.
-    [[nodiscard]] ListedPanel* selectedPanel() const;
 
   private:
     struct Pair {

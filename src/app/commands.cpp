@@ -6,18 +6,28 @@ namespace ormala {
 
 const std::array<CommandDesign, commandCount>& commandDesigns() {
     static constexpr std::array<CommandDesign, commandCount> designs{{
-        {Command::editMode, "btnMode(0)", 156, 157, roundAtLeft},
-        {Command::templateMode, "btnMode(1)", 162, 163, square},
-        {Command::pauseMode, "btnMode(2)", 60, 161, roundAtRight},
-        {Command::templateAndMinimise, "cmdTemplateMin", 0, 155, roundAtLeft},
-        {Command::pauseAndMinimise, "cmdPauseMin", 0, 154, roundAtRight},
-        {Command::addStencil, "cmdAddGrid", 152, 153, roundAtLeft},
-        {Command::addMeasure, "cmdAddMeasure", 151, 63, roundAtRight},
-        {Command::newTools, "cmdNew", 0, 170, roundAtLeft},
-        {Command::load, "cmdLoad", 0, 168, square},
-        {Command::save, "cmdSave", 0, 169, square},
-        {Command::saveAs, "cmdSaveAs", 0, 150, roundAtRight},
-        {Command::worksheetNormal, "cmdWorksheetWindowNormal", 0, 164, 0},
+        {Command::editMode, "btnMode(0)", Picture::modeEdit, 156, 157, roundAtLeft},
+        {Command::templateMode, "btnMode(1)", Picture::modeTemplate, 162, 163, square},
+        {Command::pauseMode, "btnMode(2)", Picture::modePause, 60, 161, roundAtRight},
+        {Command::templateAndMinimise, "cmdTemplateMin", Picture::templateAndMinimize, 0, 155,
+         roundAtLeft},
+        {Command::pauseAndMinimise, "cmdPauseMin", Picture::pauseAndMinimize, 0, 154, roundAtRight},
+        {Command::addStencil, "cmdAddGrid", Picture::addStencil, 152, 153, roundAtLeft},
+        {Command::addMeasure, "cmdAddMeasure", Picture::addMeasure, 151, 63, roundAtRight},
+        {Command::newTools, "cmdNew", Picture::newTools, 0, 170, roundAtLeft},
+        {Command::load, "cmdLoad", Picture::loadTools, 0, 168, square},
+        {Command::save, "cmdSave", Picture::saveTools, 0, 169, square},
+        {Command::saveAs, "cmdSaveAs", Picture::saveToolsAs, 0, 150, roundAtRight},
+        {Command::lens, "chkLens", Picture::lens, 0, 172, roundAtLeft},
+        {Command::grid, "chkGrid", Picture::grid, 0, 173, square},
+        {Command::crossHair, "chkCrossHair", Picture::crossHair, 0, 338, square},
+        {Command::referenceLines, "chkReferenceLines", Picture::referenceLines, 0, 337, square},
+        {Command::circleCompass, "chkCircleCompass", Picture::circleCompass, 0, 85, roundAtRight},
+        {Command::screenShot, "cmdScreenshot", Picture::screenShot, 0, 171, roundAtLeft},
+        {Command::worksheetNormal, "cmdWorksheetWindowNormal", Picture::worksheetWindow, 0, 164,
+         roundAtRight},
+        {Command::options, "cmdOptions", Picture::options, 0, 165, roundAtLeft},
+        {Command::help, "cmdHelp", Picture::help, 0, 167, roundAtRight},
     }};
     return designs;
 }
@@ -34,11 +44,33 @@ CommandState stateOfCommand(Command command, int mode, bool worksheetMaxSized) {
         case Command::load:
         case Command::save:
         case Command::saveAs:
+        case Command::screenShot:
+        case Command::grid:
+        case Command::circleCompass:
+        case Command::crossHair:
+        case Command::referenceLines:
             return {true, mode != mode::pause};
         case Command::worksheetNormal:
             return {true, worksheetMaxSized};
         default:
             return {};
+    }
+}
+
+std::optional<bool> toggleOf(Command command, const ToggleStates& states) {
+    switch (command) {
+        case Command::lens:
+            return states.lens;
+        case Command::grid:
+            return states.grid;
+        case Command::crossHair:
+            return states.crossHair;
+        case Command::referenceLines:
+            return states.referenceLines;
+        case Command::circleCompass:
+            return states.circleCompass;
+        default:
+            return std::nullopt;
     }
 }
 

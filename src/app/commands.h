@@ -2,8 +2,10 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 
 #include "app/modes.h"
+#include "widgets/pictures.h"
 
 namespace ormala {
 
@@ -21,15 +23,24 @@ enum class Command {
     load,
     save,
     saveAs,
+    lens,
+    grid,
+    crossHair,
+    referenceLines,
+    circleCompass,
+    screenShot,
     worksheetNormal,
+    options,
+    help,
 };
 
-inline constexpr std::size_t commandCount = static_cast<std::size_t>(Command::worksheetNormal) + 1;
+inline constexpr std::size_t commandCount = static_cast<std::size_t>(Command::help) + 1;
 
 struct CommandDesign {
     Command command;
     /// Of its button.
     const char* name;
+    Picture picture;
     /// Rows of the text table; 0 for none.
     int caption;
     int tip;
@@ -49,6 +60,20 @@ struct CommandState {
 
 /// `worksheetMaxSized` says whether a full-screen worksheet can be brought back into its frame.
 CommandState stateOfCommand(Command command, int mode, bool worksheetMaxSized);
+
+/// What is shown or works on the worksheet besides the tools.
+struct ToggleStates {
+    bool lens = false;
+    bool grid = false;
+    bool crossHair = false;
+    bool referenceLines = false;
+    bool circleCompass = false;
+
+    bool operator==(const ToggleStates&) const = default;
+};
+
+/// Whether the command's toggle is on; nothing for a command that is no toggle.
+std::optional<bool> toggleOf(Command command, const ToggleStates& states);
 
 /// The mode that the command switches to, or -1.
 int modeOfCommand(Command command);

@@ -23,8 +23,8 @@ std::string nameOfMode(int mode) {
     return textOf(nameIds, mode);
 }
 
-Color colorOfMode(int mode, int currentMode) {
-    return mode == currentMode ? rgb(187, 168, 0) : rgb(112, 112, 112);
+Color colorOfToggle(bool on) {
+    return on ? rgb(187, 168, 0) : rgb(112, 112, 112);
 }
 
 ModeWindows windowsOfMode(int mode, bool maxSized, bool withBorder) {

@@ -22,8 +22,8 @@ std::string captionOfMode(int mode);
 /// What a mode's entry in the system menu says.
 std::string nameOfMode(int mode);
 
-/// The colour of a mode's button.
-Color colorOfMode(int mode, int currentMode);
+/// The colour of the button of a mode, or of anything else, that is on or off.
+Color colorOfToggle(bool on);
 
 /// What a mode makes of the worksheet and its frame.
 struct ModeWindows {

@@ -1,6 +1,6 @@
 #include "app/settingsLayout.h"
 
-#include "scene/dpi.h"
+#include "widgets/dpi.h"
 
 namespace ormala {
 
@@ -8,7 +8,7 @@ namespace {
 
 // At 96 DPI.
 constexpr int margin = 4;
-constexpr int inside = 292;
+constexpr int inside = 310;
 constexpr int buttonHeight = 24;
 constexpr int smallButton = 25;
 // Each has room for its longest caption.
@@ -16,8 +16,11 @@ constexpr int editButton = 88;
 constexpr int templateButton = 76;
 constexpr int pauseButton = 70;
 constexpr int stencilButton = 82;
-constexpr int measureButton = 70;
-constexpr int groupGap = 7;
+constexpr int measureButton = 78;
+constexpr int viewGap = 40;
+constexpr int sliderHeight = 20;
+constexpr int labelWidth = 78;
+constexpr int labelHeight = 16;
 constexpr int pathHeight = 15;
 constexpr int gapAboveList = 16;
 constexpr int listHeight = 64;
@@ -26,8 +29,14 @@ constexpr int cutAboveList = 12;
 
 constexpr int firstRow = margin;
 constexpr int secondRow = firstRow + buttonHeight + margin;
-constexpr int pathRow = secondRow + buttonHeight + margin;
+constexpr int thirdRow = secondRow + buttonHeight + margin;
+constexpr int lookRow = thirdRow + buttonHeight + margin;
+constexpr int pathRow = lookRow + 2 * sliderHeight + margin;
 constexpr int listTop = pathRow + pathHeight + gapAboveList;
+
+/// The palette of the worksheet's colour, in fields and in pixels a field.
+constexpr PixelSize paletteFields{13, 8};
+constexpr int fieldSide = 5;
 
 /// Places buttons from left to right.
 class Row {
@@ -67,24 +76,54 @@ SettingsLayout::SettingsLayout(int dpi) {
     Row(*this, secondRow, margin, dpi)
         .add(Command::addStencil, stencilButton)
         .add(Command::addMeasure, measureButton)
-        .gap(groupGap)
+        .gap(inside - stencilButton - measureButton - 4 * smallButton)
         .add(Command::newTools, smallButton)
         .add(Command::load, smallButton)
         .add(Command::save, smallButton)
-        .add(Command::saveAs, smallButton)
-        .gap(inside - stencilButton - measureButton - groupGap - 5 * smallButton)
-        .add(Command::worksheetNormal, smallButton);
-    const auto line = [dpi](int top) {
-        return PixelRect{scaledLength(margin, dpi), scaledLength(top, dpi),
-                         scaledLength(margin + inside, dpi), scaledLength(top + pathHeight, dpi)};
+        .add(Command::saveAs, smallButton);
+    Row(*this, thirdRow, margin, dpi)
+        .add(Command::lens, smallButton)
+        .add(Command::grid, smallButton)
+        .add(Command::crossHair, smallButton)
+        .add(Command::referenceLines, smallButton)
+        .add(Command::circleCompass, smallButton)
+        .gap(viewGap)
+        .add(Command::screenShot, smallButton)
+        .add(Command::worksheetNormal, smallButton)
+        .gap(inside - viewGap - 9 * smallButton)
+        .add(Command::options, smallButton)
+        .add(Command::help, smallButton);
+    const auto scaled = [dpi](const PixelRect& box) { return scaledToDpi(box, dpi); };
+    gradToolbar = scaled({0, 0, 2 * margin + inside, lookRow});
+    placeLook(dpi);
+    const auto line = [&](int top) {
+        return scaled({margin, top, margin + inside, top + pathHeight});
     };
     lblPath = line(pathRow);
     lblInfo = line(pathRow + 2 * pathHeight);
-    picOuter = {scaledLength(margin, dpi), scaledLength(listTop, dpi),
-                scaledLength(margin + inside, dpi), scaledLength(listTop + listHeight, dpi)};
+    picOuter = scaled({margin, listTop, margin + inside, listTop + listHeight});
     width = scaledLength(2 * margin + inside, dpi);
     shortHeight = scaledLength(listTop - cutAboveList, dpi);
     firstHeight = scaledLength(listTop + listHeight + margin, dpi);
+}
+
+void SettingsLayout::placeLook(int dpi) {
+    // Whole fields that leave the sliders their room at every resolution.
+    colorField = fieldSide * dpi / designDpi;
+    const int paletteWidth = paletteFields.width * fieldSide;
+    colorWorksheet = {scaledLength(margin + inside, dpi) - paletteFields.width * colorField,
+                      scaledLength(lookRow, dpi)};
+    const int left = margin + labelWidth;
+    const int right = margin + inside - paletteWidth - margin;
+    const auto slider = [&](int row) {
+        const int top = lookRow + row * sliderHeight;
+        return scaledToDpi(PixelRect{left, top, right, top + sliderHeight}, dpi);
+    };
+    const int labelTop = lookRow + (sliderHeight - labelHeight) / 2;
+    lblTransparency =
+        scaledToDpi(PixelRect{margin, labelTop, margin + labelWidth, labelTop + labelHeight}, dpi);
+    sldTransEditMode = slider(0);
+    sldTransTemplateMode = slider(1);
 }
 
 int listScrollBarWidth(int dpi) {

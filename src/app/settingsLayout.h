@@ -17,6 +17,15 @@ struct SettingsLayout {
 
     /// In the order of the commands.
     std::array<PixelRect, commandCount> buttons;
+    /// The ground of the buttons.
+    PixelRect gradToolbar;
+    /// What belongs to the look of the worksheet: a label for both sliders, the sliders, and the
+    /// palette's upper left corner with the side of a field.
+    PixelRect lblTransparency;
+    PixelRect sldTransEditMode;
+    PixelRect sldTransTemplateMode;
+    PixelPoint colorWorksheet;
+    int colorField = 0;
     /// The path line.
     PixelRect lblPath;
     /// The info line, which lies over the list.
@@ -28,6 +37,9 @@ struct SettingsLayout {
     int width = 0;
     int shortHeight = 0;
     int firstHeight = 0;
+
+  private:
+    void placeLook(int dpi);
 };
 
 /// Of the list of panels, in pixels.

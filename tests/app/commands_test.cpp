@@ -20,13 +20,17 @@ TEST(Commands, EachHasARowOfItsOwnInItsPlace) {
 }
 
 TEST(Commands, PauseDisablesWhatWorksOnTools) {
-    for (const Command command : {Command::addStencil, Command::addMeasure, Command::newTools,
-                                  Command::load, Command::save, Command::saveAs}) {
+    // The eleven buttons that pause takes away.
+    for (const Command command :
+         {Command::addStencil, Command::addMeasure, Command::newTools, Command::load, Command::save,
+          Command::saveAs, Command::screenShot, Command::grid, Command::circleCompass,
+          Command::crossHair, Command::referenceLines}) {
         EXPECT_TRUE(stateOfCommand(command, mode::edit, false).enabled);
         EXPECT_TRUE(stateOfCommand(command, mode::templateMode, false).enabled);
         EXPECT_FALSE(stateOfCommand(command, mode::pause, false).enabled);
     }
-    for (const Command command : {Command::editMode, Command::templateMode, Command::pauseMode}) {
+    for (const Command command : {Command::editMode, Command::templateMode, Command::pauseMode,
+                                  Command::lens, Command::options, Command::help}) {
         EXPECT_TRUE(stateOfCommand(command, mode::pause, false).enabled);
     }
 }
@@ -48,6 +52,22 @@ TEST(Commands, TheWorksheetComesBackIntoItsFrameOnlyFromTheFullScreen) {
         EXPECT_TRUE(stateOfCommand(Command::worksheetNormal, mode, true).enabled);
         EXPECT_FALSE(stateOfCommand(Command::worksheetNormal, mode, false).enabled);
     }
+}
+
+TEST(Commands, EachToggleShowsTheStateOfItsOwn) {
+    EXPECT_EQ(toggleOf(Command::lens, {.lens = true}), true);
+    EXPECT_EQ(toggleOf(Command::grid, {.grid = true}), true);
+    EXPECT_EQ(toggleOf(Command::crossHair, {.crossHair = true}), true);
+    EXPECT_EQ(toggleOf(Command::referenceLines, {.referenceLines = true}), true);
+    EXPECT_EQ(toggleOf(Command::circleCompass, {.circleCompass = true}), true);
+    int toggles = 0;
+    for (const CommandDesign& design : commandDesigns()) {
+        if (const auto on = toggleOf(design.command, {})) {
+            EXPECT_FALSE(*on);
+            ++toggles;
+        }
+    }
+    EXPECT_EQ(toggles, 5);
 }
 
 TEST(Commands, ModesAndTheirMinimisingTwinsKnowTheirMode) {

@@ -84,25 +84,29 @@ TEST_F(PanelDialogsTest, TheLineStyleOfEitherToolIsChosen) {
     EXPECT_EQ(measure().LineWidth(), 0);
 }
 
-TEST_F(PanelDialogsTest, TheFrameIsAsideDuringTheMouseAction) {
-    std::vector<bool> shown;
+TEST_F(PanelDialogsTest, OtherWindowsAreAsideDuringTheMouseAction) {
+    std::vector<bool> asides;
     MeasureUnits units;
     const TextForm form;
     const SpecialRatios ratios([](int, std::string_view text) { return std::string(text); }, form);
-    PanelDialogs dialogs(
-        {settings_.handle(), settings_.worksheet().handle(), ratios, form, units, [&](bool show) {
-             shown.push_back(show);
-             return true;
-         }});
+    PanelDialogs dialogs({settings_.handle(), settings_.worksheet().handle(), ratios, form, units,
+                          [&](bool aside) { asides.push_back(aside); }});
     StencilCommands& commands = dialogs;
     commands.applyMouseAction(stencil());
-    EXPECT_EQ(shown, (std::vector<bool>{false, true}));
+    EXPECT_EQ(asides, (std::vector<bool>{true, false}));
 }
 
-TEST_F(PanelDialogsTest, TheFrameComesBackAfterTheMouseAction) {
-    EXPECT_TRUE(settings_.resizer().isVisible());
-    SendMessageW(namedChild(stencilPanel(), "cmdSendMouseInput"), BM_CLICK, 0, 0);
-    EXPECT_TRUE(settings_.resizer().isVisible());
+TEST_F(PanelDialogsTest, FrameAndMagnifierComeBackAfterTheMouseAction) {
+    const auto shown = [&] {
+        return std::pair(settings_.resizer().isVisible(),
+                         settings_.view().lens().lens().isVisible());
+    };
+    for (const bool lens : {false, true}) {
+        settings_.view().SetLens(lens);
+        ASSERT_EQ(shown(), std::pair(true, lens));
+        SendMessageW(namedChild(stencilPanel(), "cmdSendMouseInput"), BM_CLICK, 0, 0);
+        EXPECT_EQ(shown(), std::pair(true, lens));
+    }
 }
 
 }  // namespace

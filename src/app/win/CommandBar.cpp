@@ -3,59 +3,41 @@
 #include "app/modes.h"
 #include "language/MlStringModule.h"
 #include "widgets/PanelView.h"
-#include "widgets/pictures.h"
 
 namespace ormala {
 
 namespace {
 
 /// Above the IDs of the commands.
-enum LabelId { idPath = 100, idInfo };
+enum ControlId { idGround = 100, idPath, idInfo };
 
 constexpr Color ground = 0x606060;
+constexpr Color groundAtTop = rgb(124, 124, 124);
 constexpr Color infoColor = rgb(255, 230, 0);
 constexpr Color captionColor = rgb(255, 255, 192);
 constexpr Color litCaptionColor = rgb(31, 31, 31);
 
 constexpr int pictureSize = 16;
 
-Picture pictureOf(Command command) {
-    switch (command) {
-        case Command::editMode:
-            return Picture::modeEdit;
-        case Command::templateMode:
-            return Picture::modeTemplate;
-        case Command::pauseMode:
-            return Picture::modePause;
-        case Command::templateAndMinimise:
-            return Picture::templateAndMinimize;
-        case Command::pauseAndMinimise:
-            return Picture::pauseAndMinimize;
-        case Command::addStencil:
-            return Picture::addStencil;
-        case Command::addMeasure:
-            return Picture::addMeasure;
-        case Command::newTools:
-            return Picture::newTools;
-        case Command::load:
-            return Picture::loadTools;
-        case Command::save:
-            return Picture::saveTools;
-        case Command::saveAs:
-            return Picture::saveToolsAs;
-        case Command::worksheetNormal:
-            return Picture::worksheetWindow;
-    }
-    return Picture::modeEdit;
+bool isToggle(Command command) {
+    return toggleOf(command, {}).has_value();
 }
 
 }  // namespace
 
-CommandBar::CommandBar(HWND parent)
-    : lblPath_(parent, idPath, "lblPath"), lblInfo_(parent, idInfo, "lblInfo") {
+CommandBar::CommandBar(const Window& parent)
+    : gradToolbar_(parent.handle(), idGround, "gradToolbar"),
+      growth_(parent),
+      lblPath_(parent.handle(), idPath, "lblPath"),
+      lblInfo_(parent.handle(), idInfo, "lblInfo") {
+    gradToolbar_.setColorTopLeft(groundAtTop);
+    gradToolbar_.setColorBottomRight(ground);
     for (const CommandDesign& design : commandDesigns()) {
-        makeButton(parent, design);
+        makeButton(parent.handle(), design);
     }
+    // The first child of a window lies in front of the others.
+    SetWindowPos(gradToolbar_.handle(), HWND_BOTTOM, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     lblPath_.setBackColor(ground);
     lblInfo_.setBackColor(ground);
     lblInfo_.setTextColor(infoColor);
@@ -65,23 +47,27 @@ CommandBar::CommandBar(HWND parent)
 void CommandBar::makeButton(HWND parent, const CommandDesign& design) {
     const int id = static_cast<int>(design.command) + 1;
     auto made = std::make_unique<ZelvikButtonXP>(parent, id, design.name);
-    made->setPicture([picture = pictureOf(design.command)](PixelSize size) {
-        return drawPicture(picture, size);
-    });
+    made->setPicture(
+        [picture = design.picture](PixelSize size) { return drawPicture(picture, size); });
     made->setPictureSize(pictureSize, pictureSize);
     made->setBackColor(offColor);
     made->setForeColor(captionColor);
     if (design.command <= Command::pauseMode) {
         constexpr int oneOfSeveral = 2;
         made->setControlType(oneOfSeveral);
+    } else if (isToggle(design.command)) {
+        constexpr int toggle = 1;
+        made->setControlType(toggle);
     }
     made->setCornerStyle(design.cornerStyle);
+    growth_.add(*made);
     clicks_.push_back(
         made->Click.subscribe([this, command = design.command] { chosen.raise(command); }));
     buttons_.push_back(std::move(made));
 }
 
 void CommandBar::layOut(const SettingsLayout& layout, int dpi) {
+    growth_.reset(dpi);
     for (const CommandDesign& design : commandDesigns()) {
         button(design.command).setDpi(dpi);
         button(design.command).place(layout.boxOf(design.command));
@@ -89,6 +75,7 @@ void CommandBar::layOut(const SettingsLayout& layout, int dpi) {
     for (Label* label : {&lblPath_, &lblInfo_}) {
         label->setDpi(dpi);
     }
+    gradToolbar_.place(layout.gradToolbar);
     lblPath_.place(layout.lblPath);
     lblInfo_.place(layout.lblInfo);
 }
@@ -112,8 +99,25 @@ void CommandBar::showMode(int mode, bool worksheetMaxSized) {
     for (int i = 0; i < mode::count; ++i) {
         ZelvikButtonXP& btnMode = *buttons_[static_cast<std::size_t>(i)];
         btnMode.setValue(i == mode);
-        btnMode.setBackColor(colorOfMode(i, mode));
+        btnMode.setBackColor(colorOfToggle(i == mode));
         btnMode.setForeColor(i == mode ? litCaptionColor : captionColor);
+    }
+}
+
+void CommandBar::showToggles(const ToggleStates& states) {
+    for (const CommandDesign& design : commandDesigns()) {
+        if (const auto on = toggleOf(design.command, states)) {
+            button(design.command).setValue(*on);
+            button(design.command).setBackColor(colorOfToggle(*on));
+        }
+    }
+}
+
+void CommandBar::growButtons(bool reset, int dpi) {
+    if (reset) {
+        growth_.reset(dpi);
+    } else {
+        growth_.tick(dpi);
     }
 }
 

@@ -7,21 +7,28 @@
 #include "app/Documents.h"
 #include "app/settingsLayout.h"
 #include "base/Event.h"
+#include "widgets/win/ButtonGrowth.h"
+#include "widgets/win/GradShape.h"
 #include "widgets/win/Label.h"
 #include "widgets/win/ZelvikButtonXP.h"
 
 namespace ormala {
 
-/// The buttons above the list in the control window, the path line and the info line.
+/// The buttons above the list in the control window on their ground, the path line and the info
+/// line.
 class CommandBar {
   public:
     /// Children of `parent`, without places until `layOut`.
-    explicit CommandBar(HWND parent);
+    explicit CommandBar(const Window& parent);
 
     void layOut(const SettingsLayout& layout, int dpi);
     void ApplyLanguage();
     /// Which buttons show, can be pressed and are lit in this mode.
     void showMode(int mode, bool worksheetMaxSized);
+    void showToggles(const ToggleStates& states);
+    /// Small buttons grow under the mouse; to be called about every 44 ms. `reset` brings all back
+    /// to their size at rest.
+    void growButtons(bool reset, int dpi);
 
     void showPathLine(const PathLine& line);
     /// The width that a path has to fit, in pixels.
@@ -40,8 +47,11 @@ class CommandBar {
     }
     void makeButton(HWND parent, const CommandDesign& design);
 
+    /// Behind all others.
+    GradShape gradToolbar_;
     std::vector<std::unique_ptr<ZelvikButtonXP>> buttons_;
     std::vector<Subscription> clicks_;
+    ButtonGrowth growth_;
     Label lblPath_;
     Label lblInfo_;
 };

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "app/win/screens.h"
+#include "app/win/OffScreen.h"
 #include "modAPI/rounding.h"
 
 namespace ormala {
@@ -33,31 +33,6 @@ void sendDrag(POINT to) {
                                  mouseRecord(MOUSEEVENTF_LEFTUP)};
     SendInput(static_cast<UINT>(records.size()), records.data(), sizeof(INPUT));
 }
-
-/// Keeps a window off all screens for its lifetime, if it stands on them in its normal state.
-class OffScreen {
-  public:
-    explicit OffScreen(HWND window) : window_(window) {
-        GetWindowRect(window, &place_);
-        moved_ = IsIconic(window) == FALSE && IsZoomed(window) == FALSE;
-        moveTo(screenAreas().virtualScreen.right);
-    }
-    OffScreen(const OffScreen&) = delete;
-    OffScreen& operator=(const OffScreen&) = delete;
-    ~OffScreen() { moveTo(place_.left); }
-
-  private:
-    void moveTo(LONG left) const {
-        if (moved_) {
-            SetWindowPos(window_, nullptr, left, place_.top, 0, 0,
-                         SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-        }
-    }
-
-    HWND window_;
-    RECT place_{};
-    bool moved_ = false;
-};
 
 }  // namespace
 

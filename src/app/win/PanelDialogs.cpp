@@ -45,11 +45,9 @@ std::optional<double> PanelDialogs::EditRatio(double present) {
 
 void PanelDialogs::applyMouseAction(ctlRatioGrid& stencil) {
     // None of the program's windows may lie under the drag.
-    const bool framed = ports_.showFrame(false);
+    ports_.putWindowsAside(true);
     ormala::applyMouseAction(stencil, ports_.worksheet, ports_.owner);
-    if (framed) {
-        ports_.showFrame(true);
-    }
+    ports_.putWindowsAside(false);
 }
 
 bool PanelDialogs::SelectUnits(ctlMeasure& tool) {

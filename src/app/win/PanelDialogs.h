@@ -32,8 +32,8 @@ class PanelDialogs : public StencilCommands, public MeasureCommands {
         const TextForm& textForm;
         /// What new measuring tools measure in, which the dialog of units can change.
         MeasureUnits& defaultUnits;
-        /// Shows or hides the worksheet's frame; answers whether it was shown.
-        std::function<bool(bool)> showFrame;
+        /// Hides the windows that would lie under a drag on the screen, or shows them again.
+        std::function<void(bool aside)> putWindowsAside;
     };
 
     explicit PanelDialogs(const Ports& ports);

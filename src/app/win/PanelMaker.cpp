@@ -51,8 +51,13 @@ std::unique_ptr<ListedPanel> PanelMaker::makePanel(ToolKind kind, OverlayItem& t
 }
 
 std::unique_ptr<PanelWindow> PanelMaker::makeWindow(ToolKind kind, OverlayItem& tool) {
-    const PanelWindow::Ports ports{
-        ports_.list.picInner(), ++made_, ports_.host, *this, *this, tmrFast};
+    const PanelWindow::Ports ports{ports_.list.picInner(),
+                                   ++made_,
+                                   ports_.host,
+                                   *this,
+                                   *this,
+                                   tmrFast,
+                                   ports_.globalEvents.FontSizeChange};
     if (kind == ToolKind::stencil) {
         return std::make_unique<ctlSetRatioGrid>(dynamic_cast<ctlRatioGrid&>(tool), ports,
                                                  ports_.dialogs, ports_.settings, ports_.ratios);

@@ -3,6 +3,7 @@
 #include "app/ListedPanel.h"
 #include "app/win/PanelDialogs.h"
 #include "app/win/PanelList.h"
+#include "language/clsGlobalEvents.h"
 #include "scene/ToolSettings.h"
 #include "stencil/SpecialRatios.h"
 #include "widgets/win/PanelWindow.h"
@@ -21,6 +22,7 @@ class PanelMaker : public PanelFactory, private ToolVisibility, private DayClock
         PanelDialogs& dialogs;
         const ToolSettings& settings;
         const SpecialRatios& ratios;
+        clsGlobalEvents& globalEvents;
     };
 
     /// All must outlive the panels, and so must the maker.

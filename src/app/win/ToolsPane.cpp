@@ -22,9 +22,9 @@ ToolsPane::ToolsPane(const Ports& ports, int id)
       list_(ports.window, id),
       panelDialogs_({ports.window, ports.worksheet.handle(), ports.ratios, ports.settings.textForm,
                      ports.defaultUnits,
-                     [this](bool shown) { return ports_.controlWindow.showFrame(shown); }}),
-      panelMaker_(
-          {list_, ports.worksheet.sheet(), *this, panelDialogs_, ports.settings, ports.ratios}),
+                     [this](bool aside) { ports_.controlWindow.putWindowsAside(aside); }}),
+      panelMaker_({list_, ports.worksheet.sheet(), *this, panelDialogs_, ports.settings,
+                   ports.ratios, ports.globalEvents}),
       dialogs_(ports.window, ports.bar),
       tools_({ports.worksheet.sheet(), panelMaker_, *this, messages_}),
       defaultUnitsChanged_(panelDialogs_.defaultUnitsChanged.subscribe(

@@ -25,8 +25,9 @@ class ControlWindow {
     virtual void takeHeight(int height) = 0;
     /// In front of the worksheet, without activating it.
     virtual void raiseAboveAll() = 0;
-    /// Shows or hides the worksheet's frame; answers whether it was shown.
-    virtual bool showFrame(bool shown) = 0;
+    /// Hides the magnifier and the worksheet's frame, which would lie under a drag on the screen,
+    /// or shows again those that were shown.
+    virtual void putWindowsAside(bool aside) = 0;
 };
 
 /// The tools of the control window: the list of their panels, the documents they are kept in, and
@@ -44,6 +45,7 @@ class ToolsPane : private ToolListView, private BusyView, private PanelHost {
         MeasureUnits& defaultUnits;
         FileStore& store;
         const CodePage& codePage;
+        clsGlobalEvents& globalEvents;
     };
 
     /// All must outlive it. `id` is the list's control ID.

@@ -1,4 +1,6 @@
 #include "app/win/frmSettings.h"
+// Needs the system's basic types, which come with the window.
+#include <commctrl.h>
 
 #include <algorithm>
 #include <utility>
@@ -6,13 +8,14 @@
 #include "app/programFiles.h"
 #include "app/version.h"
 #include "app/win/screens.h"
+#include "app/win/settingsIds.h"
 #include "app/win/timeOfSaving.h"
 #include "language/MlStringModule.h"
 #include "language/win/UserLocale.h"
 #include "platform/win/text.h"
 #include "storage/modStorage.h"
 #include "storage/win/SpecialFolder.h"
-#include "worksheet/transparency.h"
+#include "widgets/win/controlFontSize.h"
 
 // Load and closing of the control window.
 
@@ -20,11 +23,8 @@ namespace ormala {
 
 namespace {
 
-enum ControlId { idList = 200 };
-
-/// The shared clock `tmrFast`, in milliseconds.
-constexpr UINT_PTR tmrFast = 1;
 constexpr UINT tmrFastInterval = 40;
+constexpr UINT tmrButtonBigInterval = 44;
 
 constexpr const char* placementSection = "FormSettings";
 constexpr const char* framePlacementSection = "FormResizer";
@@ -47,9 +47,11 @@ frmSettings::frmSettings(bool anotherRuns) : ratios_(translatedRatios(toolSettin
 }
 
 frmSettings::~frmSettings() {
+    closed_ = true;
     wheelHook_.reset();
     tools_.reset();
     resizer_.reset();
+    view_.reset();
     worksheet_.reset();
     destroy();
 }
@@ -68,16 +70,16 @@ void frmSettings::load(bool anotherRuns) {
     AddModeSystemMenuItems();
     wheelHook_ = std::make_unique<MouseWheelHook>([this](bool down) { tools_->Scroll(down); });
     loadResizer();
-    refreshTexts();
+    RefreshRuntimeStrings();
     loadTools();
     SetWindowPos(handle(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     placeWindow(anotherRuns);
-    worksheet_->setClickAlpha(alphaOfTransparency(options_.transparencyEditMode));
-    worksheet_->setAlpha(alphaOfTransparency(options_.transparencyTemplateMode));
     SetMode(options_.mode, false);
     cutEditModeHeight();
+    view_->SetLens(options_.lensVisible);
     GetLanguageSupport().ChangeLanguage(CurrentLanguage());
     optionsFile_.ShowLastError();
+    SetTimer(handle(), tmrButtonBig, tmrButtonBigInterval, nullptr);
     // Shown last, so that it comes up in front of the worksheet and with the focus.
     ShowWindow(handle(), SW_SHOWNORMAL);
     SetPropW(handle(), readyProperty, handle());
@@ -99,9 +101,7 @@ void frmSettings::chooseLanguage(int localeLanguage) {
     }
     MlSetLanguage(options_.language, {});
     options_.language = CurrentLanguage();
-    toolSettings_.grid = options_.grid.steps;
     toolSettings_.textForm.decimalSeparator = decimalSeparator();
-    SetReferenceLines(options_.showReferenceLines);
 }
 
 void frmSettings::createWindow() {
@@ -148,10 +148,11 @@ void frmSettings::AddModeSystemMenuItems() {
     }
 }
 
-void frmSettings::refreshTexts() {
+void frmSettings::RefreshRuntimeStrings() {
     toolSettings_.textForm.infinite = MlString(313, "infinite");
     ratios_ = translatedRatios(toolSettings_.textForm);
     bar_->ApplyLanguage();
+    view_->ApplyLanguage();
     tools_->documents().UpdatePathLine();
     UpdateCaption();
     resizer_->SetRuntimeTexts(applicationTitle);
@@ -165,18 +166,37 @@ void frmSettings::refreshTexts() {
 }
 
 void frmSettings::makeControls() {
-    bar_ = std::make_unique<CommandBar>(handle());
+    bar_ = std::make_unique<CommandBar>(*this);
     chosen_ = bar_->chosen.subscribe([this](Command command) { execute(command); });
-    const ToolsPane::Ports ports{handle(),    *this,         *bar_,   *worksheet_,
-                                 foreground_, toolSettings_, ratios_, options_.defaultUnits,
-                                 store_,      codePage_};
+    view_ = std::make_unique<ViewPane>(
+        ViewPane::Ports{*this, *this, *bar_, *worksheet_, options_, toolSettings_});
+    {
+        const auto group = optionsFile_.group();
+        view_->load(optionsFile_);
+    }
+    const ToolsPane::Ports ports{handle(),    *this,         *bar_,        *worksheet_,
+                                 foreground_, toolSettings_, ratios_,      options_.defaultUnits,
+                                 store_,      codePage_,     globalEvents_};
     tools_ = std::make_unique<ToolsPane>(ports, idList);
+    makeFontSizeBox();
     layOutControls();
     SetTimer(handle(), tmrFast, tmrFastInterval, nullptr);
 }
 
+/// No user sees the box: the size of type stays as designed unless a program ticks it.
+void frmSettings::makeFontSizeBox() {
+    check1_.create(handle(), {WC_BUTTONW, BS_AUTOCHECKBOX, idFontSize, "Check1", {}});
+    // A click has to lie inside of it.
+    constexpr int side = 16;
+    SetWindowPos(check1_.handle(), nullptr, 0, 0, side, side,
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);
+    fontSizeChange_ = globalEvents_.FontSizeChange.subscribe(
+        [this](int points) { SetFontSizeOfControls(handle(), points); });
+}
+
 void frmSettings::layOutControls() {
     bar_->layOut(layout(), dpi_);
+    view_->layOut(layout(), dpi_);
     tools_->setDpi(dpi_);
 }
 
@@ -207,10 +227,14 @@ void frmSettings::save() {
 
 void frmSettings::unload() {
     save();
+    // The parts go one by one, and the focus that they leave behind finds the rest half gone.
+    closed_ = true;
     wheelHook_.reset();
     KillTimer(handle(), tmrFast);
+    KillTimer(handle(), tmrButtonBig);
     tools_.reset();
     resizer_.reset();
+    view_.reset();
     worksheet_.reset();
 }
 
@@ -222,9 +246,11 @@ void frmSettings::SaveOptions() {
         const auto group = optionsFile_.group();
         WriteFileHeader(optionsFile_, versionText, timeOfSaving());
         optionsFile_.setCurrentSection(optionsSection);
+        view_->fetchOptions();
         writeOptions(optionsFile_, options_);
         SaveFormPlacement(handle(), optionsFile_, placementSection);
         SaveFormPlacement(resizer_->handle(), optionsFile_, framePlacementSection);
+        view_->lens().savePlace(optionsFile_);
     }
     optionsFile_.ShowLastError();
 }

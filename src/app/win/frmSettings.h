@@ -9,8 +9,11 @@
 #include "app/win/CommandBar.h"
 #include "app/win/MouseWheelHook.h"
 #include "app/win/ToolsPane.h"
+#include "app/win/ViewPane.h"
 #include "app/win/WindowsMessagePresenter.h"
 #include "base/Event.h"
+#include "language/clsGlobalEvents.h"
+#include "platform/win/StandardControl.h"
 #include "platform/win/Window.h"
 #include "scene/ToolSettings.h"
 #include "stencil/SpecialRatios.h"
@@ -22,29 +25,27 @@ namespace ormala {
 
 /// The control window and main window of the program: it owns the options, the worksheet and the
 /// mode, and its closing ends the program.
-class frmSettings : public Window, public WorksheetCommands, private ControlWindow {
+class frmSettings : public Window,
+                    public WorksheetCommands,
+                    private ControlWindow,
+                    private ViewHost {
   public:
     /// `anotherRuns` says whether another copy of the program is running.
     explicit frmSettings(bool anotherRuns);
     ~frmSettings() override;
 
-    [[nodiscard]] int GetMode() const { return mode_; }
+    [[nodiscard]] int GetMode() const override { return mode_; }
     void SetMode(int mode, bool minimise) override;
-    void SetReferenceLines(bool enabled);
-    [[nodiscard]] bool TemplateWithBorder() const { return options_.templateWithBorder; }
-    /// Whether template mode keeps the worksheet's frame; the next change of mode heeds it.
-    void setTemplateWithBorder(bool kept) { options_.templateWithBorder = kept; }
     /// Whether a full-screen worksheet can be brought back into its frame now.
     [[nodiscard]] bool WorksheetMaxSized() const { return worksheetMaxSized_; }
     void setWorksheetMaxSized(bool maxSized);
-    /// Raised with the new value when it has changed.
-    Event<bool> worksheetMaxSizedChanged;
     /// Brings a full-screen worksheet back into its frame.
     void worksheetWindowNormal();
 
     [[nodiscard]] frmWorksheet& worksheet() { return *worksheet_; }
     [[nodiscard]] frmResizer& resizer() { return *resizer_; }
     [[nodiscard]] ToolsPane& tools() { return *tools_; }
+    [[nodiscard]] ViewPane& view() { return *view_; }
 
     /// Sees a message before the control that it is for: true if it was a key of the window.
     bool preview(const MSG& message);
@@ -55,12 +56,19 @@ class frmSettings : public Window, public WorksheetCommands, private ControlWind
     void ShowHelp() override;
     void stepHistory(OverlayItem& item, bool back) override;
     void raiseControlWindowAt(POINT screen) override;
+    bool raiseLens(bool onlySticked) override { return view_ && view_->lens().raise(onlySticked); }
+    void ShowContextMenu(POINT screen) override { view_->ShowContextMenu(screen); }
+    void ShowOptions(int page) override { view_->ShowOptions(page); }
     void closeProgram() override;
 
     [[nodiscard]] PanelLayout::Window layoutWindow() const override;
     void takeHeight(int height) override;
     void raiseAboveAll() override;
-    bool showFrame(bool shown) override;
+    void putWindowsAside(bool aside) override;
+
+    void execute(Command command) override;
+    void maximiseWorksheet() override { resizer_->maximise(); }
+    void RefreshRuntimeStrings() override;
 
     void load(bool anotherRuns);
     void openOptionsFile();
@@ -68,8 +76,8 @@ class frmSettings : public Window, public WorksheetCommands, private ControlWind
     void chooseLanguage(int localeLanguage);
     void AddModeSystemMenuItems();
     void makeControls();
+    void makeFontSizeBox();
     void layOutControls();
-    void refreshTexts();
     void loadTools();
     void loadWorksheet();
     void loadResizer();
@@ -82,7 +90,6 @@ class frmSettings : public Window, public WorksheetCommands, private ControlWind
 
     void applyModeToWindows(int mode);
     void layOutAnew();
-    void execute(Command command);
     [[nodiscard]] ModeWindows windowsOf(int mode) const;
     void AdjustFormHeight(int mode, int formerMode);
     void SyncSystemMenu(int mode);
@@ -91,6 +98,7 @@ class frmSettings : public Window, public WorksheetCommands, private ControlWind
     [[nodiscard]] SIZE frameSize() const;
     [[nodiscard]] SettingsLayout layout() const { return SettingsLayout(dpi_); }
 
+    std::optional<LRESULT> onOwnMessage(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onErase(HDC context);
     LRESULT onSize(WPARAM kind);
     LRESULT onActivate(WPARAM kind, HWND other);
@@ -100,7 +108,8 @@ class frmSettings : public Window, public WorksheetCommands, private ControlWind
     LRESULT onSysCommand(WPARAM wParam, LPARAM lParam);
     LRESULT onDpiChanged(WPARAM wParam, LPARAM lParam);
     LRESULT onDisplayChange();
-    LRESULT onTimer();
+    LRESULT onTimer(WPARAM id);
+    LRESULT onCommand(WPARAM wParam);
     LRESULT onClose();
     LRESULT onEndSession(bool ending);
     bool onKey(int key);
@@ -127,6 +136,10 @@ class frmSettings : public Window, public WorksheetCommands, private ControlWind
     Subscription worksheetResized_;
     std::unique_ptr<frmResizer> resizer_;
     Subscription worksheetPlaced_;
+    clsGlobalEvents globalEvents_;
+    Subscription fontSizeChange_;
+    StandardControl check1_;
+    std::unique_ptr<ViewPane> view_;
     std::unique_ptr<ToolsPane> tools_;
     std::unique_ptr<MouseWheelHook> wheelHook_;
     /// The program has come to the front, and the control window has not been told yet.
@@ -134,6 +147,11 @@ class frmSettings : public Window, public WorksheetCommands, private ControlWind
     /// A click on a panel brings the window to the front and will take the focus to itself.
     bool clickOnPanel_ = false;
     bool saved_ = false;
+    /// The parts of the window are gone or going; the system handles what comes.
+    bool closed_ = false;
+    /// What was shown of the windows that have been put aside.
+    bool lensAside_ = false;
+    bool frameAside_ = false;
 };
 
 }  // namespace ormala

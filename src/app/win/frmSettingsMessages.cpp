@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/win/screens.h"
+#include "app/win/settingsIds.h"
 #include "scene/Input.h"
 
 // Messages and keys of the control window.
@@ -20,6 +21,9 @@ constexpr UINT wmRaise = WM_APP + 2;
 }  // namespace
 
 std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (closed_) {
+        return std::nullopt;
+    }
     switch (message) {
         case WM_ERASEBKGND:
             return onErase(reinterpret_cast<HDC>(wParam));
@@ -47,7 +51,9 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
         case WM_DISPLAYCHANGE:
             return onDisplayChange();
         case WM_TIMER:
-            return onTimer();
+            return onTimer(wParam);
+        case WM_COMMAND:
+            return onCommand(wParam);
         case WM_CLOSE:
             return onClose();
         case WM_QUERYENDSESSION:
@@ -55,8 +61,18 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
         case WM_ENDSESSION:
             return onEndSession(wParam != FALSE);
         default:
-            return tools_ ? tools_->onMessage(message, lParam) : std::nullopt;
+            return onOwnMessage(message, wParam, lParam);
     }
+}
+
+/// Messages that a part of the window has sent.
+std::optional<LRESULT> frmSettings::onOwnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (view_) {
+        if (const auto result = view_->onMessage(message, wParam)) {
+            return result;
+        }
+    }
+    return tools_ ? tools_->onMessage(message, lParam) : std::nullopt;
 }
 
 LRESULT frmSettings::onErase(HDC context) {
@@ -121,6 +137,9 @@ LRESULT frmSettings::onDisplayChange() {
     if (resizer_) {
         bringOntoScreens(resizer_->handle());
     }
+    if (view_) {
+        bringOntoScreens(view_->lens().lens().handle());
+    }
     return 0;
 }
 
@@ -150,14 +169,29 @@ LRESULT frmSettings::onFocus() {
     return 0;
 }
 
-LRESULT frmSettings::onTimer() {
-    tools_->tick();
+LRESULT frmSettings::onTimer(WPARAM id) {
+    if (id == tmrButtonBig) {
+        bar_->growButtons(IsWindowEnabled(handle()) == FALSE, dpi_);
+    } else {
+        tools_->tick();
+    }
+    return 0;
+}
+
+LRESULT frmSettings::onCommand(WPARAM wParam) {
+    if (LOWORD(wParam) == idFontSize && HIWORD(wParam) == BN_CLICKED) {
+        constexpr int large = 9;
+        constexpr int normal = 8;
+        const bool ticked = SendMessageW(check1_.handle(), BM_GETCHECK, 0, 0) == BST_CHECKED;
+        globalEvents_.ChangeFontSize(ticked ? large : normal);
+    }
     return 0;
 }
 
 LRESULT frmSettings::onClose() {
-    // While a dialog of the window is open, that has to be answered first.
-    if (IsWindowEnabled(handle()) != FALSE && tools_->documents().ConfirmDiscard()) {
+    // A dialog that is open has to be answered, and a screen shot finished first.
+    if (IsWindowEnabled(handle()) != FALSE && !view_->takesScreenShot() &&
+        tools_->documents().ConfirmDiscard()) {
         unload();
         PostQuitMessage(0);
     }
@@ -173,7 +207,8 @@ LRESULT frmSettings::onEndSession(bool ending) {
 }
 
 bool frmSettings::preview(const MSG& message) {
-    const bool own = message.hwnd == handle() || IsChild(handle(), message.hwnd) != FALSE;
+    const bool own =
+        !closed_ && (message.hwnd == handle() || IsChild(handle(), message.hwnd) != FALSE);
     if (!own || message.message != WM_KEYDOWN) {
         return false;
     }
@@ -206,6 +241,9 @@ bool frmSettings::onKey(int key) {
             return true;
         case key::f4:
             SetMode(mode::templateMode, shiftOnly);
+            return true;
+        case key::f12:
+            ShowOptions(0);
             return true;
         default:
             return false;

@@ -8,6 +8,7 @@
 #include "language/MlStringModule.h"
 #include "platform/win/monitors.h"
 #include "platform/win/text.h"
+#include "platform/win/windowOrder.h"
 #include "scene/Input.h"
 
 // Modes and commands of the control window.
@@ -15,8 +16,6 @@
 namespace ormala {
 
 namespace {
-
-constexpr UINT keepPlaceAndOwner = SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
 
 WindowState stateOf(HWND window) {
     if (IsIconic(window) != FALSE) {
@@ -44,11 +43,6 @@ bool fileIsThere(const std::wstring& path) {
 
 }  // namespace
 
-void frmSettings::SetReferenceLines(bool enabled) {
-    options_.showReferenceLines = enabled;
-    toolSettings_.showReferenceLines = enabled;
-}
-
 void frmSettings::SetMode(int mode, bool minimise) {
     const int former = mode_;
     lit_ = mode;
@@ -59,6 +53,7 @@ void frmSettings::SetMode(int mode, bool minimise) {
     mode_ = mode;
     UpdateCaption();
     SyncSystemMenu(mode);
+    view_->modeChanged(mode);
     if (minimise) {
         ShowWindow(handle(), SW_MINIMIZE);
     }
@@ -103,18 +98,25 @@ void frmSettings::raiseAboveAll() {
         // Even without being moved, a minimised window could forget where it stood.
         return;
     }
-    SetWindowPos(handle(), HWND_TOPMOST, 0, 0, 0, 0, keepPlaceAndOwner);
-    SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, keepPlaceAndOwner);
+    raiseWithoutActivating(handle(), HWND_TOPMOST);
+    raiseWithoutActivating(handle());
 }
 
-bool frmSettings::showFrame(bool shown) {
-    const bool was = resizer_->isVisible();
-    if (shown) {
-        resizer_->show();
-    } else {
+void frmSettings::putWindowsAside(bool aside) {
+    LensPane& lens = view_->lens();
+    if (aside) {
+        lensAside_ = lens.lens().isVisible();
+        frameAside_ = resizer_->isVisible();
+        lens.setAside(true);
         resizer_->hide();
+        return;
     }
-    return was;
+    if (frameAside_) {
+        resizer_->show();
+    }
+    if (lensAside_) {
+        lens.setAside(false);
+    }
 }
 
 ModeWindows frmSettings::windowsOf(int mode) const {
@@ -124,7 +126,6 @@ ModeWindows frmSettings::windowsOf(int mode) const {
 void frmSettings::setWorksheetMaxSized(bool maxSized) {
     if (std::exchange(worksheetMaxSized_, maxSized) != maxSized) {
         bar_->showMode(lit_, maxSized);
-        worksheetMaxSizedChanged.raise(maxSized);
     }
 }
 
@@ -203,7 +204,9 @@ void frmSettings::execute(Command command) {
         SetMode(mode, minimises(command));
     } else if (command == Command::worksheetNormal) {
         worksheetWindowNormal();
-    } else {
+    } else if (command == Command::help) {
+        ShowHelp();
+    } else if (!view_->execute(command)) {
         tools_->execute(command);
     }
 }

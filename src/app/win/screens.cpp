@@ -1,5 +1,7 @@
 #include "app/win/screens.h"
 
+#include "platform/win/monitors.h"
+
 namespace ormala {
 
 namespace {
@@ -40,11 +42,6 @@ PlacementRect keptOnPresentScreens(const PlacementRect& rect) {
     return onSomeScreen(keptOnScreens(rect, screenAreas()));
 }
 
-int metricOr(int index, int fallback) {
-    const int value = GetSystemMetrics(SM_CMONITORS) == 0 ? 0 : GetSystemMetrics(index);
-    return value != 0 ? value : fallback;
-}
-
 }  // namespace
 
 RECT systemRect(const PlacementRect& rect) {
@@ -54,11 +51,7 @@ RECT systemRect(const PlacementRect& rect) {
 ScreenAreas screenAreas() {
     RECT work{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    const int left = metricOr(SM_XVIRTUALSCREEN, 0);
-    const int top = metricOr(SM_YVIRTUALSCREEN, 0);
-    const int width = metricOr(SM_CXVIRTUALSCREEN, GetSystemMetrics(SM_CXSCREEN));
-    const int height = metricOr(SM_CYVIRTUALSCREEN, GetSystemMetrics(SM_CYSCREEN));
-    return {placementRect(work), {left, top, left + width, top + height}};
+    return {placementRect(work), placementRect(virtualScreen())};
 }
 
 void SaveFormPlacement(HWND window, INIFile& options, const std::string& section) {

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <windows.h>
+
+// Numbers of the control window's own timers and controls.
+
+namespace ormala {
+
+/// The shared clock, and that of the buttons that grow.
+inline constexpr UINT_PTR tmrFast = 1;
+inline constexpr UINT_PTR tmrButtonBig = 2;
+
+/// Above those of the toolbar.
+inline constexpr int idList = 200;
+inline constexpr int idFontSize = 201;
+
+}  // namespace ormala
