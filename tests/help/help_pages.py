@@ -1,11 +1,13 @@
 """The help pages are well-formed, alike in every language, and need nothing but each other.
 
 The pages are written so that they read as HTML and as XML. `complaints` takes a dictionary from the
-name of each file of help/ to its text and returns one sentence for each fault.
+name of each file of help/ to its text, or to the bytes of a picture, and returns one sentence for
+each fault.
 """
 
 import pathlib
 import re
+import struct
 import sys
 import xml.etree.ElementTree as ElementTree
 
@@ -17,6 +19,10 @@ HEADING = re.compile(r"h[1-6]")
 ADDRESS = re.compile(r"\s*([a-z][a-z0-9+.-]*:|//)", re.IGNORECASE)
 CSS_REFERENCE = re.compile(r"url\(|@import|expression\(", re.IGNORECASE)
 REFERRING = ("href", "src", "srcset", "action", "poster", "data")
+PNG_BEGINS = b"\x89PNG\r\n\x1a\n"
+# All pictures together: the help lies beside a program of a few megabytes.
+PICTURE_BYTES = 1_500_000
+OF_A_LANGUAGE = re.compile(r".*_([a-z]{2})\.png")
 FORBIDDEN = ("script", "iframe", "object", "embed", "style", "base", "form", "link")
 
 
@@ -45,7 +51,8 @@ def references(root):
 
 
 def outline(root):
-    """What all languages share: the headings with their anchors, and the rows of each table."""
+    """What all languages share: the headings with their anchors, the rows of each table, and the
+    pictures, whose names end with the language where they show words."""
     lines = []
     for element in root.iter():
         if HEADING.fullmatch(element.tag):
@@ -53,11 +60,24 @@ def outline(root):
         elif element.tag in ("ol", "ul", "table"):
             rows = sum(child.tag in ("li", "tr") for child in element.iter())
             lines.append(f"{element.tag} of {rows}")
+        elif element.tag == "img":
+            lines.append("img " + re.sub(r"_[a-z]{2}(?=\.png$)", "", element.get("src", "")))
     return lines
 
 
+def language_of(name):
+    return re.fullmatch(r"help_(\w+)\.html", name)[1]
+
+
+def size_of_picture(data):
+    """(width, height) of a PNG, None for anything else."""
+    if not data.startswith(PNG_BEGINS) or data[12:16] != b"IHDR" or len(data) < 24:
+        return None
+    return struct.unpack(">II", data[16:24])
+
+
 def complaints_about_head(name, root):
-    language = re.fullmatch(r"help_(\w+)\.html", name)[1]
+    language = language_of(name)
     if root.get("lang") != language:
         yield f"{name} does not say that its language is {language}."
     if not (root.findtext("head/title") or "").strip():
@@ -96,6 +116,22 @@ def complaints_about_references(name, root, roots, files):
             yield f"{name} refers to {reference}, an anchor that is not there."
 
 
+def complaints_about_pictures(name, root, files):
+    for element in root.iter("img"):
+        source = element.get("src", "")
+        data = files.get(source)
+        if not isinstance(data, bytes):
+            continue
+        size = size_of_picture(data)
+        if not size:
+            yield f"{source} is no PNG."
+        elif (element.get("width"), element.get("height")) != tuple(map(str, size)):
+            yield f"{name} doesn't say that {source} has {size[0]} x {size[1]} pixels."
+        spoken = OF_A_LANGUAGE.fullmatch(source)
+        if spoken and spoken[1] != language_of(name):
+            yield f"{name} shows {source}, a picture of another language."
+
+
 def complaints_about_outlines(pages):
     first, *others = sorted(pages)
     expected = outline(pages[first])
@@ -127,11 +163,15 @@ def complaints(files):
     pages = {name: root for name, root in roots.items() if name.endswith(".html")}
     for name, root in pages.items():
         found += complaints_about_head(name, root)
+        found += complaints_about_pictures(name, root, files)
     if pages:
         found += complaints_about_outlines(pages)
     used = {value.partition("#")[0] for root in pages.values() for value in references(root)}
     found += [f"{name} is used by no page." for name in files
               if name not in used and not name.endswith(".html")]
+    total = sum(len(data) for data in files.values() if isinstance(data, bytes))
+    if total > PICTURE_BYTES:
+        found.append(f"The pictures have {total} bytes, more than {PICTURE_BYTES}.")
     return found
 
 
@@ -152,9 +192,13 @@ def complaints_about_program(files, tables):
             yield f"{path} names {page[1]}, which is not there."
 
 
+def read(path):
+    return path.read_bytes() if path.suffix == ".png" else path.read_text(encoding="utf-8")
+
+
 def main():
     project = pathlib.Path(sys.argv[1])
-    files = {path.name: path.read_text(encoding="utf-8")
+    files = {path.name: read(path)
              for path in sorted((project / "help").iterdir()) if path.name != "CMakeLists.txt"}
     tables = {path: (project / path).read_text(encoding="utf-8") for path in TEXT_TABLES}
     build = (project / "help" / "CMakeLists.txt").read_text(encoding="utf-8")

@@ -1,8 +1,14 @@
 """Shows that the rules of the help can be broken: each on small bad pages."""
 
+import struct
 import unittest
 
 import help_pages
+
+
+def picture(width, height, length=24):
+    return (help_pages.PNG_BEGINS + b"\0\0\0\rIHDR" + struct.pack(">II", width, height)).ljust(
+        length, b"\0")
 
 
 def page(language, body, head=""):
@@ -101,6 +107,42 @@ class HelpPages(unittest.TestCase):
         files = pages('<img src="a.svg" />')
         files["a.svg"] = "<svg />"
         self.assertEqual(len(help_pages.complaints(files)), 2)
+
+    def files_with_picture(self, image, data, source="a.png"):
+        files = pages(image)
+        files[source] = data
+        return files
+
+    def test_a_picture_has_its_size(self):
+        image = '<img src="a.png" width="20" height="10" alt="A" />'
+        self.assertEqual(help_pages.complaints(self.files_with_picture(image, picture(20, 10))), [])
+        for data, words in ((picture(21, 10), "21 x 10"), (b"GIF89a", "no PNG")):
+            found = help_pages.complaints(self.files_with_picture(image, data))
+            self.assertEqual(len(found), 2, found)
+            self.assertIn(words, found[0])
+
+    def test_a_picture_without_its_size_is_found(self):
+        files = self.files_with_picture('<img src="a.png" alt="A" />', picture(20, 10))
+        self.assertEqual(len(help_pages.complaints(files)), 2)
+
+    def test_a_picture_with_words_is_of_the_language_of_the_page(self):
+        image = '<img src="a_de.png" width="1" height="1" alt="A" />'
+        files = self.files_with_picture(image, picture(1, 1), "a_de.png")
+        self.assert_complaint(files, "another language")
+        files["help_en.html"] = files["help_en.html"].replace("a_de", "a_en")
+        files["a_en.png"] = picture(1, 1)
+        self.assertEqual(help_pages.complaints(files), [])
+
+    def test_all_languages_show_the_same_pictures(self):
+        image = '<img src="a.png" width="1" height="1" alt="A" />'
+        files = pages(image, "<p>A</p>")
+        files["a.png"] = picture(1, 1)
+        self.assert_complaint(files, "1 parts and help_en.html has 0")
+
+    def test_the_pictures_are_small_together(self):
+        image = '<img src="a.png" width="1" height="1" alt="A" />'
+        self.assert_complaint(self.files_with_picture(image, picture(1, 1, 1_500_001)),
+                              "1500001 bytes")
 
     def test_a_style_sheet_takes_nothing_from_outside(self):
         link = '<link rel="stylesheet" href="a.css" />'
