@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include "e2e/LensScales.h"
 #include "e2e/SheetFrame.h"
 
 namespace ormala::test {
@@ -23,7 +24,7 @@ bool liesIn(const ScreenRect& area, const ScreenRect& rect) {
 }
 
 /// Where the control window stands on the second monitor: right of all that is dragged.
-constexpr int controlLeft = 960;
+constexpr int controlLeft = 940;
 
 /// The program with its worksheet and its control window on the second monitor.
 class Monitors : public testing::Test {
@@ -51,6 +52,24 @@ class Monitors : public testing::Test {
 
     bool fills(const ScreenRect& area) {
         return waitUntil([&] { return scene_.worksheet().rect() == area; });
+    }
+
+    /// Starts anew with a bare magnifier on the second monitor, whose scales count from the main
+    /// monitor and from all of them.
+    LensWindow openLens() {
+        scene_.restart([this] {
+            SettingsFile options = SettingsFile::read(scene_.data().optionsFile());
+            for (const char* const key : {"LensCursorOn", "LensHotSpotOn", "LensGridOn"}) {
+                options.set("Options", key, " 0");
+            }
+            options.set("Options", "LensVisible", "-1");
+            options.set("Options", "LensRulTOrigin", " 2");
+            options.set("Options", "LensRulBOrigin", " 3");
+            options.write(scene_.data().optionsFile());
+        });
+        const LensWindow lens(scene_.window("frmLens"));
+        lens.moveTo(second_.rect().origin() + ScreenPoint{20, 560});
+        return lens;
     }
 
     void setMode(WPARAM command, const char* caption) {
@@ -203,6 +222,56 @@ TEST_F(Monitors, DragSurvivesTheLossOfTheMonitor) {
     scene_.mouse.release();
     expectFramedOnMainMonitor();
     EXPECT_EQ(scene_.program().close(), 0U);
+}
+
+TEST_F(Monitors, MagnifierShowsThePixelsAtNegativeCoordinates) {
+    const LensWindow lens = openLens();
+    EXPECT_TRUE(liesIn(second_.rect(), lens.window().rect())) << lens.window().rect();
+    const LensScales scales(lens, 4, false);
+    const ScreenRect there = second_.rect();
+    for (const ScreenPoint cursor : {scene_.onScreen(scene_.model.gripPixel(0, 0)),
+                                     there.origin() + ScreenPoint{3, 2}, ScreenPoint{-1, 300}}) {
+        scene_.mouse.moveTo(cursor);
+        EXPECT_TRUE(lens.showsScreen(cursor, 4));
+        const ScreenRect source = lens.view(cursor, 4).source;
+        scales.expectColumns("picRulTop", source.left);
+        scales.expectRows("picRulLeft", source.top);
+        scales.expectColumns("picRulBottom", source.left - there.left);
+    }
+}
+
+TEST_F(Monitors, MagnifierComesOntoTheMainOneWhenItsMonitorGoes) {
+    const LensWindow lens = openLens();
+    second_.takeAway();
+    EXPECT_TRUE(waitUntil([&] { return liesIn(mainWorkArea(), lens.window().rect()); }))
+        << lens.window().rect();
+    EXPECT_TRUE(lens.window().isVisible());
+    // At the edge that was none before.
+    lens.moveTo({600, 400});
+    scene_.mouse.moveTo({0, 300});
+    EXPECT_TRUE(lens.showsScreen({0, 300}, 4));
+    EXPECT_EQ(scene_.program().close(), 0U);
+}
+
+TEST_F(Monitors, MagnifierBesideTheMouseStaysOnBothMonitors) {
+    scene_.restart([this] {
+        SettingsFile options = SettingsFile::read(scene_.data().optionsFile());
+        options.set("Options", "LensVisible", "-1");
+        options.set("Options", "LensSticked", "-1");
+        options.write(scene_.data().optionsFile());
+    });
+    const DesktopWindow window = scene_.window("frmLens");
+    const ScreenRect all = screen::virtualScreen();
+    const ScreenPoint cursor = second_.rect().origin() + ScreenPoint{300, 40};
+    scene_.mouse.moveTo(cursor);
+    EXPECT_TRUE(waitUntil([&] {
+        return window.rect().origin() == cursor + ScreenPoint{24, 32};
+    })) << window.rect();
+    const ScreenPoint corner{all.right - 5, all.bottom - 5};
+    scene_.mouse.moveTo(corner);
+    EXPECT_TRUE(waitUntil([&] {
+        return window.rect().right == all.right && window.rect().bottom == corner.y - 24;
+    })) << window.rect();
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <numbers>
 #include <optional>
 
+#include "e2e/Dialog.h"
 #include "e2e/ToolPanel.h"
 
 namespace ormala::test {
@@ -26,10 +27,6 @@ constexpr Slot chosen[] = {{1, 0, 2, 0},
                            {2, 10, 3, fullTurn / 20},
                            {16, 2, 17, fullTurn / 4}};
 
-std::string indexed(const char* name, int index) {
-    return std::string(name) + "(" + std::to_string(index) + ")";
-}
-
 SettingsFile oneStencil() {
     return ToolSet().stencil({205, 155, 365, 257}).file();
 }
@@ -37,51 +34,6 @@ SettingsFile oneStencil() {
 SettingsFile oneMeasure() {
     return ToolSet().measure({{200, 300}, {300, 300}}, {{200, 360}, {260, 360}}, false).file();
 }
-
-/// A dialog that a button of a panel has opened.
-class Dialog {
-  public:
-    Dialog(PanelScene& scene, std::string_view className)
-        : scene_(scene), window_(scene.program().waitForWindow(className)) {}
-
-    [[nodiscard]] DesktopWindow control(std::string_view name) const {
-        return PanelScene::control(window_, name);
-    }
-    void press(std::string_view name) const { scene_.press(control(name)); }
-    /// Leaves it by a button.
-    void leave(std::string_view name) const {
-        press(name);
-        window_.waitUntilHidden();
-    }
-    void escape() const {
-        keyboard::press(VK_ESCAPE);
-        window_.waitUntilHidden();
-    }
-    [[nodiscard]] const DesktopWindow& window() const { return window_; }
-    /// The middle of a list's row.
-    [[nodiscard]] ScreenPoint row(std::string_view list, int index) const {
-        const DesktopWindow rows = control(list);
-        const auto height = static_cast<int>(rows.send(LB_GETITEMHEIGHT).value());
-        return rows.at(30, index * height + height / 2);
-    }
-    /// As a user does: goes to the field, and writes over what stands there.
-    void enter(std::string_view name, std::string_view text) const {
-        focusByTab(field(name));
-        keyboard::press(VK_END);
-        keyboard::press(VK_HOME, Modifiers::Shift);
-        keyboard::type(text);
-    }
-
-  private:
-    /// Where the letters go to: the control or the edit field in it.
-    [[nodiscard]] DesktopWindow field(std::string_view name) const {
-        const DesktopWindow found = control(name).child("Edit");
-        return found.exists() ? found : control(name);
-    }
-
-    PanelScene& scene_;
-    DesktopWindow window_;
-};
 
 class PanelDialogs : public testing::Test {
   protected:

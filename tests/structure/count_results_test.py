@@ -14,6 +14,9 @@ PASSED = '<testcase name="Good" classname="Suite"/>'
 FAILED = '<testcase name="Bad" classname="Suite"><failure message="no"/></testcase>'
 SKIPPED = '<testcase name="Left" classname="Left" status="notrun"><skipped/></testcase>'
 
+EXCUSED = ('<testcase name="help.chromium" classname="help.chromium" status="notrun">'
+           '<skipped/><system-out>There is none.\n</system-out></testcase>')
+
 
 class CountResults(unittest.TestCase):
     def setUp(self):
@@ -45,6 +48,20 @@ class CountResults(unittest.TestCase):
 
     def test_a_test_that_did_not_run_is_failed(self):
         self.assertFalse(self.suite("one", PASSED + SKIPPED))
+        self.assertEqual(self.sum(), (False, "1 passed, 1 failed\n"))
+
+    def test_what_a_system_may_lack_is_told_of_and_not_counted(self):
+        printed = io.StringIO()
+        path = self.directory / "one.xml"
+        path.write_text("<testsuite>" + PASSED + EXCUSED + "</testsuite>", encoding="utf-8")
+        with contextlib.redirect_stdout(printed):
+            self.assertTrue(count_results.report_suite(path, 0))
+        self.assertIn("left out: help.chromium: There is none.", printed.getvalue())
+        self.assertEqual(self.sum(), (True, "1 passed, 0 failed\n"))
+
+    def test_what_a_system_may_lack_can_fail(self):
+        failed = EXCUSED.replace(' status="notrun"', "").replace("skipped", "failure")
+        self.assertFalse(self.suite("one", PASSED + failed))
         self.assertEqual(self.sum(), (False, "1 passed, 1 failed\n"))
 
     def test_a_crash_is_a_failure_of_its_own(self):

@@ -4,6 +4,8 @@
 #include <numbers>
 #include <string>
 
+#include "dialogs/win/frmAbout.h"
+#include "dialogs/win/frmOptions.h"
 #include "language/MlStringModule.h"
 #include "measure/ManualMeasures.h"
 #include "measure/win/frmUnit.h"
@@ -14,6 +16,7 @@
 #include "win/EnglishTexts.h"
 #include "win/LanguageAndDpi.h"
 #include "win/ModalPlayer.h"
+#include "win/NotedOptions.h"
 #include "win/TestSheet.h"
 #include "win/TestWindow.h"
 
@@ -91,6 +94,25 @@ TEST_P(DialogsGolden, UnitsLookAsTheyAlwaysDid) {
     frmUnit dialog("Ormala", ".");
     comparePicture("frmUnit", "unit_dialog");
     EXPECT_EQ(dialog.SelectUnits(owner_.handle(), tool, defaults), frmUnit::cancelled);
+}
+
+TEST_P(DialogsGolden, OptionsLookAsTheyAlwaysDid) {
+    NotedOptions options;
+    options.live.language = GetParam().language;
+    options.live.grid.color = rgb(60, 120, 200);
+    options.live.grid.steps = {40, 40, 12, 8};
+    frmOptions dialog(options, {"Ormala", "1.0.0", {}, {}});
+    const char* const pages[] = {"options_general", "options_grid", "options_magnifier"};
+    for (int page = 0; page < 3; ++page) {
+        comparePicture("frmOptions", pages[page]);
+        dialog.ShowForm(owner_.handle(), page);
+    }
+}
+
+TEST_P(DialogsGolden, TheAboutBoxLooksAsItAlwaysDid) {
+    frmAbout dialog({"Ormala", "1.0.0", "https://example.org/ormala", "author@example.org"}, {});
+    comparePicture("frmAbout", "about_box");
+    dialog.ShowAbout(owner_.handle());
 }
 
 INSTANTIATE_TEST_SUITE_P(Looks, DialogsGolden, testing::ValuesIn(languagesAndDpis),

@@ -45,7 +45,7 @@ class PanelsGolden : public testing::TestWithParam<LanguageAndDpi> {
             PixelSize{columns * size_.width, looks / columns * size_.height});
     }
     [[nodiscard]] PanelWindow::Ports ports() {
-        return {ground_->handle(), ++made_, host_, visibility_, clock_, tmrFast_};
+        return {ground_->handle(), ++made_, host_, visibility_, clock_, tmrFast_, fontSizeChange_};
     }
     void show(PanelWindow& panel, int look) {
         panel.setDpi(GetParam().dpi);
@@ -71,6 +71,7 @@ class PanelsGolden : public testing::TestWithParam<LanguageAndDpi> {
     FakeToolVisibility visibility_;
     ManualDayClock clock_;
     Event<> tmrFast_;
+    Event<int> fontSizeChange_;
     PixelSize size_;
     std::unique_ptr<ControlPanel> ground_;
     int made_ = 0;

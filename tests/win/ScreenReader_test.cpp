@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "app/win/frmSettings.h"
+#include "dialogs/win/frmAbout.h"
+#include "dialogs/win/frmOptions.h"
 #include "e2e/support/AppDataFolder.h"
 #include "measure/ManualMeasures.h"
 #include "measure/win/frmUnit.h"
@@ -17,6 +19,7 @@
 #include "win/AccessibleReader.h"
 #include "win/EnglishTexts.h"
 #include "win/ModalPlayer.h"
+#include "win/NotedOptions.h"
 #include "win/TestWindow.h"
 
 namespace ormala {
@@ -150,6 +153,30 @@ TEST_F(ScreenReader, NamesAllOfTheDialogOfUnits) {
     expectSpoken("optLengthUnit(0)", "Pixel (no real world unit)", ROLE_SYSTEM_RADIOBUTTON,
                  STATE_SYSTEM_CHECKED);
     expectSpoken("chkDefault", "Use as default for new measurement tools", ROLE_SYSTEM_CHECKBUTTON);
+}
+
+TEST_F(ScreenReader, NamesAllOfTheOptions) {
+    NotedOptions options;
+    const TestWindow owner;
+    frmOptions dialog(options, {"Ormala", "1.2.3", {}, {}});
+    for (int page = 0; page < optionPageCount; ++page) {
+        readDialog("frmOptions");
+        dialog.ShowForm(owner.handle(), page);
+    }
+    expectSpoken("btnTab(2)", "Magnifier", ROLE_SYSTEM_RADIOBUTTON, STATE_SYSTEM_CHECKED);
+    expectSpoken("chkHotSpotVisible", "Visible", ROLE_SYSTEM_CHECKBUTTON, STATE_SYSTEM_CHECKED);
+    expectSpoken("optHotSpotStyle(2)", "3", ROLE_SYSTEM_RADIOBUTTON, STATE_SYSTEM_CHECKED);
+    expectSpoken("cmdLensGridColor", "Select color", ROLE_SYSTEM_PUSHBUTTON);
+    expectSpoken("sldMagnification", "Magnification", ROLE_SYSTEM_SLIDER);
+}
+
+TEST_F(ScreenReader, NamesAllOfTheAboutBox) {
+    const TestWindow owner;
+    frmAbout dialog({"Ormala", "1.2.3", "https://example.org", "author@example.org"}, {});
+    readDialog("frmAbout");
+    dialog.ShowAbout(owner.handle());
+    expectSpoken("lblLink", "https://example.org", ROLE_SYSTEM_LINK, STATE_SYSTEM_FOCUSABLE);
+    expectSpoken("cmdClose", "Close", ROLE_SYSTEM_PUSHBUTTON, STATE_SYSTEM_FOCUSED);
 }
 
 }  // namespace

@@ -1,0 +1,48 @@
+#include "e2e/Dialog.h"
+
+#include "e2e/ToolPanel.h"
+
+namespace ormala::test {
+
+namespace {
+
+/// Where the letters go to: the control or the edit field in it.
+DesktopWindow fieldOf(const DesktopWindow& control) {
+    const DesktopWindow found = control.child("Edit");
+    return found.exists() ? found : control;
+}
+
+}  // namespace
+
+std::string indexed(std::string_view name, int index) {
+    return std::string(name) + "(" + std::to_string(index) + ")";
+}
+
+bool Dialog::isOn(std::string_view name) const {
+    return control(name).send(BM_GETCHECK) == BST_CHECKED;
+}
+
+ScreenPoint Dialog::row(std::string_view list, int index) const {
+    const DesktopWindow rows = control(list);
+    const auto height = static_cast<int>(rows.send(LB_GETITEMHEIGHT).value());
+    return rows.at(30, index * height + height / 2);
+}
+
+void Dialog::leave(std::string_view name) const {
+    press(name);
+    window_.waitUntilHidden();
+}
+
+void Dialog::leaveByKey(WORD key) const {
+    keyboard::press(key);
+    window_.waitUntilHidden();
+}
+
+void Dialog::enter(std::string_view name, std::string_view text) const {
+    focusByTab(fieldOf(control(name)));
+    keyboard::press(VK_END);
+    keyboard::press(VK_HOME, Modifiers::Shift);
+    keyboard::type(text);
+}
+
+}  // namespace ormala::test

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string_view>
+
+#include "e2e/LensScene.h"
+
+namespace ormala::test {
+
+/// The ticks of a magnifier's scales, read off the screen.
+class LensScales {
+  public:
+    /// `grid` tells whether the magnifier draws one.
+    LensScales(const LensWindow& lens, int factor, bool grid)
+        : lens_(lens), factor_(factor), grid_(grid) {}
+
+    // Compares the ticks along the first half of the image with those of the numbers from `first`
+    // on, for a scale above or below it and for one at its left or right.
+    void expectColumns(std::string_view scale, int first) const;
+    void expectRows(std::string_view scale, int first) const;
+
+  private:
+    [[nodiscard]] int compared(int imageLength) const { return imageLength / factor_ / 2; }
+    /// From the side of an enlarged pixel to its tick.
+    [[nodiscard]] int middle() const;
+    /// Of a number's tick, as it is seen.
+    [[nodiscard]] int length(int value) const;
+    /// How many pixels of ink there are from a place on. A number may touch the longest tick.
+    [[nodiscard]] int run(const Picture& picture, ScreenPoint from, ScreenPoint step) const;
+
+    const LensWindow& lens_;
+    int factor_;
+    bool grid_;
+};
+
+}  // namespace ormala::test

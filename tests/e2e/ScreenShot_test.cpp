@@ -1,0 +1,127 @@
+#include <gtest/gtest.h>
+
+#include "e2e/PanelScene.h"
+#include "e2e/support/Clipboard.h"
+
+// The screen shot on the clipboard, pasted by another program.
+
+namespace ormala::test {
+namespace {
+
+SettingsFile options(std::initializer_list<std::pair<const char*, const char*>> keys = {}) {
+    SettingsFile file;
+    for (const auto& [key, value] : keys) {
+        file.set("Options", key, value);
+    }
+    return file;
+}
+
+void expectSame(const Picture& pasted, const Picture& seen) {
+    const Difference found = difference(pasted, seen);
+    EXPECT_TRUE(found.empty()) << found;
+}
+
+class Shot {
+  public:
+    explicit Shot(const SettingsFile& options)
+        : scene(ToolSet().stencil({100, 100, 300, 300}).file(), options,
+                {BackdropPattern::Points, 0}) {
+        clipboard::clear();
+    }
+
+    /// Takes a shot and pastes it.
+    Picture take() {
+        PanelScene::choose(scene.control("cmdScreenshot"));
+        std::optional<Picture> pasted;
+        EXPECT_TRUE(waitUntil([&] {
+            pasted = clipboard::picture(scene.worksheet().rect().origin());
+            return pasted.has_value();
+        }));
+        return pasted.value_or(Picture());
+    }
+
+    /// Where the control window covers a part of the worksheet, or where it covers none.
+    void putControlWindow(bool overWorksheet) {
+        const ScreenRect sheet = scene.worksheet().rect();
+        const int left = overWorksheet ? sheet.left + 40 : screen::primaryMonitor().right - 60;
+        SetWindowPos(scene.settings().handle(), nullptr, left, sheet.top + 20, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        EXPECT_TRUE(waitUntil([&] { return scene.settings().rect().left == left; }));
+    }
+
+    /// What a user sees of the worksheet without the program's other windows.
+    Picture seen() {
+        putControlWindow(false);
+        return screen::waitUntilStill(scene.worksheet().rect());
+    }
+
+    PanelScene scene;
+};
+
+TEST(ScreenShot, EqualsTheScreenInsideTheWorksheet) {
+    Shot shot(options());
+    shot.putControlWindow(true);
+    const ScreenRect place = shot.scene.settings().rect();
+    const Picture pasted = shot.take();
+    EXPECT_EQ(shot.scene.settings().rect(), place);
+    expectSame(pasted, shot.seen());
+}
+
+TEST(ScreenShot, HoldsWhatShinesThroughInTemplateMode) {
+    Shot shot(options({{"Mode", " 1"}}));
+    const Picture pasted = shot.take();
+    const ScreenRect sheet = shot.scene.worksheet().rect();
+    const ScreenPoint corner = sheet.origin() + ScreenPoint{5, 5};
+    EXPECT_EQ(pasted.at(corner), shot.scene.backdrop().colorAt(corner));
+    expectSame(pasted, shot.seen());
+}
+
+TEST(ScreenShot, LeavesTheCrossHairAndTheMagnifierOut) {
+    Shot shot(options({{"CrossHairEnabled", "-1"}, {"LensVisible", "-1"}}));
+    const DesktopWindow lens = shot.scene.program().waitForWindow("frmLens");
+    const ScreenRect sheet = shot.scene.worksheet().rect();
+    SetWindowPos(lens.handle(), nullptr, sheet.left + 200, sheet.top + 30, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    // Inside, where both lines of the cross hair stand.
+    shot.scene.mouse.moveTo(sheet.origin() + ScreenPoint{60, 60});
+    const Picture pasted = shot.take();
+    EXPECT_TRUE(lens.isVisible());
+    EXPECT_EQ(shot.scene.control("chkLens").send(BM_GETCHECK), BST_CHECKED);
+    EXPECT_EQ(shot.scene.control("chkCrossHair").send(BM_GETCHECK), BST_CHECKED);
+    EXPECT_TRUE(shot.scene.program().window("frmCrossHair").isVisible());
+    PanelScene::choose(shot.scene.control("chkLens"));
+    PanelScene::choose(shot.scene.control("chkCrossHair"));
+    lens.waitUntilHidden();
+    expectSame(pasted, shot.seen());
+}
+
+TEST(ScreenShot, OfAMinimisedControlWindowLeavesItsPlaceAlone) {
+    Shot shot(options());
+    const ScreenRect place = shot.scene.settings().rect();
+    ShowWindow(shot.scene.settings().handle(), SW_MINIMIZE);
+    ASSERT_TRUE(waitUntil([&] { return shot.scene.settings().isMinimised(); }));
+    expectSame(shot.take(), screen::waitUntilStill(shot.scene.worksheet().rect()));
+    EXPECT_TRUE(shot.scene.settings().isMinimised());
+    screen::waitUntilStill(shot.scene.worksheet().rect());
+    shot.scene.settings().post(WM_SYSCOMMAND, SC_RESTORE);
+    EXPECT_TRUE(waitUntil([&] { return shot.scene.settings().rect() == place; }));
+}
+
+TEST(ScreenShot, OfAWorksheetPartlyOffTheScreenHasItsWholeSize) {
+    Shot shot(options());
+    const DesktopWindow frame = shot.scene.program().window("frmResizer");
+    const ScreenRect screenRect = screen::primaryMonitor();
+    SetWindowPos(frame.handle(), nullptr, screenRect.right - 300, 80, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ASSERT_TRUE(waitUntil([&] { return shot.scene.worksheet().rect().right > screenRect.right; }));
+    const ScreenRect sheet = shot.scene.worksheet().rect();
+    const Picture pasted = shot.take();
+    EXPECT_EQ(pasted.rect(), sheet);
+    const ScreenRect onScreen{sheet.left, sheet.top, screenRect.right, sheet.bottom};
+    SetWindowPos(shot.scene.settings().handle(), nullptr, 0, 0, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    expectSame(pasted.part(onScreen), screen::waitUntilStill(onScreen));
+}
+
+}  // namespace
+}  // namespace ormala::test
