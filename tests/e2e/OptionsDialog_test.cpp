@@ -158,7 +158,10 @@ TEST(OptionsDialog, ANewBorderShowsAtOnceInTemplateMode) {
         keyboard::press(VK_F12);
         const Dialog dialog(options.scene, "frmOptions");
         dialog.press("btnTab(0)");
+        const DesktopWindow border = dialog.control("chkTemplateWithBorder");
+        const auto former = border.send(BM_GETCHECK);
         dialog.press("chkTemplateWithBorder");
+        EXPECT_TRUE(waitUntil([&] { return border.send(BM_GETCHECK) != former; }));
         dialog.leave("cmdOK");
     };
     EXPECT_FALSE(frame.isVisible());
@@ -166,6 +169,8 @@ TEST(OptionsDialog, ANewBorderShowsAtOnceInTemplateMode) {
     frame.waitUntilVisible();
     EXPECT_EQ(settings.text(), "Ormala - Template");
     EXPECT_TRUE(options.scene.worksheet().isVisible());
+    // The window manager may still be placing the frame, also above a dialog that opens meanwhile.
+    screen::waitUntilStill(frame.rect(), milliseconds{400});
     turnBorder();
     frame.waitUntilHidden();
     EXPECT_EQ(settings.text(), "Ormala - Template");
