@@ -28,8 +28,8 @@ class ViewPaneTest : public testing::Test {
             [](HWND child, LPARAM data) -> BOOL {
                 auto& wanted = *reinterpret_cast<Search*>(data);
                 wchar_t text[64]{};
-                const auto atom = static_cast<ATOM>(
-                    reinterpret_cast<ULONG_PTR>(GetPropW(child, L"Name")));
+                const auto atom =
+                    static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(child, L"Name")));
                 GlobalGetAtomNameW(atom, text, 64);
                 wanted.found = std::wcscmp(text, wanted.name) == 0 ? child : wanted.found;
                 return TRUE;
@@ -118,6 +118,33 @@ TEST_F(ViewPaneTest, TheMenuOfTheMagnifierShowsItsState) {
     lens.mnuLensTopLeftScales_Click();
     EXPECT_FALSE(menu.isChecked(MenuEntry::mnuLensTopLeftScales));
     EXPECT_TRUE(menu.isChecked(MenuEntry::mnuLensBottomRightScales));
+}
+
+TEST_F(ViewPaneTest, TheMenuOffersEachStateOfTheWorksheetOnlyFromTheOther) {
+    const auto askForMenu = [&] {
+        view_.ShowContextMenu({0, 0});
+        // Nobody is there to leave the menu, so it is not opened.
+        MSG asked{};
+        EXPECT_NE(PeekMessageW(&asked, settings_.handle(), WM_APP, WM_APP + 9, PM_REMOVE), FALSE);
+    };
+    askForMenu();
+    EXPECT_TRUE(view_.menu().isEnabled(MenuEntry::mnuWindowMaximized));
+    EXPECT_FALSE(view_.menu().isEnabled(MenuEntry::mnuWindowNormal));
+    settings_.resizer().maximise();
+    askForMenu();
+    EXPECT_FALSE(view_.menu().isEnabled(MenuEntry::mnuWindowMaximized));
+    EXPECT_TRUE(view_.menu().isEnabled(MenuEntry::mnuWindowNormal));
+}
+
+TEST_F(ViewPaneTest, TheLanguageChangesAlsoBeforeTheDialogWasEverOpen) {
+    OptionValues values = view_.optionValues();
+    const int former = values.language;
+    values.language = languageGerman;
+    view_.applyOptions(values);
+    EXPECT_EQ(CurrentLanguage(), languageGerman);
+    values.language = former;
+    view_.applyOptions(values);
+    EXPECT_EQ(CurrentLanguage(), former);
 }
 
 std::string captionAt(HMENU menu, UINT position) {

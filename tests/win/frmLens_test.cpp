@@ -232,8 +232,9 @@ TEST_F(frmLensTest, ComesToTheTopOfTheTopmostGroupWhenItIsActivated) {
     show();
     TestSheet other({200, 150});
     SetWindowPos(other.window().handle(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    SendMessageW(lens_.handle(), WM_ACTIVATE, WA_ACTIVE, 0);
     EXPECT_TRUE(test::waitUntil([&] {
+        // A window manager may still be raising the other one.
+        SendMessageW(lens_.handle(), WM_ACTIVATE, WA_ACTIVE, 0);
         HWND above = GetWindow(lens_.handle(), GW_HWNDPREV);
         while (above != nullptr && above != other.window().handle()) {
             above = GetWindow(above, GW_HWNDPREV);

@@ -218,6 +218,9 @@ void ViewPane::applyColor() {
 }
 
 void ViewPane::ShowContextMenu(POINT screen) {
+    const bool maxSized = ports_.worksheet.MaxSized();
+    frmMenu_.setEnabled(MenuEntry::mnuWindowNormal, maxSized);
+    frmMenu_.setEnabled(MenuEntry::mnuWindowMaximized, !maxSized);
     askForMenu(false, screen);
 }
 
@@ -235,9 +238,6 @@ std::optional<LRESULT> ViewPane::onMessage(UINT message, WPARAM wParam) {
 }
 
 void ViewPane::popUpMenu(bool ofLens) {
-    const bool maxSized = ports_.worksheet.MaxSized();
-    frmMenu_.setEnabled(MenuEntry::mnuWindowNormal, maxSized);
-    frmMenu_.setEnabled(MenuEntry::mnuWindowMaximized, !maxSized);
     const auto chosen =
         ofLens ? frmMenu_.popUp(frmMenu_.mnuLens(), lens_.lens().handle(), menuPlace_)
                : frmMenu_.popUp(frmMenu_.mnuPopup(), ports_.worksheet.handle(), menuPlace_);
@@ -304,7 +304,9 @@ void ViewPane::applyOptions(const OptionValues& values) {
 void ViewPane::changeLanguage(int language) {
     MlSetLanguage(language, {});
     ports_.host.RefreshRuntimeStrings();
-    frmOptions_->SetRuntimeTexts(applicationTitle);
+    if (frmOptions_ != nullptr) {
+        frmOptions_->SetRuntimeTexts(applicationTitle);
+    }
     GetLanguageSupport().ChangeLanguage(language);
 }
 
