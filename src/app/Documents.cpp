@@ -119,4 +119,10 @@ void Documents::saveAutomatic(const std::string& path) {
     ports_.file.save();
 }
 
+void Documents::keepAutomatic(const std::string& path) {
+    const std::string document = ports_.toolsFile.Path();
+    saveAutomatic(path);
+    ports_.toolsFile.setPath(document);
+}
+
 }  // namespace ormala

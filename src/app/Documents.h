@@ -73,6 +73,8 @@ class Documents {
     void loadAutomatic(const std::string& path);
     /// At the end, whatever document there is. The path line doesn't follow.
     void saveAutomatic(const std::string& path);
+    /// The same while the program runs: the document stays what it is.
+    void keepAutomatic(const std::string& path);
 
   private:
     bool saveUnderNewName();

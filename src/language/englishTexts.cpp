@@ -278,6 +278,10 @@ constexpr TextRow rows[] = {
     {375, productWebAddress},
     {377, "Loading..."},
     {378, "Removing all tools..."},
+    {580, "Ormala has to quit, since something that it needs is missing:%n%0"},
+    {581, "Memory"},
+    {582, "A dialog is still open."},
+    {583, "There may be tools that are not saved yet."},
 };
 
 }  // namespace

@@ -277,6 +277,10 @@ constexpr TextRow rows[] = {
     {375, productWebAddress},
     {377, "Lade..."},
     {378, "Entferne alle Werkzeuge..."},
+    {580, "Ormala muss beendet werden, weil etwas fehlt, das es braucht:%n%0"},
+    {581, "Arbeitsspeicher"},
+    {582, "Ein Dialog ist noch geöffnet."},
+    {583, "Es gibt vielleicht Werkzeuge, die noch nicht gespeichert sind."},
 };
 
 }  // namespace

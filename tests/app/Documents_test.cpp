@@ -103,6 +103,17 @@ TEST_F(DocumentsTest, AChangeWithoutADocumentIsNotAskedAboutAndIsThereAtTheNextS
     EXPECT_EQ(stage_.stencil(0).LineWidth(), 7);
 }
 
+TEST_F(DocumentsTest, KeepingTheToolsWhileTheProgramRunsLeavesTheDocument) {
+    loadNamed();
+    stage_.stencil(0).setLineWidth(7);
+    documents_.keepAutomatic(automaticPath);
+    expectNamed(namedPath);
+    EXPECT_NE(file(automaticPath).find("LineWidth= 7"), std::string::npos);
+    EXPECT_EQ(file(namedPath), exampleToolFile);
+    EXPECT_FALSE(close());
+    EXPECT_TRUE(asked());
+}
+
 TEST_F(DocumentsTest, ANewDocumentIsAskedAboutAlthoughNothingHasBeenDone) {
     startWithTools();
     documents_.New();

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "e2e/support/AppDataFolder.h"
 #include "platform/win/text.h"
 #include "stencil/ctlRatioGrid.h"
@@ -149,6 +151,61 @@ TEST_F(frmSettingsTest, OptionsAreWrittenAtTheEndOfTheSession) {
     ASSERT_EQ(read.status, ReadResult::Status::ok);
     EXPECT_NE(read.bytes.find("Mode= 2\r\n"), std::string::npos);
     EXPECT_NE(read.bytes.find("Software=Ormala\r\n"), std::string::npos);
+}
+
+/// What the ending of the program has left in the message queue.
+bool quitIsPosted() {
+    MSG message{};
+    return PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != FALSE;
+}
+
+TEST_F(frmSettingsTest, AProgramThatOutlivesItsSessionSavesAgainAtItsEnd) {
+    SendMessageW(settings_.handle(), WM_ENDSESSION, TRUE, 0);
+    settings_.SetMode(2, false);
+    SendMessageW(settings_.handle(), WM_CLOSE, 0, 0);
+    EXPECT_TRUE(quitIsPosted());
+    const ReadResult read = WindowsFileStore().read(narrow(folder_.optionsFile().wstring()));
+    EXPECT_NE(read.bytes.find("Mode= 2\r\n"), std::string::npos);
+}
+
+TEST_F(frmSettingsTest, TheEndOfTheSessionLeavesTheOpenDocument) {
+    settings_.tools().documents().New();
+    ASSERT_FALSE(settings_.tools().documents().NoFileYet());
+    SendMessageW(settings_.handle(), WM_ENDSESSION, TRUE, 0);
+    ModalPlayer player;
+    std::string question;
+    player.untilActive("#32770").then([&] {
+        constexpr int textId = 65535;
+        question = captionOf(GetDlgItem(GetActiveWindow(), textId));
+        PostMessageW(GetActiveWindow(), WM_COMMAND, IDCANCEL, 0);
+    });
+    SendMessageW(settings_.handle(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(question, "Do you want to save the changes?");
+    EXPECT_FALSE(quitIsPosted());
+}
+
+TEST_F(frmSettingsTest, TheEndOfTheSessionAsksNothingOverAnOpenDialog) {
+    settings_.tools().documents().New();
+    EnableWindow(settings_.handle(), FALSE);
+    EXPECT_EQ(SendMessageW(settings_.handle(), WM_QUERYENDSESSION, 0, 0), FALSE);
+    EnableWindow(settings_.handle(), TRUE);
+}
+
+TEST_F(frmSettingsTest, ACriticalEndOfTheSessionAsksNothingAndFindsTheToolsSaved) {
+    settings_.tools().documents().New();
+    EXPECT_EQ(SendMessageW(settings_.handle(), WM_QUERYENDSESSION, 0,
+                           static_cast<LPARAM>(ENDSESSION_CRITICAL)),
+              TRUE);
+    EXPECT_TRUE(std::filesystem::exists(folder_.toolsFile()));
+}
+
+TEST_F(frmSettingsTest, AClosedProgramWaitsForItsMessageLoopsBeforeItsWindowsGo) {
+    SendMessageW(settings_.handle(), WM_CLOSE, 0, 0);
+    EXPECT_TRUE(quitIsPosted());
+    EXPECT_NE(IsWindow(settings_.worksheet().handle()), FALSE);
+    // Such as a menu that was open: what was chosen in it comes behind the close.
+    SendMessageW(settings_.handle(), WM_SYSCOMMAND, 1012, 0);
+    EXPECT_EQ(settings_.GetMode(), 2);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/win/callbackGuard.h"
+
 namespace ormala {
 
 MouseWheelHook* MouseWheelHook::current = nullptr;
@@ -21,7 +23,10 @@ LRESULT CALLBACK MouseWheelHook::onMouse(int code, WPARAM message, LPARAM record
     if (code == HC_ACTION && message == WM_MOUSEWHEEL && current != nullptr) {
         const auto* mouse = reinterpret_cast<const MOUSEHOOKSTRUCTEX*>(record);
         const auto turn = static_cast<short>(HIWORD(mouse->mouseData));
-        current->turned_(turn < 0);
+        guarded(false, [turn] {
+            current->turned_(turn < 0);
+            return true;
+        });
     }
     return CallNextHookEx(nullptr, code, message, record);
 }

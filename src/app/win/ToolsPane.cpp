@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/programFiles.h"
 #include "app/version.h"
 #include "app/win/timeOfSaving.h"
+#include "storage/win/SpecialFolder.h"
 
 namespace ormala {
 
@@ -108,6 +110,11 @@ void ToolsPane::execute(Command command) {
         default:
             break;
     }
+}
+
+void ToolsPane::keepTools(bool quietly) {
+    const QuietMessages messages(fileMessages_, quietly);
+    documents_.keepAutomatic(toolsFilePath(GetSpecialFolder(folderApplicationData)));
 }
 
 void ToolsPane::addTool(ToolKind kind) {

@@ -65,6 +65,9 @@ class ToolsPane : private ToolListView, private BusyView, private PanelHost {
 
     /// Takes back the last step of a tool or brings it again.
     void stepHistory(const OverlayItem& tool, bool back);
+    /// Saves the tools to the automatic file; the open document stays what it is. `quietly` says
+    /// that the user hears nothing of a failure.
+    void keepTools(bool quietly);
     /// A command of tools or documents; others do nothing.
     void execute(Command command);
     [[nodiscard]] bool hasPanelAt(POINT screen) const;

@@ -17,6 +17,9 @@ std::wstring WindowsMessagePresenter::title() const {
 }
 
 void WindowsMessagePresenter::showError(const std::string& text) {
+    if (quiet_) {
+        return;
+    }
     SetCursor(LoadCursorW(nullptr, IDC_ARROW));
     const HWND owner = GetActiveWindow();
     const InputBarrier barrier(owner);

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <string>
+#include <utility>
 
 #include "storage/MessagePresenter.h"
 
@@ -19,9 +20,25 @@ class WindowsMessagePresenter : public MessagePresenter {
     void showError(const std::string& text) override;
 
   private:
+    friend class QuietMessages;
     [[nodiscard]] std::wstring title() const;
 
     HWND window_ = nullptr;
+    bool quiet_ = false;
+};
+
+/// For its lifetime a presenter shows nothing, if so wished.
+class QuietMessages {
+  public:
+    QuietMessages(WindowsMessagePresenter& presenter, bool quiet)
+        : presenter_(presenter), former_(std::exchange(presenter.quiet_, quiet)) {}
+    ~QuietMessages() { presenter_.quiet_ = former_; }
+    QuietMessages(const QuietMessages&) = delete;
+    QuietMessages& operator=(const QuietMessages&) = delete;
+
+  private:
+    WindowsMessagePresenter& presenter_;
+    bool former_;
 };
 
 }  // namespace ormala

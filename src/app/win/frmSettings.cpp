@@ -12,6 +12,7 @@
 #include "app/win/timeOfSaving.h"
 #include "language/MlStringModule.h"
 #include "language/win/UserLocale.h"
+#include "platform/win/callbackGuard.h"
 #include "platform/win/text.h"
 #include "storage/modStorage.h"
 #include "storage/win/SpecialFolder.h"
@@ -47,6 +48,7 @@ frmSettings::frmSettings(bool anotherRuns) : ratios_(translatedRatios(toolSettin
 }
 
 frmSettings::~frmSettings() {
+    // The parts go one by one, and the focus that they leave behind finds the rest half gone.
     closed_ = true;
     wheelHook_.reset();
     tools_.reset();
@@ -72,6 +74,9 @@ void frmSettings::load(bool anotherRuns) {
     loadResizer();
     RefreshRuntimeStrings();
     loadTools();
+    if (life_.abandoned()) {
+        return;
+    }
     SetWindowPos(handle(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     placeWindow(anotherRuns);
     SetMode(options_.mode, false);
@@ -79,6 +84,11 @@ void frmSettings::load(bool anotherRuns) {
     view_->SetLens(options_.lensVisible);
     GetLanguageSupport().ChangeLanguage(CurrentLanguage());
     optionsFile_.ShowLastError();
+    // What has failed within a message so far is a failure of the start.
+    throwKeptFailure();
+    if (!life_.started()) {
+        return;
+    }
     SetTimer(handle(), tmrButtonBig, tmrButtonBigInterval, nullptr);
     // Shown last, so that it comes up in front of the worksheet and with the focus.
     ShowWindow(handle(), SW_SHOWNORMAL);
@@ -217,25 +227,38 @@ void frmSettings::cutEditModeHeight() {
         std::min(pixelsOfTwips(options_.editModeFormHeight, dpi_), std::max(below, 0)));
 }
 
+bool frmSettings::isBusy() const {
+    return IsWindowEnabled(handle()) == FALSE || view_->takesScreenShot();
+}
+
+void frmSettings::keep(bool tell) {
+    const QuietMessages optionMessages(messages_, !tell);
+    tools_->keepTools(!tell);
+    SaveOptions();
+}
+
 void frmSettings::save() {
-    if (std::exchange(saved_, true)) {
-        return;
-    }
     tools_->documents().saveAutomatic(toolsFilePath(GetSpecialFolder(folderApplicationData)));
     SaveOptions();
 }
 
-void frmSettings::unload() {
-    save();
-    // The parts go one by one, and the focus that they leave behind finds the rest half gone.
-    closed_ = true;
-    wheelHook_.reset();
-    KillTimer(handle(), tmrFast);
-    KillTimer(handle(), tmrButtonBig);
-    tools_.reset();
-    resizer_.reset();
-    view_.reset();
-    worksheet_.reset();
+void frmSettings::quit() {
+    // A menu or a drag of the frame runs a loop of the system, which need not look for the end.
+    EndMenu();
+    if (const HWND holder = GetCapture()) {
+        SendMessageW(holder, WM_CANCELMODE, 0, 0);
+    }
+    PostQuitMessage(0);
+}
+
+void frmSettings::showReason(bool busy) {
+    const std::string reason = busy ? MlString(582, "A dialog is still open.")
+                                    : MlString(583, "There may be tools that are not saved yet.");
+    ShutdownBlockReasonCreate(handle(), wide(reason).c_str());
+}
+
+void frmSettings::hideReason() {
+    ShutdownBlockReasonDestroy(handle());
 }
 
 void frmSettings::SaveOptions() {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/Options.h"
+#include "app/ProgramLife.h"
 #include "app/SettingsHeight.h"
 #include "app/ToolMaker.h"
 #include "app/win/CommandBar.h"
@@ -28,7 +29,8 @@ namespace ormala {
 class frmSettings : public Window,
                     public WorksheetCommands,
                     private ControlWindow,
-                    private ViewHost {
+                    private ViewHost,
+                    private ProgramEnding {
   public:
     /// `anotherRuns` says whether another copy of the program is running.
     explicit frmSettings(bool anotherRuns);
@@ -46,6 +48,9 @@ class frmSettings : public Window,
     [[nodiscard]] frmResizer& resizer() { return *resizer_; }
     [[nodiscard]] ToolsPane& tools() { return *tools_; }
     [[nodiscard]] ViewPane& view() { return *view_; }
+
+    /// After a failure that nobody has handled: saves what can be saved.
+    void rescue() { life_.fail(); }
 
     /// Sees a message before the control that it is for: true if it was a key of the window.
     bool preview(const MSG& message);
@@ -83,10 +88,15 @@ class frmSettings : public Window,
     void loadResizer();
     void placeWindow(bool anotherRuns);
     void cutEditModeHeight();
-    /// Tools and options, once.
-    void save();
-    void unload();
     void SaveOptions();
+
+    [[nodiscard]] bool isBusy() const override;
+    bool ConfirmDiscard() override { return tools_->documents().ConfirmDiscard(); }
+    void keep(bool tell) override;
+    void save() override;
+    void showReason(bool busy) override;
+    void hideReason() override;
+    void quit() override;
 
     void applyModeToWindows(int mode);
     void layOutAnew();
@@ -110,8 +120,6 @@ class frmSettings : public Window,
     LRESULT onDisplayChange();
     LRESULT onTimer(WPARAM id);
     LRESULT onCommand(WPARAM wParam);
-    LRESULT onClose();
-    LRESULT onEndSession(bool ending);
     bool onKey(int key);
     bool focusNextControl(int shift);
 
@@ -146,9 +154,9 @@ class frmSettings : public Window,
     bool cameBack_ = false;
     /// A click on a panel brings the window to the front and will take the focus to itself.
     bool clickOnPanel_ = false;
-    bool saved_ = false;
     /// The parts of the window are gone or going; the system handles what comes.
     bool closed_ = false;
+    ProgramLife life_{*this};
     /// What was shown of the windows that have been put aside.
     bool lensAside_ = false;
     bool frameAside_ = false;

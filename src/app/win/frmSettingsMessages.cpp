@@ -55,11 +55,14 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
         case WM_COMMAND:
             return onCommand(wParam);
         case WM_CLOSE:
-            return onClose();
+            life_.close();
+            return 0;
         case WM_QUERYENDSESSION:
-            return tools_->documents().ConfirmDiscard() ? TRUE : FALSE;
+            return life_.queryEndOfSession((lParam & ENDSESSION_CRITICAL) != 0) ? TRUE : FALSE;
         case WM_ENDSESSION:
-            return onEndSession(wParam != FALSE);
+            // The windows stay, since a message of one of them may be in hand at this moment.
+            life_.endOfSession(wParam != FALSE);
+            return 0;
         default:
             return onOwnMessage(message, wParam, lParam);
     }
@@ -184,24 +187,6 @@ LRESULT frmSettings::onCommand(WPARAM wParam) {
         constexpr int normal = 8;
         const bool ticked = SendMessageW(check1_.handle(), BM_GETCHECK, 0, 0) == BST_CHECKED;
         globalEvents_.ChangeFontSize(ticked ? large : normal);
-    }
-    return 0;
-}
-
-LRESULT frmSettings::onClose() {
-    // A dialog that is open has to be answered, and a screen shot finished first.
-    if (IsWindowEnabled(handle()) != FALSE && !view_->takesScreenShot() &&
-        tools_->documents().ConfirmDiscard()) {
-        unload();
-        PostQuitMessage(0);
-    }
-    return 0;
-}
-
-LRESULT frmSettings::onEndSession(bool ending) {
-    if (ending) {
-        // The windows stay, since a message of one of them may be in hand at this moment.
-        save();
     }
     return 0;
 }

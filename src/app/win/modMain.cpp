@@ -1,8 +1,15 @@
 #include <windows.h>
 
+#include <exception>
+
+#include "app/modes.h"
+#include "app/programFailure.h"
 #include "app/win/frmSettings.h"
+#include "base/win/systemMessage.h"
 #include "platform/win/Accessible.h"
+#include "platform/win/callbackGuard.h"
 #include "platform/win/handles.h"
+#include "platform/win/text.h"
 
 namespace {
 
@@ -23,15 +30,40 @@ int runMessages(ormala::frmSettings& settings) {
             DispatchMessageW(&message);
         }
     }
+    ormala::throwKeptFailure();
     return static_cast<int>(message.wParam);
+}
+
+int runProgram(bool anotherRuns) {
+    ormala::frmSettings settings(anotherRuns);
+    try {
+        return runMessages(settings);
+    } catch (...) {
+        settings.rescue();
+        throw;
+    }
+}
+
+void tell(const std::exception& failure) {
+    const auto systemText = [](int error) {
+        return ormala::systemMessage(static_cast<unsigned long>(error));
+    };
+    MessageBoxW(nullptr, ormala::wide(ormala::programFailureText(failure, systemText)).c_str(),
+                ormala::wide(ormala::applicationTitle).c_str(),
+                MB_OK | MB_ICONSTOP | MB_TOPMOST | MB_SETFOREGROUND);
 }
 
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+    constexpr int failed = 1;
     const ormala::AccessibleThread accessible;
     bool anotherRuns = false;
     const auto mark = runningMark(anotherRuns);
-    ormala::frmSettings settings(anotherRuns);
-    return runMessages(settings);
+    try {
+        return runProgram(anotherRuns);
+    } catch (const std::exception& failure) {
+        tell(failure);
+    }
+    return failed;
 }

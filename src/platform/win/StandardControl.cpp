@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "platform/win/Accessible.h"
+#include "platform/win/callbackGuard.h"
 #include "platform/win/controlName.h"
 #include "platform/win/text.h"
 
@@ -23,7 +24,7 @@ void StandardControl::create(HWND parent, const ControlDesign& design) {
                               GetModuleHandleW(nullptr), nullptr);
     if (handle_ == nullptr) {
         throw std::system_error(static_cast<int>(GetLastError()), std::system_category(),
-                                "CreateWindowEx");
+                                narrow(design.className));
     }
     setControlName(handle_, design.name);
     attach(handle_);
@@ -54,16 +55,21 @@ LRESULT CALLBACK StandardControl::dispatch(HWND handle, UINT message, WPARAM wPa
         control.handle_ = nullptr;
         return DefSubclassProc(handle, message, wParam, lParam);
     }
-    if (control.tip_ && message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
-        control.tip_->relay(message, wParam, lParam);
-    }
-    if (const auto answer = control.accessibleMessage(message, wParam, lParam)) {
-        return *answer;
-    }
-    if (const auto result = control.onMessage(message, wParam, lParam)) {
+    const auto handled = [&] { return control.handleMessage(message, wParam, lParam); };
+    if (const auto result = guarded(std::nullopt, handled)) {
         return *result;
     }
     return DefSubclassProc(handle, message, wParam, lParam);
+}
+
+std::optional<LRESULT> StandardControl::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (tip_ && message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+        tip_->relay(message, wParam, lParam);
+    }
+    if (const auto answer = accessibleMessage(message, wParam, lParam)) {
+        return answer;
+    }
+    return onMessage(message, wParam, lParam);
 }
 
 std::optional<LRESULT> StandardControl::accessibleMessage(UINT message, WPARAM wParam,

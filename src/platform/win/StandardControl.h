@@ -55,6 +55,7 @@ class StandardControl {
     static LRESULT CALLBACK dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam,
                                      UINT_PTR id, DWORD_PTR object);
 
+    std::optional<LRESULT> handleMessage(UINT message, WPARAM wParam, LPARAM lParam);
     std::optional<LRESULT> accessibleMessage(UINT message, WPARAM wParam, LPARAM lParam) const;
 
     HWND handle_ = nullptr;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <system_error>
 
+#include "platform/win/callbackGuard.h"
 #include "platform/win/controlName.h"
 #include "platform/win/text.h"
 #include "scene/Input.h"
@@ -48,7 +49,7 @@ void Window::create(const WindowDesign& design) {
                     castBits<HMENU>(static_cast<INT_PTR>(design.id)), module(), this);
     if (handle_ == nullptr) {
         throw std::system_error(static_cast<int>(GetLastError()), std::system_category(),
-                                "CreateWindowEx");
+                                narrow(design.className));
     }
 }
 
@@ -87,7 +88,8 @@ LRESULT CALLBACK Window::dispatch(HWND handle, UINT message, WPARAM wParam, LPAR
             window->destroyed();
         }
     } else if (window != nullptr) {
-        if (const auto result = window->onMessage(message, wParam, lParam)) {
+        const auto handled = [&] { return window->onMessage(message, wParam, lParam); };
+        if (const auto result = guarded(std::nullopt, handled)) {
             return *result;
         }
     }

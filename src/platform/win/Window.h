@@ -44,8 +44,8 @@ class Window {
     void setVisible(bool visible) const;
 
   protected:
-    /// Registers the class if need be and makes the window. Throws std::system_error if the system
-    /// refuses.
+    /// Registers the class if need be and makes the window. Throws std::system_error with the
+    /// class's name if the system refuses.
     void create(const WindowDesign& design);
     void destroy();
 
