@@ -29,12 +29,28 @@ PixelRect worksheetInFrame(PixelSize client) {
     return {margin, margin, client.width - margin, client.height - margin};
 }
 
+PixelRect fullScreenPlace(const PixelRect& monitor, const PixelRect& free) {
+    PixelRect place = free;
+    if (place == monitor) {
+        place.bottom -= 1;
+    }
+    return place;
+}
+
 PixelSize leastFrameSize(int dpi) {
     return {rounded(leastSize.width * dpi / 96.0), rounded(leastSize.height * dpi / 96.0)};
 }
 
 bool FrameSizeMemory::changedTo(PixelSize outer) {
     return std::exchange(last_, outer) != outer;
+}
+
+bool HoleKeeper::puts(const PixelRect& actual, const PixelRect& hole) {
+    constexpr int mostTries = 8;
+    if (std::exchange(hole_, hole) != hole || actual == hole) {
+        tries_ = 0;
+    }
+    return actual != hole && tries_++ < mostTries;
 }
 
 }  // namespace ormala

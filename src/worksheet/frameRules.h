@@ -14,6 +14,12 @@ PixelRect defaultFramePlace(PixelSize screen);
 /// The worksheet's place in the frame's client area: five pixels inside, at any resolution.
 PixelRect worksheetInFrame(PixelSize client);
 
+/// Where a worksheet lies that fills its screen: all of what is `free` there for windows, but never
+/// the whole monitor. A window that covers one counts as a program in full screen: some window
+/// managers lift it above the windows that have to stay in front of the worksheet, and others put
+/// the task bar and all messages behind it.
+PixelRect fullScreenPlace(const PixelRect& monitor, const PixelRect& free);
+
 /// The least outer size that a user can give the frame.
 PixelSize leastFrameSize(int dpi);
 
@@ -25,6 +31,19 @@ class FrameSizeMemory {
 
   private:
     PixelSize last_;
+};
+
+/// Sees to it that the worksheet lies exactly in the hole of its frame, wherever a window manager
+/// has put either of them.
+class HoleKeeper {
+  public:
+    /// Whether the worksheet, which lies at `actual`, has to be put into `hole` once more. A system
+    /// that will not have it there is let be after a few tries, until the hole is another one.
+    bool puts(const PixelRect& actual, const PixelRect& hole);
+
+  private:
+    PixelRect hole_;
+    int tries_ = 0;
 };
 
 }  // namespace ormala

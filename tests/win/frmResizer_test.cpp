@@ -333,6 +333,36 @@ TEST_F(frmResizerTest, FollowsTheResolutionOfItsMonitor) {
     EXPECT_EQ(worksheet(), hole());
 }
 
+TEST_F(frmResizerTest, WorksheetThatTheSystemMovedOrWidenedComesBackIntoTheHole) {
+    const HWND worksheetWindow = sheet_.window().handle();
+    const PixelRect place = hole();
+    SetWindowPos(worksheetWindow, nullptr, place.left, place.top, place.width() + 1, place.height(),
+                 quietly);
+    EXPECT_TRUE(settles()) << worksheet().width();
+    SetWindowPos(worksheetWindow, nullptr, place.left - 30, place.top + 12, 0, 0,
+                 quietly | SWP_NOSIZE);
+    EXPECT_TRUE(settles());
+    sheet_.window().hide();
+    SetWindowPos(worksheetWindow, nullptr, 0, 0, 0, 0, quietly | SWP_NOSIZE);
+    EXPECT_TRUE(settles());
+    EXPECT_FALSE(sheet_.window().isVisible());
+}
+
+TEST_F(frmResizerTest, DragThatIsTakenBackLeavesTheWorksheetInTheHole) {
+    const RECT frame = frame_.rectangle();
+    const PixelRect before = hole();
+    const POINT start{(frame.left + frame.right) / 2, (frame.top + before.top - 5) / 2 + 1};
+    SetCursorPos(static_cast<int>(start.x), static_cast<int>(start.y));
+    test::pause(test::milliseconds{30});
+    SendMessageW(frame_.handle(), WM_ENTERSIZEMOVE, 0, 0);
+    SetCursorPos(static_cast<int>(start.x) + 60, static_cast<int>(start.y) + 45);
+    ASSERT_TRUE(test::waitUntil([&] { return worksheet().left == before.left + 60; }));
+    // The frame has never moved.
+    SendMessageW(frame_.handle(), WM_EXITSIZEMOVE, 0, 0);
+    EXPECT_EQ(worksheet(), before);
+    EXPECT_EQ(before, hole());
+}
+
 TEST(frmResizer, ItsEndLeavesTheWorksheetToItsOwner) {
     TestSheet sheet({640, 480});
     {

@@ -59,5 +59,49 @@ TEST(FrameSizeMemory, AChangeInOneDirectionIsEnough) {
     EXPECT_FALSE(memory.changedTo({1188, 668}));
 }
 
+TEST(FullScreenPlace, IsWhatTheTaskBarLeavesFree) {
+    EXPECT_EQ(fullScreenPlace({0, 0, 1920, 1080}, {0, 0, 1920, 1040}),
+              (PixelRect{0, 0, 1920, 1040}));
+    EXPECT_EQ(fullScreenPlace({-1280, 0, 0, 1024}, {-1220, 0, 0, 1024}),
+              (PixelRect{-1220, 0, 0, 1024}));
+}
+
+TEST(FullScreenPlace, LeavesARowOfAMonitorWithoutATaskBar) {
+    EXPECT_EQ(fullScreenPlace({0, 0, 1920, 1080}, {0, 0, 1920, 1080}),
+              (PixelRect{0, 0, 1920, 1079}));
+    EXPECT_EQ(fullScreenPlace({-1280, -50, 0, 974}, {-1280, -50, 0, 974}),
+              (PixelRect{-1280, -50, 0, 973}));
+}
+
+TEST(HoleKeeper, LeavesAWorksheetAloneThatLiesInTheHole) {
+    HoleKeeper keeper;
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_FALSE(keeper.puts({10, 20, 300, 400}, {10, 20, 300, 400}));
+    }
+}
+
+TEST(HoleKeeper, PutsBackAWorksheetThatIsAPixelTooWideOrElsewhere) {
+    HoleKeeper keeper;
+    EXPECT_TRUE(keeper.puts({10, 20, 301, 400}, {10, 20, 300, 400}));
+    EXPECT_TRUE(keeper.puts({0, 20, 290, 400}, {10, 20, 300, 400}));
+    EXPECT_FALSE(keeper.puts({10, 20, 300, 400}, {10, 20, 300, 400}));
+    EXPECT_TRUE(keeper.puts({10, 19, 300, 399}, {10, 20, 300, 400}));
+}
+
+TEST(HoleKeeper, GivesInToASystemThatWillNotHaveItThere) {
+    constexpr PixelRect hole{-50, 20, 240, 400};
+    HoleKeeper keeper;
+    int tries = 0;
+    while (keeper.puts({0, 20, 290, 400}, hole) && tries < 100) {
+        ++tries;
+    }
+    EXPECT_GE(tries, 3);
+    EXPECT_LE(tries, 20);
+    EXPECT_FALSE(keeper.puts({0, 20, 290, 400}, hole));
+    // Another hole is another matter.
+    EXPECT_TRUE(keeper.puts({0, 20, 290, 400}, {-49, 20, 241, 400}));
+    EXPECT_TRUE(keeper.puts({0, 20, 290, 400}, hole));
+}
+
 }  // namespace
 }  // namespace ormala

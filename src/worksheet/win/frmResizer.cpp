@@ -2,6 +2,8 @@
 // Needs the system's basic types, which come with the window.
 #include <windowsx.h>
 
+#include <utility>
+
 #include "language/MlStringModule.h"
 #include "platform/win/regions.h"
 
@@ -13,6 +15,9 @@ constexpr UINT_PTR tmrRefresh = 1;
 constexpr UINT tmrRefreshInterval = 222;
 constexpr UINT_PTR tmrSetSize = 2;
 constexpr UINT tmrSetSizeInterval = 87;
+
+/// Reads back where the worksheet lies, once what moved it is over.
+constexpr UINT wmCheckHole = WM_APP + 1;
 
 constexpr COLORREF keyColor = static_cast<COLORREF>(frameKeyColor);
 /// Only the key applies, whatever the opacity.
@@ -44,6 +49,8 @@ frmResizer::frmResizer(frmWorksheet& worksheet, WorksheetCommands& commands)
     create(design);
     SetLayeredWindowAttributes(handle(), keyColor, firstAlpha, LWA_COLORKEY);
     worksheet_.setOwner(handle());
+    worksheetMoved_ = worksheet_.placed.subscribe([this] { checkHoleSoon(); });
+    worksheetSized_ = worksheet_.resized.subscribe([this] { checkHoleSoon(); });
 }
 
 frmResizer::~frmResizer() {
@@ -79,17 +86,36 @@ void frmResizer::PositionWorksheet() {
     }
 }
 
+PixelRect frmResizer::hole() const {
+    RECT place = toRect(worksheetInFrame(sizeOf(clientRectangle())));
+    MapWindowPoints(handle(), HWND_DESKTOP, reinterpret_cast<POINT*>(&place), 2);
+    return fromRect(place);
+}
+
 void frmResizer::layWorksheetInside(POINT shift) {
     setWorksheetMaxSized(false);
-    RECT place = toRect(worksheetInFrame(sizeOf(clientRectangle())));
-    POINT corners[] = {{place.left, place.top}, {place.right, place.bottom}};
-    for (POINT& corner : corners) {
-        ClientToScreen(handle(), &corner);
-    }
-    SetWindowPos(worksheet_.handle(), nullptr, corners[0].x + shift.x, corners[0].y + shift.y,
-                 corners[1].x - corners[0].x, corners[1].y - corners[0].y, keepOrder);
+    const PixelRect place = hole();
+    SetWindowPos(worksheet_.handle(), nullptr, place.left + shift.x, place.top + shift.y,
+                 place.width(), place.height(), keepOrder);
     if (size_.changedTo(sizeOf(rectangle()))) {
         RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+    }
+    checkHoleSoon();
+}
+
+void frmResizer::checkHoleSoon() {
+    if (!worksheet_.MaxSized() && !std::exchange(checking_, true)) {
+        PostMessageW(handle(), wmCheckHole, 0, 0);
+    }
+}
+
+void frmResizer::checkHole() {
+    checking_ = false;
+    const bool atRest = IsIconic(handle()) == FALSE && IsZoomed(handle()) == FALSE &&
+                        IsIconic(worksheet_.handle()) == FALSE && !unseenDrag_;
+    if (atRest && !worksheet_.MaxSized() &&
+        keeper_.puts(fromRect(worksheet_.rectangle()), hole())) {
+        PositionWorksheet();
     }
 }
 
@@ -208,6 +234,9 @@ std::optional<LRESULT> frmResizer::onMessage(UINT message, WPARAM wParam, LPARAM
         case WM_EXITSIZEMOVE:
             onExitSizeMove();
             return std::nullopt;
+        case wmCheckHole:
+            checkHole();
+            return 0;
         case WM_GETMINMAXINFO:
             return onGetMinMaxInfo(lParam);
         case WM_SYSCOMMAND:
@@ -295,6 +324,8 @@ void frmResizer::onExitSizeMove() {
         // What shows the window may have made it smaller; this makes both agree again.
         widenAndNarrow();
     }
+    // A drag that is taken back may leave the frame where no message told of it.
+    follow();
 }
 
 void frmResizer::followUnseen() {

@@ -47,7 +47,10 @@ class frmResizer : public Window {
     void keepBeneathWorksheet();
     void follow();
     void setWorksheetMaxSized(bool maxSized);
+    [[nodiscard]] PixelRect hole() const;
     void layWorksheetInside(POINT shift = {0, 0});
+    void checkHoleSoon();
+    void checkHole();
     void leaveMaximised();
     void tellPlace() const;
     LRESULT onHitTest(LPARAM lParam);
@@ -65,6 +68,10 @@ class frmResizer : public Window {
     GdiFonts fonts_;
     ctlFrame FormFrame_;
     FrameSizeMemory size_;
+    HoleKeeper keeper_;
+    bool checking_ = false;
+    Subscription worksheetMoved_;
+    Subscription worksheetSized_;
     /// While the user drags the title bar and no message tells of it: where the drag began.
     std::optional<POINT> unseenDrag_;
     /// While it returns from the maximised state, which it does unseen.
