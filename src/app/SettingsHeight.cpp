@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
+#include "app/modes.h"
 #include "modAPI/rounding.h"
 
 namespace ormala {
@@ -17,25 +19,49 @@ int toInt(double value) {
                                        static_cast<double>(std::numeric_limits<int>::max())));
 }
 
+bool isShort(int mode) {
+    return mode == mode::templateMode || mode == mode::pause;
+}
+
+bool standsShort(const SettingsHeight::Present& present) {
+    return present.height == present.shortHeight;
+}
+
 }  // namespace
 
 std::optional<int> SettingsHeight::adjust(int mode, int formerMode, const Present& present) {
     pending_ = present.state == WindowState::minimised;
+    const int from = std::exchange(pendingFrom_, std::nullopt).value_or(formerMode);
+    const bool leavesEdit = from == mode::edit && isShort(mode);
     if (present.state != WindowState::normal) {
+        pendingFrom_ = pending_ ? std::optional(from) : std::nullopt;
+        if (pending_ && leavesEdit && present.height > present.shortHeight) {
+            // The program may end before the window comes back.
+            editModeHeight_ = present.height;
+        }
         return std::nullopt;
     }
-    if (mode == 1 || mode == 2) {
-        if (formerMode == 0) {
+    if (isShort(mode)) {
+        if (leavesEdit) {
             editModeHeight_ = present.height;
         }
         return present.shortHeight;
     }
     // A user who has pulled the short window to another height keeps that one.
-    const bool standsShort = present.height == present.shortHeight;
-    if (mode == 0 && standsShort && editModeHeight_ > 0) {
+    if (mode == mode::edit && standsShort(present) && editModeHeight_ > 0) {
         return editModeHeight_;
     }
     return std::nullopt;
+}
+
+std::optional<int> SettingsHeight::movedToDpi(int formerDpi, int dpi, const Present& former,
+                                              int suggested, int shortHeight) {
+    editModeHeight_ = pixelsOfTwips(twipsOfPixels(editModeHeight_, formerDpi), dpi);
+    if (former.state == WindowState::minimised) {
+        pending_ = true;
+        return std::nullopt;
+    }
+    return standsShort(former) ? shortHeight : std::max(suggested, shortHeight);
 }
 
 bool SettingsHeight::resized(WindowState state) {

@@ -16,6 +16,7 @@ class SettingsHeight {
 
     struct Present {
         WindowState state = WindowState::normal;
+        /// Of a minimised window: what it had before and will have again.
         int height = 0;
         int shortHeight = 0;
     };
@@ -24,14 +25,22 @@ class SettingsHeight {
     /// `mode`, nothing if it keeps its own.
     std::optional<int> adjust(int mode, int formerMode, const Present& present);
 
-    /// The window was sized: true if a change of mode that came while it was minimised is due now.
+    /// The window was sized: true if a change that came while it was minimised is due now.
     bool resized(WindowState state);
+
+    /// The window has come to another resolution: the height that it takes instead of the
+    /// `suggested` one, nothing while it is minimised. `former` is how it stood before,
+    /// `shortHeight` that of the new resolution.
+    std::optional<int> movedToDpi(int formerDpi, int dpi, const Present& former, int suggested,
+                                  int shortHeight);
 
     [[nodiscard]] bool RestoreHeightPending() const { return pending_; }
 
   private:
     int editModeHeight_ = 0;
     bool pending_ = false;
+    /// The mode before the first change that waits.
+    std::optional<int> pendingFrom_;
     WindowState last_ = WindowState::normal;
 };
 

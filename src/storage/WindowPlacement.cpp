@@ -53,17 +53,16 @@ void writeRect(INIFile& options, const PlacementRect& rect) {
     options.setLongValue("Bottom", rect.bottom);
 }
 
-PlacementRect readRect(INIFile& options, const PlacementRect& present, bool sizable) {
+PlacementRect readRect(INIFile& options, const PlacementRect& present, Sizable sizable) {
     PlacementRect rect;
     rect.top = options.LongValue("Top", present.top);
     rect.left = options.LongValue("Left", present.left);
-    if (sizable) {
-        rect.bottom = options.LongValue("Bottom", present.bottom);
-        rect.right = options.LongValue("Right", present.right);
-    } else {
-        rect.right = narrowed(Wide{rect.left} + present.right - present.left);
-        rect.bottom = narrowed(Wide{rect.top} + present.bottom - present.top);
-    }
+    rect.bottom = sizable == Sizable::nothing
+                      ? narrowed(Wide{rect.top} + present.bottom - present.top)
+                      : options.LongValue("Bottom", present.bottom);
+    rect.right = sizable == Sizable::both
+                     ? options.LongValue("Right", present.right)
+                     : narrowed(Wide{rect.left} + present.right - present.left);
     return rect;
 }
 
@@ -98,7 +97,7 @@ void storePlacement(INIFile& options, const std::string& section,
 }
 
 RestoredPlacement restoredPlacement(INIFile& options, const std::string& section, bool cascade,
-                                    const WindowPlacement& present, bool sizable,
+                                    const WindowPlacement& present, Sizable sizable,
                                     const ScreenAreas& screens) {
     const CurrentSectionGuard current(options, section);
     const auto scope = options.group();

@@ -47,12 +47,16 @@ PlacementRect keptOnScreens(const PlacementRect& rect, const ScreenAreas& screen
 /// Writes the placement into a section of the options file; the current section stays.
 void storePlacement(INIFile& options, const std::string& section, const WindowPlacement& placement);
 
+/// What a user can change of a window's size.
+enum class Sizable { nothing, height, both };
+
 /// Where the window stood when its placement was stored, brought back onto the screens there are.
-/// `present` serves where nothing is stored, and gives the size of a window that isn't `sizable`.
+/// `present` serves where nothing is stored, and gives the size in each direction that isn't
+/// sizable: at the time of storing it may have been another one.
 /// With `cascade` the place lies 20 pixels further right and down, and is stored at once, for the
 /// next copy of the program. The current section stays.
 RestoredPlacement restoredPlacement(INIFile& options, const std::string& section, bool cascade,
-                                    const WindowPlacement& present, bool sizable,
+                                    const WindowPlacement& present, Sizable sizable,
                                     const ScreenAreas& screens);
 
 }  // namespace ormala

@@ -80,7 +80,61 @@ TEST(SettingsHeight, AMinimisedWindowOnlyNotesThatARestoreIsPending) {
     SettingsHeight height;
     EXPECT_EQ(height.adjust(mode::pause, mode::edit, in(WindowState::minimised)), std::nullopt);
     EXPECT_TRUE(height.RestoreHeightPending());
-    EXPECT_EQ(height.editModeHeight(), 0);
+}
+
+TEST(SettingsHeight, LeavingEditModeWhileMinimisedKeepsTheHeightForTheNextStart) {
+    SettingsHeight height;
+    height.adjust(mode::templateMode, mode::edit, in(WindowState::minimised));
+    EXPECT_EQ(height.editModeHeight(), editHeight);
+    SettingsHeight unknown;
+    unknown.adjust(mode::templateMode, mode::edit, {WindowState::minimised, 0, shortHeight});
+    EXPECT_EQ(unknown.editModeHeight(), 0);
+}
+
+TEST(SettingsHeight, LeavingEditModeWhileMinimisedGivesTheHeightBackAfterTheRestore) {
+    for (const int last : {mode::templateMode, mode::pause}) {
+        SettingsHeight height;
+        height.resized(WindowState::minimised);
+        height.adjust(mode::templateMode, mode::edit, {WindowState::minimised, 0, shortHeight});
+        height.adjust(last, mode::templateMode, {WindowState::minimised, 0, shortHeight});
+        ASSERT_TRUE(height.resized(WindowState::normal));
+        EXPECT_EQ(height.adjust(last, last, standing(editHeight)), shortHeight);
+        EXPECT_EQ(height.adjust(mode::edit, last, standing(shortHeight)), editHeight);
+    }
+}
+
+TEST(SettingsHeight, LeavingAShortModeWhileMinimisedKeepsNothingOfTheShortWindow) {
+    SettingsHeight height;
+    height.setEditModeHeight(editHeight);
+    height.adjust(mode::pause, mode::templateMode, {WindowState::minimised, 300, shortHeight});
+    EXPECT_EQ(height.adjust(mode::pause, mode::pause, standing(300)), shortHeight);
+    EXPECT_EQ(height.editModeHeight(), editHeight);
+}
+
+TEST(SettingsHeight, AShortWindowIsShortAtItsNewResolutionAndGrowsAgain) {
+    constexpr int doubleShort = 2 * shortHeight - 7;
+    SettingsHeight height;
+    height.setEditModeHeight(editHeight);
+    // The system suggests twice the old height, frame and all.
+    EXPECT_EQ(height.movedToDpi(96, 192, standing(shortHeight), 2 * shortHeight, doubleShort),
+              doubleShort);
+    EXPECT_EQ(
+        height.adjust(mode::edit, mode::pause, {WindowState::normal, doubleShort, doubleShort}),
+        2 * editHeight);
+}
+
+TEST(SettingsHeight, AnyOtherWindowTakesTheSuggestedHeightIfItIsEnough) {
+    SettingsHeight height;
+    EXPECT_EQ(height.movedToDpi(96, 192, standing(editHeight), 990, 117), 990);
+    EXPECT_EQ(height.movedToDpi(192, 96, standing(70), 35, 62), 62);
+}
+
+TEST(SettingsHeight, AMinimisedWindowIsSizedForItsNewResolutionWhenItComesBack) {
+    SettingsHeight height;
+    height.resized(WindowState::minimised);
+    EXPECT_EQ(height.movedToDpi(96, 192, in(WindowState::minimised), 990, 117), std::nullopt);
+    ASSERT_TRUE(height.resized(WindowState::normal));
+    EXPECT_EQ(height.adjust(mode::pause, mode::pause, {WindowState::normal, 62, 117}), 117);
 }
 
 TEST(SettingsHeight, AMaximisedWindowKeepsItsHeightAndNothingIsPending) {

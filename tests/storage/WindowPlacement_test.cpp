@@ -85,7 +85,7 @@ class PlacementTest : public testing::Test {
     void store(const PlacementRect& rect, std::int32_t state = 1) {
         storePlacement(ini_.file, "frmLens", {state, rect});
     }
-    RestoredPlacement restored(const ScreenAreas& screens, bool sizable = true,
+    RestoredPlacement restored(const ScreenAreas& screens, Sizable sizable = Sizable::both,
                                bool cascade = false) {
         return restoredPlacement(ini_.file, "frmLens", cascade, present, sizable, screens);
     }
@@ -170,29 +170,38 @@ TEST_F(PlacementTest, TouchingThePrimaryScreenIsNotLyingOnIt) {
 
 TEST_F(PlacementTest, FixedWindowIgnoresTheStoredSize) {
     store({300, 200, 1300, 900});
-    EXPECT_EQ(restored(oneScreen, false).rect, (PlacementRect{300, 200, 700, 500}));
+    EXPECT_EQ(restored(oneScreen, Sizable::nothing).rect, (PlacementRect{300, 200, 700, 500}));
+}
+
+TEST_F(PlacementTest, AWidthOfAnotherResolutionIsLeftBeforeTheWindowIsBroughtOntoTheScreen) {
+    // Flush with the right edge, at half the resolution of now.
+    store({1720, 200, 1920, 900});
+    EXPECT_EQ(restored(oneScreen, Sizable::height).rect, (PlacementRect{1520, 200, 1920, 900}));
+    store({300, 200, 1300, 900});
+    EXPECT_EQ(restored(oneScreen, Sizable::height).rect, (PlacementRect{300, 200, 700, 900}));
 }
 
 TEST_F(PlacementTest, CascadeMovesTheWindowAndStoresItAtOnce) {
     store({300, 200, 700, 600}, 3);
-    EXPECT_EQ(restored(oneScreen, true, true).rect, (PlacementRect{320, 220, 720, 620}));
+    EXPECT_EQ(restored(oneScreen, Sizable::both, true).rect, (PlacementRect{320, 220, 720, 620}));
     EXPECT_EQ(ini_.bytes(),
               "[frmLens]\r\nLeft= 320\r\nTop= 220\r\nRight= 720\r\nBottom= 620\r\n"
               "WindowState= 3\r\n");
-    EXPECT_EQ(restored(oneScreen, true, true).rect, (PlacementRect{340, 240, 740, 640}));
+    EXPECT_EQ(restored(oneScreen, Sizable::both, true).rect, (PlacementRect{340, 240, 740, 640}));
 }
 
 TEST_F(PlacementTest, CascadeStoresThePlaceBeforeItIsKeptInBounds) {
     store({1500, 100, 1910, 500});
-    EXPECT_EQ(restored(oneScreen, true, true).rect, (PlacementRect{1510, 120, 1920, 520}));
+    EXPECT_EQ(restored(oneScreen, Sizable::both, true).rect, (PlacementRect{1510, 120, 1920, 520}));
     EXPECT_NE(ini_.bytes().find("Right= 1930\r\n"), std::string::npos);
 }
 
 TEST_F(PlacementTest, DamagedNumbersOfAFixedWindowStillGiveAPlaceOnTheScreen) {
     ini_.bytes() = "[frmLens]\r\nLeft=2147483647\r\nTop=-2147483648\r\n";
-    EXPECT_EQ(restored(oneScreen, false, true).rect, (PlacementRect{1920, 0, 1920, 300}));
+    EXPECT_EQ(restored(oneScreen, Sizable::nothing, true).rect,
+              (PlacementRect{1920, 0, 1920, 300}));
     ini_.bytes() = "[frmLens]\r\nLeft=1e999\r\nTop=x\r\n";
-    EXPECT_EQ(restored(oneScreen, false).rect, (PlacementRect{100, 0, 500, 300}));
+    EXPECT_EQ(restored(oneScreen, Sizable::nothing).rect, (PlacementRect{100, 0, 500, 300}));
 }
 
 }  // namespace

@@ -283,6 +283,44 @@ TEST_F(Modes, ChangeBySystemMenuWhileMinimisedTakesEffectWhenTheWindowComesBack)
     EXPECT_LT(shortHeight(), before);
 }
 
+TEST_F(Modes, ChangeBySystemMenuWhileMinimisedLosesNoHeight) {
+    constexpr int pulled = 345;
+    start();
+    SetWindowPos(settings_->handle(), nullptr, 0, 0, widthOf(settings_->rectangle()), pulled,
+                 SWP_NOMOVE | SWP_NOZORDER);
+    ShowWindow(settings_->handle(), SW_MINIMIZE);
+    SendMessageW(settings_->handle(), WM_SYSCOMMAND, 1011, 0);
+    ShowWindow(settings_->handle(), SW_RESTORE);
+    ASSERT_TRUE(test::waitUntil([&] { return height() == shortHeight(); }));
+    press(VK_F2);
+    EXPECT_TRUE(test::waitUntil([&] { return height() == pulled; })) << height();
+}
+
+TEST_F(Modes, AProgramThatEndsMinimisedAndShortKnowsItsHeight) {
+    constexpr int pulled = 345;
+    start();
+    SetWindowPos(settings_->handle(), nullptr, 0, 0, widthOf(settings_->rectangle()), pulled,
+                 SWP_NOMOVE | SWP_NOZORDER);
+    ShowWindow(settings_->handle(), SW_MINIMIZE);
+    SendMessageW(settings_->handle(), WM_SYSCOMMAND, 1011, 0);
+    const auto dpi = static_cast<int>(GetDpiForWindow(settings_->handle()));
+    EXPECT_EQ(end().number("Options", "EditModeFormHeight"), twipsOfPixels(pulled, dpi));
+}
+
+TEST_F(Modes, AControlWindowStoredAtHalfTheResolutionIsWhollyOnTheScreen) {
+    start();
+    const int width = widthOf(settings_->rectangle());
+    settings_.reset();
+    const int right = GetSystemMetrics(SM_CXSCREEN);
+    option("FormSettings", "Left", std::to_string(right - width / 2));
+    option("FormSettings", "Top", "100");
+    option("FormSettings", "Right", std::to_string(right));
+    option("FormSettings", "Bottom", "500");
+    start();
+    EXPECT_EQ(settings_->rectangle().right, right);
+    EXPECT_EQ(widthOf(settings_->rectangle()), width);
+}
+
 TEST_F(Modes, PauseLeavesTheKeysOfTheOtherModes) {
     option("Options", "Mode", "2");
     start();

@@ -19,6 +19,10 @@ std::string captionOf(HWND window) {
     return narrow(text);
 }
 
+int heightOf(const RECT& rect) {
+    return static_cast<int>(rect.bottom - rect.top);
+}
+
 /// The control window with an application-data folder of its own.
 class frmSettingsTest : public testing::Test {
   protected:
@@ -117,6 +121,21 @@ TEST_F(frmSettingsTest, FollowsTheResolutionOfItsMonitor) {
     EXPECT_GE(limits.ptMinTrackSize.x, 600);
     const RECT now = settings_.rectangle();
     EXPECT_NEAR(now.right - now.left, 2 * (place.right - place.left), 40);
+}
+
+TEST_F(frmSettingsTest, ShortWindowGrowsAgainAfterAChangeOfResolution) {
+    const int before = heightOf(settings_.rectangle());
+    settings_.SetMode(2, false);
+    const RECT place = settings_.rectangle();
+    RECT suggested{place.left, place.top, place.left + 2 * (place.right - place.left),
+                   place.top + 2 * (place.bottom - place.top)};
+    SendMessageW(settings_.handle(), WM_DPICHANGED, MAKEWPARAM(192, 192),
+                 reinterpret_cast<LPARAM>(&suggested));
+    MINMAXINFO limits{};
+    SendMessageW(settings_.handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+    EXPECT_EQ(heightOf(settings_.rectangle()), limits.ptMinTrackSize.y);
+    settings_.SetMode(0, false);
+    EXPECT_NEAR(heightOf(settings_.rectangle()), 2 * before, 2);
 }
 
 TEST_F(frmSettingsTest, ButtonsOfTheModesChangeThem) {

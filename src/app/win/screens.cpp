@@ -1,5 +1,7 @@
 #include "app/win/screens.h"
 
+#include <limits>
+
 #include "platform/win/monitors.h"
 
 namespace ormala {
@@ -38,6 +40,17 @@ PlacementRect onSomeScreen(const PlacementRect& rect) {
     return placement.rcNormalPosition;
 }
 
+/// A window that can be sized may still hold on to its width.
+Sizable sizableOf(HWND window) {
+    if ((GetWindowLongPtrW(window, GWL_STYLE) & WS_THICKFRAME) == 0) {
+        return Sizable::nothing;
+    }
+    MINMAXINFO limits{};
+    limits.ptMaxTrackSize = {std::numeric_limits<LONG>::max(), std::numeric_limits<LONG>::max()};
+    SendMessageW(window, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+    return limits.ptMinTrackSize.x == limits.ptMaxTrackSize.x ? Sizable::height : Sizable::both;
+}
+
 PlacementRect keptOnPresentScreens(const PlacementRect& rect) {
     return onSomeScreen(keptOnScreens(rect, screenAreas()));
 }
@@ -60,9 +73,8 @@ void SaveFormPlacement(HWND window, INIFile& options, const std::string& section
 
 RestoredPlacement storedPlacement(HWND window, INIFile& options, const std::string& section,
                                   bool cascade) {
-    const bool sizable = (GetWindowLongPtrW(window, GWL_STYLE) & WS_THICKFRAME) != 0;
-    RestoredPlacement restored =
-        restoredPlacement(options, section, cascade, placementOf(window), sizable, screenAreas());
+    RestoredPlacement restored = restoredPlacement(options, section, cascade, placementOf(window),
+                                                   sizableOf(window), screenAreas());
     restored.rect = onSomeScreen(restored.rect);
     return restored;
 }
@@ -77,6 +89,10 @@ void RestoreFormPlacement(HWND window, INIFile& options, const std::string& sect
     placement.showCmd = SW_HIDE;
     placement.rcNormalPosition = systemRect(restored.rect);
     SetWindowPlacement(window, &placement);
+    if (!restored.maximise) {
+        // On a screen of another resolution it may have become larger than it was.
+        bringOntoScreens(window);
+    }
 }
 
 void bringOntoScreens(HWND window) {
