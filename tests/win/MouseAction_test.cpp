@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 #include <windowsx.h>
 
+#include <atomic>
+#include <mutex>
+#include <thread>
 #include <vector>
 
 #include "platform/win/Window.h"
@@ -12,92 +15,170 @@
 namespace ormala {
 namespace {
 
-/// A window of another program's kind that notes the mouse.
-class Target : public Window {
+/// A window on a thread of its own, as that of another program, that notes the mouse and takes its
+/// time for each message.
+class Target {
   public:
-    explicit Target(RECT place, DWORD style = WS_POPUP) {
-        WindowDesign design;
-        design.className = L"MouseActionTarget";
-        design.style = style | WS_VISIBLE;
-        design.place = place;
-        create(design);
+    explicit Target(const RECT& place) : thread_([this, place] { run(place); }) {
+        EXPECT_TRUE(test::waitUntil([this] { return window_ != nullptr; }));
     }
-    ~Target() override { destroy(); }
+    Target(const Target&) = delete;
+    Target& operator=(const Target&) = delete;
+    ~Target() {
+        PostMessageW(window_, WM_CLOSE, 0, 0);
+        thread_.join();
+    }
 
     struct Noted {
         UINT message;
-        POINT at;
-        WPARAM buttons;
+        PixelPoint at;
+        bool operator==(const Noted&) const = default;
+        friend std::ostream& operator<<(std::ostream& out, const Noted& noted) {
+            return out << noted.message << " at " << noted.at.x << ", " << noted.at.y;
+        }
     };
-    std::vector<Noted> noted;
+    /// Presses and releases so far.
+    std::vector<Noted> buttons() {
+        const std::lock_guard lock(mutex_);
+        return buttons_;
+    }
+    int dragMoves() const { return dragMoves_; }
+    void setSlowness(DWORD milliseconds) { slowness_ = milliseconds; }
+    HWND window() const { return window_; }
 
   private:
-    std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message == WM_LBUTTONDOWN || message == WM_LBUTTONUP || message == WM_MOUSEMOVE) {
-            POINT at{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-            ClientToScreen(handle(), &at);
-            noted.push_back({message, at, wParam});
-            if (message == WM_LBUTTONDOWN) {
-                SetCapture(handle());
-            } else if (message == WM_LBUTTONUP) {
-                ReleaseCapture();
-            }
+    void run(const RECT& place) {
+        WNDCLASSW windowClass{};
+        windowClass.lpfnWndProc = dispatch;
+        windowClass.hInstance = GetModuleHandleW(nullptr);
+        windowClass.lpszClassName = L"MouseActionTarget";
+        RegisterClassW(&windowClass);
+        const HWND window =
+            CreateWindowExW(0, windowClass.lpszClassName, L"", WS_POPUP, place.left, place.top,
+                            place.right - place.left, place.bottom - place.top, nullptr, nullptr,
+                            windowClass.hInstance, nullptr);
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+        ShowWindow(window, SW_SHOW);
+        window_ = window;
+        MSG message{};
+        while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+            DispatchMessageW(&message);
         }
-        return std::nullopt;
     }
+
+    static LRESULT CALLBACK dispatch(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        auto* self = reinterpret_cast<Target*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+        if (message == WM_DESTROY) {
+            PostQuitMessage(0);
+        } else if (self != nullptr && message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+            self->note(message, wParam, lParam);
+        }
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+
+    /// Takes no capture: each piece goes to whoever lies at its place when it is fetched.
+    void note(UINT message, WPARAM held, LPARAM place) {
+        POINT at{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
+        ClientToScreen(window_, &at);
+        Sleep(slowness_);
+        const std::lock_guard lock(mutex_);
+        if (message == WM_MOUSEMOVE) {
+            dragMoves_ += (held & MK_LBUTTON) != 0 ? 1 : 0;
+        } else {
+            buttons_.push_back({message, {static_cast<int>(at.x), static_cast<int>(at.y)}});
+        }
+    }
+
+    std::mutex mutex_;
+    std::vector<Noted> buttons_;
+    std::atomic<int> dragMoves_ = 0;
+    std::atomic<DWORD> slowness_ = 0;
+    std::atomic<HWND> window_ = nullptr;
+    std::thread thread_;
 };
 
-TEST(MouseAction, PathIsTheFirstAndLastPixelOnTheScreen) {
-    TestSheet sheet({640, 480});
-    const RECT place = sheet.window().rectangle();
-    const MouseActionPath path = mouseActionPath({10.4, 20.5, 100.6, 200}, sheet.window().handle());
-    EXPECT_EQ(path.from.x, place.left + 10);
-    EXPECT_EQ(path.from.y, place.top + 21);
-    EXPECT_EQ(path.to.x, place.left + 101);
-    EXPECT_EQ(path.to.y, place.top + 200);
+/// What the control window is to this.
+class Control : public Window {
+  public:
+    Control() {
+        WindowDesign design;
+        design.className = L"MouseActionControl";
+        design.style = WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_VISIBLE;
+        design.place = {60, 60, 300, 300};
+        create(design);
+    }
+    ~Control() override { destroy(); }
+
+  private:
+    std::optional<LRESULT> onMessage(UINT, WPARAM, LPARAM) override { return std::nullopt; }
+};
+
+PixelPoint cursor() {
+    POINT now{};
+    GetCursorPos(&now);
+    return {static_cast<int>(now.x), static_cast<int>(now.y)};
 }
 
-TEST(MouseAction, DragsInTheProgramBelowAndPutsEverythingBack) {
-    Target target({0, 0, 900, 700});
-    Target control({700, 100, 900, 300}, WS_CAPTION | WS_SYSMENU | WS_THICKFRAME);
-    TestSheet sheet({640, 480});
-    ctlRatioGrid& stencil = sheet.addStencil({100, 100, 300, 250}, 0.5, rgb(255, 0, 0));
-    sheet.window().setClickable(false);
-    test::pause(test::milliseconds{200});
-    SetCursorPos(600, 600);
-    test::pause(test::milliseconds{100});
-    target.noted.clear();
-    const LONG left = control.rectangle().left;
-    POINT before{};
-    GetCursorPos(&before);
-
-    applyMouseAction(stencil, sheet.window().handle(), control.handle());
-
-    const auto has = [&](UINT message) {
-        return std::ranges::any_of(target.noted,
-                                   [&](const auto& note) { return note.message == message; });
-    };
-    EXPECT_TRUE(test::waitUntil([&] { return has(WM_LBUTTONUP); }));
-    const RECT place = sheet.window().rectangle();
-    for (const auto& note : target.noted) {
-        if (note.message == WM_LBUTTONDOWN) {
-            EXPECT_EQ(note.at.x, place.left + 100);
-            EXPECT_EQ(note.at.y, place.top + 100);
-        }
-        if (note.message == WM_LBUTTONUP) {
-            EXPECT_EQ(note.at.x, place.left + 300);
-            EXPECT_EQ(note.at.y, place.top + 250);
-        }
+class MouseActionTest : public testing::Test {
+  protected:
+    MouseActionTest() {
+        test::pause(test::milliseconds{200});
+        SetCursorPos(600, 600);
+        test::pause(test::milliseconds{100});
     }
-    EXPECT_TRUE(has(WM_LBUTTONDOWN));
-    EXPECT_TRUE(test::waitUntil([&] { return control.rectangle().left == left; }))
-        << control.rectangle().left << " instead of " << left;
+
+    void play() {
+        sheet_.window().setTransparentToMouse(true);
+        applyMouseAction(stencil_, sheet_.window().handle(), control_.handle());
+        sheet_.window().setTransparentToMouse(false);
+    }
+
+    std::vector<Target::Noted> wanted() {
+        const RECT place = sheet_.window().rectangle();
+        const int left = static_cast<int>(place.left);
+        const int top = static_cast<int>(place.top);
+        return {{WM_LBUTTONDOWN, {left + 100, top + 100}}, {WM_LBUTTONUP, {left + 300, top + 250}}};
+    }
+
+    Target target_{{0, 0, 900, 700}};
+    Control control_;
+    TestSheet sheet_{{640, 480}};
+    ctlRatioGrid& stencil_ = sheet_.addStencil({100, 100, 300, 250}, 0.5, rgb(255, 0, 0));
+};
+
+TEST_F(MouseActionTest, DragsInTheProgramBelowInEditModeAndPutsEverythingBack) {
+    const RECT former = control_.rectangle();
+    const PixelPoint before = cursor();
+    const Rect rectangle = stencil_.RectBound();
+    ASSERT_TRUE(sheet_.window().Clickable());
+    play();
+    EXPECT_EQ(target_.buttons(), wanted());
+    EXPECT_GE(target_.dragMoves(), 1);
     EXPECT_TRUE(test::waitUntil([&] {
-        POINT now{};
-        GetCursorPos(&now);
-        return now.x == before.x && now.y == before.y;
+        const RECT now = control_.rectangle();
+        return EqualRect(&now, &former) != FALSE;
     }));
-    EXPECT_TRUE(stencil.mouseAction().running());
+    EXPECT_TRUE(test::waitUntil([&] { return cursor() == before; }));
+    EXPECT_TRUE(stencil_.mouseAction().running());
+    EXPECT_EQ(stencil_.RectBound().left, rectangle.left);
+    EXPECT_EQ(stencil_.RectBound().bottom, rectangle.bottom);
+    const RECT place = sheet_.window().rectangle();
+    EXPECT_EQ(WindowFromPoint({place.left + 100, place.top + 100}), sheet_.window().handle());
+}
+
+TEST_F(MouseActionTest, WaitsForAProgramThatTakesItsTime) {
+    target_.setSlowness(60);
+    play();
+    // What is fetched now would meet the worksheet again.
+    test::waitUntil([&] { return target_.buttons() == wanted(); }, test::milliseconds{2000});
+    EXPECT_EQ(target_.buttons(), wanted());
+}
+
+TEST_F(MouseActionTest, DoesNotWaitForEverForAProgramThatHangs) {
+    target_.setSlowness(3000);
+    const ULONGLONG start = GetTickCount64();
+    play();
+    EXPECT_LT(GetTickCount64() - start, 2700U);
 }
 
 }  // namespace

@@ -36,6 +36,8 @@ void LensPane::setVisible(bool visible) {
         tellOrigin();
         frmLens_.show(ports_.worksheet.handle());
     } else {
+        // Its menu must not outlive its sight.
+        EndMenu();
         frmLens_.hide();
     }
 }

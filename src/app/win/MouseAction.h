@@ -6,18 +6,10 @@
 
 namespace ormala {
 
-/// Where the automatic mouse action presses and lets go, in screen pixels.
-struct MouseActionPath {
-    POINT from{};
-    POINT to{};
-};
-
-/// The stencil's first and last pixel, unturned. `worksheet` is the window that it lies on.
-MouseActionPath mouseActionPath(const Rect& rectBound, HWND worksheet);
-
 /// Drags in the program under the stencil's top left corner, with the left button pressed, to its
-/// bottom right one. The preview plays, `control` steps off all screens meanwhile, and the mouse
-/// pointer comes back to its place.
+/// bottom right one, and returns when that program has got it. The preview plays, `control` steps
+/// off all screens meanwhile, and the mouse pointer comes back to its place. No other window of
+/// this program may take the mouse there.
 void applyMouseAction(ctlRatioGrid& stencil, HWND worksheet, HWND control);
 
 }  // namespace ormala

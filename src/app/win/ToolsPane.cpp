@@ -166,12 +166,11 @@ void ToolsPane::panelGotFocus(PanelWindow& panel) {
     if (restoringFocus_) {
         return;
     }
-    if (ports_.foreground.LastForegroundWindow == ports_.window) {
+    if (ports_.focus.panelIsChosen(ports_.window)) {
         focused_ = panel.handle();
         ports_.worksheet.sheet().SelectControl(panel.core().RefControlControl());
     } else {
         SetFocusToSelectedControl();
-        ports_.foreground.LastForegroundWindow = GetForegroundWindow();
     }
 }
 
@@ -196,8 +195,11 @@ bool ToolsPane::hasPanelAt(POINT screen) const {
 }
 
 void ToolsPane::giveFocusToPanel() {
+    // A focus that comes back is no choice of the user's.
+    const bool former = std::exchange(restoringFocus_, true);
     const PanelWindow* panel = panelMaker_.panelOf(focused_);
     SetFocus(panel != nullptr && panel->isVisible() ? panel->handle() : list_.handle());
+    restoringFocus_ = former;
 }
 
 void ToolsPane::EnsurePanelVisible(const PanelWindow& panel) {

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "app/Documents.h"
+#include "app/FocusMemory.h"
 #include "app/PanelLayout.h"
 #include "app/ToolFile.h"
 #include "app/ToolList.h"
@@ -26,7 +27,7 @@ class ControlWindow {
     /// In front of the worksheet, without activating it.
     virtual void raiseAboveAll() = 0;
     /// Hides the magnifier and the worksheet's frame, which would lie under a drag on the screen,
-    /// or shows again those that were shown.
+    /// and lets the mouse through the worksheet, or undoes all of that.
     virtual void putWindowsAside(bool aside) = 0;
 };
 
@@ -39,7 +40,7 @@ class ToolsPane : private ToolListView, private BusyView, private PanelHost {
         ControlWindow& controlWindow;
         CommandBar& bar;
         frmWorksheet& worksheet;
-        ForegroundMemory& foreground;
+        FocusMemory& focus;
         const ToolSettings& settings;
         const SpecialRatios& ratios;
         MeasureUnits& defaultUnits;

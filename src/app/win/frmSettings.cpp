@@ -130,7 +130,7 @@ void frmSettings::createWindow() {
 }
 
 void frmSettings::loadWorksheet() {
-    worksheet_ = std::make_unique<frmWorksheet>(factory_, foreground_, *this);
+    worksheet_ = std::make_unique<frmWorksheet>(factory_, focus_.foreground(), *this);
     // During a change of mode the new one decides.
     worksheetResized_ = worksheet_->resized.subscribe(
         [this] { setWorksheetMaxSized(windowsOf(lit_).worksheetMaxSized); });
@@ -184,9 +184,9 @@ void frmSettings::makeControls() {
         const auto group = optionsFile_.group();
         view_->load(optionsFile_);
     }
-    const ToolsPane::Ports ports{handle(),    *this,         *bar_,        *worksheet_,
-                                 foreground_, toolSettings_, ratios_,      options_.defaultUnits,
-                                 store_,      codePage_,     globalEvents_};
+    const ToolsPane::Ports ports{handle(), *this,         *bar_,        *worksheet_,
+                                 focus_,   toolSettings_, ratios_,      options_.defaultUnits,
+                                 store_,   codePage_,     globalEvents_};
     tools_ = std::make_unique<ToolsPane>(ports, idList);
     makeFontSizeBox();
     layOutControls();

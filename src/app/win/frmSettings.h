@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "app/FocusMemory.h"
 #include "app/Options.h"
 #include "app/ProgramLife.h"
 #include "app/SettingsHeight.h"
@@ -98,6 +99,8 @@ class frmSettings : public Window,
     void hideReason() override;
     void quit() override;
 
+    [[nodiscard]] bool worksheetHasKeyboard() const;
+    void takeKeyboardFromWorksheet();
     void applyModeToWindows(int mode);
     void layOutAnew();
     [[nodiscard]] ModeWindows windowsOf(int mode) const;
@@ -131,7 +134,7 @@ class frmSettings : public Window,
     ToolSettings toolSettings_;
     SpecialRatios ratios_;
     ToolMaker factory_{toolSettings_, ratios_};
-    ForegroundMemory foreground_;
+    FocusMemory focus_;
     int mode_ = mode::edit;
     /// The mode whose button is lit; during a change the new one already.
     int lit_ = mode::edit;
@@ -150,10 +153,6 @@ class frmSettings : public Window,
     std::unique_ptr<ViewPane> view_;
     std::unique_ptr<ToolsPane> tools_;
     std::unique_ptr<MouseWheelHook> wheelHook_;
-    /// The program has come to the front, and the control window has not been told yet.
-    bool cameBack_ = false;
-    /// A click on a panel brings the window to the front and will take the focus to itself.
-    bool clickOnPanel_ = false;
     /// The parts of the window are gone or going; the system handles what comes.
     bool closed_ = false;
     ProgramLife life_{*this};

@@ -28,8 +28,7 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
         case WM_ERASEBKGND:
             return onErase(reinterpret_cast<HDC>(wParam));
         case WM_ACTIVATEAPP:
-            cameBack_ = wParam != FALSE;
-            foreground_.LastForegroundWindow = nullptr;
+            focus_.programActivated(wParam != FALSE);
             return std::nullopt;
         case WM_ACTIVATE:
             return onActivate(wParam, reinterpret_cast<HWND>(lParam));
@@ -124,13 +123,17 @@ LRESULT frmSettings::onSysCommand(WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT frmSettings::onDpiChanged(WPARAM wParam, LPARAM lParam) {
-    const int kept = twipsOfPixels(height_.editModeHeight(), dpi_);
-    dpi_ = HIWORD(wParam);
+    const SettingsHeight::Present former = present();
+    const int formerDpi = std::exchange(dpi_, static_cast<int>(HIWORD(wParam)));
     layOutControls();
-    height_.setEditModeHeight(pixelsOfTwips(kept, dpi_));
     const RECT& place = *reinterpret_cast<const RECT*>(lParam);
-    SetWindowPos(handle(), nullptr, place.left, place.top, place.right - place.left,
-                 place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    const SIZE frame = frameSize();
+    const auto height = height_.movedToDpi(formerDpi, dpi_, former, place.bottom - place.top,
+                                           layout().shortHeight + frame.cy);
+    if (height) {
+        SetWindowPos(handle(), nullptr, place.left, place.top, layout().width + frame.cx, *height,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+    }
     InvalidateRect(handle(), nullptr, FALSE);
     return 0;
 }
@@ -148,25 +151,27 @@ LRESULT frmSettings::onDisplayChange() {
 
 LRESULT frmSettings::onActivate(WPARAM kind, HWND other) {
     if (LOWORD(kind) == WA_INACTIVE) {
+        focus_.controlDeactivated();
         if (other != nullptr && other == worksheet_->handle()) {
             // A worksheet that comes to the front must not cover the panels.
             PostMessageW(handle(), wmRaise, 0, 0);
         }
-    } else if (!std::exchange(cameBack_, false)) {
-        // From another window of the program: whatever gets the focus now, the user chose it.
-        foreground_.LastForegroundWindow = handle();
+    } else {
+        const bool fromOwnWindow =
+            other != nullptr && GetWindowThreadProcessId(other, nullptr) == GetCurrentThreadId();
+        focus_.controlActivated(handle(), fromOwnWindow);
     }
     return DefWindowProcW(handle(), WM_ACTIVATE, kind, reinterpret_cast<LPARAM>(other));
 }
 
 LRESULT frmSettings::onMouseActivate(WPARAM wParam, LPARAM lParam) {
     const DWORD place = GetMessagePos();
-    clickOnPanel_ = tools_->hasPanelAt({GET_X_LPARAM(place), GET_Y_LPARAM(place)});
+    focus_.pressed(tools_->hasPanelAt({GET_X_LPARAM(place), GET_Y_LPARAM(place)}));
     return DefWindowProcW(handle(), WM_MOUSEACTIVATE, wParam, lParam);
 }
 
 LRESULT frmSettings::onFocus() {
-    if (!std::exchange(clickOnPanel_, false)) {
+    if (focus_.passesKeyboardOn()) {
         tools_->giveFocusToPanel();
     }
     return 0;

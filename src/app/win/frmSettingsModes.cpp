@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "app/win/KeyboardHandover.h"
 #include "app/win/screens.h"
 #include "language/MlStringModule.h"
 #include "platform/win/monitors.h"
@@ -45,10 +46,16 @@ bool fileIsThere(const std::wstring& path) {
 
 void frmSettings::SetMode(int mode, bool minimise) {
     const int former = mode_;
+    // A menu must not outlive the sight of its owner, which may go now.
+    EndMenu();
     lit_ = mode;
     bar_->showMode(mode, worksheetMaxSized_);
     RedrawWindow(handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     AdjustFormHeight(mode, former);
+    if (mode != mode::edit && !minimise) {
+        // Before its window goes, so that the system passes it on to none.
+        takeKeyboardFromWorksheet();
+    }
     applyModeToWindows(mode);
     mode_ = mode;
     UpdateCaption();
@@ -56,6 +63,21 @@ void frmSettings::SetMode(int mode, bool minimise) {
     view_->modeChanged(mode);
     if (minimise) {
         ShowWindow(handle(), SW_MINIMIZE);
+    }
+    if (mode != mode::edit && worksheetHasKeyboard()) {
+        giveKeyboardToProgramBelow();
+    }
+}
+
+/// The worksheet or its frame. Both obey no keys but in edit mode.
+bool frmSettings::worksheetHasKeyboard() const {
+    const HWND front = GetForegroundWindow();
+    return front != nullptr && (front == worksheet_->handle() || front == resizer_->handle());
+}
+
+void frmSettings::takeKeyboardFromWorksheet() {
+    if (worksheetHasKeyboard() && isVisible() && IsIconic(handle()) == FALSE) {
+        SetForegroundWindow(handle());
     }
 }
 
@@ -104,6 +126,8 @@ void frmSettings::raiseAboveAll() {
 
 void frmSettings::putWindowsAside(bool aside) {
     LensPane& lens = view_->lens();
+    // Below it lies the program that the drag is for.
+    worksheet_->setTransparentToMouse(aside);
     if (aside) {
         lensAside_ = lens.lens().isVisible();
         frameAside_ = resizer_->isVisible();
@@ -135,8 +159,15 @@ void frmSettings::worksheetWindowNormal() {
 }
 
 SettingsHeight::Present frmSettings::present() const {
-    const RECT place = rectangle();
-    return {stateOf(handle()), static_cast<int>(place.bottom - place.top),
+    const WindowState state = stateOf(handle());
+    RECT place = rectangle();
+    if (state == WindowState::minimised) {
+        WINDOWPLACEMENT placement{};
+        placement.length = sizeof placement;
+        GetWindowPlacement(handle(), &placement);
+        place = placement.rcNormalPosition;
+    }
+    return {state, static_cast<int>(place.bottom - place.top),
             layout().shortHeight + static_cast<int>(frameSize().cy)};
 }
 

@@ -6,6 +6,7 @@
 #include "platform/win/dayTime.h"
 #include "platform/win/monitors.h"
 #include "platform/win/regions.h"
+#include "worksheet/frameRules.h"
 #include "worksheet/transparency.h"
 
 namespace ormala {
@@ -24,10 +25,11 @@ RECT primaryWorkArea() {
     return area;
 }
 
-/// The screen the window is on; of the primary one, what the task bar leaves free.
 RECT areaToFill(HWND window) {
     const MONITORINFO monitor = monitorAround(window);
-    return (monitor.dwFlags & MONITORINFOF_PRIMARY) != 0 ? primaryWorkArea() : monitor.rcMonitor;
+    const bool isPrimary = (monitor.dwFlags & MONITORINFOF_PRIMARY) != 0;
+    return toRect(fullScreenPlace(fromRect(monitor.rcMonitor),
+                                  fromRect(isPrimary ? primaryWorkArea() : monitor.rcMonitor)));
 }
 
 int systemDpi() {
@@ -94,12 +96,28 @@ void frmWorksheet::ApplyLayered() {
         layeredLook(clickable_, static_cast<Color>(painter_.background()), alpha_, clickAlpha_);
     // Without the mouse it obeys no keys either, and must not take them from who does.
     const DWORD focus = clickable_ ? 0 : WS_EX_NOACTIVATE;
+    const DWORD mouse = transparentToMouse_ ? WS_EX_TRANSPARENT : 0;
     SetWindowLongPtrW(handle(), GWL_EXSTYLE,
-                      static_cast<LONG_PTR>(look.extendedStyle | WS_EX_TOPMOST | focus));
+                      static_cast<LONG_PTR>(look.extendedStyle | WS_EX_TOPMOST | focus | mouse));
     SetLayeredWindowAttributes(handle(), look.colorKey, static_cast<BYTE>(look.alpha), look.flags);
 }
 
+void frmWorksheet::letGoOfMouse() {
+    if (GetCapture() == handle()) {
+        ReleaseCapture();
+    }
+}
+
+void frmWorksheet::setTransparentToMouse(bool transparent) {
+    transparentToMouse_ = transparent;
+    ApplyLayered();
+}
+
 void frmWorksheet::setClickable(bool clickable) {
+    if (!clickable) {
+        // A drag that is under way ends where it is.
+        letGoOfMouse();
+    }
     clickable_ = clickable;
     ApplyLayered();
     sheet_.setEditMode(clickable);

@@ -9,6 +9,7 @@
 #include "platform/win/Window.h"
 #include "worksheet/BackgroundGrid.h"
 #include "worksheet/CircleCompass.h"
+#include "worksheet/ForegroundMemory.h"
 #include "worksheet/RateLimit.h"
 #include "worksheet/Sheet.h"
 #include "worksheet/SheetMouse.h"
@@ -39,12 +40,6 @@ class WorksheetCommands {
     virtual void closeProgram() = 0;
 };
 
-/// The window that was last known to be in front, by which a user's change of focus is told from
-/// the focus that comes back with an activation.
-struct ForegroundMemory {
-    HWND LastForegroundWindow = nullptr;
-};
-
 /// The see-through window on which the tools lie. In edit mode a veil over the screen that takes
 /// the mouse; otherwise only the tools show, and every click falls through to the program below.
 class frmWorksheet : public Window, private SheetPort, private ToolHost {
@@ -59,6 +54,9 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
 
     [[nodiscard]] bool Clickable() const { return clickable_; }
     void setClickable(bool clickable);
+    /// While set, every click falls through to the program below, whatever the mode; nothing that
+    /// is seen changes.
+    void setTransparentToMouse(bool transparent);
     [[nodiscard]] int Alpha() const { return alpha_; }
     void setAlpha(int alpha);
     [[nodiscard]] int ClickAlpha() const { return clickAlpha_; }
@@ -111,6 +109,7 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
 
     void ApplyLayered();
     void fillScreen();
+    void letGoOfMouse();
     LRESULT onPress(int button, WPARAM wParam, LPARAM lParam);
     LRESULT onMove(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onRelease(int button, WPARAM wParam, LPARAM lParam);
@@ -160,6 +159,7 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     bool crossHairEnabled_ = false;
     bool circleCompassEnabled_ = false;
     bool clickable_ = false;
+    bool transparentToMouse_ = false;
     bool maxSized_ = true;
     int alpha_ = 255;
     int clickAlpha_ = 255;

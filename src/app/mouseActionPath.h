@@ -1,0 +1,27 @@
+#pragma once
+
+#include <span>
+
+#include "modAPI/points.h"
+#include "scene/PixelRect.h"
+
+namespace ormala {
+
+/// Where the automatic mouse action presses and lets go, in screen pixels.
+struct MouseActionPath {
+    PixelPoint from;
+    PixelPoint to;
+
+    bool operator==(const MouseActionPath&) const = default;
+};
+
+/// From the stencil's first pixel to its last one, unturned. `origin` is the worksheet's client
+/// origin on the screen. What lies beyond all `monitors` is cut to the nearest of their pixels.
+MouseActionPath mouseActionPath(const Rect& rectBound, PixelPoint origin,
+                                std::span<const PixelRect> monitors);
+
+/// The absolute coordinate, in 1/65536 of all monitors together, that the system turns back into
+/// the same pixel. They begin at `origin` and are `size` pixels long in that direction.
+int absoluteMouseCoordinate(int pixel, int origin, int size);
+
+}  // namespace ormala
