@@ -39,6 +39,25 @@ void registerClass(const WindowDesign& design, WNDPROC procedure) {
     RegisterClassExW(&made);
 }
 
+/// Ends a capture that has outlived its button, whose release fell where no event came from. Until
+/// then no other window would get the mouse. A menu, which needs no button, keeps it.
+bool endsCapture(HWND window, WPARAM held) {
+    constexpr WPARAM buttons = MK_LBUTTON | MK_RBUTTON | MK_MBUTTON | MK_XBUTTON1 | MK_XBUTTON2;
+    constexpr DWORD systemsModes =
+        GUI_INMENUMODE | GUI_INMOVESIZE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE;
+    if ((held & buttons) != 0 || GetCapture() != window) {
+        return false;
+    }
+    GUITHREADINFO state{};
+    state.cbSize = sizeof state;
+    GetGUIThreadInfo(GetCurrentThreadId(), &state);
+    if ((state.flags & systemsModes) != 0) {
+        return false;
+    }
+    ReleaseCapture();
+    return true;
+}
+
 }  // namespace
 
 void Window::create(const WindowDesign& design) {
@@ -88,6 +107,13 @@ LRESULT CALLBACK Window::dispatch(HWND handle, UINT message, WPARAM wParam, LPAR
             window->destroyed();
         }
     } else if (window != nullptr) {
+        if (message == WM_MOUSEMOVE && endsCapture(handle, wParam)) {
+            // Who hears of the loss may destroy the window.
+            window = castBits<Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+        }
+        if (window == nullptr) {
+            return 0;
+        }
         const auto handled = [&] { return window->onMessage(message, wParam, lParam); };
         if (const auto result = guarded(std::nullopt, handled)) {
             return *result;

@@ -25,7 +25,8 @@ struct WindowDesign {
 
 /// The base of all windows. The object owns its handle: `create` makes it once the object stands,
 /// so that no message meets a half-built one, and destruction first takes the object out of the
-/// dispatch. A window that goes with its parent leaves its object without a handle.
+/// dispatch. A window that goes with its parent leaves its object without a handle. One that holds
+/// the mouse loses it with the first move that comes without a button.
 class Window {
   public:
     Window() = default;
