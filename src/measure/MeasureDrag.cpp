@@ -26,16 +26,68 @@ Point moved(const Point& from, const MeasureDrag& drag) {
     return {from.x + drag.dx, from.y + drag.dy};
 }
 
-/// On the ray of the line's present direction, as far from `other` as the mouse is.
-Point alongLine(const Line& line, const Point& other, const Point& mouse, bool first) {
-    const double length = Distance(other.x, other.y, mouse.x, mouse.y) * (first ? -1 : 1);
-    const double angle = AngleOfLine(line);
-    return {other.x + std::cos(angle) * length, other.y - std::sin(angle) * length};
+bool stands(const MeasureDrag& drag) {
+    return drag.dx == 0 && drag.dy == 0;
 }
 
 bool tooNear(const Point& a, const Point& b) {
     return static_cast<float>(Distance(a.x, a.y, b.x, b.y)) < smallestLength;
 }
+
+/// A free end on its way from the press.
+class EndWay {
+  public:
+    EndWay(const Line& press, const Point& other, bool first, const MeasureDrag& drag)
+        : from_(first ? firstEnd(press) : secondEnd(press)),
+          other_(other),
+          angle_(AngleOfLine(press)),
+          sign_(first ? -1 : 1),
+          drag_(drag) {}
+
+    /// The end at that share of the mouse's way. With Shift the line keeps its direction and is as
+    /// long as the mouse is far from its other end.
+    [[nodiscard]] Point at(double share) const {
+        Point mouse{from_.x + drag_.dx * share, from_.y + drag_.dy * share};
+        if ((drag_.shift & modifier::shift) != 0) {
+            return onRay(Distance(other_.x, other_.y, mouse.x, mouse.y));
+        }
+        RoundPoint(mouse);
+        return mouse;
+    }
+
+    /// The last place that is far enough from the other end; where the end began, if there is none.
+    [[nodiscard]] Point last() const {
+        if (!tooNear(other_, at(1))) {
+            return at(1);
+        }
+        if ((drag_.shift & modifier::shift) != 0) {
+            return tooNear(other_, from_) ? from_ : onRay(smallestLength);
+        }
+        // Back along the way, in steps that miss no pixel; the other end is soon left.
+        constexpr double step = 0.25;
+        const double length = std::hypot(drag_.dx, drag_.dy);
+        for (double back = step; back < length; back += step) {
+            const Point place = at(1 - back / length);
+            if (!tooNear(other_, place)) {
+                return place;
+            }
+        }
+        return from_;
+    }
+
+  private:
+    [[nodiscard]] Point onRay(double length) const {
+        return {other_.x + std::cos(angle_) * sign_ * length,
+                other_.y - std::sin(angle_) * sign_ * length};
+    }
+
+    Point from_;
+    Point other_;
+    double angle_;
+    /// Which way the line runs from its other end.
+    double sign_;
+    const MeasureDrag& drag_;
+};
 
 void setEnd(Line& line, bool first, const Point& point) {
     (first ? line.x1 : line.x2) = point.x;
@@ -48,19 +100,15 @@ Point DragEndGrip(MeasureState& state, const MeasureDrag& drag, const EndSnap& s
     const bool first = isFirstEnd(drag.grip);
     Line& line = lineOf(state, drag.grip);
     const Point other = first ? secondEnd(line) : firstEnd(line);
-    Point target = moved(measureGripPoint(drag.grip, drag.press), drag);
-    if ((drag.shift & modifier::shift) != 0) {
-        target = alongLine(line, other, target, first);
-    } else {
-        RoundPoint(target);
+    const EndWay way(ofLineA(drag.grip) ? drag.press.LineA : drag.press.LineB, other, first, drag);
+    const Point target = way.at(1);
+    Point end = stands(drag) ? measureGripPoint(drag.grip, drag.press) : way.last();
+    const bool stopped = tooNear(other, target);
+    if (drag.shift == modifier::alt) {
+        snap(end);
     }
-    if (!tooNear(other, target)) {
-        if (drag.shift == modifier::alt) {
-            snap(target);
-        }
-        setEnd(line, first, target);
-    }
-    return target;
+    setEnd(line, first, end);
+    return stopped ? target : end;
 }
 
 Point DragCenterGrip(MeasureState& state, const MeasureDrag& drag, const Grid& grid) {
@@ -84,7 +132,7 @@ Point DragIntersectGrip(MeasureState& state, const MeasureDrag& drag, const Grid
     Point target = moved(common, drag);
     if ((drag.shift & modifier::shift) != 0) {
         target = SnapToDirection(common, target);
-    } else {
+    } else if (!stands(drag)) {
         RoundPoint(target);
     }
     if ((drag.shift & modifier::ctrl) != 0) {
@@ -93,7 +141,9 @@ Point DragIntersectGrip(MeasureState& state, const MeasureDrag& drag, const Grid
     if (drag.shift == modifier::alt) {
         snap(target);
     }
-    RoundPoint(target);
+    if (!stands(drag) || target != common) {
+        RoundPoint(target);
+    }
     state.LineA = drag.press.LineA;
     state.LineB = drag.press.LineB;
     translateLines(state, target.x - common.x, target.y - common.y);

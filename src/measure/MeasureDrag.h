@@ -7,7 +7,8 @@
 #include "modAPI/transforms.h"
 
 // How the mouse on a grip changes the lines: functions of the lines at the press and the whole way
-// of the mouse since then, so that no rounding adds up.
+// of the mouse since then, so that no rounding adds up and the number of moves changes nothing. A
+// mouse that is where it was pressed changes nothing either, unless a modifier takes the grip away.
 
 namespace ormala {
 
@@ -31,7 +32,8 @@ constexpr float smallestLength = 2;
 
 // Each answers where the mouse wants the grip to be, for the read-out.
 
-/// The line stays where the end would come too near to its other one.
+/// Where the end would come too near to its other one, it stops on the straight way there, at the
+/// last place that is far enough.
 Point DragEndGrip(MeasureState& state, const MeasureDrag& drag, const EndSnap& snap);
 Point DragCenterGrip(MeasureState& state, const MeasureDrag& drag, const Grid& grid);
 /// Moves both lines.

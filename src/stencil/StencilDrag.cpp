@@ -51,7 +51,26 @@ double fixedAngle(double angle, int shift) {
     return angle;
 }
 
+/// The modifiers that make a drag go elsewhere than the mouse.
+int bindingModifiers(StencilGripKind kind) {
+    switch (kind) {
+        case StencilGripKind::move:
+            return modifier::ctrl;
+        case StencilGripKind::rotate:
+            return modifier::ctrl | modifier::shift | modifier::alt;
+        case StencilGripKind::size:
+            return modifier::shift;
+        default:
+            return 0;
+    }
+}
+
 }  // namespace
+
+bool leavesAsPressed(const GripDrag& drag) {
+    const bool moved = drag.x != drag.pressX || drag.y != drag.pressY;
+    return !moved && (drag.shift & bindingModifiers(drag.grip.kind)) == 0;
+}
 
 Point DragMove(StencilState& state, const GripDrag& drag, const Grid& grid) {
     const Point center = RectCenter(state.RectBound);

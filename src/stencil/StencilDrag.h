@@ -5,7 +5,8 @@
 #include "stencil/StencilState.h"
 
 // How a drag of the centre or of a rotate grip and a step of the rotation change a stencil: pure
-// functions of the state, the mouse and the modifiers.
+// functions of the state at the press, the mouse and the modifiers. They are never applied to what
+// an earlier move has made of the stencil, so that the number of moves changes nothing.
 
 namespace ormala {
 
@@ -29,6 +30,10 @@ struct GripDrag {
 /// Where `DragMove` has put the grip's centre, for the read-out.
 Point DragMove(StencilState& state, const GripDrag& drag, const Grid& grid);
 void DragRotate(StencilState& state, const GripDrag& drag);
+
+/// The mouse is where it was pressed, and no modifier asks for a place, an angle or a ratio of its
+/// own: then nothing has changed, although a grip only stands on whole pixels.
+bool leavesAsPressed(const GripDrag& drag);
 
 /// Steps of `ModifyAngle`.
 enum class AngleStep { degree = 0, tenthOfDegree = 1, twentiethOfPi = 2, sixteenthOfPi = 3 };

@@ -88,28 +88,30 @@ Point directionOfCorner(int number) {
     return {number < 2 ? 1.0 : -1.0, number == 0 || number == 3 ? -1.0 : 1.0};
 }
 
+Point cornerOf(const Rect& rect, const Point& direction) {
+    return {direction.x > 0 ? rect.right : rect.left, direction.y > 0 ? rect.bottom : rect.top};
+}
+
 /// The mouse projected on the diagonal through the grip's corner.
 Point onDiagonal(const Rect& outer, const Point& center, const Point& direction, Point mouse) {
     mouse.x += 0.5 * direction.x;
     mouse.y += 0.5 * direction.y;
-    const Point corner{direction.x > 0 ? outer.right : outer.left,
-                       direction.y > 0 ? outer.bottom : outer.top};
+    const Point corner = cornerOf(outer, direction);
     const double across = AngleOf(center.x, center.y, corner.x, corner.y) - halfPi;
     const double distance =
         DistanceFromLine(center.x, center.y, corner.x, corner.y, mouse.x, mouse.y);
     return {mouse.x - std::cos(across) * distance, mouse.y + std::sin(across) * distance};
 }
 
-/// Keeps the smaller side at its least size, with the ratio `q` of width to height; also where the
-/// mouse has gone past the centre, or the rectangle would turn inside out.
-Point notTooSmall(Point corner, const Point& center, const Point& direction, double q) {
-    constexpr double least = smallestSide / 2;
+/// Keeps the smaller side at least so far from `fixed`, with the ratio `q` of width to height; also
+/// where the mouse has gone past it, or the rectangle would turn inside out.
+Point notTooNear(Point corner, const Point& fixed, const Point& direction, double q, double least) {
     if (q > 1) {
-        if ((corner.y - center.y) * direction.y < least) {
-            corner = {center.x + direction.x * least * q, center.y + direction.y * least};
+        if ((corner.y - fixed.y) * direction.y < least) {
+            corner = {fixed.x + direction.x * least * q, fixed.y + direction.y * least};
         }
-    } else if ((corner.x - center.x) * direction.x < least) {
-        corner = {center.x + direction.x * least, center.y + direction.y * least / q};
+    } else if ((corner.x - fixed.x) * direction.x < least) {
+        corner = {fixed.x + direction.x * least, fixed.y + direction.y * least / q};
     }
     return corner;
 }
@@ -152,14 +154,16 @@ void DragSizeCorner(StencilState& state, const GripDrag& drag) {
     const Point center = RectCenter(outer);
     const double q = PixelRatio(bound, false);
     const Point direction = directionOfCorner(drag.grip.number);
+    const Point away{-direction.x, -direction.y};
     const Point mouse = inOwnFrame(center, drag, state.RotationAngle);
-    const Point corner =
-        notTooSmall(onDiagonal(outer, center, direction, mouse), center, direction, q);
-    setCorner(outer, direction, corner);
+    const Point wished = onDiagonal(outer, center, direction, mouse);
     if ((drag.shift & modifier::ctrl) != 0) {
-        setCorner(outer, {-direction.x, -direction.y},
-                  {2 * center.x - corner.x, 2 * center.y - corner.y});
+        const Point corner = notTooNear(wished, center, direction, q, smallestSide / 2);
+        setCorner(outer, direction, corner);
+        setCorner(outer, away, {2 * center.x - corner.x, 2 * center.y - corner.y});
     } else {
+        const Point opposite = cornerOf(outer, away);
+        setCorner(outer, direction, notTooNear(wished, opposite, direction, q, smallestSide));
         keepOppositeInPlace(outer, center, state.RotationAngle);
     }
     state.RectBound = {outer.left + 0.5, outer.top + 0.5, outer.right - 0.5, outer.bottom - 0.5};

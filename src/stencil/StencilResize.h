@@ -11,7 +11,8 @@ namespace ormala {
 /// A side: Shift snaps to a special ratio, Ctrl moves both sides about the centre.
 void DragSize(StencilState& state, const GripDrag& drag);
 
-/// A corner: the ratio of the pixel sizes stays, Ctrl keeps the centre.
+/// A corner: the ratio of the pixel sizes stays, Ctrl keeps the centre. The smaller size is at
+/// least `smallestSide`, also where the mouse has gone past the centre or the opposite corner.
 void DragSizeCorner(StencilState& state, const GripDrag& drag);
 
 /// After a change of one side or corner the centre has moved in the rectangle's own frame. The

@@ -27,6 +27,7 @@ class ctlRatioGrid : public GripTool, private Ticking {
     ctlRatioGrid& operator=(const ctlRatioGrid&) = delete;
 
     void mouseMove(const MouseInput& input, const MouseSource& source) override;
+    void mouseUp(const MouseInput& input, const MouseSource& source) override;
     void keyDown(int key, int shift) override;
     void gotFocus() override;
     void resize(PixelSize size) override;
@@ -89,8 +90,11 @@ class ctlRatioGrid : public GripTool, private Ticking {
     StencilAids aids_;
     MouseActionPreview mouseAction_;
     GripDrag held_;
-    /// The rectangle at the press.
+    /// Rectangle and angle at the press, from which each move of a drag is worked out.
     Rect pressBound_;
+    double pressAngle_ = 0;
+    /// A move of the drag was left out; the release makes up for it.
+    bool moveOwed_ = false;
     StateHistory<StencilState> history_;
 };
 

@@ -24,48 +24,66 @@ void ctlRatioGrid::beginDrag(const MouseInput& input) {
     held_.grabY = static_cast<double>(input.y) - static_cast<double>(look.box.top);
     held_.gripWidth = look.box.width;
     held_.gripHeight = look.box.height;
+    held_.shift = input.shift;
     pressBound_ = state_.RectBound;
+    pressAngle_ = state_.RotationAngle;
+    moveOwed_ = false;
     aids_.begin(held_.grip, look, state_, settings_.showReferenceLines);
     aids_.setText({}, host().textMeter());
     PositionAll();
 }
 
 void ctlRatioGrid::mouseMove(const MouseInput& input, const MouseSource& source) {
-    if (skipNextMove_) {
-        skipNextMove_ = false;
-        return;
+    // Neither a modifier nor a lost release comes with the focus.
+    const bool skipped =
+        skipNextMove_ && input.button != mouseButton::none && input.shift == held_.shift;
+    skipNextMove_ = false;
+    if (skipped) {
+        moveOwed_ = true;
+    } else {
+        GripTool::mouseMove(input, source);
     }
-    GripTool::mouseMove(input, source);
+}
+
+void ctlRatioGrid::mouseUp(const MouseInput& input, const MouseSource& source) {
+    if (moveOwed_ && grips().active() && input.button != mouseButton::none) {
+        drag(input);
+    }
+    GripTool::mouseUp(input, source);
 }
 
 void ctlRatioGrid::drag(const MouseInput& input) {
     held_.x = input.x;
     held_.y = input.y;
     held_.shift = input.shift;
+    moveOwed_ = false;
     aids_.setText(dragState(held_), host().textMeter());
     PositionAll();
     events().change.raise();
 }
 
 std::string ctlRatioGrid::dragState(const GripDrag& held) {
-    const bool resizes =
-        held.grip.kind == StencilGripKind::size || held.grip.kind == StencilGripKind::sizeCorner;
-    if (resizes && (held.shift & modifier::ctrl) != 0) {
-        // Symmetric at the centre of the press: the result depends on where the mouse is and not on
-        // how many moves it took to get there.
-        state_.RectBound = pressBound_;
-    }
+    state_.RectBound = pressBound_;
+    state_.RotationAngle = pressAngle_;
+    const bool moves = !leavesAsPressed(held);
     switch (held.grip.kind) {
         case StencilGripKind::move:
-            return moveText(DragMove(state_, held, settings_.grid));
+            return moveText(moves ? DragMove(state_, held, settings_.grid)
+                                  : RectCenter(state_.RectBound));
         case StencilGripKind::rotate:
-            DragRotate(state_, held);
+            if (moves) {
+                DragRotate(state_, held);
+            }
             return rotationText(state_.RotationAngle, settings_.textForm);
         case StencilGripKind::size:
-            DragSize(state_, held);
+            if (moves) {
+                DragSize(state_, held);
+            }
             break;
         case StencilGripKind::sizeCorner:
-            DragSizeCorner(state_, held);
+            if (moves) {
+                DragSizeCorner(state_, held);
+            }
             break;
     }
     return sizeText(state_.RectBound, ratios_, settings_.textForm);

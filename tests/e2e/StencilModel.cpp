@@ -95,8 +95,10 @@ void StencilModel::dragCorner(Spot shares, int dx, int dy, bool symmetric) {
     const double length = std::hypot(wide, high);
     const Spot diagonal{shares.x * wide / length, shares.y * high / length};
     const double along = mouse.x * diagonal.x + mouse.y * diagonal.y;
-    const double least = leastHalf * length / std::min(wide, high);
-    const double scale = std::max(along, least) / length;
+    // From the centre, or from the opposite corner on the other side of it.
+    const double shorter = std::min(wide, high);
+    const double least = symmetric ? leastHalf / shorter : 2 * leastHalf / shorter - 1;
+    const double scale = std::max(along / length, least);
     if (symmetric) {
         halfWidth = wide * scale - 0.5;
         halfHeight = high * scale - 0.5;

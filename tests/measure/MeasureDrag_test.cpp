@@ -65,9 +65,11 @@ TEST(DragEndGrip, MovesItsOwnEndToWholePixels) {
 
 TEST(DragEndGrip, StopsTwoPixelsFromTheOtherEndAndShowsTheMouse) {
     const Outcome near = endDragged(endA2, -199, 1);  // 1.41 pixels away
-    EXPECT_EQ(near.state, lines);
+    EXPECT_EQ(near.state.LineA, (Line{100, 100, 102, 101}));
     EXPECT_EQ(near.shown, (Point{101, 101}));
-    EXPECT_EQ(endDragged(endA2, -200, 0).state, lines);
+    EXPECT_EQ(endDragged(endA2, -200, 0).state.LineA, (Line{100, 100, 102, 100}));
+    EXPECT_EQ(endDragged(endA2, -201, 0).state.LineA, (Line{100, 100, 102, 100}));
+    EXPECT_EQ(endDragged(endA2, -201, 0).shown, (Point{99, 100}));
     EXPECT_EQ(endDragged(endA2, -198, 0).state.LineA, (Line{100, 100, 102, 100}));
     EXPECT_EQ(PixelLengthA(endDragged(endA2, -198, 0).state), 3);
 }
@@ -77,7 +79,7 @@ TEST(DragEndGrip, LimitIsTakenInSinglePrecision) {
     const double hair = 1e-9;
     const Outcome outcome = endDragged(endA2, -198 - hair, 0, shift);
     EXPECT_NEAR(outcome.state.LineA.x2, 102, 1e-6);
-    EXPECT_EQ(endDragged(endA2, -198.001, 0, shift).state, lines);
+    EXPECT_EQ(endDragged(endA2, -198.001, 0, shift).state.LineA, (Line{100, 100, 102, 100}));
 }
 
 TEST(DragEndGrip, WithShiftKeepsItsAngleWhereverTheMouseGoes) {

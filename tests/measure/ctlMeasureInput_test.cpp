@@ -138,7 +138,7 @@ TEST(CtlMeasureInput, EndStopsBeforeTheOtherEndWhileTheReadOutFollowsTheMouse) {
     stage.press(stage.gripAt(endA1));
     stage.dragTo({500, 390});
     stage.dragTo({501, 400});
-    EXPECT_EQ(stage.tool.LineA(), (Line{500, 390, 500, 400}));
+    EXPECT_EQ(stage.tool.LineA(), (Line{501, 398, 500, 400}));
     EXPECT_EQ(stage.tool.aids().lblInfo().Caption(), "X = 501  Y = 400");
     stage.dragTo({500, 402});
     EXPECT_EQ(stage.tool.LineA(), (Line{500, 402, 500, 400}));

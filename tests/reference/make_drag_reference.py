@@ -163,18 +163,22 @@ def drag_corner(stencil, case):
     half = [(stencil.size[0] + 1) / 2 * toward.real, (stencil.size[1] + 1) / 2 * toward.imag]
     right, down = stencil.own(case.held())
     right, down = right + toward.real / 2, down + toward.imag / 2
-    # The share of the half diagonal that the mouse's foot on it has reached.
-    share = (right * half[0] + down * half[1]) / (half[0] ** 2 + half[1] ** 2)
-    least = LEAST / 2 / min(abs(half[0]), abs(half[1]))
+    # What stays: the centre with Ctrl, else the opposite corner. The arm runs from there to the grip's
+    # corner, and the mouse's foot on its line has reached this share of it.
+    stays = [0, 0] if case.shift & CTRL else [-half[0], -half[1]]
+    arm = [half[0] - stays[0], half[1] - stays[1]]
+    foot = (right - stays[0]) * arm[0] + (down - stays[1]) * arm[1]
+    share = foot / (arm[0] ** 2 + arm[1] ** 2)
+    # Of the smaller extent the arm keeps 22 from the opposite corner, or 11 from the centre.
+    least = (LEAST / 2 if case.shift & CTRL else LEAST) / min(abs(arm[0]), abs(arm[1]))
     if abs(share - least) < 1e-9:
         raise Tie
     share = max(share, least)
-    if case.shift & CTRL:
-        factor = share
-    else:
-        factor = (1 + share) / 2
-        stencil.center = stencil.on_screen(half[0] * (share - 1) / 2, half[1] * (share - 1) / 2)
-    stencil.size = [2 * abs(extent) * factor - 1 for extent in half]
+    if not case.shift & CTRL:
+        stencil.center = stencil.on_screen(
+            stays[0] + arm[0] * share / 2, stays[1] + arm[1] * share / 2
+        )
+    stencil.size = [2 * abs(extent) * share - 1 for extent in half]
     return size_text(stencil)
 
 

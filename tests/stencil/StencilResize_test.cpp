@@ -209,16 +209,24 @@ TEST(DragSizeCorner, CannotShrinkATwentyTwoByFortyFourStencil) {
     }
 }
 
-TEST(DragSizeCorner, HeldPastTheOppositeCornerComesDownToTwentyTwo) {
+TEST(DragSizeCorner, PulledPastTheOppositeCornerComesDownToTwentyTwoAtOnce) {
     for (const double angle : {0.0, pi / 6}) {
-        StencilState state = stencilAt({100, 100, 399, 249}, angle);
-        for (int step = 0; step < 60; ++step) {
-            DragSizeCorner(state, dragTo(StencilGripKind::sizeCorner, 1, {-300, -200}));
-            ASSERT_GT(width(state), 0);
+        for (const int modifiers : {0, ctrl}) {
+            StencilState state = stencilAt({100, 100, 399, 249}, angle);
+            DragSizeCorner(state, dragTo(StencilGripKind::sizeCorner, 1, {-300, -200}, modifiers));
+            EXPECT_NEAR(PixelHeight(state.RectBound), 22, 1e-9);
+            EXPECT_NEAR(PixelWidth(state.RectBound), 44, 1e-9);
         }
-        EXPECT_NEAR(PixelHeight(state.RectBound), 22, 1e-6);
-        EXPECT_NEAR(PixelRatio(state.RectBound, false), 2, 1e-9);
     }
+}
+
+TEST(DragSizeCorner, FollowsTheMousePastTheCentreDownToTheLeastSize) {
+    StencilState state = stencilAt({0, 0, 199, 99});
+    DragSizeCorner(state, dragTo(StencilGripKind::sizeCorner, 1, {59, 29}));
+    EXPECT_TRUE(isNear(state.RectBound, {0, 0, 59, 29}, 1e-9));
+    state = stencilAt({0, 0, 199, 99});
+    DragSizeCorner(state, dragTo(StencilGripKind::sizeCorner, 1, {129, 64}, ctrl));
+    EXPECT_TRUE(isNear(state.RectBound, {70, 35, 129, 64}, 1e-9));
 }
 
 TEST(DragSizeCorner, FollowsTheMouseAlongTheDiagonal) {
