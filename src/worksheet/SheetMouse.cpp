@@ -35,6 +35,7 @@ void SheetMouse::BroadcastMouseMove(const MouseInput& input, const MouseSource& 
 }
 
 void SheetMouse::press(const MouseInput& input) {
+    last_ = {last_.button | input.button, input.shift, input.x, input.y};
     OverlayItem* item = holding() ? holder_ : itemAt(input);
     if (item == nullptr) {
         background_ = true;
@@ -48,6 +49,7 @@ void SheetMouse::press(const MouseInput& input) {
 }
 
 void SheetMouse::move(const MouseInput& input) {
+    last_ = input;
     OverlayItem* item = holding() ? holder_ : itemAt(input);
     const MouseSource source = sourceOf(item);
     // The tools hear of the mouse's place first: a drag then goes on from the grips as they are.
@@ -65,6 +67,7 @@ void SheetMouse::move(const MouseInput& input) {
 
 void SheetMouse::release(const MouseInput& input, int stillHeld) {
     OverlayItem* item = holding() ? holder_ : itemAt(input);
+    last_ = {stillHeld, input.shift, input.x, input.y};
     if (stillHeld == 0) {
         letGo();
     }
@@ -87,6 +90,14 @@ void SheetMouse::lost() {
     }
 }
 
+void SheetMouse::modifiersHeld(int shift) {
+    if (holding() && shift != last_.shift) {
+        MouseInput again = last_;
+        again.shift = shift;
+        move(again);
+    }
+}
+
 void SheetMouse::outside(float x, float y, bool heldByOther) {
     MouseSource source = sourceOf(nullptr);
     source.heldByOther = source.heldByOther || heldByOther;
@@ -101,6 +112,7 @@ void SheetMouse::forget(const OverlayItem& item) {
 }
 
 void SheetMouse::letGo() {
+    last_.button = mouseButton::none;
     holder_ = nullptr;
     background_ = false;
 }

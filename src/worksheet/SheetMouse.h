@@ -19,6 +19,9 @@ class SheetMouse {
     void release(const MouseInput& input, int stillHeld);
     /// The mouse was taken away in the middle of a drag.
     void lost();
+    /// The modifiers that are held now, after one of their keys went down, up or repeated itself. A
+    /// drag goes on with them from where the mouse is.
+    void modifiersHeld(int shift);
     /// Where the mouse is outside the worksheet, with no button.
     void outside(float x, float y, bool heldByOther);
 
@@ -44,6 +47,8 @@ class SheetMouse {
     void letGo();
 
     Sheet& sheet_;
+    /// The mouse as it was last told of, with all buttons that are held.
+    MouseInput last_;
     OverlayItem* holder_ = nullptr;
     /// The background holds the mouse.
     bool background_ = false;

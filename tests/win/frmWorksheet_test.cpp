@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
+#include <vector>
+
 #include "scene/Input.h"
 #include "support/win/Wait.h"
 #include "win/TestSheet.h"
@@ -170,10 +174,66 @@ TEST(frmWorksheet, FurtherButtonDoesNotEndTheDrag) {
     EXPECT_EQ(GetCapture(), sheet.window().handle());
 }
 
+TEST(frmWorksheet, ModifierKeysReachTheDragWhenTheyGoDownAndWhenTheyAreLetGo) {
+    TestSheet sheet(sheetSize);
+    const ctlRatioGrid& stencil = sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
+    const HWND window = sheet.window().handle();
+    const auto key = [&](UINT message, int virtualKey) {
+        BYTE keys[256]{};
+        GetKeyboardState(keys);
+        const bool down = message == WM_KEYDOWN || message == WM_SYSKEYDOWN;
+        keys[virtualKey] = down ? 0x80 : 0;
+        SetKeyboardState(keys);
+        SendMessageW(window, message, static_cast<WPARAM>(virtualKey), 0);
+    };
+    sheet.mouse(WM_MOUSEMOVE, 0, 300, 175);
+    sheet.mouse(WM_LBUTTONDOWN, MK_LBUTTON, 300, 175);
+    key(WM_KEYDOWN, VK_SHIFT);
+    EXPECT_TRUE(stencil.grips().active().has_value());
+    key(WM_KEYUP, VK_SHIFT);
+    sheet.mouse(WM_MOUSEMOVE, MK_LBUTTON, 340, 175);
+    EXPECT_EQ(stencil.RectBound(), (Rect{100, 100, 340.5, 250}));
+    key(WM_KEYDOWN, VK_CONTROL);
+    EXPECT_EQ(stencil.RectBound(), (Rect{79.75, 100, 320.25, 250}));
+    key(WM_KEYDOWN, VK_CONTROL);
+    key(WM_SYSKEYDOWN, VK_MENU);
+    EXPECT_EQ(stencil.RectBound(), (Rect{79.75, 100, 320.25, 250}));
+    key(WM_KEYUP, VK_CONTROL);
+    EXPECT_EQ(stencil.RectBound(), (Rect{100, 100, 340.5, 250}));
+    key(WM_SYSKEYUP, VK_MENU);
+    sheet.mouse(WM_LBUTTONUP, 0, 340, 175);
+    EXPECT_EQ(stencil.RectBound(), (Rect{100, 100, 340.5, 250}));
+}
+
 TEST(frmWorksheet, AltDoesNotOpenAMenu) {
     TestSheet sheet(sheetSize);
     EXPECT_EQ(SendMessageW(sheet.window().handle(), WM_SYSCOMMAND, SC_KEYMENU, 0), 0);
     EXPECT_EQ(SendMessageW(sheet.window().handle(), WM_SYSKEYDOWN, VK_PRIOR, 1 << 29), 0);
+}
+
+TEST(frmWorksheet, ToolsFollowAMouseOutsideTenTimesASecond) {
+    TestSheet sheet(sheetSize);
+    // Its right grip reaches beyond the sheet.
+    const ctlRatioGrid& stencil =
+        sheet.addStencil({400, 100, sheetSize.width - 2.0, 250}, 0, rgb(255, 0, 0));
+    const Grip& grip = stencil.grips()[indexOfStencilGrip(StencilGripKind::size, 1)];
+    const RECT place = sheet.window().rectangle();
+    std::vector<std::chrono::steady_clock::time_point> changes;
+    for (int i = 0; i < 12; ++i) {
+        const bool beside = i % 2 == 0;
+        SetCursorPos(static_cast<int>(place.right) + (beside ? 1 : 200),
+                     static_cast<int>(place.top) + 175);
+        ASSERT_TRUE(test::waitUntil([&] { return grip.grown() == beside; })) << i;
+        changes.push_back(std::chrono::steady_clock::now());
+    }
+    std::vector<double> gaps;
+    for (std::size_t i = 1; i < changes.size(); ++i) {
+        gaps.push_back(std::chrono::duration<double>(changes[i] - changes[i - 1]).count());
+    }
+    std::ranges::sort(gaps);
+    // Between two looks at the grip lie 10 ms, and a busy machine only adds to a gap.
+    EXPECT_LT(gaps.front(), 0.2);
+    EXPECT_GT(gaps[gaps.size() / 2], 0.08);
 }
 
 TEST(frmWorksheet, CloseRequestIsTheProgramsMatter) {

@@ -119,7 +119,8 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     LRESULT onDisplayChange();
     std::optional<LRESULT> onKey(WPARAM key);
     [[nodiscard]] bool takesKey(int key, int shift) const;
-    void repeatMove(int shift);
+    std::optional<LRESULT> onKeyUp(WPARAM key);
+    void tellModifiers(int shift);
     bool obey(SheetCommand command);
     void pollOutside();
     void subscribeToMouse();
@@ -154,8 +155,6 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     BackgroundGrid grid_;
     RateLimit outsidePolls_;
     RateLimit crossHairMoves_;
-    /// The last move of a drag.
-    MouseInput lastMove_;
     bool crossHairEnabled_ = false;
     bool circleCompassEnabled_ = false;
     bool clickable_ = false;

@@ -15,6 +15,10 @@ MouseInput mouseInput(int button, WPARAM wParam, LPARAM lParam) {
             static_cast<float>(GET_Y_LPARAM(lParam))};
 }
 
+bool isModifier(WPARAM key) {
+    return key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU;
+}
+
 }  // namespace
 
 std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -42,6 +46,9 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
         case WM_KEYDOWN:
         case WM_SYSKEYDOWN:
             return onKey(wParam);
+        case WM_KEYUP:
+        case WM_SYSKEYUP:
+            return onKeyUp(wParam);
         case WM_SYSCOMMAND:
             // Releasing Alt after a drag must not open a menu that takes the keys away.
             return (wParam & 0xFFF0U) == SC_KEYMENU ? std::optional<LRESULT>(0) : std::nullopt;
@@ -85,8 +92,7 @@ LRESULT frmWorksheet::onPress(int button, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT frmWorksheet::onMove(UINT message, WPARAM wParam, LPARAM lParam) {
-    lastMove_ = mouseInput(heldButtons(wParam), wParam, lParam);
-    mouse_.move(lastMove_);
+    mouse_.move(mouseInput(heldButtons(wParam), wParam, lParam));
     tip_->relay(message, wParam, lParam);
     paintNow();
     return 0;
@@ -148,9 +154,8 @@ std::optional<LRESULT> frmWorksheet::onKey(WPARAM key) {
     if (!takesKey(static_cast<int>(key), shift)) {
         return std::nullopt;
     }
-    const bool isModifier = key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU;
-    if (isModifier && mouse_.holding()) {
-        repeatMove(shift);
+    if (isModifier(key) && mouse_.holding()) {
+        tellModifiers(shift);
         return 0;
     }
     if (!KeyDown(static_cast<int>(key), shift) && sheet_.focused() != nullptr) {
@@ -165,10 +170,15 @@ bool frmWorksheet::takesKey(int key, int shift) const {
     return clickable_ && !closing;
 }
 
-void frmWorksheet::repeatMove(int shift) {
-    // A modifier that goes down in the middle of a drag shows its effect at once.
-    lastMove_.shift = shift;
-    mouse_.move(lastMove_);
+std::optional<LRESULT> frmWorksheet::onKeyUp(WPARAM key) {
+    if (isModifier(key)) {
+        tellModifiers(heldModifiers());
+    }
+    return std::nullopt;
+}
+
+void frmWorksheet::tellModifiers(int shift) {
+    mouse_.modifiersHeld(shift);
     paintNow();
 }
 
