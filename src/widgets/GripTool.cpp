@@ -29,7 +29,11 @@ void GripTool::UpdateGripHover(const MouseInput& input, HoverMode mode, bool our
     if (mode == HoverMode::press) {
         grips_.setActive(hit);
     }
-    const TipId tip = hit ? tipOf(*hit) : 0;
+    // A tip would lie over what is being dragged.
+    setTip(hit && !grips_.active() ? tipOf(*hit) : 0);
+}
+
+void GripTool::setTip(TipId tip) {
     if (tip != tip_) {
         tip_ = tip;
         host_.showTip(*this, tip);
@@ -62,6 +66,8 @@ void GripTool::mouseMove(const MouseInput& input, const MouseSource& source) {
 void GripTool::mouseUp(const MouseInput& input, const MouseSource& source) {
     UpdateGripHover(input, HoverMode::release, true, source.heldAwayFrom(this));
     endDrag();
+    // The grip may have stopped before the mouse did: only what is under the mouse now has a tip.
+    UpdateGripHover(input, HoverMode::hover, true, source.heldAwayFrom(this));
     events_.mouseUp.raise(input);
 }
 
@@ -116,6 +122,7 @@ void GripTool::setEditMode(bool editMode) {
     editMode_ = editMode;
     if (!editMode) {
         endDrag();
+        setTip(0);
     }
     grips_.setVisible(editMode);
     layOut();

@@ -67,6 +67,7 @@ class GripTool : public ToolControl, public OverlayItem {
 
   private:
     void UpdateGripHover(const MouseInput& input, HoverMode mode, bool ours, bool heldElsewhere);
+    void setTip(TipId tip);
     void endDrag();
     void measureFootprint();
 

@@ -214,6 +214,64 @@ TEST(CtlRatioGridInput, ShowsTheTipOfTheGripUnderTheMouseOnce) {
     EXPECT_EQ(stage.host.tips, (std::vector<TipId>{320, 321, 322, 323, 0}));
 }
 
+TEST(CtlRatioGridInput, ADragHasNoTipAndItsEndTheOneOfTheGripUnderTheMouse) {
+    StencilOnSheet stage;
+    stage.tool.setRectBound({300, 300, 599, 499});
+    stage.host.forget();
+    const Point side = stage.gripAt(StencilGripKind::size, 1);
+    stage.press(side);
+    EXPECT_EQ(stage.host.tips, (std::vector<TipId>{322, 0}));
+    stage.host.forget();
+    stage.dragTo({side.x + 30, side.y});
+    stage.dragTo({side.x + 40, side.y}, modifier::ctrl);
+    stage.dragTo({side.x + 40, side.y});
+    EXPECT_TRUE(stage.host.tips.empty());
+    stage.release({side.x + 40, side.y});
+    EXPECT_EQ(stage.host.tips, std::vector<TipId>{322});
+}
+
+TEST(CtlRatioGridInput, ADragThatStoppedBeforeTheMouseLeavesNoTip) {
+    StencilOnSheet stage;
+    stage.tool.setRectBound({300, 300, 599, 499});
+    const Point side = stage.gripAt(StencilGripKind::size, 1);
+    stage.press(side);
+    stage.dragTo({20, side.y});
+    stage.host.forget();
+    stage.release({20, side.y});
+    EXPECT_TRUE(stage.host.tips.empty());
+    EXPECT_FALSE(stage.grip(StencilGripKind::size, 1).grown());
+}
+
+TEST(CtlRatioGridInput, EndOfEditModeTakesTheTipAway) {
+    StencilOnSheet stage;
+    const Point move = stage.gripAt(StencilGripKind::move);
+    stage.hover(move);
+    stage.tool.setEditMode(false);
+    stage.tool.setEditMode(true);
+    stage.hover(move);
+    EXPECT_EQ(stage.host.tips, (std::vector<TipId>{320, 0, 320}));
+}
+
+TEST(CtlRatioGridInput, AModifierIsNoMoveThatComesWithTheFocus) {
+    StencilOnSheet stage;
+    const Point from = stage.gripAt(StencilGripKind::rotate, 0);
+    stage.hover(from);
+    stage.tool.gotFocus();
+    stage.press(from);
+    stage.dragTo(from, modifier::alt);
+    EXPECT_EQ(stage.tool.aids().lblInfo().Caption().substr(0, 1), "0");
+    EXPECT_TRUE(stage.tool.grips().active());
+}
+
+TEST(CtlRatioGridInput, AReleaseThatWasLostEndsTheDragAlsoWhenTheFocusHasJustCome) {
+    StencilOnSheet stage;
+    const Point from = stage.gripAt(StencilGripKind::move);
+    stage.press(from);
+    stage.tool.gotFocus();
+    stage.hover({from.x + 3, from.y});
+    EXPECT_FALSE(stage.tool.grips().active());
+}
+
 TEST(CtlRatioGridInput, MovesOfOtherToolsAndTheirDragsLightNoGrip) {
     StencilOnSheet stage;
     StencilOnSheet other;

@@ -69,5 +69,18 @@ TEST(TipWindow, SpeaksGerman) {
     MlSetLanguage(languageEnglish, {});
 }
 
+TEST(TipWindow, ChangesItsLanguageUnderAMouseThatRests) {
+    TestSheet sheet({640, 480});
+    const ctlRatioGrid& stencil = sheet.addStencil({100, 100, 400, 300}, 0, rgb(255, 0, 0));
+    const Point at = stencil.grips()[0].center();
+    sheet.mouse(WM_MOUSEMOVE, 0, static_cast<int>(at.x), static_cast<int>(at.y));
+    GetLanguageSupport().ChangeLanguage(languageGerman);
+    EXPECT_EQ(tipOf(sheet.window().handle()),
+              "Bewegen (Umschalt-Taste: feste Richtungen; Strg-Taste: am Raster ausrichten)");
+    sheet.mouse(WM_MOUSEMOVE, 0, 600, 20);
+    GetLanguageSupport().ChangeLanguage(languageEnglish);
+    EXPECT_EQ(tipOf(sheet.window().handle()), "");
+}
+
 }  // namespace
 }  // namespace ormala

@@ -85,6 +85,8 @@ void frmWorksheet::subscribeToMouse() {
     subscriptions_.push_back(mouse_.broadcast.subscribe([this] { UpdateCrossHair(); }));
     subscriptions_.push_back(
         sheet_.withdrawn.subscribe([this](const OverlayItem& item) { showTip(item, 0); }));
+    subscriptions_.push_back(
+        GetLanguageSupport().LanguageChange.subscribe([this] { tip_->setText(sheetTip_.text()); }));
 }
 
 void frmWorksheet::setOwner(HWND owner) {
@@ -231,11 +233,9 @@ void frmWorksheet::paintNow() {
 }
 
 void frmWorksheet::showTip(const OverlayItem& item, TipId tip) {
-    if (tip == 0 && tipOwner_ != &item) {
-        return;
+    if (sheetTip_.show(item, tip)) {
+        tip_->setText(sheetTip_.text());
     }
-    tipOwner_ = tip != 0 ? &item : nullptr;
-    tip_->setText(tip != 0 ? MlString(tip, {}) : std::string{});
 }
 
 void frmWorksheet::runTimer(Ticking& ticking, int interval, bool running) {

@@ -13,6 +13,7 @@
 #include "worksheet/RateLimit.h"
 #include "worksheet/Sheet.h"
 #include "worksheet/SheetMouse.h"
+#include "worksheet/SheetTip.h"
 #include "worksheet/sheetKeys.h"
 #include "worksheet/win/SheetPainter.h"
 #include "worksheet/win/frmCrossHair.h"
@@ -118,9 +119,9 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     LRESULT onResize();
     LRESULT onDisplayChange();
     std::optional<LRESULT> onKey(WPARAM key);
-    [[nodiscard]] bool takesKey(int key, int shift) const;
     std::optional<LRESULT> onKeyUp(WPARAM key);
     void tellModifiers(int shift);
+    [[nodiscard]] bool takesKey(int key, int shift) const;
     bool obey(SheetCommand command);
     void pollOutside();
     void subscribeToMouse();
@@ -148,7 +149,7 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     SheetPainter painter_;
     std::vector<Subscription> subscriptions_;
     std::unique_ptr<TipWindow> tip_;
-    const OverlayItem* tipOwner_ = nullptr;
+    SheetTip sheetTip_;
     /// The line along the worksheet, and the one down it.
     std::unique_ptr<frmCrossHair> CrossHairX_;
     std::unique_ptr<frmCrossHair> CrossHairY_;
