@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "language/MlStringModule.h"
-#include "storage/modStorage.h"
 
 namespace ormala {
 
@@ -52,8 +51,7 @@ bool Documents::ConfirmDiscard() {
     if (answer != Answer::yes) {
         return answer == Answer::no;
     }
-    const bool saved = ports_.toolsFile.Path().empty() ? saveUnderNewName() : ports_.file.save();
-    return saved && !ports_.toolsFile.ShowLastError();
+    return save();
 }
 
 void Documents::New() {
@@ -67,10 +65,12 @@ void Documents::New() {
     ports_.tools.RemoveAllTools();
 }
 
-bool Documents::takePath(const std::string& path) {
+/// From here on there is a document, even if its file turns out to be unreadable or can't be
+/// written: the closing asks about it.
+void Documents::takePath(const std::string& path) {
+    noFileYet_ = false;
     ports_.toolsFile.setPath(path);
     UpdatePathLine();
-    return !ports_.toolsFile.ShowLastError();
 }
 
 void Documents::Load() {
@@ -78,51 +78,81 @@ void Documents::Load() {
         return;
     }
     const std::string path = ports_.view.pickFile(false);
-    if (!path.empty() && takePath(path)) {
-        ports_.file.load();
-        noFileYet_ = false;
+    if (path.empty()) {
+        return;
     }
+    takePath(path);
+    loadIfReadable();
 }
 
 bool Documents::saveUnderNewName() {
     const std::string picked = ports_.view.pickFile(true);
-    return !picked.empty() && takePath(withToolsFileExtension(picked)) && ports_.file.save();
+    if (picked.empty()) {
+        return false;
+    }
+    takePath(withToolsFileExtension(picked));
+    return saveWhateverIsThere();
+}
+
+bool Documents::save() {
+    if (ports_.toolsFile.Path().empty()) {
+        return saveUnderNewName();
+    }
+    return mayOverwrite() && ports_.file.save();
+}
+
+/// Asks if another program has changed the file.
+bool Documents::mayOverwrite() {
+    if (!ports_.toolsFile.changedElsewhere()) {
+        return true;
+    }
+    const std::string path[] = {ports_.toolsFile.Path()};
+    const std::string question =
+        MlString(505, "'%0' has been changed by another program. Overwrite it?");
+    return ports_.view.ask(MlFormat(question, path)) == Answer::yes;
 }
 
 void Documents::Save() {
-    if (ports_.toolsFile.Path().empty()) {
-        SaveAs();
-    } else {
-        ports_.file.save();
-    }
+    save();
 }
 
 void Documents::SaveAs() {
-    if (saveUnderNewName()) {
-        noFileYet_ = false;
-    }
+    saveUnderNewName();
+}
+
+/// The path has been taken just now.
+bool Documents::loadIfReadable() {
+    ports_.toolsFile.ShowLastError();
+    return ports_.toolsFile.status() != ReadResult::Status::failed && ports_.file.load();
+}
+
+/// The path has been taken just now. That its file can't be read is no failure here: it stays
+/// beside the new one.
+bool Documents::saveWhateverIsThere() {
+    ports_.toolsFile.setLastError({});
+    return ports_.file.save();
 }
 
 void Documents::loadAutomatic(const std::string& path) {
-    if (!FileExists(ports_.store, path)) {
+    INIFile& file = ports_.toolsFile;
+    file.setPath(path);
+    if (file.status() == ReadResult::Status::notFound || !loadIfReadable()) {
         ports_.tools.showFirstTools();
-        return;
     }
-    ports_.toolsFile.setPath(path);
-    ports_.file.load();
-    ports_.toolsFile.setPath({});
+    file.setPath({});
     UpdatePathLine();
 }
 
-void Documents::saveAutomatic(const std::string& path) {
+bool Documents::saveAutomatic(const std::string& path) {
     ports_.toolsFile.setPath(path);
-    ports_.file.save();
+    return saveWhateverIsThere();
 }
 
-void Documents::keepAutomatic(const std::string& path) {
+bool Documents::keepAutomatic(const std::string& path) {
     const std::string document = ports_.toolsFile.Path();
-    saveAutomatic(path);
+    const bool saved = saveAutomatic(path);
     ports_.toolsFile.setPath(document);
+    return saved;
 }
 
 }  // namespace ormala

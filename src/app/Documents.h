@@ -46,7 +46,6 @@ class Documents {
   public:
     struct Ports {
         INIFile& toolsFile;
-        FileStore& store;
         ToolFile& file;
         ToolList& tools;
         BusyView& busy;
@@ -56,12 +55,13 @@ class Documents {
     /// The ports must outlive the object.
     explicit Documents(const Ports& ports) : ports_(ports) {}
 
-    /// True until a document has been made, loaded or saved.
+    /// True until a document has been made, or a file named for it.
     [[nodiscard]] bool NoFileYet() const { return noFileYet_; }
     void UpdatePathLine();
 
-    /// Whether the present tools may be lost, perhaps after a question and a save.
-    bool ConfirmDiscard();
+    /// Whether the present tools may be lost, perhaps after a question and a save. A save that
+    /// fails says no.
+    [[nodiscard]] bool ConfirmDiscard();
 
     void New();
     void Load();
@@ -69,17 +69,21 @@ class Documents {
     void SaveAs();
 
     /// At the start: brings the tools of the last run back, or shows the first tools if there was
-    /// none.
+    /// none or its file can't be read, which a message tells.
     void loadAutomatic(const std::string& path);
-    /// At the end, whatever document there is. The path line doesn't follow.
-    void saveAutomatic(const std::string& path);
+    /// At the end, whatever document there is. The path line doesn't follow. False if the tools are
+    /// not on the disk, which a message tells.
+    bool saveAutomatic(const std::string& path);
     /// The same while the program runs: the document stays what it is.
-    void keepAutomatic(const std::string& path);
+    bool keepAutomatic(const std::string& path);
 
   private:
+    bool save();
     bool saveUnderNewName();
-    /// False if that leaves an error.
-    bool takePath(const std::string& path);
+    [[nodiscard]] bool mayOverwrite();
+    void takePath(const std::string& path);
+    bool loadIfReadable();
+    bool saveWhateverIsThere();
 
     Ports ports_;
     bool noFileYet_ = true;

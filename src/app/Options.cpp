@@ -68,7 +68,7 @@ class KeyReader {
         value = file_.LongValue(key, static_cast<int>(value));
     }
     void operator()(const char* key, std::string& value) const {
-        value = file_.StringValue(key, value);
+        value = file_.TextValue(key, value);
     }
 
   private:

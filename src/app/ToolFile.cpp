@@ -30,17 +30,23 @@ bool ToolFile::save() {
     if (file.Path().empty()) {
         return false;
     }
+    std::string before;
     {
         const auto group = file.group();
         file.CreateFolderPath();
         file.Delete();
-        file.ShowLastError();
+        before = file.LastError();
+        file.setLastError({});
         store();
     }
-    // Takes a new list of the sections, and forgets a failure of the writing.
+    const std::string failure = file.LastError();
+    // Takes a new list of the sections.
     file.setPath(std::string(file.Path()));
+    if (!before.empty() || !failure.empty()) {
+        file.setLastError(failure.empty() ? before : failure);
+    }
     file.ShowLastError();
-    return true;
+    return failure.empty();
 }
 
 void ToolFile::store() {
@@ -63,10 +69,14 @@ bool ToolFile::load() {
     const auto group = file.group();
     file.setPath(std::string(file.Path()));
     file.ShowLastError();
+    if (file.status() == ReadResult::Status::failed) {
+        return false;
+    }
     ports_.tools.RemoveAllTools();
     ports_.busy.refreshWorksheet();
     ports_.busy.refreshControlWindow();
     loadTools();
+    file.noteAsRead();
     return true;
 }
 
@@ -107,6 +117,10 @@ bool ToolFile::compare() {
         return false;
     }
     const auto group = file.group();
+    if (file.check() == ReadResult::Status::failed) {
+        file.ShowLastError();
+        return false;
+    }
     int number = 0;
     const auto entries = ports_.tools.GetPanelsInVisualOrder();
     const bool equal = std::ranges::all_of(entries, [&](const ToolList::Entry& entry) {

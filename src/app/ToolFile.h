@@ -29,14 +29,16 @@ class ToolFile {
     /// The ports must outlive the object; its file is the one that `file` has the path of.
     ToolFile(const Ports& ports, Header header) : ports_(ports), header_(std::move(header)) {}
 
-    /// Writes the whole file anew; the old contents stay until the new ones are complete. Errors
-    /// before the writing are shown, and the writing goes on; one of the writing itself is not
-    /// shown. False only without a path.
+    /// Writes the whole file anew; the old contents stay until the new ones are complete. False
+    /// without a path, or if the new contents are not on the disk. One message tells what went
+    /// wrong: that of the writing, or else that of what came before it.
     bool save();
     /// Replaces all tools by those of the file and selects the first one. A message tells of each
-    /// tool too many. False only without a path.
+    /// tool too many. False without a path, or if the file can't be read, which a message tells;
+    /// the tools stay then.
     bool load();
-    /// Whether the tools that there are equal the first ones of the file. False without a file.
+    /// Whether the tools that there are equal the first ones of the file. False without a file
+    /// that can be read.
     bool compare();
 
   private:

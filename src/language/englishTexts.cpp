@@ -278,6 +278,7 @@ constexpr TextRow rows[] = {
     {375, productWebAddress},
     {377, "Loading..."},
     {378, "Removing all tools..."},
+    {505, "'%0' has been changed by another program. Overwrite it?"},
     {580, "Ormala has to quit, since something that it needs is missing:%n%0"},
     {581, "Memory"},
     {582, "A dialog is still open."},

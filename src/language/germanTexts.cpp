@@ -277,6 +277,7 @@ constexpr TextRow rows[] = {
     {375, productWebAddress},
     {377, "Lade..."},
     {378, "Entferne alle Werkzeuge..."},
+    {505, "'%0' wurde von einem anderen Programm geändert. Überschreiben?"},
     {580, "Ormala muss beendet werden, weil etwas fehlt, das es braucht:%n%0"},
     {581, "Arbeitsspeicher"},
     {582, "Ein Dialog ist noch geöffnet."},

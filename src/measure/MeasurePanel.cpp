@@ -124,7 +124,7 @@ void MeasurePanel::LoadFromFile(INIFile& file) {
     tool_.setAngleMode(file.LongValue("AngleMode", missing.AngleMode));
     tool_.setLengthMode(file.LongValue("LengthMode", missing.LengthMode));
     tool_.setLengthFactor(finiteValue(file, "LengthFactor", missing.LengthFactor));
-    tool_.setLengthUnit(file.StringValue("LengthUnit", missing.LengthUnit));
+    tool_.setLengthUnit(file.TextValue("LengthUnit", missing.LengthUnit));
     tool_.setLabelsLengthVisible(flagValue(file, "LabelsLengthVisible", true));
     tool_.setLabelsAngleVisible(flagValue(file, "LabelsAngleVisible", true));
     setNumber(file.LongValue("Number", 0));

@@ -15,13 +15,19 @@ bool isNumber(std::string_view text) {
 
 }  // namespace
 
-bool replaceFile(ReplacementSteps& steps, std::string_view bytes) {
+bool replaceFile(ReplacementSteps& steps, std::string_view bytes, OldFile old) {
     steps.removeLeftovers();
     if (!steps.makeNeighbour()) {
         return false;
     }
-    if (steps.write(bytes) && steps.flush() && steps.renameOver()) {
-        return true;
+    const bool keeps = old == OldFile::staysBeside;
+    if (steps.write(bytes) && steps.flush() && (!keeps || steps.keepOld())) {
+        if (steps.renameOver()) {
+            return true;
+        }
+        if (keeps) {
+            steps.putOldBack();
+        }
     }
     steps.removeNeighbour();
     return false;
@@ -41,6 +47,18 @@ bool isNeighbourName(std::string_view name) {
     const std::size_t dash = name.find('-');
     return dash != std::string_view::npos && isNumber(name.substr(0, dash)) &&
            isNumber(name.substr(dash + 1));
+}
+
+std::string keptName(std::string_view path, std::string_view time, int number) {
+    const std::string_view name = path.substr(path.rfind('\\') + 1);
+    const std::size_t extension = name.size() - std::min(name.rfind('.'), name.size());
+    const std::size_t stem = path.size() - extension;
+    std::string mark = " (kept " + std::string(time);
+    std::ranges::replace(mark, ':', '.');
+    if (number > 1) {
+        mark += ", " + std::to_string(number);
+    }
+    return std::string(path.substr(0, stem)).append(mark).append(")").append(path.substr(stem));
 }
 
 }  // namespace ormala

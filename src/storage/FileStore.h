@@ -16,8 +16,10 @@ constexpr std::size_t largestSettingsFile = std::size_t{16} << 20U;
 struct ReadResult {
     enum class Status {
         ok,
-        notFound,  ///< the folder is there, the file is not
-        failed     ///< anything else: no such folder, no permission, too large, no file at all
+        notFound,  ///< there is no such file, be it that its folder is missing or that a link leads
+                   ///< nowhere
+        failed     ///< there is something, but it can't be read: held by another program, no
+                   ///< permission, too large, a folder
     };
     Status status = Status::failed;
     std::string bytes;  ///< empty unless `ok`
@@ -28,16 +30,31 @@ struct RemoveResult {
     std::string description;  ///< the system's words for the failure, may be empty
 };
 
+struct WriteResult {
+    bool written = false;     ///< all of it is on the disk
+    std::string description;  ///< the system's words for the failure, may be empty
+
+    explicit operator bool() const { return written; }
+};
+
 /// The files of the computer. Paths are UTF-8, of any length and with any characters. Nothing
 /// throws for what the file system answers.
 class FileStore {
   public:
     virtual ~FileStore() = default;
 
+    /// A file that another program holds is tried again for up to a second.
     virtual ReadResult read(const std::string& path) = 0;
 
+    /// The same without a second try.
+    virtual ReadResult readAtOnce(const std::string& path) = 0;
+
     /// Writes the whole file: whatever happens, it holds the old bytes or the new ones.
-    virtual bool replace(const std::string& path, std::string_view bytes) = 0;
+    virtual WriteResult replace(const std::string& path, std::string_view bytes) = 0;
+
+    /// The same, and the old file, if there is one, stays beside it under a `keptName`. A folder
+    /// isn't moved away. If the process ends at the wrong moment there is only the kept file.
+    virtual WriteResult replaceKeeping(const std::string& path, std::string_view bytes) = 0;
 
     /// The system's error number for a look at the path, 0 if something is there.
     virtual int errorOfPath(const std::string& path) = 0;

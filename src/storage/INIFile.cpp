@@ -16,7 +16,6 @@ namespace ormala {
 namespace {
 
 constexpr std::size_t valueBufferSize = 255;
-constexpr std::size_t sectionsBufferSize = 4096;
 
 /// The beginnings of the messages, by their numbers in the language tables.
 struct Message {
@@ -29,22 +28,44 @@ constexpr Message failedToLoad{241, "Failed to load file '"};
 constexpr Message failedToSave{242, "Failed to save file '"};
 constexpr Message messageEnd{239, "'."};
 
-std::string messageAbout(const Message& begin, const std::string& path) {
-    return MlString(begin.id, begin.text) + path + MlString(messageEnd.id, messageEnd.text);
+/// `reason` is the system's own sentence, or nothing.
+std::string messageAbout(const Message& begin, const std::string& path,
+                         const std::string& reason = {}) {
+    const std::string message =
+        MlString(begin.id, begin.text) + path + MlString(messageEnd.id, messageEnd.text);
+    return reason.empty() ? message : message + " " + reason;
 }
 
 }  // namespace
 
 INIFile::INIFile(FileStore& store, const CodePage& codePage, MessagePresenter& presenter)
-    : store_(store), codePage_(codePage), presenter_(presenter), profile_(store) {}
+    : store_(store), codePage_(codePage), presenter_(presenter), profile_(store, codePage) {}
 
 void INIFile::setPath(std::string path) {
     const std::string former = profile_.path();
     lastError_.clear();
-    if (!profile_.setPath(std::move(path))) {
-        lastError_ = messageAbout(failedToSave, former);
-    }
+    toldUnreadable_ = false;
+    const WriteResult left = profile_.setPath(std::move(path));
     scanSections();
+    if (!left) {
+        lastError_ = messageAbout(failedToSave, former, left.description);
+    }
+}
+
+/// Whether the last look at the file failed, which is told once.
+bool INIFile::tellUnreadable() {
+    const bool unreadable = status() == ReadResult::Status::failed;
+    if (unreadable && !toldUnreadable_) {
+        lastError_ = messageAbout(failedToLoad, Path());
+    }
+    toldUnreadable_ = toldUnreadable_ || unreadable;
+    return unreadable;
+}
+
+ReadResult::Status INIFile::check() {
+    profile_.check();
+    tellUnreadable();
+    return status();
 }
 
 void INIFile::scanSections() {
@@ -52,8 +73,8 @@ void INIFile::scanSections() {
     if (Path().empty()) {
         return;
     }
-    const std::vector<std::string> names = profile_.sectionNames(sectionsBufferSize);
-    if (names.empty()) {
+    const std::vector<std::string> names = profile_.sectionNames();
+    if (tellUnreadable() || names.empty()) {
         return;
     }
     sections_.clear();
@@ -74,8 +95,7 @@ void INIFile::Delete() {
     }
     const RemoveResult result = profile_.remove();
     if (!result.removed) {
-        lastError_ =
-            result.description.empty() ? messageAbout(failedToClear, Path()) : result.description;
+        lastError_ = messageAbout(failedToClear, Path(), result.description);
     }
 }
 
@@ -111,6 +131,9 @@ std::string INIFile::StringValue(std::string_view key, std::string_view defaultT
     }
     const std::string found = profile_.value(sectionBytes_, codePage_.bytesFromUtf8(key),
                                              codePage_.bytesFromUtf8(defaultText), valueBufferSize);
+    if (tellUnreadable()) {
+        return std::string(defaultText);
+    }
     if (found.empty()) {
         lastError_ = messageAbout(failedToLoad, Path());
         return std::string(defaultText);
@@ -118,14 +141,19 @@ std::string INIFile::StringValue(std::string_view key, std::string_view defaultT
     return codePage_.utf8FromBytes(trimBlanks(found));
 }
 
+std::string INIFile::TextValue(std::string_view key, std::string_view defaultText) {
+    const auto stored = storedBytes(key);
+    return stored && stored->empty() ? std::string() : StringValue(key, defaultText);
+}
+
 void INIFile::setStringValue(std::string_view key, std::string_view value) {
     if (!isValid()) {
         return;
     }
-    const bool written = profile_.setValue(sectionBytes_, codePage_.bytesFromUtf8(key),
-                                           codePage_.bytesFromUtf8(value));
-    if (!written) {
-        lastError_ = messageAbout(failedToSave, Path());
+    const WriteResult result = profile_.setValue(sectionBytes_, codePage_.bytesFromUtf8(key),
+                                                 codePage_.bytesFromUtf8(value));
+    if (!result) {
+        lastError_ = messageAbout(failedToSave, Path(), result.description);
     }
 }
 
@@ -171,7 +199,9 @@ std::string INIFile::SectionName(std::int32_t index) const {
 }
 
 ProfileFile::Scope INIFile::group() {
-    return {profile_, [this] { lastError_ = messageAbout(failedToSave, Path()); }};
+    return {profile_, [this](const std::string& description) {
+                lastError_ = messageAbout(failedToSave, Path(), description);
+            }};
 }
 
 }  // namespace ormala

@@ -24,9 +24,22 @@ class INIFile {
     INIFile(FileStore& store, const CodePage& codePage, MessagePresenter& presenter);
 
     /// The path is UTF-8 and may lie outside the code page. Assigning it, also the same one again,
-    /// clears `LastError` and takes a new list of the file's sections.
+    /// clears `LastError` and takes a new list of the file's sections. A file that can't be read is
+    /// a failure then; accesses that follow are none, though they give defaults.
     const std::string& Path() const { return profile_.path(); }
     void setPath(std::string path);
+
+    /// What the last look at the file found.
+    [[nodiscard]] ReadResult::Status status() const { return profile_.status(); }
+    /// Takes such a look, or tells what the open group has seen; an unreadable file is a failure,
+    /// unless that has been one since the path was assigned.
+    ReadResult::Status check();
+
+    /// Says that the program has all that is in the file. What it could not read stays beside the
+    /// file when that is written again.
+    void noteAsRead() { profile_.noteAsRead(); }
+    /// Whether another program has changed the file since that, or since it was written here.
+    [[nodiscard]] bool changedElsewhere() { return profile_.changedElsewhere(); }
 
     const std::string& CurrentSection() const { return currentSection_; }
     void setCurrentSection(std::string section);
@@ -47,6 +60,8 @@ class INIFile {
     /// At most 254 bytes of the stored text, without blanks at its ends. An empty value, and a
     /// missing one with an empty default, is a failure.
     std::string StringValue(std::string_view key, std::string_view defaultText);
+    /// The same for a text that may be empty: only a missing one is then a failure.
+    std::string TextValue(std::string_view key, std::string_view defaultText);
     void setStringValue(std::string_view key, std::string_view value);
 
     /// A value that is no number reads as 0; one too large to be finite is a failure.
@@ -72,6 +87,7 @@ class INIFile {
   private:
     bool isValid() const;
     std::optional<std::string> storedBytes(std::string_view key);
+    bool tellUnreadable();
     void scanSections();
 
     FileStore& store_;
@@ -82,6 +98,8 @@ class INIFile {
     /// The same in the code page.
     std::string sectionBytes_;
     std::string lastError_;
+    /// `LastError` has had that the file can't be read.
+    bool toldUnreadable_ = false;
     std::vector<std::string> sections_{std::string()};
 };
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "storage/TextMark.h"
+
 namespace ormala {
 
 namespace {
@@ -13,56 +15,106 @@ std::string cutToBuffer(std::string_view text, std::size_t size) {
 
 }  // namespace
 
-ProfileFile::Scope::Scope(ProfileFile& file, std::function<void()> failed)
+ProfileFile::Scope::Scope(ProfileFile& file, Failed failed)
     : file_(file), failed_(std::move(failed)) {
     ++file_.openScopes_;
 }
 
 ProfileFile::Scope::~Scope() {
     --file_.openScopes_;
-    if (file_.openScopes_ == 0 && !file_.writeGrouped()) {
-        failed_();
+    if (file_.openScopes_ > 0) {
+        return;
+    }
+    const WriteResult result = file_.writeGrouped();
+    if (!result) {
+        failed_(result.description);
     }
 }
 
-bool ProfileFile::setPath(std::string path) {
-    const bool written = path == path_ || writeGrouped();
-    path_ = std::move(path);
-    return written;
-}
-
-/// The contents of the file, empty for a missing one, nothing for one that can't be read.
-std::optional<ProfileText> ProfileFile::read() const {
-    ReadResult result = store_.read(path_);
-    if (result.status == ReadResult::Status::failed) {
-        return std::nullopt;
+WriteResult ProfileFile::setPath(std::string path) {
+    WriteResult result{true, {}};
+    if (path != path_) {
+        result = writeGrouped();
+        path_ = std::move(path);
     }
-    return ProfileText(std::move(result.bytes));
+    if (!grouped_) {
+        // The next look may wait for the file again.
+        status_ = ReadResult::Status::notFound;
+    }
+    return result;
 }
 
-/// The text to work on: the one of the open scope, or `fresh`, read now. Null if it can't be read.
-ProfileText* ProfileFile::text(std::optional<ProfileText>& fresh) {
+/// A file that was unreadable just now isn't waited for again.
+ReadResult ProfileFile::look() {
+    const bool wasUnreadable = status_ == ReadResult::Status::failed;
+    ReadResult result = wasUnreadable ? store_.readAtOnce(path_) : store_.read(path_);
+    status_ = result.status;
+    if (status_ == ReadResult::Status::failed) {
+        run_.noteUnreadable(path_);
+    }
+    seen_ = result.bytes;
+    return result;
+}
+
+ReadResult::Status ProfileFile::check() {
+    std::optional<ProfileText> fresh;
+    text(fresh);
+    return status_;
+}
+
+void ProfileFile::noteAsRead() {
+    if (status_ == ReadResult::Status::ok) {
+        run_.noteContents(path_, seen_);
+    }
+}
+
+bool ProfileFile::changedElsewhere() {
+    const auto known = run_.contentsOf(path_);
+    if (!known) {
+        return false;
+    }
+    const ReadResult now = look();
+    return now.status == ReadResult::Status::ok && now.bytes != *known;
+}
+
+/// The text to work on: the one of the open scope, or `fresh`, read now. Empty for a file that
+/// can't be read.
+ProfileText& ProfileFile::text(std::optional<ProfileText>& fresh) {
     if (grouped_) {
-        return &grouped_->text;
+        return grouped_->text;
     }
-    fresh = read();
-    if (!fresh || openScopes_ == 0) {
-        return fresh ? &*fresh : nullptr;
+    ProfileText& text = fresh.emplace(codePageText(look().bytes, codePage_));
+    if (openScopes_ == 0) {
+        return text;
     }
-    grouped_ = Grouped{std::move(*fresh)};
-    return &grouped_->text;
+    grouped_ = Grouped{std::move(text)};
+    return grouped_->text;
 }
 
-/// Ends the grouping of what has been read and noted so far; true if nothing is lost.
-bool ProfileFile::writeGrouped() {
+WriteResult ProfileFile::write(const std::string& bytes) {
+    WriteResult result = run_.couldNotRead(path_) ? store_.replaceKeeping(path_, bytes)
+                                                  : store_.replace(path_, bytes);
+    if (result) {
+        status_ = ReadResult::Status::ok;
+        run_.noteContents(path_, bytes);
+    }
+    return result;
+}
+
+/// Ends the grouping of what has been read and noted so far; a success if nothing is lost.
+WriteResult ProfileFile::writeGrouped() {
     const std::optional<Grouped> grouped = std::exchange(grouped_, std::nullopt);
     if (!grouped) {
-        return true;
+        return {true, {}};
     }
     if (grouped->changed) {
-        return store_.replace(path_, grouped->text.bytes());
+        return write(grouped->text.bytes());
     }
-    return !grouped->removed || store_.remove(path_).removed;
+    if (!grouped->removed) {
+        return {true, {}};
+    }
+    RemoveResult result = store_.remove(path_);
+    return {result.removed, std::move(result.description)};
 }
 
 RemoveResult ProfileFile::remove() {
@@ -73,6 +125,7 @@ RemoveResult ProfileFile::remove() {
     if (result.removed) {
         grouped_ = Grouped{};
         grouped_->removed = true;
+        status_ = ReadResult::Status::notFound;
     }
     return result;
 }
@@ -80,8 +133,7 @@ RemoveResult ProfileFile::remove() {
 std::optional<std::string> ProfileFile::find(std::string_view section, std::string_view key,
                                              std::size_t size) {
     std::optional<ProfileText> fresh;
-    const ProfileText* const profile = text(fresh);
-    const auto found = profile != nullptr ? profile->value(section, key) : std::nullopt;
+    const auto found = text(fresh).value(section, key);
     return found ? std::optional(cutToBuffer(*found, size)) : std::nullopt;
 }
 
@@ -90,36 +142,25 @@ std::string ProfileFile::value(std::string_view section, std::string_view key,
     return find(section, key, size).value_or(cutToBuffer(defaultText, size));
 }
 
-bool ProfileFile::setValue(std::string_view section, std::string_view key, std::string_view value) {
-    std::optional<ProfileText> fresh;
-    ProfileText* const profile = text(fresh);
-    if (profile == nullptr || !ProfileText::canHold(key)) {
-        return false;
+WriteResult ProfileFile::setValue(std::string_view section, std::string_view key,
+                                  std::string_view value) {
+    if (!ProfileText::canHold(key)) {
+        return {};
     }
-    const bool changed = profile->setValue(section, key, value);
+    std::optional<ProfileText> fresh;
+    ProfileText& profile = text(fresh);
+    const bool changed = profile.setValue(section, key, value);
     if (grouped_) {
         grouped_->changed = grouped_->changed || changed;
-        return true;
+        return {true, {}};
     }
-    return !changed || store_.replace(path_, profile->bytes());
+    return changed ? write(profile.bytes()) : WriteResult{true, {}};
 }
 
-std::vector<std::string> ProfileFile::sectionNames(std::size_t size) {
+std::vector<std::string> ProfileFile::sectionNames() {
     std::optional<ProfileText> fresh;
-    const ProfileText* const profile = text(fresh);
-    std::vector<std::string> names;
-    if (profile == nullptr) {
-        return names;
-    }
-    std::size_t used = 1;
-    for (const std::string_view name : profile->sectionNames()) {
-        used += name.size() + 1;
-        if (used > size) {
-            break;
-        }
-        names.emplace_back(name);
-    }
-    return names;
+    const std::vector<std::string_view> names = text(fresh).sectionNames();
+    return {names.begin(), names.end()};
 }
 
 }  // namespace ormala

@@ -83,17 +83,11 @@ std::optional<std::string_view> sectionOpenedBy(std::string_view line) {
     return line.substr(1, close - 1);
 }
 
-/// How many bytes at the start only tell an editor that the text is UTF-8.
-std::size_t markLength(std::string_view text) {
-    constexpr std::string_view mark = "\xEF\xBB\xBF";
-    return text.starts_with(mark) ? mark.size() : 0;
-}
-
 }  // namespace
 
 ProfileText::ProfileText(std::string bytes) : bytes_(std::move(bytes)) {
     const std::string_view all = bytes_;
-    std::string_view rest = all.substr(markLength(all));
+    std::string_view rest = all;
     while (!rest.empty()) {
         const std::size_t start = all.size() - rest.size();
         const std::string_view line = takeLine(rest);

@@ -105,7 +105,10 @@ RestoredPlacement restoredPlacement(INIFile& options, const std::string& section
     const bool maximise = options.LongValue("WindowState", showNormal) == showMaximised;
     if (cascade) {
         offsetRect(rect, cascadeStep);
-        writeRect(options, rect);
+        // A file that can't be read now may hold options that are worth more than a place.
+        if (options.status() != ReadResult::Status::failed) {
+            writeRect(options, rect);
+        }
     }
     return {keptOnScreens(rect, screens), maximise};
 }

@@ -61,7 +61,7 @@ bool ToolKeyComparer::flag(std::string_view key, bool value) {
 }
 
 bool ToolKeyComparer::text(std::string_view key, const std::string& value) {
-    return file_.StringValue(key, "") == value;
+    return file_.TextValue(key, "") == value;
 }
 
 }  // namespace ormala

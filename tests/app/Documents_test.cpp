@@ -1,84 +1,20 @@
 #include "app/Documents.h"
 
-#include "app/ToolFileFixture.h"
-#include "support/exampleToolFile.h"
+#include "app/DocumentsFixture.h"
 
 namespace ormala {
 namespace {
 
 const std::string noneText = "(No tool settings file opened or created yet)";
 const std::string newText = "(New tool settings file)";
-const std::string automaticPath = "C:\\data\\Ormala Tools.ini";
-const std::string namedPath = "C:\\data\\named.OM";
-constexpr Color documentColor = 0xC0FFFF;
 
-/// A user who gives the prepared answers.
-class FakeDocumentView : public DocumentView {
-  public:
-    Answer answer = Answer::cancel;
-    std::string picked;
-    std::vector<std::string> questions;
-    std::vector<bool> picks;
-    PathLine line;
-    std::size_t lineWidth = 60;
-
-    Answer ask(const std::string& question) override {
-        questions.push_back(question);
-        return answer;
-    }
-    std::string pickFile(bool forSaving) override {
-        picks.push_back(forSaving);
-        return picked;
-    }
-    std::string CompactPathForDisplay(const std::string& path) override {
-        return path.size() > lineWidth ? "..." + path.substr(path.size() - lineWidth + 3) : path;
-    }
-    void showPathLine(const PathLine& shown) override { line = shown; }
-};
-
-class DocumentsTest : public ToolFileFixture {
-  protected:
-    DocumentsTest() {
-        ini_.file.setPath("");
-        ini_.store.files[namedPath] = exampleToolFile;
-    }
-
-    std::string& file(const std::string& path) { return ini_.store.files[path]; }
-    void start() { documents_.loadAutomatic(automaticPath); }
-    void startWithTools() {
-        file(automaticPath) = exampleToolFile;
-        start();
-    }
-    void loadNamed() {
-        view_.picked = namedPath;
-        documents_.Load();
-        view_.questions.clear();
-        view_.picks.clear();
-    }
-    /// A close request and, if nothing stands against it, the end of the program.
-    bool close() {
-        const bool closes = documents_.ConfirmDiscard();
-        if (closes) {
-            documents_.saveAutomatic(automaticPath);
-        }
-        return closes;
-    }
-    [[nodiscard]] bool asked() const { return !view_.questions.empty(); }
-    void expectNamed(const std::string& path) {
-        EXPECT_EQ(ini_.file.Path(), path);
-        EXPECT_FALSE(documents_.NoFileYet());
-        EXPECT_EQ(view_.line, (PathLine{path, documentColor, ""}));
-    }
-
-    FakeDocumentView view_;
-    Documents documents_{{ini_.file, ini_.store, toolFile_, stage_.list, stage_.view, view_}};
-};
+using DocumentsTest = DocumentsFixture;
 
 TEST_F(DocumentsTest, AFirstStartShowsOneToolOfEachKind) {
     ToolListStage first;
     first.list.prepareFirstTools();
     ToolFile toolFile({ini_.file, ini_.store, first.list, first.view}, {"1", [] { return "t"; }});
-    Documents documents({ini_.file, ini_.store, toolFile, first.list, first.view, view_});
+    Documents documents({ini_.file, toolFile, first.list, first.view, view_});
     documents.loadAutomatic(automaticPath);
     EXPECT_EQ(first.kinds(), "SM");
     EXPECT_TRUE(first.sheet.isVisible(first.stencil(0).RefControlControl()));

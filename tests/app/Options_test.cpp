@@ -174,6 +174,16 @@ TEST_F(OptionsTest, AnEmptyValueGivesTheDefaultAndLeavesAMessage) {
     EXPECT_EQ(file_.LastError(), std::string("Failed to load file '") + MemoryINIFile::path + "'.");
 }
 
+TEST_F(OptionsTest, AUnitMayBeEmpty) {
+    EXPECT_EQ(readOne("DefaultLengthUnit", "").defaultUnits.LengthUnit, "");
+    EXPECT_EQ(file_.LastError(), "");
+    Options options;
+    options.defaultUnits.LengthUnit = "";
+    writeOptions(file_, options);
+    EXPECT_EQ(readOptions(file_, languageEnglish).defaultUnits.LengthUnit, "");
+    EXPECT_EQ(file_.LastError(), "");
+}
+
 TEST_F(OptionsTest, ANumberOutsideTheRangeGivesTheDefaultAndLeavesAMessage) {
     EXPECT_EQ(readOne("GridSizeX", "99999999999").grid.steps.stepX, 50);
     EXPECT_NE(file_.LastError(), "");

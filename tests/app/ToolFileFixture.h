@@ -32,6 +32,17 @@ class ToolFileFixture : public testing::Test {
         return at == std::string::npos ? std::string() : bytes().substr(at);
     }
 
+    /// The same text with one line in place of another.
+    static std::string replaced(std::string text, const std::string& line,
+                                const std::string& with) {
+        const std::size_t at = text.find(line);
+        EXPECT_NE(at, std::string::npos) << line;
+        return at == std::string::npos ? text : text.replace(at, line.size(), with);
+    }
+    [[nodiscard]] std::string failedToSave() const {
+        return "Failed to save file '" + ini_.file.Path() + "'.";
+    }
+
     ManualLanguage language_{languageEnglish};
     MemoryINIFile ini_;
     ToolListStage stage_;

@@ -12,13 +12,6 @@ using ToolFileTest = ToolFileFixture;
 
 const std::string measureSection = "[Tool 1]\r\nType=1\r\n";
 
-/// The same text with one line in place of another.
-std::string replaced(std::string text, const std::string& line, const std::string& with) {
-    const std::size_t at = text.find(line);
-    EXPECT_NE(at, std::string::npos) << line;
-    return at == std::string::npos ? text : text.replace(at, line.size(), with);
-}
-
 TEST_F(ToolFileTest, TheExampleLoadsToItsTools) {
     loadText(exampleToolFile);
     ASSERT_EQ(stage_.kinds(), "SM");
@@ -358,32 +351,6 @@ TEST_F(ToolFileTest, ASaveWritesOnceAndRemovesNothing) {
     toolFile_.save();
     EXPECT_EQ(ini_.store.writes, 1);
     EXPECT_EQ(ini_.store.removals, 0);
-}
-
-TEST_F(ToolFileTest, ASaveThatCantBeWrittenKeepsTheOldFileAndSaysNothing) {
-    loadText(exampleToolFile);
-    stage_.stencil(0).setLineWidth(9);
-    ini_.store.fullDisk = true;
-    EXPECT_TRUE(toolFile_.save());
-    EXPECT_EQ(bytes(), exampleToolFile);
-    EXPECT_TRUE(ini_.presenter.errors.empty());
-    EXPECT_EQ(ini_.file.LastError(), "");
-}
-
-TEST_F(ToolFileTest, ASaveOverAFileThatCantBeRemovedSaysSoAndGoesOn) {
-    loadText(exampleToolFile);
-    ini_.store.readOnly = true;
-    ini_.store.removeDescription = "Access is denied.";
-    EXPECT_TRUE(toolFile_.save());
-    EXPECT_EQ(ini_.presenter.errors, std::vector<std::string>{"Access is denied."});
-    EXPECT_EQ(bytes(), exampleToolFile);
-}
-
-TEST_F(ToolFileTest, ASaveThatCantMakeItsFolderSaysSo) {
-    ini_.store.fullDisk = true;
-    EXPECT_TRUE(toolFile_.save());
-    EXPECT_EQ(ini_.presenter.errors, std::vector<std::string>{"Failed to create folder for file '" +
-                                                              ini_.file.Path() + "'."});
 }
 
 TEST_F(ToolFileTest, PathsOutsideTheCodePageSaveAndLoad) {

@@ -7,6 +7,8 @@
 #include "fuzz/Require.h"
 #include "fuzz/Targets.h"
 #include "storage/ProfileFile.h"
+#include "storage/TextMark.h"
+#include "support/MemoryCodePage.h"
 #include "support/MemoryFileStore.h"
 
 namespace ormala {
@@ -14,7 +16,6 @@ namespace ormala {
 namespace {
 
 constexpr std::size_t valueSize = 255;
-constexpr std::size_t namesSize = 4096;
 const std::string path = "C:\\data\\fuzz.ini";
 
 /// Section, key and value to write, and the contents of the file, each ended by a byte 1.
@@ -49,14 +50,11 @@ std::size_t lineBreaksIn(const std::string& bytes) {
 }
 
 void readEverything(ProfileFile& file) {
-    const ProfileFile::Scope scope(file, [] { require(false, "reading has nothing to write"); });
-    const std::vector<std::string> names = file.sectionNames(namesSize);
-    std::size_t used = 1;
-    for (const std::string& name : names) {
-        used += name.size() + 1;
+    const ProfileFile::Scope scope(
+        file, [](const std::string&) { require(false, "reading has nothing to write"); });
+    for (const std::string& name : file.sectionNames()) {
         require(file.value(name, "Type", "-1", valueSize).size() < valueSize, "values are cut");
     }
-    require(used <= namesSize, "the section names fit their buffer");
 }
 
 }  // namespace
@@ -66,26 +64,30 @@ void fuzzProfileFile(const std::uint8_t* data, std::size_t size) {
     const auto& [section, key, value] = input.texts;
     MemoryFileStore store;
     store.files[path] = input.contents;
-    ProfileFile file(store);
+    const MemoryCodePage codePage;
+    const std::string text = codePageText(input.contents, codePage);
+    ProfileFile file(store, codePage);
     file.setPath(path);
 
     readEverything(file);
     require(store.files[path] == input.contents, "reading leaves the file alone");
 
-    const bool written = file.setValue(section, key, value);
+    const bool written = file.setValue(section, key, value).written;
     require(written || store.files[path] == input.contents, "a refused write changes nothing");
-    require(lineBreaksIn(store.files[path]) >= lineBreaksIn(input.contents), "lines stay");
     if (!written) {
         return;
     }
+    require(lineBreaksIn(codePageText(store.files[path], codePage)) >= lineBreaksIn(text),
+            "lines stay");
     require(file.value(section, key, "other", valueSize) == asRead(value), "a value reads back");
     const std::string once = store.files[path];
     {
-        const ProfileFile::Scope scope(file, [] { require(false, "a scope can write"); });
+        const ProfileFile::Scope scope(
+            file, [](const std::string&) { require(false, "a scope can write"); });
         readEverything(file);
-        require(file.setValue(section, key, value), "a value can be written again");
-        require(file.setValue(section, key, value + "x"), "a value can be replaced");
-        require(file.setValue(section, key, value), "a value can be put back");
+        require(file.setValue(section, key, value).written, "a value can be written again");
+        require(file.setValue(section, key, value + "x").written, "a value can be replaced");
+        require(file.setValue(section, key, value).written, "a value can be put back");
     }
     require(store.files[path] == once, "writing the same again changes nothing");
 }

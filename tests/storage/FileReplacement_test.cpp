@@ -18,7 +18,7 @@ class FileReplacement : public testing::Test {
     /// The contents of the file after a replacement that goes wrong in this way.
     std::string brokenReplacement(int step, Break how, bool& replaced) {
         disk_.breakAt(step, how);
-        replaced = disk_.replace(path, "new bytes");
+        replaced = disk_.replace(path, "new bytes").written;
         disk_.restart();
         return disk_.files[path];
     }
@@ -74,6 +74,51 @@ TEST_F(FileReplacement, ADiskThatIsGoneLeavesItsRestToTheNextOne) {
     EXPECT_EQ(disk_.files.size(), 2U);
     EXPECT_TRUE(disk_.replace(path, "new bytes"));
     EXPECT_EQ(disk_.files.size(), 1U);
+}
+
+const std::string keptPath = keptName(path, "2024-05-17 08:30:12", 1);
+
+TEST_F(FileReplacement, KeepsTheOldFileBesideTheNewOne) {
+    EXPECT_TRUE(disk_.replaceKeeping(path, "new bytes"));
+    EXPECT_EQ(disk_.files,
+              (std::map<std::string, std::string>{{path, "new bytes"}, {keptPath, "old"}}));
+}
+
+TEST_F(FileReplacement, AKeepingThatFailsWritesNothingAndPutsTheOldFileBack) {
+    for (int step = 1; step < 6; ++step) {
+        SCOPED_TRACE(step);
+        disk_.breakAt(step, Break::failsOnce);
+        EXPECT_FALSE(disk_.replaceKeeping(path, "new bytes"));
+        EXPECT_EQ(disk_.files, (std::map<std::string, std::string>{{path, "old"}}));
+    }
+}
+
+TEST_F(FileReplacement, AnEndAtAnyStepOfAKeepingLeavesTheOldBytesSomewhere) {
+    for (int step = 0; step <= 6; ++step) {
+        SCOPED_TRACE(step);
+        disk_.files = {{path, "old"}};
+        disk_.breakAt(step, Break::dies);
+        disk_.replaceKeeping(path, "new bytes");
+        disk_.restart();
+        const auto old = disk_.files.contains(keptPath) ? keptPath : path;
+        EXPECT_EQ(disk_.files[old], "old");
+    }
+}
+
+TEST(KeptName, StandsInFrontOfTheExtension) {
+    const std::string time = "2024-01-31 23:05:09";
+    EXPECT_EQ(keptName("C:\\a b\\c.OM", time, 1), "C:\\a b\\c (kept 2024-01-31 23.05.09).OM");
+    EXPECT_EQ(keptName("c.tar.OM", time, 1), "c.tar (kept 2024-01-31 23.05.09).OM");
+}
+
+TEST(KeptName, StandsAtTheEndOfANameWithoutAnExtension) {
+    const std::string time = "2024-01-31 23:05:09";
+    EXPECT_EQ(keptName("C:\\a.b\\c", time, 1), "C:\\a.b\\c (kept 2024-01-31 23.05.09)");
+    EXPECT_EQ(keptName("c", time, 1), "c (kept 2024-01-31 23.05.09)");
+}
+
+TEST(KeptName, CountsWhereThereIsOneAlready) {
+    EXPECT_EQ(keptName("c.OM", "2024-01-31 23:05:09", 2), "c (kept 2024-01-31 23.05.09, 2).OM");
 }
 
 TEST(NeighbourName, IsKnownAsSuch) {

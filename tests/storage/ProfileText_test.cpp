@@ -71,11 +71,6 @@ TEST(ProfileText, ReadsEveryKindOfLineEnd) {
     EXPECT_EQ(text.value("B", "M"), "3");
 }
 
-TEST(ProfileText, PassesOverAnEditorsMarkAtTheStart) {
-    const ProfileText text("\xEF\xBB\xBF[A]\nK=1\n");
-    EXPECT_EQ(text.value("A", "K"), "1");
-}
-
 TEST(ProfileText, ListsSectionsInTheOrderOfTheFile) {
     const ProfileText text(
         "[Tool 2]\n[]\n[General] ; note\nx=[no]\n  [Tool 1]  \n[open\n[Tool 2]\n");

@@ -39,14 +39,14 @@ class BreakableFileStore : public MemoryFileStore, private ReplacementSteps {
         breakAt(0, Break::none);
     }
 
-    ReadResult read(const std::string& path) override {
-        return dead_ ? ReadResult{} : MemoryFileStore::read(path);
+    ReadResult readAtOnce(const std::string& path) override {
+        return dead_ ? ReadResult{} : MemoryFileStore::readAtOnce(path);
     }
-    bool replace(const std::string& path, std::string_view bytes) override {
-        target_ = path;
-        const bool replaced = replaceFile(*this, bytes);
-        dead_ = dead_ || (how_ == Break::dies && steps_ == brokenStep_);
-        return replaced;
+    WriteResult replace(const std::string& path, std::string_view bytes) override {
+        return replaced(path, bytes, OldFile::goes);
+    }
+    WriteResult replaceKeeping(const std::string& path, std::string_view bytes) override {
+        return replaced(path, bytes, OldFile::staysBeside);
     }
     RemoveResult remove(const std::string& path) override {
         return dead_ ? RemoveResult{} : MemoryFileStore::remove(path);
@@ -56,6 +56,13 @@ class BreakableFileStore : public MemoryFileStore, private ReplacementSteps {
     }
 
   private:
+    WriteResult replaced(const std::string& path, std::string_view bytes, OldFile old) {
+        target_ = path;
+        const bool written = replaceFile(*this, bytes, old);
+        dead_ = dead_ || (how_ == Break::dies && steps_ == brokenStep_);
+        return {written, {}};
+    }
+
     bool works() {
         const int step = steps_++;
         if (how_ == Break::dies && step == brokenStep_) {
@@ -92,6 +99,21 @@ class BreakableFileStore : public MemoryFileStore, private ReplacementSteps {
         }
         return flushed;
     }
+    bool keepOld() override {
+        if (!works()) {
+            return false;
+        }
+        kept_ = freeKeptName(target_);
+        files[kept_] = files[target_];
+        files.erase(target_);
+        return true;
+    }
+    void putOldBack() override {
+        if (works()) {
+            files[target_] = files[kept_];
+            files.erase(kept_);
+        }
+    }
     bool renameOver() override {
         if (!works()) {
             return false;
@@ -115,6 +137,7 @@ class BreakableFileStore : public MemoryFileStore, private ReplacementSteps {
     }
 
     std::string target_;
+    std::string kept_;
     std::set<std::string> unflushed_;
     int steps_ = 0;
     int brokenStep_ = 0;

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
 
+#include "storage/FileReplacement.h"
 #include "storage/FileStore.h"
 
 namespace ormala {
@@ -18,32 +20,50 @@ class MemoryFileStore : public FileStore {
     std::map<std::string, std::string> files;
     std::set<std::string> folders{"C:\\data"};
     std::set<std::string> unreadable;  ///< files and would-be files that can't be looked at
+    std::set<std::string> held;        ///< files that another program keeps to itself
     bool fullDisk = false;             ///< nothing can be written, no folder can be made
     bool readOnly = false;             ///< nothing can be removed or written
     std::string removeDescription;     ///< what the system says when it can't remove a file
+    std::string writeDescription;      ///< and when it can't write one
+    std::string time = "2024-05-17 08:30:12";
     int reads = 0;
+    int patientReads = 0;  ///< those that would have waited for a file that is held
     int writes = 0;
     int removals = 0;
 
     ReadResult read(const std::string& path) override {
-        ++reads;
-        switch (errorOfPath(path)) {
-            case 0:
-                return {ReadResult::Status::ok, files[path]};
-            case errorFileNotFound:
-                return {ReadResult::Status::notFound, {}};
-            default:
-                return {ReadResult::Status::failed, {}};
-        }
+        ++patientReads;
+        return readAtOnce(path);
     }
 
-    bool replace(const std::string& path, std::string_view bytes) override {
+    ReadResult readAtOnce(const std::string& path) override {
+        ++reads;
+        if (unreadable.contains(path) || held.contains(path)) {
+            return {ReadResult::Status::failed, {}};
+        }
+        if (errorOfPath(path) != 0) {
+            return {ReadResult::Status::notFound, {}};
+        }
+        return {ReadResult::Status::ok, files[path]};
+    }
+
+    WriteResult replace(const std::string& path, std::string_view bytes) override {
         ++writes;
-        if (fullDisk || readOnly || !folders.contains(folderOf(path))) {
-            return false;
+        if (fullDisk || readOnly || held.contains(path) || !folders.contains(folderOf(path))) {
+            return {false, writeDescription};
         }
         files[path] = bytes;
-        return true;
+        unreadable.erase(path);
+        return {true, {}};
+    }
+
+    WriteResult replaceKeeping(const std::string& path, std::string_view bytes) override {
+        const auto old = files.contains(path) ? std::optional(files[path]) : std::nullopt;
+        const WriteResult result = replace(path, bytes);
+        if (result && old) {
+            files[freeKeptName(path)] = *old;
+        }
+        return result;
     }
 
     int errorOfPath(const std::string& path) override {
@@ -66,7 +86,7 @@ class MemoryFileStore : public FileStore {
     }
 
     RemoveResult couldRemove(const std::string& path) override {
-        if (readOnly || errorOfPath(path) != 0) {
+        if (readOnly || held.contains(path) || !files.contains(path)) {
             return {false, removeDescription};
         }
         return {true, {}};
@@ -86,6 +106,14 @@ class MemoryFileStore : public FileStore {
     }
 
   protected:
+    std::string freeKeptName(const std::string& path) const {
+        int number = 1;
+        while (files.contains(keptName(path, time, number))) {
+            ++number;
+        }
+        return keptName(path, time, number);
+    }
+
     static std::string folderOf(const std::string& path) {
         const std::size_t end = path.rfind('\\');
         return end == std::string::npos ? std::string() : path.substr(0, end);

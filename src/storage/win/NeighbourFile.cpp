@@ -1,7 +1,9 @@
 #include "storage/win/NeighbourFile.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <cstdio>
 #include <cstring>
 #include <vector>
 
@@ -37,7 +39,37 @@ class RenameRequest {
     std::vector<std::byte> bytes_;
 };
 
+/// Virus scanners and the like hold a file for a moment, so one failure isn't the last word.
+template <typename Attempt>
+bool insist(const Attempt& attempt) {
+    constexpr int attempts = 5;
+    constexpr DWORD pauseMilliseconds = 20;
+    for (int i = 1; !attempt(); ++i) {
+        const DWORD error = GetLastError();
+        if (i == attempts || (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED)) {
+            return false;
+        }
+        Sleep(pauseMilliseconds);
+    }
+    return true;
+}
+
+/// The local time in the form of the settings files.
+std::string presentTime() {
+    SYSTEMTIME now{};
+    GetLocalTime(&now);
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d:%02d:%02d", now.wYear, now.wMonth,
+                  now.wDay, now.wHour, now.wMinute, now.wSecond);
+    return text.data();
+}
+
 }  // namespace
+
+bool NeighbourFile::noted(bool success) {
+    error_ = success ? ERROR_SUCCESS : GetLastError();
+    return success;
+}
 
 void NeighbourFile::removeLeftovers() {
     const std::wstring folder = folderOf(target_);
@@ -66,7 +98,7 @@ bool NeighbourFile::makeNeighbour() {
             break;
         }
     }
-    return file_ != nullptr;
+    return noted(file_ != nullptr);
 }
 
 bool NeighbourFile::write(std::string_view bytes) {
@@ -74,7 +106,11 @@ bool NeighbourFile::write(std::string_view bytes) {
     while (!bytes.empty()) {
         const auto size = static_cast<DWORD>(std::min(bytes.size(), largestBlock));
         DWORD count = 0;
-        if (WriteFile(file_.get(), bytes.data(), size, &count, nullptr) == 0 || count == 0) {
+        if (!noted(WriteFile(file_.get(), bytes.data(), size, &count, nullptr) != 0)) {
+            return false;
+        }
+        if (count == 0) {
+            error_ = ERROR_DISK_FULL;
             return false;
         }
         bytes.remove_prefix(count);
@@ -83,26 +119,44 @@ bool NeighbourFile::write(std::string_view bytes) {
 }
 
 bool NeighbourFile::flush() {
-    return FlushFileBuffers(file_.get()) != 0;
+    return noted(FlushFileBuffers(file_.get()) != 0);
 }
 
-/// Virus scanners and the like hold a file for a moment, so one failure isn't the last word.
-bool NeighbourFile::renameOver() {
-    constexpr int attempts = 5;
-    constexpr DWORD pauseMilliseconds = 20;
-    RenameRequest request(target_);
-    for (int i = 0; i < attempts; ++i) {
-        if (request.apply(file_.get())) {
-            file_.reset();
+bool NeighbourFile::keepOld() {
+    constexpr int attempts = 100;
+    const std::string path = utf8FromUtf16(std::u16string(target_.begin(), target_.end()));
+    const std::string time = presentTime();
+    for (int number = 1; number <= attempts; ++number) {
+        const std::u16string name = utf16FromUtf8(keptName(path, time, number));
+        kept_.assign(name.begin(), name.end());
+        if (insist([&] {
+                return MoveFileExW(target_.c_str(), kept_.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
+            })) {
             return true;
         }
         const DWORD error = GetLastError();
-        if (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED) {
-            return false;
+        if (error != ERROR_ALREADY_EXISTS && error != ERROR_FILE_EXISTS) {
+            kept_.clear();
+            return error == ERROR_FILE_NOT_FOUND || noted(false);
         }
-        Sleep(pauseMilliseconds);
     }
-    return false;
+    kept_.clear();
+    return noted(false);
+}
+
+void NeighbourFile::putOldBack() {
+    if (!kept_.empty()) {
+        MoveFileExW(kept_.c_str(), target_.c_str(), MOVEFILE_WRITE_THROUGH);
+    }
+}
+
+bool NeighbourFile::renameOver() {
+    RenameRequest request(target_);
+    if (!noted(insist([&] { return request.apply(file_.get()); }))) {
+        return false;
+    }
+    file_.reset();
+    return true;
 }
 
 void NeighbourFile::removeNeighbour() {

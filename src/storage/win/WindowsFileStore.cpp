@@ -2,12 +2,15 @@
 
 #include <windows.h>
 
+#include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string_view>
 
 #include "base/Utf8.h"
 #include "storage/FileReplacement.h"
+#include "storage/Patience.h"
 #include "storage/win/FileHandle.h"
 #include "storage/win/LongPath.h"
 #include "storage/win/NeighbourFile.h"
@@ -16,6 +19,16 @@ namespace ormala {
 
 namespace {
 
+class SystemClock : public WaitingClock {
+  public:
+    std::chrono::milliseconds now() override {
+        return std::chrono::milliseconds(static_cast<std::int64_t>(GetTickCount64()));
+    }
+    void pause(std::chrono::milliseconds length) override {
+        Sleep(static_cast<DWORD>(length.count()));
+    }
+};
+
 /// Devices answer with another type, and folders can't be opened this way.
 bool isFileOfReadableSize(HANDLE file) {
     LARGE_INTEGER size{};
@@ -23,19 +36,48 @@ bool isFileOfReadableSize(HANDLE file) {
            size.QuadPart <= static_cast<LONGLONG>(largestSettingsFile);
 }
 
-/// Reads to the end, which may have moved since the size was asked for.
-bool readAll(HANDLE file, std::string& bytes) {
+/// Reads to the end, which may have moved since the size was asked for. Returns the system's error.
+DWORD readAll(HANDLE file, std::string& bytes) {
     constexpr DWORD blockSize = 1U << 16U;
     DWORD count = 0;
     do {
         const std::size_t before = bytes.size();
         bytes.resize(before + blockSize);
         if (ReadFile(file, bytes.data() + before, blockSize, &count, nullptr) == 0) {
-            return false;
+            return GetLastError();
         }
         bytes.resize(before + count);
     } while (count > 0 && bytes.size() <= largestSettingsFile);
-    return count == 0;
+    return count == 0 ? ERROR_SUCCESS : ERROR_FILE_TOO_LARGE;
+}
+
+constexpr bool isMissing(DWORD error) {
+    return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+}
+
+/// Tries to read once, and returns the system's error.
+DWORD readOnce(const std::wstring& path, ReadResult& result) {
+    result = {};
+    constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const FileHandle file = openFile(path, GENERIC_READ, shareAll, OPEN_EXISTING);
+    if (!file) {
+        const DWORD error = GetLastError();
+        // A text that can't be a path is no file that isn't there.
+        if (isMissing(error) && !path.empty()) {
+            result.status = ReadResult::Status::notFound;
+        }
+        return error;
+    }
+    if (!isFileOfReadableSize(file.get())) {
+        return ERROR_FILE_TOO_LARGE;
+    }
+    const DWORD error = readAll(file.get(), result.bytes);
+    if (error == ERROR_SUCCESS) {
+        result.status = ReadResult::Status::ok;
+    } else {
+        result.bytes.clear();
+    }
+    return error;
 }
 
 /// Whether the target is missing or a file that may be written.
@@ -43,6 +85,16 @@ bool isReplaceable(const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
     constexpr DWORD obstacles = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
     return attributes == INVALID_FILE_ATTRIBUTES || (attributes & obstacles) == 0;
+}
+
+/// Whether a link stands there that leads to nothing.
+bool isDanglingLink(const std::wstring& path, DWORD attributes) {
+    if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
+        return false;
+    }
+    constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    return !openFile(path, 0, shareAll, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS) &&
+           isMissing(GetLastError());
 }
 
 std::string descriptionOf(DWORD error) {
@@ -60,37 +112,51 @@ bool isFolder(const std::wstring& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+WriteResult replaced(const std::wstring& target, std::string_view bytes, OldFile old) {
+    if (target.empty() || !isReplaceable(target)) {
+        return {false, descriptionOf(target.empty() ? ERROR_PATH_NOT_FOUND : ERROR_ACCESS_DENIED)};
+    }
+    NeighbourFile neighbour(target);
+    if (replaceFile(neighbour, bytes, old)) {
+        return {true, {}};
+    }
+    return {false, descriptionOf(neighbour.error())};
+}
+
 }  // namespace
 
 ReadResult WindowsFileStore::read(const std::string& path) {
-    const FileHandle file =
-        openFile(longPath(path), GENERIC_READ,
-                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, OPEN_EXISTING);
-    if (!file) {
-        const bool missing = GetLastError() == ERROR_FILE_NOT_FOUND;
-        return {missing ? ReadResult::Status::notFound : ReadResult::Status::failed, {}};
-    }
+    SystemClock clock;
+    const std::wstring target = longPath(path);
     ReadResult result;
-    if (isFileOfReadableSize(file.get()) && readAll(file.get(), result.bytes)) {
-        result.status = ReadResult::Status::ok;
-    } else {
-        result.bytes.clear();
-    }
+    tryPatiently(clock, longestWaitForFile, [&] {
+        const DWORD error = readOnce(target, result);
+        return error != ERROR_SHARING_VIOLATION && error != ERROR_LOCK_VIOLATION;
+    });
     return result;
 }
 
-bool WindowsFileStore::replace(const std::string& path, std::string_view bytes) {
-    const std::wstring target = longPath(path);
-    if (target.empty() || !isReplaceable(target)) {
-        return false;
-    }
-    NeighbourFile neighbour(target);
-    return replaceFile(neighbour, bytes);
+ReadResult WindowsFileStore::readAtOnce(const std::string& path) {
+    ReadResult result;
+    readOnce(longPath(path), result);
+    return result;
+}
+
+WriteResult WindowsFileStore::replace(const std::string& path, std::string_view bytes) {
+    return replaced(longPath(path), bytes, OldFile::goes);
+}
+
+WriteResult WindowsFileStore::replaceKeeping(const std::string& path, std::string_view bytes) {
+    return replaced(longPath(path), bytes, OldFile::staysBeside);
 }
 
 int WindowsFileStore::errorOfPath(const std::string& path) {
-    const DWORD attributes = GetFileAttributesW(longPath(path).c_str());
-    return attributes == INVALID_FILE_ATTRIBUTES ? static_cast<int>(GetLastError()) : 0;
+    const std::wstring target = longPath(path);
+    const DWORD attributes = GetFileAttributesW(target.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+        return static_cast<int>(GetLastError());
+    }
+    return isDanglingLink(target, attributes) ? errorFileNotFound : 0;
 }
 
 RemoveResult WindowsFileStore::remove(const std::string& path) {

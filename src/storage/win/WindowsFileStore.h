@@ -13,7 +13,9 @@ namespace ormala {
 class WindowsFileStore : public FileStore {
   public:
     ReadResult read(const std::string& path) override;
-    bool replace(const std::string& path, std::string_view bytes) override;
+    ReadResult readAtOnce(const std::string& path) override;
+    WriteResult replace(const std::string& path, std::string_view bytes) override;
+    WriteResult replaceKeeping(const std::string& path, std::string_view bytes) override;
     int errorOfPath(const std::string& path) override;
     RemoveResult remove(const std::string& path) override;
     RemoveResult couldRemove(const std::string& path) override;

@@ -45,7 +45,7 @@ TEST_F(WindowsFileStoreTest, WritesAndReadsWholeFiles) {
 TEST_F(WindowsFileStoreTest, TellsAMissingFileFromAMissingFolder) {
     const std::string inMissingFolder = folder_.path("none\\a.ini");
     EXPECT_EQ(store_.read(path_).status, Status::notFound);
-    EXPECT_EQ(store_.read(inMissingFolder).status, Status::failed);
+    EXPECT_EQ(store_.read(inMissingFolder).status, Status::notFound);
     EXPECT_EQ(store_.errorOfPath(path_), errorFileNotFound);
     EXPECT_EQ(store_.errorOfPath(inMissingFolder), errorPathNotFound);
     EXPECT_FALSE(FileExists(store_, path_));

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/Documents.h"
+#include "app/ToolFileFixture.h"
+#include "support/exampleToolFile.h"
+
+namespace ormala {
+
+/// A user who gives the prepared answers.
+class FakeDocumentView : public DocumentView {
+  public:
+    Answer answer = Answer::cancel;
+    std::string picked;
+    /// For questions about other programs.
+    Answer overwrite = Answer::cancel;
+    std::vector<std::string> questions;
+    std::vector<bool> picks;
+    PathLine line;
+    std::size_t lineWidth = 60;
+
+    Answer ask(const std::string& question) override {
+        questions.push_back(question);
+        return question.find("another program") == std::string::npos ? answer : overwrite;
+    }
+    std::string pickFile(bool forSaving) override {
+        picks.push_back(forSaving);
+        return picked;
+    }
+    std::string CompactPathForDisplay(const std::string& path) override {
+        return path.size() > lineWidth ? "..." + path.substr(path.size() - lineWidth + 3) : path;
+    }
+    void showPathLine(const PathLine& shown) override { line = shown; }
+};
+
+/// A run of the program with its documents, over files in memory.
+class DocumentsFixture : public ToolFileFixture {
+  protected:
+    const std::string automaticPath = "C:\\data\\Ormala Tools.ini";
+    const std::string namedPath = "C:\\data\\named.OM";
+    static constexpr Color documentColor = 0xC0FFFF;
+
+    DocumentsFixture() {
+        ini_.file.setPath("");
+        ini_.store.files[namedPath] = exampleToolFile;
+    }
+
+    std::string& file(const std::string& path) { return ini_.store.files[path]; }
+    void start() { documents_.loadAutomatic(automaticPath); }
+    void startWithTools() {
+        file(automaticPath) = exampleToolFile;
+        start();
+    }
+    void loadNamed() {
+        view_.picked = namedPath;
+        documents_.Load();
+        view_.questions.clear();
+        view_.picks.clear();
+    }
+    /// A close request and, if nothing stands against it, the end of the program.
+    bool close() {
+        const bool closes = documents_.ConfirmDiscard();
+        if (closes) {
+            savedAtTheEnd_ = documents_.saveAutomatic(automaticPath);
+        }
+        return closes;
+    }
+    [[nodiscard]] bool asked() const { return !view_.questions.empty(); }
+    void expectNamed(const std::string& path) {
+        EXPECT_EQ(ini_.file.Path(), path);
+        EXPECT_FALSE(documents_.NoFileYet());
+        EXPECT_EQ(view_.line, (PathLine{path, documentColor, ""}));
+    }
+
+    [[nodiscard]] const std::vector<std::string>& errors() const { return ini_.presenter.errors; }
+
+    FakeDocumentView view_;
+    bool savedAtTheEnd_ = false;
+    Documents documents_{{ini_.file, toolFile_, stage_.list, stage_.view, view_}};
+};
+
+}  // namespace ormala
