@@ -44,10 +44,10 @@ GripLook lookOf(MeasureGrip grip) {
 }
 
 Grip makeGrip(MeasureGrip which) {
-    constexpr float size = 9;
     const GripLook look = lookOf(which);
     Grip grip;
-    grip.box = {0, 0, size, size, look.kind == ShapeKind::oval};
+    const auto side = static_cast<float>(grip.size);
+    grip.box = {0, 0, side, side, look.kind == ShapeKind::oval};
     grip.kind = look.kind;
     grip.color = look.pale;
     grip.pressedColor = look.pale;

@@ -24,8 +24,8 @@ struct MeasureLabels::Task {
 
 namespace {
 
-constexpr float circleSize = 61;
-constexpr double circleRadius = circleSize / 2.0;
+/// The circle's diameter at 96 DPI.
+constexpr int circleSize = 61;
 constexpr Pen circlePen{rgb(225, 136, 255), 0};
 
 /// A light colour is unreadable on the white halo.
@@ -88,9 +88,10 @@ void MeasureLabels::arrange(const MeasureState& state, const MeasureSigns& signs
     arrangeLengths(task);
 }
 
-void MeasureLabels::placeCircle(const Point& center) {
+void MeasureLabels::placeCircle(const Point& center, int diameter) {
     Grip shape;
-    shape.box = {0, 0, circleSize, circleSize, true};
+    const auto side = static_cast<float>(diameter);
+    shape.box = {0, 0, side, side, true};
     shape.place(center);
     const PixelRect box = shape.pixels();
     if (!box.empty()) {
@@ -110,15 +111,17 @@ void MeasureLabels::arrangeConnectedAngles(const Task& task) {
     write(angle2_, text(aToB), task.angles && aToB <= bToA, task.meter);
 
     const Point center = IntersectPoint(state);
+    const int diameter = task.meter.scale().oddPixels(circleSize);
+    const double radius = diameter / 2.0;
     if (task.angles) {
-        placeCircle(center);
+        placeCircle(center, diameter);
     }
     const double angleA = AngleOfLine(state.LineA);
     const double angleB = AngleOfLine(state.LineB);
     const double bisector = (angleA + angleB) / 2;
     const auto put = [&](ctlLabel& label, double direction) {
-        const Point place{center.x - std::cos(direction) * circleRadius,
-                          center.y + std::sin(direction) * circleRadius};
+        const Point place{center.x - std::cos(direction) * radius,
+                          center.y + std::sin(direction) * radius};
         PlaceLabelByAnchor(label, place, LabelAnchorForAngle(direction), false, task.meter);
     };
     const bool firstOpposite = angleB < angleA;

@@ -45,7 +45,7 @@ class MeasureLabels {
     void arrangeLengths(const Task& task);
     void arrangeConnectedAngles(const Task& task);
     void arrangeSeparateAngles(const Task& task);
-    void placeCircle(const Point& center);
+    void placeCircle(const Point& center, int diameter);
 
     ctlLabel lengthA_;
     ctlLabel lengthB_;

@@ -64,8 +64,8 @@ Point PlaceByAnchor(double width, double height, Point point, Anchor anchor) {
             std::floor(start(point.y, height, sideY(anchor), 0))};
 }
 
-Point PlaceFormByAnchor(double width, double height, Point point, Anchor anchor, bool withGap) {
-    constexpr double reach = 6;
+Point PlaceFormByAnchor(double width, double height, Point point, Anchor anchor, bool withGap,
+                        double reach) {
     const Side x = sideX(anchor);
     const Side y = sideY(anchor);
     const bool corner = x != Side::middle && y != Side::middle;

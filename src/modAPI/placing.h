@@ -21,8 +21,9 @@ enum class Anchor {
 /// right and bottom anchors lie on the item's last pixel.
 Point PlaceByAnchor(double width, double height, Point point, Anchor anchor);
 
-/// The same without rounding. With a gap the item stands 6 units away from the point, at the
-/// corners measured along the diagonal; the centre has no gap.
-Point PlaceFormByAnchor(double width, double height, Point point, Anchor anchor, bool withGap);
+/// The same without rounding. With a gap the item stands `reach` units away from the point,
+/// at the corners measured along the diagonal; the centre has no gap.
+Point PlaceFormByAnchor(double width, double height, Point point, Anchor anchor, bool withGap,
+                        double reach = 6);
 
 }  // namespace ormala

@@ -7,6 +7,7 @@
 
 #include "modAPI/colors.h"
 #include "scene/PixelRect.h"
+#include "scene/SheetScale.h"
 
 namespace ormala {
 
@@ -61,10 +62,13 @@ class Canvas {
     virtual void text(const PixelRect& box, const TextFace& face) = 0;
 };
 
-/// Tells the size of a text before it is drawn.
+/// Tells the size of a text before it is drawn, and of what stands beside it.
 class TextMeter {
   public:
     virtual ~TextMeter() = default;
+
+    /// Of the resolution that the texts are measured for.
+    [[nodiscard]] virtual SheetScale scale() const = 0;
 
     /// In pixels, over all lines of the text; `size` in points.
     [[nodiscard]] virtual PixelSize measure(std::string_view text, int size) const = 0;

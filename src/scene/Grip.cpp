@@ -7,33 +7,55 @@ namespace ormala {
 
 namespace {
 
+// Lengths at 96 DPI.
+
 /// A grip under the mouse is larger by this on each side.
-constexpr float growth = 6;
+constexpr int growth = 6;
 /// Between the widths at rest (9 and 13) and the grown ones (21 and 25).
-constexpr float grownWidth = 14;
+constexpr double grownWidth = 14;
+/// A resting grip reaches this far beyond itself.
+constexpr double restingReach = 6;
+
+void enlarge(ShapeBox& box, int margin) {
+    const auto by = static_cast<float>(margin);
+    box.left -= by;
+    box.top -= by;
+    box.width += 2 * by;
+    box.height += 2 * by;
+}
 
 }  // namespace
 
 bool Grip::grown() const {
-    return box.width > grownWidth;
+    return box.width > scale.length(grownWidth);
 }
 
 void Grip::grow() {
-    if (box.width < grownWidth) {
-        box.left -= growth;
-        box.top -= growth;
-        box.width += 2 * growth;
-        box.height += 2 * growth;
+    if (box.width < scale.length(grownWidth)) {
+        enlarge(box, scale.pixels(growth));
     }
 }
 
 void Grip::shrink() {
     if (grown()) {
-        box.left += growth;
-        box.top += growth;
-        box.width -= 2 * growth;
-        box.height -= 2 * growth;
+        enlarge(box, -scale.pixels(growth));
     }
+}
+
+void Grip::setScale(const SheetScale& present) {
+    if (scale == present) {
+        return;
+    }
+    const bool wasGrown = grown();
+    scale = present;
+    box.width = box.height = static_cast<float>(scale.oddPixels(size));
+    if (wasGrown) {
+        grow();
+    }
+}
+
+double Grip::reach() const {
+    return grown() ? 0 : scale.length(restingReach);
 }
 
 void Grip::place(const Point& point) {

@@ -12,6 +12,9 @@ enum class GripTag { grip, hidden };
 /// A handle by which the mouse takes hold of a tool. Sizes and places are whole pixels.
 struct Grip {
     ShapeBox box;
+    /// Both sides at rest, in pixels at 96 DPI.
+    int size = 9;
+    SheetScale scale;
     ShapeKind kind = ShapeKind::rectangle;
     /// Inside the border at rest.
     Color color = 0;
@@ -32,6 +35,10 @@ struct Grip {
     [[nodiscard]] bool grown() const;
     void grow();
     void shrink();
+    /// Takes its size at that resolution; its place is for the owner to tell.
+    void setScale(const SheetScale& present);
+    /// How far beyond itself the mouse takes hold of it. A grown grip has no such reach.
+    [[nodiscard]] double reach() const;
     /// Puts the centre on `point`, by the rule of anchor 0.
     void place(const Point& point);
     [[nodiscard]] Point center() const;

@@ -10,8 +10,6 @@ namespace ormala {
 
 namespace {
 
-/// A resting grip reaches this far beyond itself; a grown one does not.
-constexpr double restingReach = 6;
 constexpr int pressedBorder = 3;
 constexpr int restingBorder = 1;
 constexpr double farAway = 9999;
@@ -43,8 +41,7 @@ std::optional<int> GripSet::nearest(double x, double y) const {
     double best = farAway;
     for (int i = 0; i < count(); ++i) {
         const Grip& grip = (*this)[i];
-        const double tolerance = grip.grown() ? 0 : restingReach;
-        if (!grip.inUse() || !HitShapeTolerant(grip.box, x, y, tolerance)) {
+        if (!grip.inUse() || !HitShapeTolerant(grip.box, x, y, grip.reach())) {
             continue;
         }
         const Point center = grip.center();
@@ -113,6 +110,17 @@ void GripSet::bringForward(std::span<const int> items) {
         const auto at = std::ranges::find(stacking_, item);
         std::rotate(at, at + 1, stacking_.end());
     }
+}
+
+bool GripSet::setScale(const SheetScale& scale) {
+    if (scale == scale_) {
+        return false;
+    }
+    scale_ = scale;
+    for (Grip& grip : grips_) {
+        grip.setScale(scale);
+    }
+    return true;
 }
 
 void GripSet::place(int index, const Point& point) {

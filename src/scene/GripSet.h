@@ -39,6 +39,10 @@ class GripSet {
     /// agree on one grip. Returns its index; the pixels of every grip that changes go to `changed`.
     std::optional<int> update(const HoverInput& input, DirtyRegion& changed);
 
+    /// Gives all grips their sizes at that resolution. Whether it is another one; the grips have to
+    /// be placed then.
+    bool setScale(const SheetScale& scale);
+
     [[nodiscard]] std::optional<int> active() const { return active_; }
     void setActive(std::optional<int> index) { active_ = index; }
 
@@ -75,6 +79,7 @@ class GripSet {
     ForwardOrder forward_;
     unsigned restackings_ = 0;
     std::optional<int> active_;
+    SheetScale scale_;
 };
 
 }  // namespace ormala

@@ -69,7 +69,8 @@ class OverlayItem {
     virtual void keyDown(int key, int shift) = 0;
     /// The item has the keyboard focus from now on.
     virtual void gotFocus() = 0;
-    /// The worksheet's client area has this size now.
+    /// The worksheet's client area has this size now, and the host's texts perhaps another
+    /// resolution.
     virtual void resize(PixelSize size) = 0;
     virtual void draw(Canvas& canvas) const = 0;
     /// The pixels that `draw` covers.

@@ -12,9 +12,11 @@ constexpr double rotateGripShare = 0.14644660940672624;
 
 constexpr Color designBorder = rgb(200, 200, 200);
 
-Grip makeGrip(float size, ShapeKind kind, Color color, Color pressed) {
+Grip makeGrip(int size, ShapeKind kind, Color color, Color pressed) {
     Grip grip;
-    grip.box = {0, 0, size, size, kind == ShapeKind::oval};
+    const auto side = static_cast<float>(size);
+    grip.box = {0, 0, side, side, kind == ShapeKind::oval};
+    grip.size = size;
     grip.kind = kind;
     grip.color = color;
     grip.pressedColor = pressed;
@@ -79,8 +81,8 @@ int indexOfStencilGrip(StencilGripKind kind, int number) {
 }
 
 std::vector<Grip> makeStencilGrips() {
-    constexpr float moveSize = 13;
-    constexpr float sideSize = 9;
+    constexpr int moveSize = 13;
+    constexpr int sideSize = 9;
     std::vector<Grip> grips;
     grips.reserve(stencilGripCount);
     grips.push_back(

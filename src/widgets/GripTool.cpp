@@ -4,7 +4,9 @@
 
 namespace ormala {
 
-GripTool::GripTool(ToolHost& host, GripSet grips) : host_(host), grips_(std::move(grips)) {}
+GripTool::GripTool(ToolHost& host, GripSet grips) : host_(host), grips_(std::move(grips)) {
+    grips_.setScale(host_.textMeter().scale());
+}
 
 bool GripTool::HitTest(double x, double y) const {
     return grips_.HitTest(x, y);
@@ -86,7 +88,11 @@ void GripTool::endDrag() {
 
 void GripTool::resize(PixelSize size) {
     sheet_ = size;
-    refresh();
+    if (grips_.setScale(host_.textMeter().scale())) {
+        layOut();
+    } else {
+        refresh();
+    }
 }
 
 void GripTool::endChanges() {

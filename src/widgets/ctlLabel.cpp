@@ -8,7 +8,7 @@ namespace ormala {
 namespace {
 
 constexpr int haloSize = 4;
-/// Letters may be drawn a little beyond the width that they are measured with.
+/// At 96 DPI.
 constexpr int overhang = 4;
 
 /// Where the stacked texts stand within the label: the text itself and its eight halo copies.
@@ -16,7 +16,9 @@ constexpr PixelPoint textOffset{2, 1};
 constexpr PixelPoint haloOffsets[] = {{2, 0}, {3, 0}, {4, 1}, {3, 2},
                                       {2, 2}, {1, 2}, {0, 1}, {1, 0}};
 
-constexpr double labelGap = 12;
+// Distances at 96 DPI.
+constexpr double gapBesideGrip = 12;
+constexpr double gapBesideLine = 6;
 
 /// A place that does not fit into a pixel coordinate lies off every screen all the same.
 int toCoordinate(double value) {
@@ -58,6 +60,7 @@ int ctlLabel::TextHeight(const TextMeter& meter) const {
 void ctlLabel::fit(const TextMeter& meter) {
     box_.right = box_.left + TextWidth(meter);
     box_.bottom = box_.top + TextHeight(meter);
+    overhang_ = meter.scale().pixels(overhang);
 }
 
 void ctlLabel::moveTo(int left, int top) {
@@ -65,7 +68,7 @@ void ctlLabel::moveTo(int left, int top) {
 }
 
 void ctlLabel::draw(Canvas& canvas) const {
-    if (!visible_ || caption_.empty() || !box_.grown(overhang).meets(canvas.visible())) {
+    if (!visible_ || caption_.empty() || !box_.grown(overhang_).meets(canvas.visible())) {
         return;
     }
     const auto put = [&](PixelPoint offset, Color color) {
@@ -82,7 +85,7 @@ void ctlLabel::draw(Canvas& canvas) const {
 
 void ctlLabel::addTo(DirtyRegion& region) const {
     if (visible_) {
-        region.add(box_.grown(overhang));
+        region.add(box_.grown(overhang_));
     }
 }
 
@@ -90,7 +93,8 @@ void PlaceInfoLabel(ctlLabel& label, const Point& point, PixelSize area, const T
     const double width = label.box().width();
     const double textWidth = label.TextWidth(meter);
     const double textHeight = label.TextHeight(meter);
-    double left = point.x - width - labelGap;
+    const double gap = meter.scale().length(gapBesideGrip);
+    double left = point.x - width - gap;
     double top = point.y - label.box().height() / 2.0;
     if (top + textHeight > area.height) {
         top = area.height - textHeight;
@@ -100,7 +104,7 @@ void PlaceInfoLabel(ctlLabel& label, const Point& point, PixelSize area, const T
     }
     top = std::max(top, 0.0);
     if (left + width - textWidth < 0) {
-        left = std::max(point.x + labelGap, 0.0);
+        left = std::max(point.x + gap, 0.0);
         label.setAlignment(Alignment::left);
     } else {
         label.setAlignment(Alignment::right);
@@ -115,7 +119,8 @@ void PlaceLabelByAnchor(ctlLabel& label, Point point, Anchor anchor, bool withGa
     if (atBottom(anchor)) {
         point.y += height - label.TextHeight(meter);
     }
-    const Point corner = PlaceFormByAnchor(label.box().width(), height, point, anchor, withGap);
+    const Point corner = PlaceFormByAnchor(label.box().width(), height, point, anchor, withGap,
+                                           meter.scale().length(gapBesideLine));
     label.moveTo(toCoordinate(corner.x), toCoordinate(corner.y));
 }
 

@@ -50,7 +50,11 @@ class ctlLabel {
     Color backColor_ = 0xFFFFFF;
     bool visible_ = false;
     PixelRect box_;
+    /// Letters may be drawn a little beyond the width that they are measured with.
+    int overhang_ = 0;
 };
+
+// Both scale their distances with the resolution of the texts.
 
 /// Puts the label 12 pixels to the left of `point`, vertically centred on it, inside an area of the
 /// given size; to the right of it where the text would run off the left edge.

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "reference/ReferenceTable.h"
 #include "support/FakeTextMeter.h"
@@ -35,6 +36,23 @@ TEST(MeasureLabels, ConnectedLinesShowTheSmallerAngleOnly) {
     std::swap(state.LineA, state.LineB);
     EXPECT_EQ(shownAngles(labelsOf(state)), 1);
     EXPECT_EQ(labelsOf(state).lblAngle1().Caption(), "0\r\n90.00°");
+}
+
+TEST(MeasureLabels, CircleGrowsWithTheResolutionAndTheAnglesStandOnIt) {
+    for (const auto& [dpi, diameter] : {std::pair{96, 61}, {144, 91}, {192, 123}}) {
+        FakeTextMeter meter;
+        meter.present = SheetScale(dpi);
+        MeasureLabels labels;
+        // The point opposite to the bisector lies straight above.
+        const MeasureState state{true, {600, 500, 500, 400}, {400, 500, 500, 400}};
+        labels.arrange(state, {}, true, {}, meter);
+        ASSERT_TRUE(labels.shpCircle());
+        const int half = diameter / 2;
+        EXPECT_EQ(*labels.shpCircle(), (PixelRect{500 - half, 400 - half, 501 + half, 401 + half}));
+        const bool first = labels.lblAngle1().visible();
+        const ctlLabel& shown = first ? labels.lblAngle1() : labels.lblAngle2();
+        EXPECT_NEAR(shown.box().top, 400 + diameter / 2.0, 1);
+    }
 }
 
 TEST(MeasureLabels, EqualAnglesShowTheSecondLabelOnly) {

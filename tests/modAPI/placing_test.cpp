@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace ormala {
 namespace {
 
@@ -39,6 +41,14 @@ TEST(PlaceFormByAnchor, GapIsSixAlongTheAxis) {
     EXPECT_EQ(PlaceFormByAnchor(10, 6, at, Anchor::bottomCentre, true), (Point{95, 39}));
     EXPECT_EQ(PlaceFormByAnchor(10, 6, at, Anchor::rightCentre, true), (Point{85, 47}));
     EXPECT_EQ(PlaceFormByAnchor(10, 6, at, Anchor::leftCentre, true), (Point{106, 47}));
+}
+
+TEST(PlaceFormByAnchor, GapIsAsWideAsItIsTold) {
+    const Point at{100, 50};
+    EXPECT_EQ(PlaceFormByAnchor(10, 6, at, Anchor::leftCentre, true, 12), (Point{112, 47}));
+    EXPECT_DOUBLE_EQ(PlaceFormByAnchor(10, 6, at, Anchor::topLeft, true, 12).x,
+                     100 + std::sqrt(72.0));
+    EXPECT_EQ(PlaceFormByAnchor(10, 6, at, Anchor::leftCentre, false, 12), (Point{100, 47}));
 }
 
 TEST(PlaceFormByAnchor, GapOfACornerIsSixAlongTheDiagonal) {

@@ -59,6 +59,18 @@ TEST(GripSet, GripOfWidthNineIsHitSixPixelsOutside) {
     EXPECT_FALSE(hover(grips, 111, 100));
 }
 
+TEST(GripSet, AtTwiceTheResolutionAGripIsHitTwelvePixelsOutside) {
+    GripSet grips = gripsAt({{100, 100}});
+    EXPECT_FALSE(grips.setScale(SheetScale(96)));
+    EXPECT_TRUE(grips.setScale(SheetScale(192)));
+    grips.place(0, {100, 100});  // covers 91 to 109
+    EXPECT_FALSE(hover(grips, 78, 100));
+    EXPECT_TRUE(hover(grips, 79, 100));
+    EXPECT_EQ(grips[0].pixels(), (PixelRect{79, 79, 122, 122}));
+    EXPECT_FALSE(hover(grips, 300, 300));
+    EXPECT_EQ(grips[0].pixels(), (PixelRect{91, 91, 110, 110}));
+}
+
 TEST(GripSet, GrownGripIsHitOnItsOwnAreaOnly) {
     GripSet grips = gripsAt({{100, 100}});
     hover(grips, 100, 100);

@@ -37,6 +37,58 @@ TEST(Grip, ShrinksBackToWhereItWas) {
     }
 }
 
+/// A grip of that design size on (200, 100) at a resolution.
+Grip gripAt(int dpi, int size) {
+    Grip grip = gripOfSize(static_cast<float>(size));
+    grip.size = size;
+    grip.setScale(SheetScale(dpi));
+    grip.place({200, 100});
+    return grip;
+}
+
+struct SizeAtDpi {
+    int dpi;
+    int size;
+    int resting;
+    int grown;
+    double reach;
+};
+
+constexpr SizeAtDpi sizesAtDpi[] = {
+    {96, 9, 9, 21, 6},    {96, 13, 13, 25, 6},   {120, 9, 11, 27, 7.5}, {120, 13, 17, 33, 7.5},
+    {144, 9, 13, 31, 9},  {144, 13, 19, 37, 9},  {192, 9, 19, 43, 12},  {192, 13, 27, 51, 12},
+    {240, 9, 23, 53, 15}, {240, 13, 33, 63, 15},
+};
+
+TEST(Grip, KeepsItsSizeToTheHandAtEveryResolutionWithAPixelInTheMiddle) {
+    for (const SizeAtDpi& expected : sizesAtDpi) {
+        Grip grip = gripAt(expected.dpi, expected.size);
+        const int half = expected.resting / 2;
+        EXPECT_EQ(grip.pixels(),
+                  (PixelRect{200 - half, 100 - half, 200 + half + 1, 100 + half + 1}))
+            << expected.dpi;
+        EXPECT_FALSE(grip.grown()) << expected.dpi;
+        EXPECT_EQ(grip.reach(), expected.reach);
+        grip.grow();
+        EXPECT_TRUE(grip.grown()) << expected.dpi;
+        EXPECT_EQ(grip.pixels().width(), expected.grown) << expected.dpi;
+        EXPECT_EQ(grip.pixels().right - 201, 200 - grip.pixels().left);
+        EXPECT_EQ(grip.reach(), 0);
+        grip.shrink();
+        EXPECT_EQ(grip, gripAt(expected.dpi, expected.size));
+    }
+}
+
+TEST(Grip, StaysGrownWhenTheResolutionChanges) {
+    Grip grip = gripAt(96, 9);
+    grip.grow();
+    grip.setScale(SheetScale(192));
+    EXPECT_TRUE(grip.grown());
+    EXPECT_EQ(grip.pixels().width(), 43);
+    grip.setScale(SheetScale(96));
+    EXPECT_EQ(grip.pixels().width(), 21);
+}
+
 TEST(Grip, PlacesItsMiddlePixelOnThePoint) {
     Grip grip = gripOfSize(9);
     grip.place({200.4, 99.5});

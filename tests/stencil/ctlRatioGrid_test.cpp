@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <stdexcept>
+#include <tuple>
 
 #include "modAPI/constants.h"
 #include "modAPI/rectangles.h"
@@ -14,6 +15,47 @@ namespace ormala {
 namespace {
 
 using Kind = RecordingCanvas::Kind;
+
+TEST(CtlRatioGrid, GripsTakeTheResolutionOfTheWorksheetAndStayOnTheirPoints) {
+    StencilOnSheet stage;
+    const StencilState before = stage.state();
+    for (const auto& [dpi, move, side] : {std::tuple{192, 27, 19}, {144, 19, 13}, {96, 13, 9}}) {
+        stage.host.meter.present = SheetScale(dpi);
+        stage.tool.resize(StencilOnSheet::sheet);
+        EXPECT_EQ(stage.grip(StencilGripKind::move).pixels().width(), move);
+        for (const StencilGripKind kind :
+             {StencilGripKind::size, StencilGripKind::sizeCorner, StencilGripKind::rotate}) {
+            EXPECT_EQ(stage.grip(kind, 2).pixels().width(), side);
+            const Point off = stage.grip(kind, 2).center();
+            EXPECT_NEAR(off.x, stage.gripAt(kind, 2).x, 1.01);
+            EXPECT_NEAR(off.y, stage.gripAt(kind, 2).y, 1.01);
+        }
+    }
+    EXPECT_EQ(stage.state(), before) << "the tool's own coordinates are pixels of the screen";
+}
+
+TEST(CtlRatioGrid, ChangeOfTheResolutionRepaintsWhatWasAndWhatIs) {
+    StencilOnSheet stage;
+    const PixelRect small = stage.grip(StencilGripKind::move).pixels();
+    stage.host.meter.present = SheetScale(192);
+    stage.host.forget();
+    stage.tool.resize(StencilOnSheet::sheet);
+    EXPECT_TRUE(stage.host.repainted.meets(small));
+    EXPECT_TRUE(stage.tool.footprint().meets(stage.grip(StencilGripKind::move).pixels()));
+}
+
+TEST(CtlRatioGrid, GripIsDraggedFromWhereTheHandTookItAtEveryResolution) {
+    for (const int dpi : {96, 144, 192}) {
+        StencilOnSheet stage;
+        stage.host.meter.present = SheetScale(dpi);
+        stage.tool.resize(StencilOnSheet::sheet);
+        const Rect before = stage.tool.RectBound();
+        const Point center = stage.grip(StencilGripKind::move).center();
+        stage.dragBy({center.x + 3, center.y - 4}, {30, 20});
+        EXPECT_NEAR(stage.tool.RectBound().left, before.left + 30, 1) << dpi;
+        EXPECT_NEAR(stage.tool.RectBound().top, before.top + 20, 1) << dpi;
+    }
+}
 
 TEST(CtlRatioGrid, StartsWithItsDefaults) {
     StencilOnSheet stage;

@@ -6,12 +6,15 @@
 
 namespace ormala {
 
-/// A font whose letters are all 6 by 13 pixels.
+/// A font whose letters are all 6 by 13 pixels, at any resolution.
 class FakeTextMeter : public TextMeter {
   public:
     static constexpr int letterWidth = 6;
     static constexpr int lineHeight = 13;
 
+    SheetScale present;
+
+    [[nodiscard]] SheetScale scale() const override { return present; }
     [[nodiscard]] PixelSize measure(std::string_view text, int) const override {
         int longest = 0;
         int lines = 1;

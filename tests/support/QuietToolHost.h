@@ -13,6 +13,7 @@ class QuietToolHost : public ToolHost, private TextMeter {
     void runTimer(Ticking& /*ticking*/, int /*interval*/, bool /*running*/) override {}
 
   private:
+    SheetScale scale() const override { return SheetScale(); }
     PixelSize measure(std::string_view /*text*/, int /*size*/) const override { return {}; }
 };
 

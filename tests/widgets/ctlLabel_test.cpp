@@ -94,6 +94,30 @@ TEST(PlaceInfoLabel, StandsTwelvePixelsToTheLeftAndCentredOnThePoint) {
     EXPECT_EQ(label.Alignment(), Alignment::right);
 }
 
+TEST(PlaceInfoLabel, StandsFurtherAwayAtAHigherResolution) {
+    for (const auto& [dpi, gap] : {std::pair{96, 12}, {144, 18}, {192, 24}}) {
+        FakeTextMeter meter;
+        meter.present = SheetScale(dpi);
+        ctlLabel label = labelWith("abc");
+        PlaceInfoLabel(label, {300, 200}, sheet, meter);
+        EXPECT_EQ(label.box().right, 300 - gap);
+        PlaceInfoLabel(label, {30, 200}, sheet, meter);
+        EXPECT_EQ(label.box().left, 30 + gap);
+    }
+}
+
+TEST(PlaceLabelByAnchor, StandsFurtherAwayAtAHigherResolution) {
+    for (const auto& [dpi, gap] : {std::pair{96, 6}, {144, 9}, {192, 12}}) {
+        FakeTextMeter meter;
+        meter.present = SheetScale(dpi);
+        ctlLabel label = labelWith("abc");
+        PlaceLabelByAnchor(label, {300, 200}, Anchor::leftCentre, true, meter);
+        EXPECT_EQ(label.box().left, 300 + gap);
+        PlaceLabelByAnchor(label, {300, 200}, Anchor::leftCentre, false, meter);
+        EXPECT_EQ(label.box().left, 300);
+    }
+}
+
 TEST(PlaceInfoLabel, GoesToTheRightWhereTheTextWouldRunOffTheLeft) {
     const ctlLabel label = beside({33, 200}, "abc");
     EXPECT_EQ(label.box().left, 45);

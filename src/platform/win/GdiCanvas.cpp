@@ -51,6 +51,11 @@ Color systemColor(int index) {
 
 GdiFonts::GdiFonts(int dpi) : dpi_(dpi), context_(CreateCompatibleDC(nullptr)) {}
 
+void GdiFonts::setDpi(int dpi) {
+    dpi_ = dpi;
+    font_.reset();
+}
+
 HFONT GdiFonts::font(int size) const {
     if (size_ != size || !font_) {
         font_ = worksheetFont(dpi_, size);

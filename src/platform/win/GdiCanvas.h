@@ -7,11 +7,13 @@
 
 namespace ormala {
 
-/// The fonts of the worksheet's texts, not smoothed, at the system's resolution.
+/// The fonts of the worksheet's texts, not smoothed, at the resolution of its monitor.
 class GdiFonts : public TextMeter {
   public:
     explicit GdiFonts(int dpi);
+    void setDpi(int dpi);
 
+    [[nodiscard]] SheetScale scale() const override { return SheetScale(dpi_); }
     [[nodiscard]] HFONT font(int size) const;
     [[nodiscard]] PixelSize measure(std::string_view text, int size) const override;
 

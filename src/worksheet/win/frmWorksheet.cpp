@@ -32,16 +32,11 @@ RECT areaToFill(HWND window) {
                                   fromRect(isPrimary ? primaryWorkArea() : monitor.rcMonitor)));
 }
 
-int systemDpi() {
-    const WindowContext screen(nullptr);
-    return GetDeviceCaps(screen.get(), LOGPIXELSY);
-}
-
 }  // namespace
 
 frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
                            WorksheetCommands& commands)
-    : fonts_(systemDpi()),
+    : fonts_(designDpi),
       foreground_(foreground),
       commands_(commands),
       sheet_(*this, *this, factory),
@@ -57,6 +52,7 @@ frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
     design.extendedStyle = WS_EX_LAYERED | WS_EX_TOPMOST;
     design.place = primaryWorkArea();
     create(design);
+    takeDpi(GetDpiForWindow(handle()));
     tip_ = std::make_unique<TipWindow>(handle());
     CrossHairX_ = std::make_unique<frmCrossHair>(handle(), "CrossHairX");
     CrossHairY_ = std::make_unique<frmCrossHair>(handle(), "CrossHairY");
@@ -147,7 +143,17 @@ void frmWorksheet::setBackground(COLORREF color) {
     }
 }
 
+void frmWorksheet::takeDpi(UINT dpi) {
+    const SheetScale former = fonts_.scale();
+    fonts_.setDpi(static_cast<int>(dpi));
+    if (fonts_.scale() != former) {
+        sheet_.resize(sheet_.size());
+    }
+}
+
 void frmWorksheet::show() {
+    // Whoever is hidden may not have been told of another one.
+    takeDpi(GetDpiForWindow(handle()));
     ShowWindow(handle(), SW_SHOWNA);
     if (clickable_) {
         // A key that was taken away while the window was hidden can be left behind in its shape.

@@ -81,6 +81,9 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     /// Two circles that open with a drag on the background.
     void setCircleCompassEnabled(bool enabled) { circleCompassEnabled_ = enabled; }
 
+    /// Meanwhile the tools do not learn that the window gets or loses the keyboard; at the end they
+    /// learn who has it then.
+    void setFocusHeld(bool held);
     void show();
     void hide();
     /// Lets the window lay itself out and repaint after it was hidden.
@@ -111,10 +114,13 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     void ApplyLayered();
     void fillScreen();
     void letGoOfMouse();
+    /// Of the monitor that the window is on.
+    void takeDpi(UINT dpi);
     LRESULT onPress(int button, WPARAM wParam, LPARAM lParam);
     LRESULT onMove(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onRelease(int button, WPARAM wParam, LPARAM lParam);
     LRESULT onCaptureLost();
+    LRESULT onFocus(bool focused);
     LRESULT onTimer(WPARAM id);
     LRESULT onResize();
     LRESULT onDisplayChange();
@@ -160,6 +166,9 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     bool circleCompassEnabled_ = false;
     bool clickable_ = false;
     bool transparentToMouse_ = false;
+    bool focusHeld_ = false;
+    /// What the tools know.
+    bool focusKnown_ = false;
     bool maxSized_ = true;
     int alpha_ = 255;
     int clickAlpha_ = 255;

@@ -53,13 +53,9 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
             // Releasing Alt after a drag must not open a menu that takes the keys away.
             return (wParam & 0xFFF0U) == SC_KEYMENU ? std::optional<LRESULT>(0) : std::nullopt;
         case WM_SETFOCUS:
-            sheet_.windowGotFocus();
-            paintNow();
-            return 0;
+            return onFocus(true);
         case WM_KILLFOCUS:
-            sheet_.windowLostFocus();
-            paintNow();
-            return 0;
+            return onFocus(false);
         case WM_TIMER:
             return onTimer(wParam);
         case WM_SIZE:
@@ -67,6 +63,11 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
         case WM_MOVE:
             placed.raise();
             return std::nullopt;
+        case WM_DPICHANGED:
+            // Where it lies then is for its frame to tell, or for the screen that it fills.
+            takeDpi(HIWORD(wParam));
+            paintNow();
+            return 0;
         case WM_DISPLAYCHANGE:
             return onDisplayChange();
         case WM_CLOSE:
@@ -114,6 +115,28 @@ LRESULT frmWorksheet::onCaptureLost() {
         paintNow();
     }
     return 0;
+}
+
+LRESULT frmWorksheet::onFocus(bool focused) {
+    if (focusHeld_) {
+        return 0;
+    }
+    focusKnown_ = focused;
+    if (focused) {
+        sheet_.windowGotFocus();
+    } else {
+        sheet_.windowLostFocus();
+    }
+    paintNow();
+    return 0;
+}
+
+void frmWorksheet::setFocusHeld(bool held) {
+    focusHeld_ = held;
+    const bool focused = GetFocus() == handle();
+    if (!held && focused != focusKnown_) {
+        onFocus(focused);
+    }
 }
 
 LRESULT frmWorksheet::onTimer(WPARAM id) {
