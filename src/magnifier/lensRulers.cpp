@@ -123,7 +123,9 @@ RulerLook rulerLook(LensScale scale, const LensLayout& layout, const ScaleGlyphs
     if (look.isRow()) {
         look.middle += layout.picLens.left - place.left;
         look.first = -20 * look.LabelStep * factor;
-        look.last = layout.picLens.width() - place.width() + layout.LensWidth;
+        // Beside wide strips that would end before the image does.
+        look.last = std::max(layout.picLens.width() - place.width() + layout.LensWidth,
+                             layout.LensWidth - 1);
     } else {
         const int halfText = (glyphs.height + 1) / 2;
         look.first = -10 * factor;
@@ -143,6 +145,14 @@ RulerMark rulerMark(const RulerLook& look, int position) {
         placeInColumn(mark, look, position + look.middle, look.dpi);
     }
     return mark;
+}
+
+bool labelFits(const RulerLook& look, const RulerMark& mark, const ScaleGlyphs& glyphs) {
+    if (look.isRow()) {
+        return mark.tick.from.x >= 0 &&
+               mark.text.x + NumberText(mark.Value).width(glyphs) <= look.canvas.width;
+    }
+    return mark.tick.from.y >= 0 && mark.text.y + glyphs.height <= look.canvas.height;
 }
 
 void FillRows(const PixelView& canvas, Color from, Color to) {
@@ -179,7 +189,7 @@ void drawRuler(const PixelView& canvas, const PixelView& background, const Ruler
             continue;
         }
         drawLine(canvas, pens.tick, mark.tick);
-        if (mark.isLabel) {
+        if (mark.isLabel && labelFits(look, mark, glyphs)) {
             drawLabel(canvas, pens, mark, look.isRow(), glyphs);
         }
     }

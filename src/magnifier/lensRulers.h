@@ -75,6 +75,8 @@ struct RulerMark {
     PixelPoint text;
 };
 RulerMark rulerMark(const RulerLook& look, int position);
+/// Whether the whole label lies on the scale. One that either end would cut is not drawn.
+bool labelFits(const RulerLook& look, const RulerMark& mark, const ScaleGlyphs& glyphs);
 
 /// The empty scales: from a lighter grey to a darker one, downwards and to the right.
 void FillRows(const PixelView& canvas, Color from, Color to);

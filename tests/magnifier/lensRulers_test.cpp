@@ -186,7 +186,7 @@ TEST(RulerMarks, GrowWithTheResolution) {
 TEST(RulerWalk, StartsAndEndsOutsideTheImage) {
     const RulerLook top = lookOf(LensScale::top, 4);
     EXPECT_EQ(top.first, -80);
-    EXPECT_EQ(top.last, 300 - 356 + 300);
+    EXPECT_EQ(top.last, 299);
     const RulerLook fine = lookOf(LensScale::bottom, 1);
     EXPECT_EQ(fine.first, -100);
     const RulerLook right = lookOf(LensScale::right, 4);
@@ -195,6 +195,82 @@ TEST(RulerWalk, StartsAndEndsOutsideTheImage) {
     const RulerLook left = lookOf(LensScale::left, 4);
     EXPECT_EQ(left.first, -40);
     EXPECT_EQ(left.last, 307);
+}
+
+TEST(RulerWalk, EndsWhereTheStripDoesIfThatIsLater) {
+    const LensLayout layout = layOutLens({{310, 340}, 4, false, {true, true, false, false}, 96});
+    ASSERT_EQ(layout.LensWidth, 300);
+    EXPECT_EQ(rulerLook(LensScale::bottom, layout, glyphs(), 0, 96).last, 300);
+}
+
+TEST(RulerWalk, GivesEveryPixelOfTheImageItsTick) {
+    for (const LensScale scale : lensScales) {
+        for (int factor = 1; factor <= 10; ++factor) {
+            const RulerLook look = lookOf(scale, factor, 3, true);
+            const LensLayout layout = layoutOf(factor, true);
+            const PixelSheet sheet = drawn(look);
+            const int pixels = look.isRow() ? layout.SourceWidth : layout.SourceHeight;
+            for (int pixel = 0; pixel < pixels; ++pixel) {
+                const RulerMark mark = rulerMark(look, pixel * factor);
+                if (mark.Length == 0) {
+                    continue;
+                }
+                const bool atEnd = scale == LensScale::top || scale == LensScale::left;
+                const int at = look.isRow() ? mark.tick.from.x : mark.tick.from.y;
+                const int edge = look.isRow() ? look.canvas.height : look.canvas.width;
+                const int rim = atEnd ? edge - 1 : 0;
+                EXPECT_EQ(look.isRow() ? sheet.at(at, rim) : sheet.at(rim, at), ink)
+                    << "pixel " << pixel << " at factor " << factor;
+            }
+        }
+    }
+}
+
+TEST(RulerLabels, ThatAnEndOfTheScaleWouldCutAreNotDrawn) {
+    const RulerLook top = lookOf(LensScale::top, 4);
+    const auto labels = labelsOf(top);
+    // The line of -10 lies before the strip, the end of its number would not.
+    EXPECT_FALSE(labelFits(top, labels.at(-10), glyphs()));
+    EXPECT_TRUE(labelFits(top, labels.at(0), glyphs()));
+    RulerMark last = rulerMark(top, 280);
+    last.Value = 1234;
+    last.text.x = top.canvas.width - 4 * 6;
+    EXPECT_TRUE(labelFits(top, last, glyphs()));
+    last.text.x += 1;
+    EXPECT_FALSE(labelFits(top, last, glyphs())) << "a digit would be halved";
+    const RulerLook right = lookOf(LensScale::right, 4);
+    RulerMark lowest = rulerMark(right, 280);
+    lowest.text.y = right.canvas.height - glyphs().height;
+    EXPECT_TRUE(labelFits(right, lowest, glyphs()));
+    lowest.text.y += 1;
+    EXPECT_FALSE(labelFits(right, lowest, glyphs()));
+}
+
+TEST(RulerLabels, ThatWouldBeCutLeaveTheirTickAndNothingElse) {
+    int cut = 0;
+    for (const LensScale scale : lensScales) {
+        for (int base = -1010; base < 1000; base += 7) {
+            const RulerLook look = lookOf(scale, 4, base);
+            const PixelSheet sheet = drawn(look);
+            for (const auto& [value, mark] : labelsOf(look)) {
+                const int at = look.isRow() ? mark.tick.from.x : mark.tick.from.y;
+                const int length = look.isRow() ? look.canvas.width : look.canvas.height;
+                if (at < 0 || at >= length || labelFits(look, mark, glyphs())) {
+                    continue;
+                }
+                ++cut;
+                const PixelPoint tick = mark.tick.to;
+                const PixelPoint beyond = mark.toEdge.to;
+                const int middle = (look.isRow() ? tick.y + beyond.y : tick.x + beyond.x) / 2;
+                EXPECT_NE(look.isRow() ? sheet.at(at, middle) : sheet.at(middle, at), quietInk)
+                    << value;
+                const int rim = look.isRow() ? std::min(mark.tick.from.y, look.canvas.height - 1)
+                                             : std::min(mark.tick.from.x, look.canvas.width - 1);
+                EXPECT_EQ(look.isRow() ? sheet.at(at, rim) : sheet.at(rim, at), ink) << value;
+            }
+        }
+    }
+    EXPECT_GT(cut, 100);
 }
 
 TEST(RulerBackground, RunsFromLightToDark) {

@@ -76,8 +76,10 @@ void CommandBar::layOut(const SettingsLayout& layout, int dpi) {
         label->setDpi(dpi);
     }
     gradToolbar_.place(layout.gradToolbar);
-    lblPath_.place(layout.lblPath);
-    lblInfo_.place(layout.lblInfo);
+    pathPlace_ = layout.lblPath;
+    infoPlace_ = layout.lblInfo;
+    lblPath_.place(pathPlace_);
+    lblInfo_.place(lblPath_.isVisible() ? infoPlace_ : pathPlace_);
 }
 
 void CommandBar::ApplyLanguage() {
@@ -133,7 +135,16 @@ int CommandBar::pathWidth() const {
 }
 
 void CommandBar::showInfo(const std::string& text) {
+    lblInfo_.place(infoPlace_);
     lblInfo_.setText(text);
+    lblInfo_.setVisible(!text.empty());
+    lblPath_.setVisible(true);
+}
+
+void CommandBar::showNote(const std::string& text) {
+    lblInfo_.place(text.empty() ? infoPlace_ : pathPlace_);
+    lblInfo_.setText(text);
+    lblPath_.setVisible(text.empty());
     lblInfo_.setVisible(!text.empty());
 }
 

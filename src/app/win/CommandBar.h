@@ -36,8 +36,11 @@ class CommandBar {
     /// The width of a text on the path line is measured with this.
     [[nodiscard]] const Label& lblPath() const { return lblPath_; }
 
-    /// Empty for none.
+    /// Over the panels. Empty for none.
     void showInfo(const std::string& text);
+    /// In the place of the path, so that it is seen at every height and hides no panel. Empty for
+    /// the path again.
+    void showNote(const std::string& text);
 
     Event<Command> chosen;
 
@@ -54,6 +57,8 @@ class CommandBar {
     ButtonGrowth growth_;
     Label lblPath_;
     Label lblInfo_;
+    PixelRect infoPlace_;
+    PixelRect pathPlace_;
 };
 
 }  // namespace ormala

@@ -2,8 +2,9 @@
 
 #include <dwmapi.h>
 
+#include <utility>
+
 #include "app/win/OffScreen.h"
-#include "platform/win/clipboard.h"
 
 namespace ormala {
 
@@ -27,14 +28,77 @@ void letScreenSettle() {
     DwmFlush();
 }
 
+/// Gives the keyboard back to who had it, should a window manager have passed it on while the
+/// window that had it was off all screens.
+class KeptFocus {
+  public:
+    explicit KeptFocus(frmWorksheet& worksheet)
+        : worksheet_(worksheet), front_(GetForegroundWindow()), focus_(GetFocus()) {
+        worksheet_.setFocusHeld(true);
+    }
+    KeptFocus(const KeptFocus&) = delete;
+    KeptFocus& operator=(const KeptFocus&) = delete;
+    ~KeptFocus() {
+        if (focus_ != nullptr && GetFocus() != focus_) {
+            SetForegroundWindow(front_);
+            SetFocus(focus_);
+        }
+        worksheet_.setFocusHeld(false);
+    }
+
+  private:
+    frmWorksheet& worksheet_;
+    HWND front_;
+    HWND focus_;
+};
+
 }  // namespace
 
-void takeScreenShot(HWND control, HWND worksheet) {
-    const OffScreen aside(control);
-    letScreenSettle();
-    RECT area{};
-    GetWindowRect(worksheet, &area);
-    copyScreenToClipboard(control, area);
+void ScreenShot::take(frmWorksheet& worksheet) {
+    {
+        const KeptFocus focus(worksheet);
+        const OffScreen aside(control_);
+        letScreenSettle();
+        picture_.emplace(worksheet.rectangle());
+    }
+    patientUntil_ = GetTickCount64() + clipboardPatience;
+    deliver();
+}
+
+void ScreenShot::tick() {
+    if (picture_) {
+        deliver();
+    } else {
+        KillTimer(control_, timer_);
+    }
+}
+
+void ScreenShot::deliver() {
+    if (!picture_->isHere()) {
+        tell(ShotOutcome::failed);
+        return;
+    }
+    switch (picture_->putOnClipboard(control_)) {
+        case ScreenPicture::Answer::taken:
+            tell(ShotOutcome::copied);
+            break;
+        case ScreenPicture::Answer::refused:
+            tell(ShotOutcome::failed);
+            break;
+        case ScreenPicture::Answer::held:
+            if (GetTickCount64() >= patientUntil_) {
+                tell(ShotOutcome::held);
+            } else {
+                SetTimer(control_, timer_, clipboardInterval, nullptr);
+            }
+            break;
+    }
+}
+
+void ScreenShot::tell(ShotOutcome outcome) {
+    KillTimer(control_, timer_);
+    const ScreenPicture picture = *std::exchange(picture_, std::nullopt);
+    told.raise(shotNote(outcome, picture.size()));
 }
 
 }  // namespace ormala

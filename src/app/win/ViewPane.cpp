@@ -2,7 +2,7 @@
 
 #include "app/modes.h"
 #include "app/version.h"
-#include "app/win/ScreenShot.h"
+#include "app/win/settingsIds.h"
 #include "dialogs/win/frmOptions.h"
 #include "language/LanguageSupport.h"
 #include "language/MlStringModule.h"
@@ -55,11 +55,13 @@ ViewPane::ViewPane(const Ports& ports)
     : ports_(ports),
       controls_(ports.window.handle()),
       lens_({ports.host, ports.worksheet, frmMenu_, [this](int page) { ShowOptions(page); },
-             [this](POINT screen) { askForMenu(true, screen); }, [this] { SetLens(false); }}) {
+             [this](POINT screen) { askForMenu(true, screen); }, [this] { SetLens(false); }}),
+      shot_(ports.window.handle(), tmrClipboard) {
     editTransparency_ =
         controls_.transparencyEditModeChanged().subscribe([this] { applyTransparency(); });
     templateTransparency_ =
         controls_.transparencyTemplateModeChanged().subscribe([this] { applyTransparency(); });
+    shotTold_ = shot_.told.subscribe([this](const std::string& note) { showNote(note); });
     color_ = controls_.worksheetColorChanged().subscribe([this] { applyColor(); });
 }
 
@@ -193,12 +195,28 @@ void ViewPane::takeScreenShot() {
     shotOf_ = states;
     lens_.setAside(true);
     ports_.worksheet.setCrossHairEnabled(false);
-    ormala::takeScreenShot(ports_.window.handle(), ports_.worksheet.handle());
+    ports_.bar.showNote({});
+    shot_.take(ports_.worksheet);
     shotOf_.reset();
     if (states.lens) {
         lens_.setAside(false);
     }
     ports_.worksheet.setCrossHairEnabled(states.crossHair);
+}
+
+void ViewPane::showNote(const std::string& text) {
+    constexpr UINT readingTime = 4000;
+    ports_.bar.showNote(text);
+    SetTimer(ports_.window.handle(), tmrNote, readingTime, nullptr);
+}
+
+void ViewPane::tick(UINT_PTR timer) {
+    if (timer == tmrClipboard) {
+        shot_.tick();
+    } else if (timer == tmrNote) {
+        KillTimer(ports_.window.handle(), tmrNote);
+        ports_.bar.showNote({});
+    }
 }
 
 void ViewPane::applyTransparency() {

@@ -5,6 +5,7 @@
 #include "app/Options.h"
 #include "app/win/CommandBar.h"
 #include "app/win/LensPane.h"
+#include "app/win/ScreenShot.h"
 #include "app/win/ViewHost.h"
 #include "app/win/WorksheetControls.h"
 #include "app/win/frmMenu.h"
@@ -66,6 +67,9 @@ class ViewPane : public OptionsPort {
     /// A message that the pane has sent the window.
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam);
 
+    /// A timer of the control window that is not its own.
+    void tick(UINT_PTR timer);
+
     /// For that moment the view is not what the user has made it, and takes no command.
     [[nodiscard]] bool takesScreenShot() const { return shotOf_.has_value(); }
 
@@ -78,6 +82,7 @@ class ViewPane : public OptionsPort {
     void toggle(Command command, bool on);
     void choose(MenuEntry entry);
     void takeScreenShot();
+    void showNote(const std::string& text);
     [[nodiscard]] HWND ownerOfDialogs() const;
     void applyTransparency();
     void applyColor();
@@ -92,6 +97,8 @@ class ViewPane : public OptionsPort {
     POINT menuPlace_{};
     /// What was shown before the screen shot that is being taken.
     std::optional<ToggleStates> shotOf_;
+    ScreenShot shot_;
+    Subscription shotTold_;
     Subscription editTransparency_;
     Subscription templateTransparency_;
     Subscription color_;

@@ -32,6 +32,12 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
             return std::nullopt;
         case WM_ACTIVATE:
             return onActivate(wParam, reinterpret_cast<HWND>(lParam));
+        case WM_WINDOWPOSCHANGED:
+            if ((reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_NOZORDER) == 0) {
+                // A magnifier beside the mouse stays in front of it.
+                raiseLens(true);
+            }
+            return std::nullopt;
         case WM_MOUSEACTIVATE:
             return onMouseActivate(wParam, lParam);
         case WM_SETFOCUS:
@@ -180,8 +186,10 @@ LRESULT frmSettings::onFocus() {
 LRESULT frmSettings::onTimer(WPARAM id) {
     if (id == tmrButtonBig) {
         bar_->growButtons(IsWindowEnabled(handle()) == FALSE, dpi_);
-    } else {
+    } else if (id == tmrFast) {
         tools_->tick();
+    } else {
+        view_->tick(id);
     }
     return 0;
 }

@@ -2,6 +2,7 @@
 // Needs the system's basic types, which come with the window.
 #include <shellapi.h>
 
+#include <array>
 #include <utility>
 
 #include "app/win/KeyboardHandover.h"
@@ -36,6 +37,14 @@ std::wstring programFolder() {
         }
         path.resize(path.size() * 2);
     }
+}
+
+/// With the program that the user opens such files with.
+bool openFile(HWND window, const std::wstring& path) {
+    constexpr INT_PTR lastError = 32;
+    const HINSTANCE answer =
+        ShellExecuteW(window, nullptr, path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    return reinterpret_cast<INT_PTR>(answer) > lastError;
 }
 
 bool fileIsThere(const std::wstring& path) {
@@ -198,10 +207,14 @@ void frmSettings::UpdateCaption() {
 }
 
 void frmSettings::ShowHelp() {
-    const std::wstring name = wide(MlString(265, "help_en.html"));
+    const std::array file{MlString(265, "help_en.html")};
+    const std::wstring name = wide(file[0]);
     const std::wstring path = fileIsThere(name) ? name : programFolder() + name;
-    ShellExecuteW(handle(), nullptr, path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
-    SetMode(mode::pause, false);
+    if (fileIsThere(path) && openFile(handle(), path)) {
+        SetMode(mode::pause, false);
+    } else {
+        messages_.showError(MlFormat(MlString(562, "The help could not be opened:%n%0"), file));
+    }
 }
 
 void frmSettings::stepHistory(OverlayItem& item, bool back) {

@@ -9,6 +9,9 @@ namespace ormala {
 /// The shared clock, and that of the buttons that grow.
 inline constexpr UINT_PTR tmrFast = 1;
 inline constexpr UINT_PTR tmrButtonBig = 2;
+/// While another program holds the clipboard, and while a note is shown.
+inline constexpr UINT_PTR tmrClipboard = 3;
+inline constexpr UINT_PTR tmrNote = 4;
 
 /// Above those of the toolbar.
 inline constexpr int idList = 200;

@@ -37,21 +37,21 @@ void LensImage::setPlace(const LensLayout& layout) {
 }
 
 void LensImage::forgetPointer() {
-    knownPointer_ = nullptr;
+    knownPointer_.reset();
 }
 
 void LensImage::refresh(const LensImageLook& look, PixelPoint source, const PixelRect& bounds) {
     capture(look.layout, source, bounds);
     const HCURSOR pointer = look.options.cursorOn ? currentPointer() : nullptr;
-    if (look == lastLook_ && pointer == lastPointer_ &&
+    if (look == lastLook_ && knownPointer_ == pointer &&
         samePixels(picInter_.view(), lastPicture_.view())) {
         return;
     }
     lastLook_ = look;
-    lastPointer_ = pointer;
+    takePointer(pointer);
     enlarge(look.layout);
-    DrawCursor(look, pointer);
     const PixelView picBuff = picLens_.picture().view();
+    drawPointer(picBuff, pointerPicture_, look.hotSpot, look.layout.Factor);
     DrawGrid(picBuff, look, &systemColor);
     DrawHotSpot(picBuff, look, &systemColor);
     // A grid that is switched on keeps the last row and column free at any factor.
@@ -81,15 +81,11 @@ void LensImage::enlarge(const LensLayout& layout) const {
                picInter_.context(), 0, 0, layout.SourceWidth, layout.SourceHeight, SRCCOPY);
 }
 
-void LensImage::DrawCursor(const LensImageLook& look, HCURSOR pointer) {
-    if (!look.options.cursorOn) {
-        return;
-    }
-    if (pointer != knownPointer_) {
+void LensImage::takePointer(HCURSOR pointer) {
+    if (knownPointer_ != pointer) {
         knownPointer_ = pointer;
         pointerPicture_ = pictureOfPointer(pointer);
     }
-    drawPointer(picLens_.picture().view(), pointerPicture_, look.hotSpot, look.layout.Factor);
 }
 
 }  // namespace ormala

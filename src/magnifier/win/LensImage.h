@@ -20,13 +20,13 @@ class LensImage {
     /// picture with the same look as in the last frame. What lies outside `bounds` shows the
     /// ground.
     void refresh(const LensImageLook& look, PixelPoint source, const PixelRect& bounds);
-    /// The pointer's picture is fetched anew for the next frame that is drawn.
+    /// The pointer's picture is fetched anew for the next frame.
     void forgetPointer();
 
   private:
     void capture(const LensLayout& layout, PixelPoint source, const PixelRect& bounds);
     void enlarge(const LensLayout& layout) const;
-    void DrawCursor(const LensImageLook& look, HCURSOR pointer);
+    void takePointer(HCURSOR pointer);
 
     /// With `picBuff` as its picture.
     LensPicture picLens_;
@@ -34,9 +34,8 @@ class LensImage {
     /// What the last frame shows, and how.
     BackBuffer lastPicture_;
     std::optional<LensImageLook> lastLook_;
-    HCURSOR lastPointer_ = nullptr;
-    /// Kept until the screen has another pointer.
-    HCURSOR knownPointer_ = nullptr;
+    /// The pointer that the picture is of; null while there is none to be seen.
+    std::optional<HCURSOR> knownPointer_;
     PointerPicture pointerPicture_;
 };
 

@@ -44,7 +44,8 @@ bool drawOn(BackBuffer& ground, COLORREF color, HCURSOR pointer, int side) {
 HCURSOR currentPointer() {
     CURSORINFO cursor{};
     cursor.cbSize = sizeof cursor;
-    return GetCursorInfo(&cursor) != FALSE ? cursor.hCursor : nullptr;
+    const bool shown = GetCursorInfo(&cursor) != FALSE && (cursor.flags & CURSOR_SHOWING) != 0;
+    return shown ? cursor.hCursor : nullptr;
 }
 
 PointerPicture pictureOfPointer(HCURSOR pointer) {

@@ -6,7 +6,7 @@
 
 namespace ormala {
 
-/// The pointer that the screen has now; null if there is none.
+/// The pointer that the screen shows now; null if there is none, as while a program hides it.
 HCURSOR currentPointer();
 
 /// How that pointer looks; empty for one without a bitmap.

@@ -1,6 +1,5 @@
 #include "platform/win/clipboard.h"
 
-#include "platform/win/handles.h"
 #include "platform/win/monitors.h"
 
 namespace ormala {
@@ -66,34 +65,24 @@ GlobalMemory pictureOfScreen(const RECT& area) {
     return packedPicture(screen.get(), bitmap.get(), size);
 }
 
-/// Another program may hold the clipboard for a moment.
-bool openClipboard(HWND owner) {
-    constexpr int tries = 20;
-    constexpr DWORD pause = 10;
-    for (int i = 0; i < tries; ++i) {
-        if (OpenClipboard(owner) != FALSE) {
-            return true;
-        }
-        Sleep(pause);
-    }
-    return false;
-}
-
 }  // namespace
 
-bool copyScreenToClipboard(HWND owner, const RECT& area) {
-    GlobalMemory picture = pictureOfScreen(area);
-    if (!picture || !openClipboard(owner)) {
-        return false;
+ScreenPicture::ScreenPicture(const RECT& area)
+    : size_{static_cast<int>(area.right - area.left), static_cast<int>(area.bottom - area.top)},
+      memory_(pictureOfScreen(area)) {}
+
+ScreenPicture::Answer ScreenPicture::putOnClipboard(HWND owner) {
+    if (OpenClipboard(owner) == FALSE) {
+        return Answer::held;
     }
     EmptyClipboard();
-    const bool taken = SetClipboardData(CF_DIB, picture.get()) != nullptr;
+    const bool taken = SetClipboardData(CF_DIB, memory_.get()) != nullptr;
     if (taken) {
         // The system owns it from now on.
-        static_cast<void>(picture.release());
+        static_cast<void>(memory_.release());
     }
     CloseClipboard();
-    return taken;
+    return taken ? Answer::taken : Answer::refused;
 }
 
 }  // namespace ormala

@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "platform/win/HandleCount.h"
+
 namespace ormala {
 
 /// Owns a system handle and closes it with `Close`.
@@ -11,10 +13,11 @@ template <typename H, auto Close>
 class Handle {
   public:
     Handle() = default;
-    explicit Handle(H handle) : handle_(handle) {}
+    explicit Handle(H handle) { reset(handle); }
     Handle(Handle&& other) noexcept : handle_(std::exchange(other.handle_, H{})) {}
     Handle& operator=(Handle&& other) noexcept {
-        reset(std::exchange(other.handle_, H{}));
+        Handle moved(std::move(other));
+        std::swap(handle_, moved.handle_);
         return *this;
     }
     ~Handle() { reset(); }
@@ -22,11 +25,20 @@ class Handle {
     void reset(H handle = H{}) {
         if (handle_ != H{}) {
             Close(handle_);
+            HandleCount::close();
+        }
+        if (handle != H{}) {
+            HandleCount::take();
         }
         handle_ = handle;
     }
     /// Gives the handle away.
-    H release() { return std::exchange(handle_, H{}); }
+    H release() {
+        if (handle_ != H{}) {
+            HandleCount::close();
+        }
+        return std::exchange(handle_, H{});
+    }
     [[nodiscard]] H get() const { return handle_; }
     explicit operator bool() const { return handle_ != H{}; }
 
@@ -59,10 +71,15 @@ class Selected {
 /// The device context of a window, the screen's for a null window.
 class WindowContext {
   public:
-    explicit WindowContext(HWND window) : window_(window), context_(GetDC(window)) {}
+    explicit WindowContext(HWND window) : window_(window), context_(GetDC(window)) {
+        HandleCount::take();
+    }
     WindowContext(const WindowContext&) = delete;
     WindowContext& operator=(const WindowContext&) = delete;
-    ~WindowContext() { ReleaseDC(window_, context_); }
+    ~WindowContext() {
+        ReleaseDC(window_, context_);
+        HandleCount::close();
+    }
 
     [[nodiscard]] HDC get() const { return context_; }
 
@@ -75,10 +92,15 @@ class WindowContext {
 class UnclippedContext {
   public:
     explicit UnclippedContext(HWND window)
-        : window_(window), context_(GetDCEx(window, nullptr, DCX_CACHE | DCX_CLIPSIBLINGS)) {}
+        : window_(window), context_(GetDCEx(window, nullptr, DCX_CACHE | DCX_CLIPSIBLINGS)) {
+        HandleCount::take();
+    }
     UnclippedContext(const UnclippedContext&) = delete;
     UnclippedContext& operator=(const UnclippedContext&) = delete;
-    ~UnclippedContext() { ReleaseDC(window_, context_); }
+    ~UnclippedContext() {
+        ReleaseDC(window_, context_);
+        HandleCount::close();
+    }
 
     [[nodiscard]] HDC get() const { return context_; }
 
@@ -90,10 +112,15 @@ class UnclippedContext {
 /// Between the beginning and the end of a window's painting.
 class PaintScope {
   public:
-    explicit PaintScope(HWND window) : window_(window), context_(BeginPaint(window, &paint_)) {}
+    explicit PaintScope(HWND window) : window_(window), context_(BeginPaint(window, &paint_)) {
+        HandleCount::take();
+    }
     PaintScope(const PaintScope&) = delete;
     PaintScope& operator=(const PaintScope&) = delete;
-    ~PaintScope() { EndPaint(window_, &paint_); }
+    ~PaintScope() {
+        EndPaint(window_, &paint_);
+        HandleCount::close();
+    }
 
     [[nodiscard]] HDC context() const { return context_; }
     [[nodiscard]] const RECT& area() const { return paint_.rcPaint; }
