@@ -61,6 +61,7 @@ TEST(Capture, OfTheWorksheetEndsSoTooAndItsDragAsOneStep) {
     expectCaptureForAButtonOnly(sheet.window().handle(), "worksheet");
     const ctlRatioGrid& stencil = sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
     sheet.mouse(WM_LBUTTONDOWN, MK_LBUTTON, 200, 175);
+    sheet.mouse(WM_MOUSEMOVE, MK_LBUTTON, 210, 180);
     sheet.mouse(WM_MOUSEMOVE, MK_LBUTTON, 220, 185);
     sheet.mouse(WM_MOUSEMOVE, 0, 400, 300);
     EXPECT_EQ(GetCapture(), nullptr);
@@ -87,6 +88,7 @@ TEST(Capture, OfTheWorksheetEndsWhenItTakesTheMouseNoMore) {
     TestSheet sheet({640, 480});
     const ctlRatioGrid& stencil = sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
     sheet.mouse(WM_LBUTTONDOWN, MK_LBUTTON, 200, 175);
+    sheet.mouse(WM_MOUSEMOVE, MK_LBUTTON, 210, 180);
     sheet.mouse(WM_MOUSEMOVE, MK_LBUTTON, 230, 185);
     ASSERT_EQ(GetCapture(), sheet.window().handle());
     sheet.window().setClickable(false);

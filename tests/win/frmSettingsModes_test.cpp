@@ -1,118 +1,19 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <optional>
 
-#include "app/win/frmSettings.h"
-#include "e2e/support/AppDataFolder.h"
-#include "e2e/support/SettingsFile.h"
 #include "language/MlStringModule.h"
 #include "platform/win/regions.h"
 #include "support/win/Screen.h"
 #include "support/win/Wait.h"
+#include "win/ModesStage.h"
 
 // The modes of the running program, and where they leave its windows.
 
 namespace ormala {
 namespace {
 
-int widthOf(const RECT& rect) {
-    return static_cast<int>(rect.right - rect.left);
-}
-
-int heightOf(const RECT& rect) {
-    return static_cast<int>(rect.bottom - rect.top);
-}
-
-/// Keys that the thread takes for held, for the time of one message.
-class HeldKeys {
-  public:
-    explicit HeldKeys(std::initializer_list<int> keys) {
-        GetKeyboardState(former_.data());
-        auto state = former_;
-        for (const int key : keys) {
-            state[static_cast<std::size_t>(key)] = 0x80;
-        }
-        SetKeyboardState(state.data());
-    }
-    HeldKeys(const HeldKeys&) = delete;
-    HeldKeys& operator=(const HeldKeys&) = delete;
-    ~HeldKeys() { SetKeyboardState(former_.data()); }
-
-  private:
-    std::array<BYTE, 256> former_{};
-};
-
-/// The program with an options file that a test can fill before the start.
-class Modes : public testing::Test {
-  protected:
-    void option(std::string_view section, std::string_view key, std::string_view value) {
-        file_.set(section, key, value);
-    }
-
-    frmSettings& start(bool anotherRuns = false) {
-        file_.write(folder_.optionsFile());
-        settings_.emplace(anotherRuns);
-        return *settings_;
-    }
-
-    test::SettingsFile end() {
-        SendMessageW(settings_->handle(), WM_ENDSESSION, TRUE, 0);
-        settings_.reset();
-        return test::SettingsFile::read(folder_.optionsFile());
-    }
-
-    /// As the options dialog does.
-    void keepBorder() {
-        OptionValues values = settings_->view().optionValues();
-        values.templateWithBorder = true;
-        settings_->view().applyOptions(values);
-    }
-
-    bool worksheetFillsScreen() {
-        RECT work{};
-        SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-        return test::waitUntil(
-            [&] { return fromRect(settings_->worksheet().rectangle()) == fromRect(work); });
-    }
-
-    bool worksheetLiesInTheFrame() {
-        return test::waitUntil([&] {
-            const RECT client = settings_->resizer().clientRectangle();
-            POINT corner{5, 5};
-            ClientToScreen(settings_->resizer().handle(), &corner);
-            const RECT place = settings_->worksheet().rectangle();
-            return place.left == corner.x && place.top == corner.y &&
-                   widthOf(place) == client.right - 10 && heightOf(place) == client.bottom - 10;
-        });
-    }
-
-    /// What is shown: worksheet, frame, and whether the worksheet takes the mouse.
-    std::array<bool, 3> shown() {
-        return {settings_->worksheet().isVisible(), settings_->resizer().isVisible(),
-                settings_->worksheet().Clickable()};
-    }
-
-    int height() { return heightOf(settings_->rectangle()); }
-
-    int shortHeight() {
-        MINMAXINFO limits{};
-        SendMessageW(settings_->handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
-        return static_cast<int>(limits.ptMinTrackSize.y);
-    }
-
-    void press(int key) {
-        MSG message{};
-        message.hwnd = settings_->handle();
-        message.message = WM_KEYDOWN;
-        message.wParam = static_cast<WPARAM>(key);
-        EXPECT_TRUE(settings_->preview(message));
-    }
-
-    test::AppDataFolder folder_;
-    test::SettingsFile file_;
-    std::optional<frmSettings> settings_;
-};
+class Modes : public ModesStage {};
 
 constexpr std::array<bool, 3> allShown{true, true, true};
 constexpr std::array<bool, 3> veilAlone{true, false, true};
@@ -251,74 +152,6 @@ TEST_F(Modes, F3WithCtrlAndShiftLeavesTheControlWindowUp) {
     press(VK_F3);
     EXPECT_EQ(settings_->GetMode(), 2);
     EXPECT_FALSE(IsIconic(settings_->handle()));
-}
-
-TEST_F(Modes, ShiftF4ShrinksTheWindowAndMinimisesIt) {
-    constexpr int pulled = 321;
-    start();
-    SetWindowPos(settings_->handle(), nullptr, 0, 0, widthOf(settings_->rectangle()), pulled,
-                 SWP_NOMOVE | SWP_NOZORDER);
-    {
-        const HeldKeys held{VK_SHIFT};
-        press(VK_F4);
-    }
-    EXPECT_EQ(settings_->GetMode(), 1);
-    EXPECT_TRUE(IsIconic(settings_->handle()));
-    EXPECT_TRUE(settings_->worksheet().isVisible()) << "the tools stay";
-    ShowWindow(settings_->handle(), SW_RESTORE);
-    EXPECT_TRUE(test::waitUntil([&] { return height() == shortHeight(); }));
-    press(VK_F2);
-    EXPECT_TRUE(test::waitUntil([&] { return height() == pulled; }));
-}
-
-TEST_F(Modes, ChangeBySystemMenuWhileMinimisedTakesEffectWhenTheWindowComesBack) {
-    start();
-    const int before = height();
-    ShowWindow(settings_->handle(), SW_MINIMIZE);
-    SendMessageW(settings_->handle(), WM_SYSCOMMAND, 1012, 0);
-    EXPECT_EQ(settings_->GetMode(), 2);
-    EXPECT_TRUE(IsIconic(settings_->handle()));
-    ShowWindow(settings_->handle(), SW_RESTORE);
-    EXPECT_TRUE(test::waitUntil([&] { return height() == shortHeight(); }));
-    EXPECT_LT(shortHeight(), before);
-}
-
-TEST_F(Modes, ChangeBySystemMenuWhileMinimisedLosesNoHeight) {
-    constexpr int pulled = 345;
-    start();
-    SetWindowPos(settings_->handle(), nullptr, 0, 0, widthOf(settings_->rectangle()), pulled,
-                 SWP_NOMOVE | SWP_NOZORDER);
-    ShowWindow(settings_->handle(), SW_MINIMIZE);
-    SendMessageW(settings_->handle(), WM_SYSCOMMAND, 1011, 0);
-    ShowWindow(settings_->handle(), SW_RESTORE);
-    ASSERT_TRUE(test::waitUntil([&] { return height() == shortHeight(); }));
-    press(VK_F2);
-    EXPECT_TRUE(test::waitUntil([&] { return height() == pulled; })) << height();
-}
-
-TEST_F(Modes, AProgramThatEndsMinimisedAndShortKnowsItsHeight) {
-    constexpr int pulled = 345;
-    start();
-    SetWindowPos(settings_->handle(), nullptr, 0, 0, widthOf(settings_->rectangle()), pulled,
-                 SWP_NOMOVE | SWP_NOZORDER);
-    ShowWindow(settings_->handle(), SW_MINIMIZE);
-    SendMessageW(settings_->handle(), WM_SYSCOMMAND, 1011, 0);
-    const auto dpi = static_cast<int>(GetDpiForWindow(settings_->handle()));
-    EXPECT_EQ(end().number("Options", "EditModeFormHeight"), twipsOfPixels(pulled, dpi));
-}
-
-TEST_F(Modes, AControlWindowStoredAtHalfTheResolutionIsWhollyOnTheScreen) {
-    start();
-    const int width = widthOf(settings_->rectangle());
-    settings_.reset();
-    const int right = GetSystemMetrics(SM_CXSCREEN);
-    option("FormSettings", "Left", std::to_string(right - width / 2));
-    option("FormSettings", "Top", "100");
-    option("FormSettings", "Right", std::to_string(right));
-    option("FormSettings", "Bottom", "500");
-    start();
-    EXPECT_EQ(settings_->rectangle().right, right);
-    EXPECT_EQ(widthOf(settings_->rectangle()), width);
 }
 
 TEST_F(Modes, PauseLeavesTheKeysOfTheOtherModes) {

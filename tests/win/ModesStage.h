@@ -1,0 +1,116 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <initializer_list>
+#include <optional>
+#include <string_view>
+
+#include "app/win/frmSettings.h"
+#include "e2e/support/AppDataFolder.h"
+#include "e2e/support/SettingsFile.h"
+#include "platform/win/regions.h"
+#include "support/win/Wait.h"
+
+namespace ormala {
+
+inline int widthOf(const RECT& rect) {
+    return static_cast<int>(rect.right - rect.left);
+}
+
+inline int heightOf(const RECT& rect) {
+    return static_cast<int>(rect.bottom - rect.top);
+}
+
+/// Keys that the thread takes for held, for the time of one message.
+class HeldKeys {
+  public:
+    explicit HeldKeys(std::initializer_list<int> keys) {
+        GetKeyboardState(former_.data());
+        auto state = former_;
+        for (const int key : keys) {
+            state[static_cast<std::size_t>(key)] = 0x80;
+        }
+        SetKeyboardState(state.data());
+    }
+    HeldKeys(const HeldKeys&) = delete;
+    HeldKeys& operator=(const HeldKeys&) = delete;
+    ~HeldKeys() { SetKeyboardState(former_.data()); }
+
+  private:
+    std::array<BYTE, 256> former_{};
+};
+
+/// The program with an options file that a test can fill before the start.
+class ModesStage : public testing::Test {
+  protected:
+    void option(std::string_view section, std::string_view key, std::string_view value) {
+        file_.set(section, key, value);
+    }
+
+    frmSettings& start(bool anotherRuns = false) {
+        file_.write(folder_.optionsFile());
+        settings_.emplace(anotherRuns);
+        return *settings_;
+    }
+
+    test::SettingsFile end() {
+        SendMessageW(settings_->handle(), WM_ENDSESSION, TRUE, 0);
+        settings_.reset();
+        return test::SettingsFile::read(folder_.optionsFile());
+    }
+
+    /// As the options dialog does.
+    void keepBorder() {
+        OptionValues values = settings_->view().optionValues();
+        values.templateWithBorder = true;
+        settings_->view().applyOptions(values);
+    }
+
+    bool worksheetFillsScreen() {
+        RECT work{};
+        SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+        return test::waitUntil(
+            [&] { return fromRect(settings_->worksheet().rectangle()) == fromRect(work); });
+    }
+
+    bool worksheetLiesInTheFrame() {
+        return test::waitUntil([&] {
+            const RECT client = settings_->resizer().clientRectangle();
+            POINT corner{5, 5};
+            ClientToScreen(settings_->resizer().handle(), &corner);
+            const RECT place = settings_->worksheet().rectangle();
+            return place.left == corner.x && place.top == corner.y &&
+                   widthOf(place) == client.right - 10 && heightOf(place) == client.bottom - 10;
+        });
+    }
+
+    /// What is shown: worksheet, frame, and whether the worksheet takes the mouse.
+    std::array<bool, 3> shown() {
+        return {settings_->worksheet().isVisible(), settings_->resizer().isVisible(),
+                settings_->worksheet().Clickable()};
+    }
+
+    int height() { return heightOf(settings_->rectangle()); }
+
+    int shortHeight() {
+        MINMAXINFO limits{};
+        SendMessageW(settings_->handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+        return static_cast<int>(limits.ptMinTrackSize.y);
+    }
+
+    void press(int key) {
+        MSG message{};
+        message.hwnd = settings_->handle();
+        message.message = WM_KEYDOWN;
+        message.wParam = static_cast<WPARAM>(key);
+        EXPECT_TRUE(settings_->preview(message));
+    }
+
+    test::AppDataFolder folder_;
+    test::SettingsFile file_;
+    std::optional<frmSettings> settings_;
+};
+
+}  // namespace ormala
