@@ -4,18 +4,16 @@
     second_monitor.py open MAIN SECOND           gives both monitors their sizes, each WxH
     second_monitor.py serve MAIN SECOND FOLDER   takes the second away and gives it back on request
 
-Who wants a change puts a file "request" into the folder, which holds "absent" or "present". The
-file goes when the change is made, and "answer" then holds "done" or what went wrong.
+A request (tools/stage_service.py tells how) is "absent" or "present".
 """
 
-import os
 import pathlib
 import subprocess
 import sys
-import time
+
+import stage_service
 
 MAIN, SECOND = "DUMMY0", "DUMMY1"
-POLL_SECONDS = 0.02
 # The driver shows nothing, so that any blanking will do.
 BLANKING = (16, 32, 64)
 FRAMES_PER_SECOND = 60
@@ -60,14 +58,7 @@ def answer_to(wanted, main, second):
 
 
 def serve(main, second, folder):
-    request, answer, draft = folder / "request", folder / "answer", folder / "answer.new"
-    while True:
-        if request.exists():
-            wanted = request.read_text(encoding="utf-8").strip()
-            draft.write_text(answer_to(wanted, main, second), encoding="utf-8")
-            request.unlink()
-            os.replace(draft, answer)
-        time.sleep(POLL_SECONDS)
+    stage_service.serve(folder, lambda wanted: answer_to(wanted, main, second))
 
 
 def size_of(text):

@@ -137,6 +137,43 @@ TEST(Modes, PauseLeavesOnlyWhatNeedsNoWorksheet) {
     EXPECT_TRUE(scene.settings().named("btnMode(0)").isEnabled());
 }
 
+TEST(Modes, HelpKeyOfTheControlWindowPauses) {
+    SheetScene scene;
+    scene.mouse.click(emptyPlace(scene));
+    keyboard::press(VK_F1);
+    scene.settings().waitForText(pauseCaption);
+    scene.worksheet().waitUntilHidden();
+}
+
+TEST(Modes, InTemplateModeAButtonBringsAFullScreenWorksheetBackOnlyWithTheBorder) {
+    for (const bool border : {false, true}) {
+        SheetScene scene([border](SettingsFile& file) {
+            file.set("Options", "TemplateWithBorder", border ? "-1" : " 0");
+        });
+        const DesktopWindow frame = scene.window("frmResizer");
+        const ScreenRect framed = scene.worksheet().rect();
+        const ScreenRect place = frame.rect();
+        frame.post(WM_SYSCOMMAND, SC_MAXIMIZE);
+        frame.waitUntilHidden();
+        const DesktopWindow button = scene.settings().named("cmdWorksheetWindowNormal");
+        EXPECT_TRUE(waitUntil([&] { return button.isEnabled(); }));
+        scene.mouse.click(modeButton(scene, 1));
+        scene.settings().waitForText(templateCaption);
+        EXPECT_TRUE(waitUntil([&] { return button.isEnabled() == border; }));
+        const ScreenRect full = scene.worksheet().rect();
+        scene.mouse.click(button.center());
+        if (border) {
+            frame.waitUntilVisible();
+            EXPECT_TRUE(waitUntil([&] { return !button.isEnabled(); }));
+            EXPECT_EQ(frame.rect(), place);
+        }
+        EXPECT_TRUE(
+            waitUntil([&] { return scene.worksheet().rect() == (border ? framed : full); }));
+        EXPECT_EQ(frame.isVisible(), border);
+        EXPECT_TRUE(scene.worksheet().hasExtendedStyle(WS_EX_TRANSPARENT));
+    }
+}
+
 TEST(Modes, CloseBoxOfTheFramePauses) {
     SheetScene scene;
     scene.program().window("frmResizer").post(WM_SYSCOMMAND, SC_CLOSE);

@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include "e2e/LensScales.h"
+#include "e2e/OwnWindow.h"
 #include "e2e/SheetFrame.h"
 
 namespace ormala::test {
@@ -48,6 +49,13 @@ class Monitors : public testing::Test {
         SettingsFile options = SettingsFile::read(scene_.data().optionsFile());
         options.set("FormResizer", "WindowState", " 3");
         options.write(scene_.data().optionsFile());
+    }
+
+    /// A worksheet that fills the second monitor, which has no task bar, leaves it a row.
+    [[nodiscard]] ScreenRect secondFilled() const {
+        ScreenRect area = second_.rect();
+        area.bottom -= 1;
+        return area;
     }
 
     bool fills(const ScreenRect& area) {
@@ -138,15 +146,28 @@ TEST_F(Monitors, StencilIsDraggedByThePixelsOfTheMouse) {
 TEST_F(Monitors, FullScreenMeansTheMonitorOfTheFrame) {
     const ScreenRect framed = frameOf(scene_).rect();
     makeFullScreen();
-    EXPECT_TRUE(fills(second_.rect())) << scene_.worksheet().rect();
+    EXPECT_TRUE(fills(secondFilled())) << scene_.worksheet().rect();
     dragStencil(100, 60);
     setMode(menuTemplate, "Ormala - Template");
-    EXPECT_EQ(scene_.worksheet().rect(), second_.rect());
+    EXPECT_EQ(scene_.worksheet().rect(), secondFilled());
     setMode(menuPause, "Ormala - Pause");
     setMode(menuEdit, "Ormala - Edit");
-    EXPECT_TRUE(fills(second_.rect())) << scene_.worksheet().rect();
+    EXPECT_TRUE(fills(secondFilled())) << scene_.worksheet().rect();
     EXPECT_EQ(scene_.settings().rect().left, second_.rect().left + controlLeft);
     EXPECT_EQ(frameOf(scene_).rect(), framed);
+}
+
+TEST_F(Monitors, TheMouseActionDragsThereToo) {
+    const ScreenPoint first = scene_.onScreen(scene_.model.gripPixel(-1, -1));
+    const ScreenPoint last = scene_.onScreen(scene_.model.gripPixel(1, 1));
+    const DesktopWindow button = scene_.settings().named("cmdSendMouseInput");
+    OwnWindow below(second_.rect(), 0, 0x336699);
+    below.show();
+    SetWindowPos(below.handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    scene_.mouse.click(button.center());
+    EXPECT_TRUE(waitUntil([&] { return below.releases() == 1; }));
+    EXPECT_EQ(below.lastPress(), first);
+    EXPECT_EQ(below.lastRelease(), last);
 }
 
 TEST_F(Monitors, WindowsComeBackThereAtTheNextStart) {
@@ -162,7 +183,7 @@ TEST_F(Monitors, WindowsComeBackThereAtTheNextStart) {
 TEST_F(Monitors, FrameLeftMaximisedThereMeansFullScreenThere) {
     scene_.restart([this] { storeAsMaximised(); });
     EXPECT_FALSE(frameOf(scene_).isVisible());
-    EXPECT_TRUE(fills(second_.rect())) << scene_.worksheet().rect();
+    EXPECT_TRUE(fills(secondFilled())) << scene_.worksheet().rect();
 }
 
 TEST_F(Monitors, WindowsComeOntoTheMainOneAtAStartWithoutTheirs) {
@@ -195,7 +216,7 @@ TEST_F(Monitors, WindowsComeOntoTheMainOneWhenTheirsGoes) {
 
 TEST_F(Monitors, FullScreenComesOntoTheMainOneWhenItsMonitorGoes) {
     makeFullScreen();
-    ASSERT_TRUE(fills(second_.rect()));
+    ASSERT_TRUE(fills(secondFilled()));
     second_.takeAway();
     EXPECT_TRUE(fills(mainWorkArea())) << scene_.worksheet().rect();
     EXPECT_TRUE(waitUntil([&] { return liesIn(mainWorkArea(), scene_.settings().rect()); }));

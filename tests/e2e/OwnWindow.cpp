@@ -1,5 +1,7 @@
 #include "e2e/OwnWindow.h"
 
+#include <windowsx.h>
+
 #include "e2e/support/StageFailure.h"
 #include "support/win/Screen.h"
 
@@ -13,6 +15,12 @@ void fill(HDC context, const RECT& rect, Color color) {
     const HBRUSH brush = CreateSolidBrush(color);
     FillRect(context, &rect, brush);
     DeleteObject(brush);
+}
+
+ScreenPoint placeOf(LPARAM message, HWND window) {
+    POINT place{GET_X_LPARAM(message), GET_Y_LPARAM(message)};
+    ClientToScreen(window, &place);
+    return {static_cast<int>(place.x), static_cast<int>(place.y)};
 }
 
 }  // namespace
@@ -50,6 +58,11 @@ LRESULT CALLBACK OwnWindow::dispatch(HWND window, UINT message, WPARAM wParam, L
     }
     if (self != nullptr && message == WM_LBUTTONDOWN) {
         ++self->presses_;
+        self->lastPress_ = placeOf(lParam, window);
+    }
+    if (self != nullptr && message == WM_LBUTTONUP) {
+        ++self->releases_;
+        self->lastRelease_ = placeOf(lParam, window);
     }
     return DefWindowProcW(window, message, wParam, lParam);
 }

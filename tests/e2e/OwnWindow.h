@@ -26,6 +26,10 @@ class OwnWindow {
     void show();
     /// Presses of the left button on this window.
     int presses() const { return presses_; }
+    int releases() const { return releases_; }
+    /// Where the last ones were, on the screen.
+    ScreenPoint lastPress() const { return lastPress_; }
+    ScreenPoint lastRelease() const { return lastRelease_; }
 
   private:
     static LRESULT CALLBACK dispatch(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -35,6 +39,9 @@ class OwnWindow {
     Color leftHalf_;
     DesktopWindow window_;
     int presses_ = 0;
+    int releases_ = 0;
+    ScreenPoint lastPress_;
+    ScreenPoint lastRelease_;
 };
 
 }  // namespace ormala::test

@@ -299,5 +299,25 @@ TEST_F(StencilCommands, TheMouseActionDragsInTheProgramBelow) {
     }
 }
 
+TEST_F(StencilCommands, TheMouseActionInEditModeDragsInTheProgramBelowAndNoGrip) {
+    const Picture before = stencilPicture();
+    scene.mouse.moveTo(panel.control("cmdSendMouseInput").center());
+    scene.backdrop().reset();
+    panel.press("cmdSendMouseInput");
+    const BackdropReport report = scene.backdrop().waitFor(
+        "drag", [](const BackdropReport& seen) { return seen.leftUp == 1; });
+    EXPECT_EQ(report.leftDown, 1);
+    EXPECT_EQ(report.lastDown(), scene.onScreen({205, 155}));
+    EXPECT_EQ(report.lastUp(), scene.onScreen({365, 257}));
+    EXPECT_GE(report.dragMoves, 1);
+    EXPECT_TRUE(waitUntil([&] { return scene.program().window("frmResizer").isVisible(); }));
+    expectStart();
+    EXPECT_FALSE(panel.isEnabled("cmdUndo"));
+    // Once the preview is over, everything is as before, and the worksheet takes the mouse.
+    EXPECT_TRUE(waitUntil([&] { return difference(stencilPicture(), before).empty(); }));
+    scene.mouse.drag(scene.onScreen({285, 206}), scene.onScreen({305, 216}));
+    expectSides(225, 385, 165, 267);
+}
+
 }  // namespace
 }  // namespace ormala::test

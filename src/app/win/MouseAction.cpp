@@ -66,7 +66,7 @@ bool isTaken(PixelPoint to) {
 /// fetches the next piece of input; there are three, and whatever else was waiting there.
 void waitUntilFetched(HWND target, PixelPoint to) {
     constexpr DWORD systemsTime = 200;
-    constexpr DWORD programsTime = 700;
+    constexpr DWORD programsTime = 1500;
     constexpr int rounds = 8;
     for (const Patience patience(systemsTime); !isTaken(to) && patience.left() > 0;) {
         Sleep(1);

@@ -1,9 +1,5 @@
 #include "e2e/support/SecondMonitor.h"
 
-#include <cstdlib>
-#include <fstream>
-#include <iterator>
-
 #include "e2e/support/DesktopWindow.h"
 #include "e2e/support/StageFailure.h"
 #include "support/win/Screen.h"
@@ -14,34 +10,13 @@ namespace {
 
 constexpr const wchar_t* mainDisplay = LR"(\\.\DISPLAY1)";
 
-std::filesystem::path requestFolder() {
-    const wchar_t* name = _wgetenv(L"ORMALA_MONITORS");
-    return name == nullptr ? L"" : name;
-}
-
-void write(const std::filesystem::path& path, const std::string& text) {
-    // Under its own name only when it is whole.
-    const std::filesystem::path draft = path.wstring() + L".new";
-    std::ofstream(draft, std::ios::binary) << text;
-    std::filesystem::rename(draft, path);
-}
-
-/// It is there only when it is whole.
-std::string takeAnswer(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::string text(std::istreambuf_iterator<char>(file), {});
-    file.close();
-    std::filesystem::remove(path);
-    return text;
-}
-
 }  // namespace
 
 SecondMonitor::SecondMonitor()
-    : folder_(requestFolder()),
+    : stage_(L"ORMALA_MONITORS"),
       listener_(CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
                                 GetModuleHandleW(nullptr), nullptr)) {
-    if (folder_.empty()) {
+    if (!stage_.isThere()) {
         failStage("this stage has no second monitor: open one with --second-monitor left");
     }
     giveBack();
@@ -81,7 +56,7 @@ void SecondMonitor::change(bool there) {
     if (isThere() == there) {
         return;
     }
-    request(there ? "present" : "absent");
+    stage_.request(there ? "present" : "absent");
     requireSoon(there ? "second monitor" : "loss of the second monitor",
                 [there] { return isThere() == there; });
     // Wine notices a change from outside, but tells the programs only of its own: this one sets
@@ -92,16 +67,6 @@ void SecondMonitor::change(bool there) {
     ChangeDisplaySettingsExW(mainDisplay, &present, nullptr, 0, nullptr);
     requireSoon("lasting change of the monitors", [there] { return isThere() == there; });
     DesktopWindow(GetDesktopWindow()).settle();
-}
-
-void SecondMonitor::request(const std::string& state) {
-    const auto answer = folder_ / "answer";
-    write(folder_ / "request", state);
-    requireSoon("answer of the stage", [&] { return std::filesystem::exists(answer); });
-    const std::string text = takeAnswer(answer);
-    if (text != "done") {
-        failStage("the second monitor is not " + state + ": " + text);
-    }
 }
 
 }  // namespace ormala::test

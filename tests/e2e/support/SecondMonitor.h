@@ -1,8 +1,6 @@
 #pragma once
 
-#include <filesystem>
-#include <string>
-
+#include "e2e/support/StageService.h"
 #include "support/win/ScreenGeometry.h"
 
 namespace ormala::test {
@@ -26,10 +24,8 @@ class SecondMonitor {
 
   private:
     void change(bool there);
-    void request(const std::string& state);
 
-    /// Where the stage takes requests.
-    std::filesystem::path folder_;
+    StageService stage_;
     /// Never shown. Without a window of its own this process is not told where the pointer's places
     /// begin now.
     HWND listener_;

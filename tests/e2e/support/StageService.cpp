@@ -1,0 +1,48 @@
+#include "e2e/support/StageService.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+#include "e2e/support/StageFailure.h"
+
+namespace ormala::test {
+
+namespace {
+
+std::filesystem::path folderOf(const wchar_t* variable) {
+    const wchar_t* name = _wgetenv(variable);
+    return name == nullptr ? L"" : name;
+}
+
+void write(const std::filesystem::path& path, const std::string& text) {
+    // Under its own name only when it is whole.
+    const std::filesystem::path draft = path.wstring() + L".new";
+    std::ofstream(draft, std::ios::binary) << text;
+    std::filesystem::rename(draft, path);
+}
+
+/// It is there only when it is whole.
+std::string takeAnswer(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::string text(std::istreambuf_iterator<char>(file), {});
+    file.close();
+    std::filesystem::remove(path);
+    return text;
+}
+
+}  // namespace
+
+StageService::StageService(const wchar_t* variable) : folder_(folderOf(variable)) {}
+
+void StageService::request(const std::string& wanted) const {
+    const auto answer = folder_ / "answer";
+    write(folder_ / "request", wanted);
+    requireSoon("answer of the stage", [&] { return std::filesystem::exists(answer); });
+    const std::string text = takeAnswer(answer);
+    if (text != "done") {
+        failStage("the stage does not do \"" + wanted + "\": " + text);
+    }
+}
+
+}  // namespace ormala::test
