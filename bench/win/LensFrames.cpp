@@ -153,15 +153,15 @@ void frameRate() {
 
 struct Resources {
     std::size_t bytes = 0;
-    DWORD drawing = 0;
-    DWORD windows = 0;
+    /// Of the wrappers: held now, and taken from the start on.
+    long held = 0;
+    long taken = 0;
 };
 
 Resources resources() {
     PROCESS_MEMORY_COUNTERS counters{};
     GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
-    return {counters.PagefileUsage, GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS),
-            GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS)};
+    return {counters.PagefileUsage, HandleCount::held(), HandleCount::taken()};
 }
 
 }  // namespace
@@ -203,9 +203,9 @@ void lensSoak() {
     run(soakFrames);
     const Resources after = resources();
     std::printf(
-        "%d frames: %zu KB before, %zu KB after; drawing objects %lu, %lu; windows %lu, %lu\n",
-        soakFrames, before.bytes / 1024, after.bytes / 1024, before.drawing, after.drawing,
-        before.windows, after.windows);
+        "%d frames: %zu KB before, %zu KB after; handles %ld, %ld, of %ld taken meanwhile\n",
+        soakFrames, before.bytes / 1024, after.bytes / 1024, before.held, after.held,
+        after.taken - before.taken);
 }
 
 }  // namespace ormala::bench

@@ -5,6 +5,7 @@
 #include <numbers>
 #include <string>
 
+#include "app/shotNotes.h"
 #include "app/win/frmSettings.h"
 #include "dialogs/win/frmAbout.h"
 #include "dialogs/win/frmColor.h"
@@ -149,6 +150,11 @@ TEST_P(AllTextsOfTheProgram, HaveRoomOnTheLinesOfPathAndInformation) {
     for (const int row : {377, 378}) {
         info.setText(MlString(row, {}));
         expectRoom(settings(), std::to_string(row));
+    }
+    for (const ShotOutcome outcome :
+         {ShotOutcome::copied, ShotOutcome::held, ShotOutcome::failed}) {
+        info.setText(shotNote(outcome, {13840, 12160}));
+        expectRoom(settings(), "note of a screen shot");
     }
 }
 

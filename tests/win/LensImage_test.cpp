@@ -14,7 +14,19 @@ constexpr COLORREF ink = RGB(255, 230, 0);
 constexpr COLORREF quietInk = RGB(128, 119, 38);
 constexpr UINT quietly = SWP_NOZORDER | SWP_NOACTIVATE;
 
-class LensImageTest : public LensFixture {};
+class LensImageTest : public LensFixture {
+  protected:
+    /// The mouse lies over a window with an arrow, which it has to notice.
+    bool showsAPointer(PixelPoint mouse) {
+        const bool there = test::waitUntil([this, mouse] {
+            look({mouse.x + 1, mouse.y});
+            look(mouse);
+            return currentPointer() != nullptr;
+        });
+        lens_.Update();
+        return there;
+    }
+};
 
 TEST_F(LensImageTest, EnlargedPixelsAreTheScreensAtEveryFactor) {
     show();
@@ -54,6 +66,54 @@ TEST_F(LensImageTest, PaintsTheHotSpotAtTheImagesEdgeWithTheMouseAtTheScreens) {
     EXPECT_EQ(image().at(4 * 30 + 1, 4 * 25 + 1), RGB(255, 0, 0));
 }
 
+TEST_F(LensImageTest, PaintsThePointerAtTheImagesEdgeWithTheMouseAtTheScreens) {
+    show();
+    look({0, 300});
+    const PixelMap without = image();
+    LensOptions options = bareLens(4);
+    options.cursorOn = true;
+    lens_.setOptions(options);
+    ASSERT_TRUE(showsAPointer({0, 300}));
+    const PixelMap with = image();
+    PixelPoint first =
+        with.size == without.size ? PixelPoint{with.size.width, with.size.height} : PixelPoint{};
+    for (int y = 0; y < with.size.height; ++y) {
+        for (int x = 0; x < with.size.width; ++x) {
+            if (with.at(x, y) != without.at(x, y)) {
+                first = {std::min(first.x, x), std::min(first.y, y)};
+            }
+        }
+    }
+    // The arrow points with its upper left corner.
+    EXPECT_EQ(first, (PixelPoint{0, 4 * 25}));
+}
+
+TEST_F(LensImageTest, LosesThePointerThatAProgramHides) {
+    show();
+    look({400, 300});
+    const PixelMap without = image();
+    LensOptions options = bareLens(4);
+    options.cursorOn = true;
+    lens_.setOptions(options);
+    ASSERT_TRUE(showsAPointer({400, 300}));
+    EXPECT_NE(image(), without);
+    const HCURSOR arrow = backdrop_.pointer();
+    // Also where the last pointer has been forgotten meanwhile.
+    for (const bool forgotten : {false, true}) {
+        ASSERT_TRUE(showsAPointer({400, 300}));
+        if (forgotten) {
+            SendMessageW(lens_.handle(), WM_DISPLAYCHANGE, 0, 0);
+        }
+        backdrop_.setPointer(nullptr);
+        EXPECT_TRUE(test::waitUntil([&] {
+            look({401, 300});
+            look({400, 300});
+            return image() == without;
+        })) << forgotten;
+        backdrop_.setPointer(arrow);
+    }
+}
+
 TEST_F(LensImageTest, PaintsThePointerWhereTheMouseIs) {
     show();
     look({400, 300});
@@ -61,13 +121,7 @@ TEST_F(LensImageTest, PaintsThePointerWhereTheMouseIs) {
     LensOptions options = bareLens(4);
     options.cursorOn = true;
     lens_.setOptions(options);
-    ASSERT_TRUE(test::waitUntil([this] {
-        // The mouse lies over a window with an arrow, which it has to notice.
-        look({401, 300});
-        look({400, 300});
-        return currentPointer() != nullptr;
-    }));
-    lens_.Update();
+    ASSERT_TRUE(showsAPointer({400, 300}));
     const PixelMap with = image();
     // Its hot spot lies in the middle, and it reaches to the right and down.
     int changed = 0;
@@ -300,11 +354,46 @@ TEST_F(LensImageTest, FramesLeaveNothingBehind) {
         }
     };
     frames(50);
-    const DWORD drawing = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    const DWORD windows = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+    const long held = HandleCount::held();
+    const long taken = HandleCount::taken();
     frames(2000);
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), drawing);
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), windows);
+    EXPECT_GE(HandleCount::taken(), taken + 2000) << "each frame takes the screen's context";
+    EXPECT_EQ(HandleCount::held(), held);
+}
+
+TEST_F(LensImageTest, PointersThatComeAndGoLeaveNothingBehind) {
+    LensOptions options = bareLens(4);
+    options.cursorOn = true;
+    lens_.setOptions(options);
+    show();
+    const auto forgetAndDraw = [this] {
+        SendMessageW(lens_.handle(), WM_DISPLAYCHANGE, 0, 0);
+        lens_.Update();
+    };
+    forgetAndDraw();
+    const long held = HandleCount::held();
+    const long taken = HandleCount::taken();
+    for (int i = 0; i < 200; ++i) {
+        forgetAndDraw();
+    }
+    EXPECT_EQ(HandleCount::held(), held);
+    EXPECT_GE(HandleCount::taken(), taken + 200);
+}
+
+TEST_F(LensImageTest, HiddenItPaintsNothing) {
+    lens_.setOptions(LensOptions{});
+    show();
+    look({400, 300});
+    lens_.hide();
+    const long taken = HandleCount::taken();
+    look({500, 350});
+    for (int i = 0; i < 100; ++i) {
+        SendMessageW(lens_.handle(), WM_TIMER, frmLens::tmrMain, 0);
+    }
+    EXPECT_EQ(HandleCount::taken(), taken) << "nothing is captured either";
+    show();
+    look({500, 350});
+    EXPECT_GT(HandleCount::taken(), taken);
 }
 
 }  // namespace

@@ -47,6 +47,14 @@ class LensBackdrop : public Window {
         InvalidateRect(handle(), nullptr, FALSE);
         arrive();
     }
+    /// What the mouse looks like over it; null for nothing.
+    [[nodiscard]] HCURSOR pointer() const {
+        return reinterpret_cast<HCURSOR>(GetClassLongPtrW(handle(), GCLP_HCURSOR));
+    }
+    void setPointer(HCURSOR pointer) {
+        SetClassLongPtrW(handle(), GCLP_HCURSOR, reinterpret_cast<LONG_PTR>(pointer));
+        SetCursor(pointer);
+    }
     [[nodiscard]] PixelSize size() const { return size_; }
     /// 0x00RRGGBB; the screen has a pixel there.
     [[nodiscard]] std::uint32_t at(PixelPoint place) const {

@@ -60,6 +60,7 @@ class TestSheet {
     explicit TestSheet(PixelSize size);
 
     frmWorksheet& window() { return *window_; }
+    [[nodiscard]] const frmWorksheet& window() const { return *window_; }
     ctlRatioGrid& addStencil(const Rect& rect, double angle, Color color);
     /// A mouse message at a client position.
     void mouse(UINT message, WPARAM buttons, int x, int y);

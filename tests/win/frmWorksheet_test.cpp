@@ -42,6 +42,63 @@ TEST(frmWorksheet, TakesTheMouseAsAVeilOfOneOpacity) {
     EXPECT_NE(extendedStyle(window) & WS_EX_TOPMOST, 0U);
 }
 
+/// The message that the system sends when the window has come to another monitor.
+void tellDpi(const TestSheet& sheet, int dpi) {
+    RECT suggested{10, 10, 1300, 900};
+    SendMessageW(sheet.window().handle(), WM_DPICHANGED,
+                 MAKEWPARAM(static_cast<WORD>(dpi), static_cast<WORD>(dpi)),
+                 reinterpret_cast<LPARAM>(&suggested));
+}
+
+TEST(frmWorksheet, GripsTakeTheResolutionOfItsMonitorAndAnewWithEachChange) {
+    TestSheet sheet(sheetSize);
+    const ctlRatioGrid& tool = sheet.addStencil({100, 100, 300, 300}, 0, rgb(255, 0, 0));
+    const auto moveGrip = [&tool] { return tool.grips()[0].pixels(); };
+    const RECT place = sheet.window().rectangle();
+    tellDpi(sheet, 192);
+    EXPECT_EQ(moveGrip(), (PixelRect{187, 187, 214, 214}));
+    tellDpi(sheet, 144);
+    EXPECT_EQ(moveGrip(), (PixelRect{191, 191, 210, 210}));
+    tellDpi(sheet, 96);
+    EXPECT_EQ(moveGrip(), (PixelRect{194, 194, 207, 207}));
+    const RECT after = sheet.window().rectangle();
+    EXPECT_TRUE(EqualRect(&place, &after)) << "its frame tells it its place";
+}
+
+TEST(frmWorksheet, ToolsThatComeLaterHaveItsResolutionToo) {
+    TestSheet sheet(sheetSize);
+    tellDpi(sheet, 192);
+    const ctlRatioGrid& tool = sheet.addStencil({100, 100, 300, 300}, 0, rgb(255, 0, 0));
+    EXPECT_EQ(tool.grips()[0].pixels().width(), 27);
+}
+
+TEST(frmWorksheet, ChangeOfTheResolutionLeavesNothingOfTheFormerGripsOnIt) {
+    TestSheet changed(sheetSize);
+    changed.addStencil({100, 100, 300, 300}, 0, rgb(255, 0, 0));
+    changed.addStencil({350, 150, 500, 400}, 0.4, rgb(0, 0, 255));
+    tellDpi(changed, 192);
+    tellDpi(changed, 96);
+    const PixelMap after = readClient(changed.window().handle());
+    tellDpi(changed, 192);
+    EXPECT_NE(readClient(changed.window().handle()), after);
+    InvalidateRect(changed.window().handle(), nullptr, FALSE);
+    tellDpi(changed, 96);
+    EXPECT_EQ(readClient(changed.window().handle()), after);
+}
+
+TEST(frmWorksheet, StepsOfADragLeaveNothingBehind) {
+    TestSheet sheet(sheetSize);
+    sheet.addStencil({100, 100, 300, 300}, 0, rgb(255, 0, 0));
+    sheet.drag(200, 200, 240, 230, 50);
+    sheet.drag(240, 230, 200, 200, 50);
+    const long held = HandleCount::held();
+    const long taken = HandleCount::taken();
+    sheet.drag(200, 200, 240, 230, 500);
+    sheet.drag(240, 230, 200, 200, 500);
+    EXPECT_GE(HandleCount::taken(), taken + 1000);
+    EXPECT_EQ(HandleCount::held(), held);
+}
+
 TEST(frmWorksheet, BackgroundVanishesAtFullOpacityToo) {
     TestSheet sheet(sheetSize);
     const HWND window = sheet.window().handle();
