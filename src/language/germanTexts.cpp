@@ -279,7 +279,7 @@ constexpr TextRow rows[] = {
     {378, "Entferne alle Werkzeuge..."},
     {505, "'%0' wurde von einem anderen Programm geändert. Überschreiben?"},
     {560, "%0 x %1 Pixel in die Zwischenablage kopiert"},
-    {561, "Die Zwischenablage ist von einem anderen Programm belegt."},
+    {561, "Ein anderes Programm belegt die Zwischenablage."},
     {562, "Die Hilfe konnte nicht geöffnet werden:%n%0"},
     {563, "Das Bildschirmfoto konnte nicht aufgenommen werden."},
     {580, "Ormala muss beendet werden, weil etwas fehlt, das es braucht:%n%0"},

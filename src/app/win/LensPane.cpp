@@ -13,7 +13,11 @@ constexpr const char* placementSection = "FormLens";
 }  // namespace
 
 LensPane::LensPane(Ports ports) : ports_(std::move(ports)), frmLens_(*this) {
-    menuChanged_ = frmLens_.menuChanged.subscribe([this] { showMenuState(); });
+    menuChanged_ = frmLens_.menuChanged.subscribe([this] {
+        showMenuState();
+        // Attached just now, it may lie behind the control window.
+        raise(true);
+    });
     closeRequested_ = frmLens_.closeRequested.subscribe([this] { ports_.closed(); });
     worksheetPlaced_ = ports_.worksheet.placed.subscribe([this] { tellOrigin(); });
     worksheetPainted_ = ports_.worksheet.painted.subscribe([this] { frmLens_.Update(); });
@@ -35,6 +39,7 @@ void LensPane::setVisible(bool visible) {
     if (visible) {
         tellOrigin();
         frmLens_.show(ports_.worksheet.handle());
+        raise(true);
     } else {
         // Its menu must not outlive its sight.
         EndMenu();
