@@ -172,7 +172,7 @@ void StencilPanel::endPreview() {
 }
 
 void StencilPanel::letGo() {
-    release();
+    repeat_.stop();
     endPreview();
 }
 

@@ -42,9 +42,11 @@ class StencilPanel : public PanelCore {
     /// The same by the space bar: one step at each key-down.
     void pressMoveKey(int index, int shift);
     void pressAngleKey(int index, int shift);
-    /// The mouse button or the key goes up, or the button loses the mouse: all steps since the
-    /// press are one step of undo. Nothing if none is pressed.
+    /// The mouse button goes up, or the button loses the mouse: all steps since the press are one
+    /// step of undo. Nothing if the mouse holds none.
     void release() { repeat_.release(); }
+    /// The same of the space bar, which also ends its steps by losing the focus.
+    void releaseKey() { repeat_.releaseKey(); }
 
     void clickAngleZero(int shift);
     void clickFullSize();
@@ -78,6 +80,7 @@ class StencilPanel : public PanelCore {
   private:
     [[nodiscard]] std::vector<ControlText> texts() const override;
     [[nodiscard]] ButtonLook pauseLook() const override;
+    [[nodiscard]] bool pauseDimsLabels() const override { return true; }
     [[nodiscard]] std::string removeText() const override;
     void showState() override {}
     void stateReplaced() override { view().showPattern(); }

@@ -37,6 +37,7 @@ struct ButtonEvents {
     Event<int> MouseEnter;
     Event<int> MouseExit;
     Event<> gotFocus;
+    Event<> lostFocus;
 };
 
 }  // namespace ormala

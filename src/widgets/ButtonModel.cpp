@@ -22,7 +22,7 @@ void ButtonModel::setEnabled(bool enabled) {
 
 ButtonState ButtonModel::state() const {
     const bool down = (pressed_ && !shownUp_) || checked();
-    return {enabled_, hover_ && enabled_, down && enabled_ && !alwaysUp_, hasFocus_};
+    return {enabled_, hover_ && enabled_, down && enabled_ && !alwaysUp_, hasFocus_, checked()};
 }
 
 void ButtonModel::setPressed(bool pressed) {
@@ -31,8 +31,15 @@ void ButtonModel::setPressed(bool pressed) {
 }
 
 void ButtonModel::mouseDown(const MouseArguments& at) {
+    if (mouseIsDown_ && lastPress_.button != mouseButton::right && at.button != lastPress_.button) {
+        // The press goes on that began with another mouse button.
+        events_.MouseDown.raise(at);
+        return;
+    }
     lastPress_ = at;
     mouseIsDown_ = true;
+    // What the space bar has begun is the mouse's from now on.
+    keyFlag_ = false;
     if (at.button != mouseButton::right) {
         setPressed(true);
     }
@@ -54,6 +61,10 @@ void ButtonModel::mouseMove(const MouseArguments& at) {
 
 void ButtonModel::mouseUp(const MouseArguments& at) {
     if (!mouseIsDown_) {
+        return;
+    }
+    if (at.button != lastPress_.button) {
+        events_.MouseUp.raise(at);
         return;
     }
     mouseIsDown_ = false;
@@ -98,7 +109,7 @@ void ButtonModel::clickOnce() {
 }
 
 void ButtonModel::keyDown(const KeyArguments& arguments) {
-    if (arguments.keyCode == key::space && !keyFlag_) {
+    if (arguments.keyCode == key::space && !keyFlag_ && !mouseIsDown_) {
         keyFlag_ = true;
         setPressed(true);
     }
@@ -112,9 +123,6 @@ void ButtonModel::keyUp(const KeyArguments& arguments) {
         setPressed(false);
         const std::weak_ptr<void> life = life_;
         events_.Click.raise();
-        if (!life.expired()) {
-            mouseUp({mouseButton::left, arguments.shift, 0, 0});
-        }
         if (life.expired()) {
             return;
         }
@@ -141,7 +149,11 @@ void ButtonModel::loseFocus() {
     keyFlag_ = false;
     setPressed(false);
     surface_.refresh();
-    mouseUp({mouseButton::left, 0, outside.x, outside.y});
+    const std::weak_ptr<void> life = life_;
+    cancelPress();
+    if (!life.expired()) {
+        events_.lostFocus.raise();
+    }
 }
 
 }  // namespace ormala

@@ -16,6 +16,8 @@ struct ButtonState {
     /// Looks pressed, by mouse, key or value.
     bool pressed = false;
     bool focused = false;
+    /// A toggle that is on.
+    bool checked = false;
 
     bool operator==(const ButtonState&) const = default;
 };
@@ -58,6 +60,8 @@ class ButtonModel {
     /// A toggle that is on.
     [[nodiscard]] bool checked() const { return isToggle() && value_; }
 
+    /// A press ends with the release of the mouse button that began it; others that come and go
+    /// meanwhile are told and change nothing.
     void mouseDown(const MouseArguments& at);
     void mouseMove(const MouseArguments& at);
     void mouseUp(const MouseArguments& at);

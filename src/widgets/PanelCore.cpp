@@ -33,9 +33,16 @@ void PanelCore::setPause(bool pause) {
         letGo();
     }
     pause_ = pause;
-    view().showButton("cmdPause", pauseLook());
+    showPause();
     ports_.visibility.setVisible(item_, !pause);
     SetUndoButtons();
+}
+
+/// The eye is open as long as the tool is shown.
+void PanelCore::showPause() {
+    ButtonLook look = pauseLook();
+    look.picture = pause_ ? Picture::hide : Picture::show;
+    view().showButton("cmdPause", look);
 }
 
 void PanelCore::ShowAllProps(bool force) {
@@ -64,13 +71,14 @@ void PanelCore::showSelection() {
 }
 
 void PanelCore::SetUndoButtons() {
-    view().enable(
-        {!pause_, !pause_ && history_.UndoPossible(), !pause_ && history_.RedoPossible()});
+    view().enable({!pause_, !pause_ || !pauseDimsLabels(), !pause_ && history_.UndoPossible(),
+                   !pause_ && history_.RedoPossible()});
 }
 
 void PanelCore::InitializeFinished() {
     history_.discard();
     history_.Add(true);
+    showPause();
     SetUndoButtons();
 }
 
@@ -80,6 +88,9 @@ void PanelCore::AddHistoryStep() {
 }
 
 void PanelCore::Undo() {
+    if (pause_) {
+        return;
+    }
     letGo();
     history_.Undo();
     SetUndoButtons();
@@ -88,6 +99,9 @@ void PanelCore::Undo() {
 }
 
 void PanelCore::Redo() {
+    if (pause_) {
+        return;
+    }
     letGo();
     history_.Redo();
     SetUndoButtons();

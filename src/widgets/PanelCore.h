@@ -59,7 +59,10 @@ class PanelCore : public ToolPanel {
               const PanelPorts& ports);
 
     [[nodiscard]] virtual std::vector<ControlText> texts() const = 0;
+    /// The colours of `cmdPause`.
     [[nodiscard]] virtual ButtonLook pauseLook() const = 0;
+    /// Whether the read-outs of a hidden tool are disabled like the buttons.
+    [[nodiscard]] virtual bool pauseDimsLabels() const { return false; }
     /// The entry of the popup menu.
     [[nodiscard]] virtual std::string removeText() const = 0;
     /// What shows the tool's state beside the texts.
@@ -77,6 +80,7 @@ class PanelCore : public ToolPanel {
 
   private:
     void showSelection();
+    void showPause();
     void SetUndoButtons();
     void keyDownFiltered(int key, int shift);
 

@@ -44,7 +44,7 @@ std::vector<PanelControl> titleControls(int captionRow, int deleteTip) {
     };
     return {
         {"lblTitle", PanelPart::title, {4, 0, 180, bandHeight}, captionRow},
-        {"cmdPause", PanelPart::button, button(0), 0, 189, Picture::hide, roundAtLeft},
+        {"cmdPause", PanelPart::button, button(0), 0, 189, Picture::show, roundAtLeft},
         {"cmdUndo", PanelPart::button, button(1), 0, 207, Picture::undo, square},
         {"cmdRedo", PanelPart::button, button(2), 0, 208, Picture::redo, square},
         {"cmdDelete", PanelPart::button, button(3), 0, deleteTip, Picture::remove, roundAtRight},

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "modAPI/colors.h"
+#include "widgets/pictures.h"
 
 namespace ormala {
 
@@ -41,6 +42,8 @@ struct ButtonLook {
     bool down = false;
     /// Unchanged if there is none.
     std::optional<Color> text = std::nullopt;
+    /// Unchanged if there is none.
+    std::optional<Picture> picture = std::nullopt;
 
     bool operator==(const ButtonLook&) const = default;
 };
@@ -53,8 +56,10 @@ inline constexpr Color offColor = rgb(112, 112, 112);
 ButtonLook colorButtonLook(Color color);
 
 struct PanelEnabling {
-    /// Every control but `cmdPause`, `cmdUndo` and `cmdRedo`.
+    /// Every button but `cmdPause`, `cmdUndo` and `cmdRedo`.
     bool controls = true;
+    /// Every label but the title.
+    bool labels = true;
     bool undo = false;
     bool redo = false;
 

@@ -16,8 +16,8 @@ RepeatButton::RepeatButton(Event<>& clock, Action finished)
     : clock_(clock), finished_(std::move(finished)) {}
 
 void RepeatButton::press(int shift, Action step) {
-    release();
-    running_ = true;
+    stop();
+    holder_ = Holder::mouse;
     step_ = std::move(step);
     ticksToWait_ = ticksAfterPress;
     ticksBetween_ = shift != 0 ? ticksBetweenFixedSteps : 0;
@@ -27,18 +27,18 @@ void RepeatButton::press(int shift, Action step) {
 }
 
 void RepeatButton::pressKey(const Action& step) {
-    if (step_) {
-        release();
+    if (holder_ == Holder::mouse) {
+        return;
     }
-    running_ = true;
+    holder_ = Holder::key;
     step();
 }
 
-void RepeatButton::release() {
-    if (!running_) {
+void RepeatButton::end(Holder holder) {
+    if (holder == Holder::none || holder != holder_) {
         return;
     }
-    running_ = false;
+    holder_ = Holder::none;
     ticks_.reset();
     step_ = nullptr;
     finished_();

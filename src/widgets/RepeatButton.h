@@ -7,7 +7,7 @@
 namespace ormala {
 
 /// The run of steps of a button that is held: one at the press, then after a pause one at each tick
-/// of the clock, more slowly with a modifier. A run ends once, however it ends.
+/// of the clock, more slowly with a modifier. A run ends once, and only what began it ends it.
 class RepeatButton {
   public:
     using Action = std::function<void()>;
@@ -18,13 +18,21 @@ class RepeatButton {
     /// The mouse has pressed the button, with these modifiers for the whole run.
     void press(int shift, Action step);
     /// A key acts as the button: one step, at each press and at each repetition by the keyboard.
+    /// Nothing while the mouse holds the button.
     void pressKey(const Action& step);
-    /// The button or the key is let go, or the button has lost the mouse. Nothing without a run.
-    void release();
+    /// The mouse button is let go, or the mouse is lost: ends a run of the mouse.
+    void release() { end(Holder::mouse); }
+    /// The key is let go, or the focus is lost: ends a run of the key.
+    void releaseKey() { end(Holder::key); }
+    /// Ends the run, whatever holds it. Nothing without a run.
+    void stop() { end(holder_); }
 
-    [[nodiscard]] bool running() const { return running_; }
+    [[nodiscard]] bool running() const { return holder_ != Holder::none; }
 
   private:
+    enum class Holder { none, mouse, key };
+
+    void end(Holder holder);
     void tick();
 
     Event<>& clock_;
@@ -33,7 +41,7 @@ class RepeatButton {
     Subscription ticks_;
     int ticksToWait_ = 0;
     int ticksBetween_ = 0;
-    bool running_ = false;
+    Holder holder_ = Holder::none;
 };
 
 }  // namespace ormala

@@ -122,6 +122,10 @@ constexpr Layer hide[] = {
     {line, ink, "M4 20L20 4", 4.5},
     {line, accent, "M4 20L20 4"},
 };
+constexpr Layer show[] = {
+    {body, paper, "M1 12C6 3 18 3 23 12C18 21 6 21 1 12Z"},
+    {fill, ink, "O 12 12 4"},
+};
 constexpr Layer undo[] = {
     {edged, paper, "M8 8L14 8C22 8 22 19 14 19L8 19 M9 3L9 13L3 8Z"},
 };
@@ -282,6 +286,7 @@ constexpr std::array<Drawing, pictureCount> drawings = {{
     {options},
     {help},
     {hide},
+    {show},
     {undo},
     {undo, Turn::mirrored},
     {remove},

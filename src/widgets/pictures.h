@@ -27,6 +27,7 @@ enum class Picture {
     options,
     help,
     hide,
+    show,
     undo,
     redo,
     remove,

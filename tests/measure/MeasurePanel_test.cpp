@@ -114,12 +114,20 @@ TEST_F(MeasurePanelTest, TheMenuNamesTheNumberInBothLanguages) {
 TEST_F(MeasurePanelTest, PauseDisablesThePanelAndHidesTheTool) {
     panel_.setPause(true);
     EXPECT_FALSE(visibility_.visible[&tool_]);
-    EXPECT_EQ(view_.enabling, (PanelEnabling{false, false, false}));
-    EXPECT_EQ(view_.buttons["cmdPause"], (ButtonLook{rgb(187, 168, 0), true}));
+    EXPECT_EQ(view_.enabling, (PanelEnabling{false, true, false, false}));
+    EXPECT_EQ(view_.buttons["cmdPause"],
+              (ButtonLook{rgb(187, 168, 0), true, std::nullopt, Picture::hide}));
     panel_.setPause(false);
     EXPECT_TRUE(visibility_.visible[&tool_]);
-    EXPECT_EQ(view_.enabling, (PanelEnabling{true, false, false}));
-    EXPECT_EQ(view_.buttons["cmdPause"], (ButtonLook{0x707070, false}));
+    EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, false, false}));
+    EXPECT_EQ(view_.buttons["cmdPause"],
+              (ButtonLook{0x707070, false, std::nullopt, Picture::show}));
+}
+
+TEST_F(MeasurePanelTest, ANewPanelShowsTheOpenEyeAtOnce) {
+    panel_.finish();
+    EXPECT_EQ(view_.buttons["cmdPause"],
+              (ButtonLook{0x707070, false, std::nullopt, Picture::show}));
 }
 
 TEST_F(MeasurePanelTest, UndoingADisconnectShowsTheLinesConnectedAgain) {

@@ -77,12 +77,26 @@ TEST_F(StencilPanelButtonsTest, TheSpaceBarStepsAtEachPressAndStoresAtTheKeyUp) 
     tick(30);
     EXPECT_EQ(tool_.RectBound().top, 102);
     EXPECT_EQ(undoSteps(), 0);
-    panel_->release();
+    panel_->releaseKey();
     EXPECT_EQ(undoSteps(), 1);
     panel_->pressAngleKey(0, 0);
-    panel_->release();
+    panel_->releaseKey();
     EXPECT_NEAR(tool_.RotationAngle(), pi / 180, 1e-12);
     EXPECT_EQ(undoSteps(), 2);
+}
+
+TEST_F(StencilPanelButtonsTest, AKeyThatIsLetGoLeavesTheRunOfTheMouse) {
+    start(plain);
+    panel_->pressMove(1, 0);
+    tick(11);
+    panel_->pressMoveKey(3, 0);
+    panel_->releaseKey();
+    tick(1);
+    EXPECT_EQ(tool_.RectBound().left, 103);
+    EXPECT_EQ(tool_.RectBound().top, 100);
+    EXPECT_EQ(undoSteps(), 0);
+    panel_->release();
+    EXPECT_EQ(undoSteps(), 1);
 }
 
 TEST_F(StencilPanelButtonsTest, ARunEndsWithItsPanel) {

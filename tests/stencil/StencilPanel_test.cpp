@@ -73,36 +73,55 @@ TEST_F(StencilPanelTest, PauseHidesTheToolAndDisablesThePanel) {
     turnTo(1);
     panel_->setPause(true);
     EXPECT_FALSE(visibility_.visible[&tool_]);
-    EXPECT_EQ(view_.enabling, (PanelEnabling{false, false, false}));
-    EXPECT_EQ(view_.buttons["cmdPause"], (ButtonLook{rgb(112, 112, 112), true}));
+    EXPECT_EQ(view_.enabling, (PanelEnabling{false, false, false, false}));
+    EXPECT_EQ(view_.buttons["cmdPause"],
+              (ButtonLook{rgb(112, 112, 112), true, std::nullopt, Picture::hide}));
     later(1);
     panel_->ShowAllProps(true);
-    EXPECT_EQ(view_.enabling, (PanelEnabling{false, false, false}));
+    EXPECT_EQ(view_.enabling, (PanelEnabling{false, false, false, false}));
     panel_->setPause(false);
     EXPECT_TRUE(visibility_.visible[&tool_]);
-    EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, false}));
-    EXPECT_EQ(view_.buttons["cmdPause"], (ButtonLook{rgb(187, 168, 0), false}));
+    EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, true, false}));
+    EXPECT_EQ(view_.buttons["cmdPause"],
+              (ButtonLook{rgb(187, 168, 0), false, std::nullopt, Picture::show}));
+}
+
+TEST_F(StencilPanelTest, ANewPanelShowsTheOpenEyeAtOnce) {
+    EXPECT_EQ(view_.buttons["cmdPause"],
+              (ButtonLook{rgb(187, 168, 0), false, std::nullopt, Picture::show}));
+}
+
+TEST_F(StencilPanelTest, UndoAndRedoLeaveAHiddenToolAlone) {
+    turnTo(1);
+    panel_->setPause(true);
+    panel_->Undo();
+    EXPECT_EQ(tool_.RotationAngle(), 1);
+    panel_->setPause(false);
+    panel_->Undo();
+    panel_->setPause(true);
+    panel_->Redo();
+    EXPECT_EQ(tool_.RotationAngle(), 0);
 }
 
 TEST_F(StencilPanelTest, UndoAndRedoShowTheStateThatCameBack) {
     turnTo(pi / 2);
-    EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, false}));
+    EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, true, false}));
     view_.patternPictures = 0;
     panel_->Undo();
     EXPECT_EQ(tool_.RotationAngle(), 0);
-    EXPECT_EQ(view_.enabling, (PanelEnabling{true, false, true}));
+    EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, false, true}));
     EXPECT_EQ(view_.patternPictures, 1);
     later(1);
     panel_->Redo();
     EXPECT_EQ(tool_.RotationAngle(), pi / 2);
     EXPECT_EQ(view_.texts["lblAngle1"], "90.0\u00b0 ");
-    EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, false}));
+    EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, true, false}));
 }
 
 TEST_F(StencilPanelTest, TheFirstStateIsNoStepOfUndo) {
     turnTo(1);
     panel_->InitializeFinished();
-    EXPECT_EQ(view_.enabling, (PanelEnabling{true, false, false}));
+    EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, false, false}));
     EXPECT_FALSE(tool_.History().UndoPossible());
 }
 

@@ -27,6 +27,7 @@ class TestButton final : public ButtonEvents, private ButtonSurface {
         note(MouseEnter, "MouseEnter");
         note(MouseExit, "MouseExit");
         note(gotFocus, "gotFocus");
+        note(lostFocus, "lostFocus");
     }
 
     void refresh() override { ++refreshes; }
@@ -105,6 +106,73 @@ TEST(ButtonModel, LastPixelIsInsideAndTheNextOneIsNot) {
     button.model.mouseDown(inside);
     button.model.mouseUp({mouseButton::left, 0, 40, 21});
     EXPECT_EQ(button.taken(), (Names{"MouseDown", "MouseUp"}));
+}
+
+TEST(ButtonModel, PressThatMovesOffAndComesBackClicks) {
+    TestButton button;
+    button.model.mouseMove(inside);
+    button.model.mouseDown(inside);
+    button.model.mouseMove(beside);
+    button.model.mouseIsElsewhere(0);
+    button.model.mouseMove(inside);
+    button.taken();
+    button.model.mouseUp(inside);
+    EXPECT_EQ(button.taken(), (Names{"Click", "MouseUp"}));
+}
+
+TEST(ButtonModel, PressOnTheSpotBesideTheButtonIsNoClickHoweverTheMouseWent) {
+    for (const MouseArguments& off : {MouseArguments{mouseButton::left, 0, -1, 10},
+                                      MouseArguments{mouseButton::left, 0, 40, 10},
+                                      MouseArguments{mouseButton::left, 0, 10, -1},
+                                      MouseArguments{mouseButton::left, 0, 10, 22}}) {
+        TestButton button;
+        button.model.mouseDown(inside);
+        button.model.mouseUp(off);
+        EXPECT_EQ(button.taken(), (Names{"MouseDown", "MouseUp"})) << off.x << ", " << off.y;
+    }
+}
+
+TEST(ButtonModel, AnotherMouseButtonLeavesThePressThatGoesOn) {
+    constexpr MouseArguments right{mouseButton::right, 0, 10, 10};
+    TestButton button;
+    button.model.mouseDown(inside);
+    button.model.mouseDown(right);
+    button.model.mouseUp(right);
+    EXPECT_TRUE(button.model.state().pressed);
+    EXPECT_EQ(button.taken(), (Names{"MouseDown", "MouseDown", "MouseUp"}));
+    button.model.mouseUp(inside);
+    EXPECT_EQ(button.taken(), (Names{"Click", "MouseUp"}));
+}
+
+TEST(ButtonModel, TheLeftButtonPressesThoughTheRightOneIsHeld) {
+    constexpr MouseArguments right{mouseButton::right, 0, 10, 10};
+    TestButton button;
+    button.model.mouseDown(right);
+    button.model.mouseDown(inside);
+    EXPECT_TRUE(button.model.state().pressed);
+    button.model.mouseUp(right);
+    EXPECT_TRUE(button.model.state().pressed);
+    button.model.mouseUp(inside);
+    EXPECT_EQ(button.taken(), (Names{"MouseDown", "MouseDown", "MouseUp", "Click", "MouseUp"}));
+}
+
+TEST(ButtonModel, SpaceMeansNothingWhileTheMouseHoldsTheButton) {
+    TestButton button;
+    button.model.mouseDown(inside);
+    button.model.keyDown(spaceBar);
+    button.model.keyUp(spaceBar);
+    EXPECT_TRUE(button.model.state().pressed);
+    EXPECT_EQ(button.taken(), (Names{"MouseDown", "KeyDown", "KeyUp"}));
+}
+
+TEST(ButtonModel, TheMouseTakesOverWhatSpaceHasBegun) {
+    TestButton button;
+    button.model.keyDown(spaceBar);
+    button.model.mouseDown(inside);
+    button.model.keyUp(spaceBar);
+    EXPECT_TRUE(button.model.state().pressed);
+    button.model.mouseUp(inside);
+    EXPECT_EQ(button.taken(), (Names{"KeyDown", "MouseDown", "KeyUp", "Click", "MouseUp"}));
 }
 
 TEST(ButtonModel, DoubleClickGivesTwoPressesWithTheirReleasesAndOneDblClickBetween) {
@@ -203,7 +271,7 @@ TEST(ButtonModel, NoButtonStaysDownWhenTheFocusGoesAway) {
     button.model.loseFocus();
     EXPECT_FALSE(button.model.state().pressed);
     EXPECT_FALSE(button.model.state().focused);
-    EXPECT_EQ(button.taken(), (Names{"gotFocus", "MouseDown", "MouseUp"}));
+    EXPECT_EQ(button.taken(), (Names{"gotFocus", "MouseDown", "MouseUp", "lostFocus"}));
     button.model.keyDown(spaceBar);
     button.model.loseFocus();
     EXPECT_FALSE(button.model.state().pressed);
@@ -298,7 +366,6 @@ void destroyedBy(Event<Args...> ButtonEvents::*event, void (*act)(ButtonModel&))
 TEST(ButtonModel, HandlerOfAnyEventMayDestroyTheButton) {
     const auto click = [](ButtonModel& model) { model.clickOnce(); };
     const auto type = [](ButtonModel& model) {
-        model.mouseDown(inside);
         model.keyDown(spaceBar);
         model.keyUp(spaceBar);
     };
@@ -306,13 +373,13 @@ TEST(ButtonModel, HandlerOfAnyEventMayDestroyTheButton) {
     destroyedBy(&ButtonEvents::MouseDown, click);
     destroyedBy(&ButtonEvents::MouseUp, click);
     destroyedBy(&ButtonEvents::Click, type);
-    destroyedBy(&ButtonEvents::MouseUp, type);
     destroyedBy(&ButtonEvents::KeyUp, type);
     destroyedBy(&ButtonEvents::MouseDown, [](ButtonModel& model) { model.doubleClick(); });
     destroyedBy(&ButtonEvents::DblClick, [](ButtonModel& model) { model.doubleClick(); });
     destroyedBy(&ButtonEvents::KeyDown, [](ButtonModel& model) { model.keyDown(spaceBar); });
     destroyedBy(&ButtonEvents::MouseEnter, [](ButtonModel& model) { model.mouseMove(inside); });
     destroyedBy(&ButtonEvents::gotFocus, [](ButtonModel& model) { model.gainFocus(); });
+    destroyedBy(&ButtonEvents::lostFocus, [](ButtonModel& model) { model.loseFocus(); });
     destroyedBy(&ButtonEvents::MouseExit, [](ButtonModel& model) {
         model.mouseMove(inside);
         model.mouseIsElsewhere(0);

@@ -96,16 +96,43 @@ TEST_F(RepeatButtonTest, EachKeyDownIsAStepAndTheKeyUpEndsTheRun) {
     tick(20);
     EXPECT_EQ(steps_, 2);
     EXPECT_EQ(runs_, 0);
-    button_->release();
+    button_->releaseKey();
     EXPECT_EQ(runs_, 1);
 }
 
-TEST_F(RepeatButtonTest, AKeyEndsTheRunOfTheMouse) {
+TEST_F(RepeatButtonTest, AKeyMeansNothingWhileTheMouseHoldsTheButton) {
     press();
     key();
-    EXPECT_EQ(runs_, 1);
-    tick(20);
+    button_->releaseKey();
+    EXPECT_EQ(steps_, 1);
+    EXPECT_EQ(runs_, 0);
+    tick(11);
     EXPECT_EQ(steps_, 2);
+}
+
+TEST_F(RepeatButtonTest, AReleaseOfTheMouseLeavesTheRunOfTheKey) {
+    key();
+    button_->release();
+    EXPECT_TRUE(button_->running());
+    button_->releaseKey();
+    EXPECT_EQ(runs_, 1);
+}
+
+TEST_F(RepeatButtonTest, ThePressOfTheMouseEndsTheRunOfTheKey) {
+    key();
+    press();
+    EXPECT_EQ(runs_, 1);
+    button_->releaseKey();
+    EXPECT_TRUE(button_->running());
+}
+
+TEST_F(RepeatButtonTest, AStopEndsTheRunOfEither) {
+    press();
+    button_->stop();
+    key();
+    button_->stop();
+    button_->stop();
+    EXPECT_EQ(runs_, 2);
 }
 
 TEST_F(RepeatButtonTest, AStepMayEndTheRun) {

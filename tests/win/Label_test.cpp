@@ -119,6 +119,47 @@ TEST_F(LabelTest, TipComesWithTheMouse) {
     EXPECT_EQ(tipWindowCount(), before + 1);
 }
 
+TEST_F(LabelTest, ATextWithoutRoomEndsInAnEllipsisAndTheTipTellsAllOfIt) {
+    label_.SetTooltip("Width");
+    label_.setText("W = 1234 ");
+    EXPECT_EQ(label_.tipText(), "Width");
+    label_.setText("a = 1234567.8 nautical miles of the old kind ");
+    EXPECT_EQ(label_.tipText(), "a = 1234567.8 nautical miles of the old kind\nWidth");
+    EXPECT_LT(ink().second, 99);
+    const PixelMap shown = readClient(label_.handle());
+    // The dots of the ellipsis: nothing above the base line at the end of the text.
+    const int last = ink().second;
+    for (int y = 0; y < 7; ++y) {
+        EXPECT_EQ(shown.at(last, y), ControlPanel::ground) << y;
+    }
+    label_.SetTooltip({});
+    EXPECT_EQ(label_.tipText(), "a = 1234567.8 nautical miles of the old kind");
+}
+
+TEST_F(LabelTest, TheBlankBehindAValueTakesNoRoom) {
+    label_.setText("12345678");
+    const int width = ink().second + 1;
+    label_.setText("12345678 ");
+    label_.place({20, 10, 20 + width + 1, 26});
+    EXPECT_EQ(label_.tipText(), "");
+    EXPECT_EQ(ink().second + 1, width);
+}
+
+TEST_F(LabelTest, ADisabledOneIsDimmedAndBrightAgainLater) {
+    label_.setText("HHHH");
+    const auto has = [this](COLORREF color) {
+        panel_.shown();
+        const PixelMap map = readClient(label_.handle());
+        return std::ranges::find(map.pixels, color) != map.pixels.end();
+    };
+    EXPECT_TRUE(has(yellow));
+    label_.setEnabled(false);
+    EXPECT_FALSE(has(yellow));
+    EXPECT_TRUE(has(RGB(150, 150, 150)));
+    label_.setEnabled(true);
+    EXPECT_TRUE(has(yellow));
+}
+
 TEST_F(LabelTest, ScreenReaderReadsItAsText) {
     label_.setText("3:5 & more");
     const AccessibleReader reader(label_.handle());

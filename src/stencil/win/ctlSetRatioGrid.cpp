@@ -3,6 +3,7 @@
 #include <string>
 
 #include "stencil/stencilPanelDesign.h"
+#include "widgets/dpi.h"
 
 namespace ormala {
 
@@ -29,15 +30,17 @@ ctlSetRatioGrid::ctlSetRatioGrid(ctlRatioGrid& tool, const Ports& ports, Stencil
 void ctlSetRatioGrid::connectSteps() {
     constexpr int moves = 18;
     for (int i = 0; i < moves; ++i) {
-        onHold(indexed("cmdMove", i), {[this, i](int shift) { core_.pressMove(i, shift); },
-                                       [this, i](int shift) { core_.pressMoveKey(i, shift); },
-                                       [this] { core_.release(); }});
+        onHold(indexed("cmdMove", i),
+               {[this, i](int shift) { core_.pressMove(i, shift); },
+                [this, i](int shift) { core_.pressMoveKey(i, shift); }, [this] { core_.release(); },
+                [this] { core_.releaseKey(); }});
     }
     constexpr int turns = 2;
     for (int i = 0; i < turns; ++i) {
-        onHold(indexed("cmdAngle", i), {[this, i](int shift) { core_.pressAngle(i, shift); },
-                                        [this, i](int shift) { core_.pressAngleKey(i, shift); },
-                                        [this] { core_.release(); }});
+        onHold(indexed("cmdAngle", i),
+               {[this, i](int shift) { core_.pressAngle(i, shift); },
+                [this, i](int shift) { core_.pressAngleKey(i, shift); },
+                [this] { core_.release(); }, [this] { core_.releaseKey(); }});
     }
 }
 
@@ -55,7 +58,9 @@ void ctlSetRatioGrid::connectCommands() {
 }
 
 void ctlSetRatioGrid::showPattern() {
-    button("imgPattern").setPicture([this](PixelSize size) { return core_.patternPicture(size); });
+    button("imgPattern").setPicture([this](PixelSize size) {
+        return core_.patternPicture(size, lineWidthAt(dpi()));
+    });
 }
 
 void ctlSetRatioGrid::runPreviewTimer(bool run) {

@@ -10,6 +10,7 @@
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
 #include "widgets/win/controlFontSize.h"
+#include "widgets/win/darkColors.h"
 
 namespace ormala {
 
@@ -32,6 +33,45 @@ void Label::setText(std::string_view text) {
         Window::setCaption(text);
         InvalidateRect(handle(), nullptr, FALSE);
     }
+}
+
+void Label::setEnabled(bool enabled) {
+    if ((IsWindowEnabled(handle()) != FALSE) != enabled) {
+        EnableWindow(handle(), enabled ? TRUE : FALSE);
+        InvalidateRect(handle(), nullptr, FALSE);
+    }
+}
+
+/// The blank behind a value takes no room that the value needs.
+std::string Label::drawnText() const {
+    return text_.substr(0, text_.find_last_not_of(' ') + 1);
+}
+
+bool Label::isCut() const {
+    const WindowContext context(handle());
+    const Selected font(context.get(), font_->get());
+    const std::wstring shown = wide(drawnText());
+    SIZE size{};
+    GetTextExtentPoint32W(context.get(), shown.c_str(), static_cast<int>(shown.size()), &size);
+    return size.cx > clientRectangle().right;
+}
+
+std::string Label::tipText() const {
+    if (!isCut()) {
+        return ownTip_;
+    }
+    // A tip of its own tells all of a text that its owner has shortened.
+    return ownTip_.empty() ? drawnText() : drawnText() + "\n" + ownTip_;
+}
+
+/// What is cut is asked when the mouse comes, and not at each of the many changes of a text.
+void Label::showTip(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_MOUSEMOVE) {
+        if (const std::string text = tipText(); text != tip_.text()) {
+            tip_.setText(text);
+        }
+    }
+    tip_.relay(handle(), message, wParam, lParam);
 }
 
 void Label::setBold(bool bold) {
@@ -69,10 +109,12 @@ void Label::drawText(HDC context, const RECT& area) const {
     drawGround(context, area);
     const Selected font(context, font_->get());
     SetBkMode(context, TRANSPARENT);
-    SetTextColor(context, colorRef(textColor_));
+    const bool enabled = IsWindowEnabled(handle()) != FALSE;
+    SetTextColor(context, colorRef(enabled ? textColor_ : dark::dimText));
     RECT place = area;
-    DrawTextW(context, wide(text_).c_str(), -1, &place,
-              alignmentFormat(alignment_) | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+    DrawTextW(
+        context, wide(drawnText()).c_str(), -1, &place,
+        alignmentFormat(alignment_) | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 
 LRESULT Label::paint() {
@@ -115,7 +157,7 @@ std::optional<LRESULT> Label::onMessage(UINT message, WPARAM wParam, LPARAM lPar
         default:
             break;
     }
-    tip_.relay(handle(), message, wParam, lParam);
+    showTip(message, wParam, lParam);
     if (passMouseToParent(handle(), message, wParam, lParam)) {
         return 0;
     }

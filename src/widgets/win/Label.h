@@ -13,8 +13,9 @@
 
 namespace ormala {
 
-/// A read-out: one line of text on the plain colour of its owner. A window of its own, so that its
-/// text can be read from outside; its mouse events go to its parent.
+/// A read-out: one line of text on the plain colour of its owner. A text without room ends in an
+/// ellipsis, and the tip tells all of it. A window of its own, so that its text can be read from
+/// outside; its mouse events go to its parent.
 class Label : public Window {
   public:
     /// A visible child of `parent` without a size. `name` is its control name.
@@ -36,7 +37,11 @@ class Label : public Window {
     [[nodiscard]] HFONT font() const { return font_->get(); }
     /// The resolution of the screen that it is drawn for; at first that of its window.
     void setDpi(int dpi);
-    void SetTooltip(const std::string& text) { tip_.setText(text); }
+    void SetTooltip(const std::string& text) { ownTip_ = text; }
+    /// The text that the tip shows now: the whole text if it is cut, and what the tip says itself.
+    [[nodiscard]] std::string tipText() const;
+    /// A disabled one is dimmed.
+    void setEnabled(bool enabled);
 
   private:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -44,6 +49,9 @@ class Label : public Window {
     void drawGround(HDC context, const RECT& area) const;
     void drawText(HDC context, const RECT& area) const;
     LRESULT tellFacts(AccessibleFacts& facts) const;
+    [[nodiscard]] std::string drawnText() const;
+    [[nodiscard]] bool isCut() const;
+    void showTip(UINT message, WPARAM wParam, LPARAM lParam);
 
     template <typename T>
     void change(T& member, T value) {
@@ -62,6 +70,7 @@ class Label : public Window {
     int points_ = 8;
     int dpi_ = 96;
     SharedFont font_;
+    std::string ownTip_;
     HoverTip tip_;
 };
 

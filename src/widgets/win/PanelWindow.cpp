@@ -35,6 +35,10 @@ constexpr int commandPicture = 16;
 /// Buttons below this height show the small picture, in pixels at 96 DPI.
 constexpr int commandHeight = 20;
 
+PictureMaker pictureMaker(Picture picture) {
+    return [picture](PixelSize size) { return drawPicture(picture, size); };
+}
+
 template <typename Controls>
 auto* find(const Controls& controls, std::string_view name) {
     const auto at = controls.find(name);
@@ -113,8 +117,7 @@ void PanelWindow::makeButton(const PanelControl& control, int id) {
     auto made = std::make_unique<ZelvikButtonXP>(handle(), id, control.name);
     made->setBackColor(offColor);
     if (control.picture) {
-        made->setPicture(
-            [picture = *control.picture](PixelSize size) { return drawPicture(picture, size); });
+        made->setPicture(pictureMaker(*control.picture));
         const int side = control.box.height() < commandHeight ? stepPicture : commandPicture;
         made->setPictureSize(side, side);
     }
@@ -122,6 +125,9 @@ void PanelWindow::makeButton(const PanelControl& control, int id) {
         made->setBackColor(imageGround);
         made->setPlaneFace(true);
         made->setPictureSize(control.box.width() - imageEdges, control.box.height() - imageEdges);
+        // A picture is no stop of the Tab key.
+        SetWindowLongPtrW(made->handle(), GWL_STYLE,
+                          GetWindowLongPtrW(made->handle(), GWL_STYLE) & ~WS_TABSTOP);
     }
     made->setCornerStyle(control.cornerStyle);
     // A press goes through its click, so that the focus is not taken from a held button.
@@ -214,14 +220,22 @@ void PanelWindow::onHold(std::string_view name, Hold hold) {
             shared->press(at.shift);
         }
     }));
-    subscriptions_.push_back(
-        held.MouseUp.subscribe([shared](MouseArguments) { shared->release(); }));
+    subscriptions_.push_back(held.MouseUp.subscribe([shared](MouseArguments at) {
+        if (at.button == mouseButton::left) {
+            shared->release();
+        }
+    }));
     subscriptions_.push_back(held.KeyDown.subscribe([shared](KeyArguments key) {
         if (key.keyCode == key::space) {
             shared->key(key.shift);
         }
     }));
-    subscriptions_.push_back(held.KeyUp.subscribe([shared](KeyArguments) { shared->release(); }));
+    subscriptions_.push_back(held.KeyUp.subscribe([shared](KeyArguments key) {
+        if (key.keyCode == key::space) {
+            shared->releaseKey();
+        }
+    }));
+    subscriptions_.push_back(held.lostFocus.subscribe([shared] { shared->releaseKey(); }));
 }
 
 void PanelWindow::onHover(std::string_view name, const std::function<void(bool)>& action) {
@@ -259,6 +273,9 @@ void PanelWindow::showButton(std::string_view name, const ButtonLook& look) {
         if (look.text) {
             shown->setForeColor(*look.text);
         }
+        if (look.picture) {
+            shown->setPicture(pictureMaker(*look.picture));
+        }
     }
 }
 
@@ -276,6 +293,11 @@ void PanelWindow::enable(const PanelEnabling& enabling) {
             shown->setEnabled(enabling.redo);
         } else if (name != "cmdPause") {
             shown->setEnabled(enabling.controls);
+        }
+    }
+    for (const auto& [name, label] : labels_) {
+        if (name != "lblTitle") {
+            label->setEnabled(enabling.labels);
         }
     }
 }

@@ -79,11 +79,13 @@ class PanelWindow : public Window, protected PanelView {
     void onClick(std::string_view name, std::function<void()> action);
     /// The action gets the modifiers of the press.
     void onShiftClick(std::string_view name, std::function<void(int)> action);
-    /// What a button does that repeats while it is held; `press` and `key` get the modifiers.
+    /// What a button does that repeats while it is held by the left mouse button or the space bar;
+    /// `press` and `key` get the modifiers.
     struct Hold {
         std::function<void(int)> press;
         std::function<void(int)> key;
         std::function<void()> release;
+        std::function<void()> releaseKey;
     };
     void onHold(std::string_view name, Hold hold);
     /// The mouse comes over the button or leaves it.

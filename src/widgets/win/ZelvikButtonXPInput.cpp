@@ -64,7 +64,7 @@ LRESULT ZelvikButtonXP::press(int button, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT ZelvikButtonXP::release(int button, WPARAM wParam, LPARAM lParam) {
-    if (captured_) {
+    if (captured_ && (heldButtons(wParam) & ~button) == 0) {
         captured_ = false;
         ReleaseCapture();
     }
