@@ -21,6 +21,13 @@ struct PathLine {
     bool operator==(const PathLine&) const = default;
 };
 
+/// A ground on which a path line of that colour can be read.
+constexpr Color groundOfPathLine(Color text) {
+    constexpr Color lit = rgb(128, 128, 128);
+    constexpr Color window = 0x606060;
+    return text == 0 ? lit : window;
+}
+
 /// What the documents ask and show.
 class DocumentView {
   public:

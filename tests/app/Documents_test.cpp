@@ -1,6 +1,7 @@
 #include "app/Documents.h"
 
 #include "app/DocumentsFixture.h"
+#include "support/Contrast.h"
 
 namespace ormala {
 namespace {
@@ -19,6 +20,12 @@ TEST_F(DocumentsTest, AFirstStartShowsOneToolOfEachKind) {
     EXPECT_EQ(first.kinds(), "SM");
     EXPECT_TRUE(first.sheet.isVisible(first.stencil(0).RefControlControl()));
     EXPECT_TRUE(first.sheet.isVisible(first.measure(1).RefControlControl()));
+}
+
+TEST_F(DocumentsTest, ThePathLineCanBeReadInEachOfItsColors) {
+    for (const Color text : {documentColor, Color{0}}) {
+        EXPECT_GE(test::contrast(text, groundOfPathLine(text)), test::readable);
+    }
 }
 
 TEST_F(DocumentsTest, TheToolsOfTheLastRunComeBackWithoutADocument) {

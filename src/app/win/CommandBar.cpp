@@ -2,7 +2,7 @@
 
 #include "app/modes.h"
 #include "language/MlStringModule.h"
-#include "widgets/PanelView.h"
+#include "widgets/captionColors.h"
 
 namespace ormala {
 
@@ -14,8 +14,6 @@ enum ControlId { idGround = 100, idPath, idInfo };
 constexpr Color ground = 0x606060;
 constexpr Color groundAtTop = rgb(124, 124, 124);
 constexpr Color infoColor = rgb(255, 230, 0);
-constexpr Color captionColor = rgb(255, 255, 192);
-constexpr Color litCaptionColor = rgb(31, 31, 31);
 
 constexpr int pictureSize = 16;
 
@@ -38,7 +36,6 @@ CommandBar::CommandBar(const Window& parent)
     // The first child of a window lies in front of the others.
     SetWindowPos(gradToolbar_.handle(), HWND_BOTTOM, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    lblPath_.setBackColor(ground);
     lblInfo_.setBackColor(ground);
     lblInfo_.setTextColor(infoColor);
     lblInfo_.setVisible(false);
@@ -51,7 +48,8 @@ void CommandBar::makeButton(HWND parent, const CommandDesign& design) {
         [picture = design.picture](PixelSize size) { return drawPicture(picture, size); });
     made->setPictureSize(pictureSize, pictureSize);
     made->setBackColor(offColor);
-    made->setForeColor(captionColor);
+    made->setPlaneFace(toolbarCaption.plane);
+    made->setForeColor(toolbarCaption.text);
     if (design.command <= Command::pauseMode) {
         constexpr int oneOfSeveral = 2;
         made->setControlType(oneOfSeveral);
@@ -102,7 +100,7 @@ void CommandBar::showMode(int mode, bool worksheetMaxSized) {
         ZelvikButtonXP& btnMode = *buttons_[static_cast<std::size_t>(i)];
         btnMode.setValue(i == mode);
         btnMode.setBackColor(colorOfToggle(i == mode));
-        btnMode.setForeColor(i == mode ? litCaptionColor : captionColor);
+        btnMode.setForeColor(i == mode ? toolbarCaptionOn.text : toolbarCaption.text);
     }
 }
 
@@ -115,16 +113,9 @@ void CommandBar::showToggles(const ToggleStates& states) {
     }
 }
 
-void CommandBar::growButtons(bool reset, int dpi) {
-    if (reset) {
-        growth_.reset(dpi);
-    } else {
-        growth_.tick(dpi);
-    }
-}
-
 void CommandBar::showPathLine(const PathLine& line) {
     lblPath_.setTextColor(line.color);
+    lblPath_.setBackColor(groundOfPathLine(line.color));
     lblPath_.setText(line.caption);
     lblPath_.SetTooltip(line.tip);
 }

@@ -26,9 +26,8 @@ class CommandBar {
     /// Which buttons show, can be pressed and are lit in this mode.
     void showMode(int mode, bool worksheetMaxSized);
     void showToggles(const ToggleStates& states);
-    /// Small buttons grow under the mouse; to be called about every 44 ms. `reset` brings all back
-    /// to their size at rest.
-    void growButtons(bool reset, int dpi);
+    /// Small buttons grow under the mouse; to be called about every 44 ms.
+    void growButtons(int dpi) { growth_.tick(dpi); }
 
     void showPathLine(const PathLine& line);
     /// The width that a path has to fit, in pixels.

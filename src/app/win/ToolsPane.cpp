@@ -207,6 +207,17 @@ void ToolsPane::EnsurePanelVisible(const PanelWindow& panel) {
     list_.EnsurePanelVisible(box.top, box.height());
 }
 
+void ToolsPane::ensureControlVisible(HWND control) {
+    const HWND panel = GetParent(control);
+    if (panelMaker_.panelOf(panel) != nullptr) {
+        constexpr int room = 4;
+        // Not beyond the panel, and so not beyond the content.
+        const PixelRect box =
+            list_.placeInContent(control).grown(room).intersected(list_.placeInContent(panel));
+        list_.EnsurePanelVisible(box.top, box.height());
+    }
+}
+
 void ToolsPane::removePanel(PanelWindow& panel) {
     PostMessageW(ports_.window, wmRemovePanel, 0, reinterpret_cast<LPARAM>(panel.handle()));
 }

@@ -74,6 +74,8 @@ class ToolsPane : private ToolListView, private BusyView, private PanelHost {
     [[nodiscard]] bool hasPanelAt(POINT screen) const;
     /// The control window has got the keyboard: the panel that had it last gets it again.
     void giveFocusToPanel();
+    /// Scrolls so that a control shows that has got the focus by a key.
+    void ensureControlVisible(HWND control);
     /// A message that the pane has sent the window.
     std::optional<LRESULT> onMessage(UINT message, LPARAM lParam);
 

@@ -125,6 +125,7 @@ class frmSettings : public Window,
     LRESULT onCommand(WPARAM wParam);
     bool onKey(int key);
     bool focusNextControl(int shift);
+    bool stepHistoryOfSelected(bool back);
 
     WindowsFileStore store_;
     WindowsCodePage codePage_;

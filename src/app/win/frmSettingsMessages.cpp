@@ -7,6 +7,7 @@
 
 #include "app/win/screens.h"
 #include "app/win/settingsIds.h"
+#include "app/win/tabStops.h"
 #include "scene/Input.h"
 
 // Messages and keys of the control window.
@@ -185,7 +186,7 @@ LRESULT frmSettings::onFocus() {
 
 LRESULT frmSettings::onTimer(WPARAM id) {
     if (id == tmrButtonBig) {
-        bar_->growButtons(IsWindowEnabled(handle()) == FALSE, dpi_);
+        bar_->growButtons(dpi_);
     } else if (id == tmrFast) {
         tools_->tick();
     } else {
@@ -218,15 +219,25 @@ bool frmSettings::focusNextControl(int shift) {
     if ((shift & ~modifier::shift) != 0) {
         return false;
     }
-    const HWND next = GetNextDlgTabItem(handle(), GetFocus(), shift == modifier::shift);
+    const HWND next = nextTabStop(handle(), GetFocus(), shift == modifier::shift);
     if (next != nullptr) {
         SetFocus(next);
+        tools_->ensureControlVisible(next);
+    }
+    return true;
+}
+
+/// Of the selected tool, as the worksheet does it.
+bool frmSettings::stepHistoryOfSelected(bool back) {
+    if (OverlayItem* const tool = worksheet_->sheet().selected()) {
+        stepHistory(*tool, back);
     }
     return true;
 }
 
 bool frmSettings::onKey(int key) {
     const bool shiftOnly = heldModifiers() == modifier::shift;
+    const bool ctrlOnly = heldModifiers() == modifier::ctrl;
     switch (key) {
         case key::f1:
             ShowHelp();
@@ -243,6 +254,9 @@ bool frmSettings::onKey(int key) {
         case key::f12:
             ShowOptions(0);
             return true;
+        case key::z:
+        case key::y:
+            return ctrlOnly && stepHistoryOfSelected(key == key::z);
         default:
             return false;
     }

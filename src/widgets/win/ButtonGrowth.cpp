@@ -28,10 +28,13 @@ void placeBehind(const ZelvikButtonXP& button, HWND before) {
 bool ButtonGrowth::hasWork(PixelPoint mouse, int dpi) const {
     RECT window{};
     GetWindowRect(GetAncestor(panel_.handle(), GA_ROOT), &window);
-    const bool someGrown = std::ranges::any_of(entries_, &Entry::grown);
     return growthHasWork(
-        {panel_.isVisible(), fromRect(panel_.rectangle()), fromRect(window), someGrown}, mouse,
+        {panel_.isVisible(), fromRect(panel_.rectangle()), fromRect(window), someGrown()}, mouse,
         dpi);
+}
+
+bool ButtonGrowth::someGrown() const {
+    return std::ranges::any_of(entries_, &Entry::grown);
 }
 
 std::vector<GrowingButton> ButtonGrowth::buttons() const {
@@ -46,6 +49,13 @@ std::vector<GrowingButton> ButtonGrowth::buttons() const {
 }
 
 void ButtonGrowth::tick(int dpi) {
+    if (IsWindowEnabled(GetAncestor(panel_.handle(), GA_ROOT)) == FALSE) {
+        // A dialog is open: a click would go nowhere.
+        if (someGrown()) {
+            reset(dpi);
+        }
+        return;
+    }
     POINT cursor{};
     GetCursorPos(&cursor);
     const PixelPoint mouse{static_cast<int>(cursor.x), static_cast<int>(cursor.y)};

@@ -16,6 +16,7 @@ class ButtonGrowth {
 
     /// The button must outlive it.
     void add(ZelvikButtonXP& button) { entries_.push_back({&button}); }
+    /// Nothing is grown while the window takes no input.
     void tick(int dpi);
     /// All buttons return to their size at rest.
     void reset(int dpi);
@@ -30,6 +31,7 @@ class ButtonGrowth {
         HWND before = nullptr;
     };
 
+    [[nodiscard]] bool someGrown() const;
     [[nodiscard]] bool hasWork(PixelPoint mouse, int dpi) const;
     [[nodiscard]] std::vector<GrowingButton> buttons() const;
     void apply(const GrowthSteps& steps, int dpi);
