@@ -6,6 +6,10 @@
 
 namespace ormala {
 
+/// What tells the kind and the state of a button without any colour: a box with a tick in it while
+/// the button is on, or a lamp that is lit.
+enum class ButtonSign { none, tick, lamp };
+
 /// How a button is to look, as its owner has set it. Colours may be system colours; lengths are
 /// pixels at 96 DPI.
 struct ButtonDesign {
@@ -32,6 +36,10 @@ struct ButtonDesign {
     bool UseCornerStyle = true;
     /// 0 all corners round, 1 the left ones, 2 the right ones, 3 none: two neighbours form one bar.
     int CornerStyle = 0;
+    /// Stands at the left end of the face.
+    ButtonSign Sign = ButtonSign::none;
+    /// Has no edge at the bottom, so that it is one with what lies below.
+    bool OpenBelow = false;
 };
 
 }  // namespace ormala

@@ -180,20 +180,41 @@ void SliderModel::move(PixelPoint point) {
     }
 }
 
-void SliderModel::stepBy(float step) {
-    setValue(value_ + step);
+void SliderModel::setByUser(float value) {
+    setValue(value);
     Change.raise();
 }
 
+/// A tenth of the range, in whole steps.
+float SliderModel::page() const {
+    constexpr float pages = 10;
+    const float steps = std::round(std::abs(static_cast<float>(max_ - min_)) / pages / step_);
+    return std::max(steps, 1.0F) * step_;
+}
+
 bool SliderModel::keyDown(int key) {
-    if (key == key::left) {
-        stepBy(-step_);
-    } else if (key == key::right) {
-        stepBy(step_);
-    } else {
-        return false;
+    switch (key) {
+        case key::left:
+            setByUser(value_ - step_);
+            return true;
+        case key::right:
+            setByUser(value_ + step_);
+            return true;
+        case key::pageDown:
+            setByUser(value_ - page());
+            return true;
+        case key::pageUp:
+            setByUser(value_ + page());
+            return true;
+        case key::home:
+            setByUser(static_cast<float>(min_));
+            return true;
+        case key::end:
+            setByUser(static_cast<float>(max_));
+            return true;
+        default:
+            return false;
     }
-    return true;
 }
 
 }  // namespace ormala

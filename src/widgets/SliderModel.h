@@ -65,6 +65,7 @@ class SliderModel {
     void move(PixelPoint point);
     void release() { held_ = Held::none; }
     [[nodiscard]] bool isHeld() const { return held_ != Held::none; }
+    /// Arrows go by a step, Page Up and Page Down by a tenth of the range, Home and End to an end.
     /// False if the key does nothing here.
     bool keyDown(int key);
 
@@ -78,7 +79,8 @@ class SliderModel {
 
     void MoveSlider(double x);
     void placeHandle();
-    void stepBy(float step);
+    void setByUser(float value);
+    [[nodiscard]] float page() const;
     [[nodiscard]] float clamped(float value) const;
     [[nodiscard]] double freeLength() const;
     [[nodiscard]] int decimals() const;

@@ -1,5 +1,8 @@
 #include "widgets/buttonFace.h"
 
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
 #include <optional>
 
 #include "scene/dpi.h"
@@ -65,7 +68,9 @@ FaceColors shadedColors(const ButtonDesign& design, const ButtonState& state,
         return {flat, flat};
     }
     if (design.PlaneFace) {
-        return {offset(0), offset(0)};
+        // A press would else be seen by nothing.
+        const Color plane = offset(state.pressed && !state.checked ? pressedTop : 0);
+        return {plane, plane};
     }
     return state.pressed ? FaceColors{offset(pressedTop), offset(pressedBottom)}
                          : FaceColors{offset(raisedTop), offset(raisedBottom)};
@@ -145,6 +150,62 @@ PixelImage pictureInState(const PixelImage& picture, const ButtonDesign& design,
         return faded(greyed(picture), disabledOpacity);
     }
     return design.GreyPicture && !state.hover ? greyed(picture) : picture;
+}
+
+namespace {
+
+/// From the middle of a sign, which reaches from -1 to 1.
+struct SignPoint {
+    double x;
+    double y;
+};
+
+double distanceFromLine(SignPoint p, SignPoint a, SignPoint b) {
+    const double dx = b.x - a.x;
+    const double dy = b.y - a.y;
+    const double part =
+        std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / (dx * dx + dy * dy), 0.0, 1.0);
+    return std::hypot(p.x - a.x - part * dx, p.y - a.y - part * dy);
+}
+
+/// Whether the ink of a sign covers a point; `line` is the width of its outline.
+bool isInk(ButtonSign sign, SignPoint p, double line, bool on) {
+    if (sign == ButtonSign::lamp) {
+        const double radius = std::hypot(p.x, p.y);
+        constexpr double lit = 0.5;
+        return (radius <= 1 && radius > 1 - line) || (on && radius <= lit);
+    }
+    const bool edge = std::max(std::abs(p.x), std::abs(p.y)) > 1 - line;
+    const double tick = std::min(distanceFromLine(p, {-0.5, 0}, {-0.1, 0.45}),
+                                 distanceFromLine(p, {-0.1, 0.45}, {0.55, -0.5}));
+    return edge || (on && tick <= line / 2 + 0.05);
+}
+
+}  // namespace
+
+void paintSign(PixelImage& face, const PixelRect& place, const ButtonDesign& design,
+               const ButtonState& state, int dpi, SystemColorLookup systemColor) {
+    constexpr int fine = 4;
+    const double side = place.width();
+    const double line = 2 * lineWidthAt(dpi) / side;
+    const Color ink = state.enabled ? OffsetColor(design.ForeColor, 0, systemColor)
+                                    : OffsetColor(outlineColor, 0, systemColor);
+    PixelImage drawn = filledImage({place.width(), place.height()}, 0);
+    for (int y = 0; y < place.height(); ++y) {
+        for (int x = 0; x < place.width(); ++x) {
+            int covered = 0;
+            for (int part = 0; part < fine * fine; ++part) {
+                const double px = x + (part % fine + 0.5) / fine;
+                const double py = y + (part / fine + 0.5) / fine;
+                const SignPoint point{2 * px / side - 1, 2 * py / side - 1};
+                covered += isInk(design.Sign, point, line, state.checked) ? 1 : 0;
+            }
+            const auto alpha = static_cast<std::uint32_t>(255 * covered / (fine * fine));
+            const std::uint32_t pixel = (opaquePixel(ink) & 0xFFFFFFU) | alpha << 24;
+            fillBox(drawn, {x, y, x + 1, y + 1}, covered == 0 ? 0 : pixel);
+        }
+    }
+    blendOnto(face, drawn, {place.left, place.top});
 }
 
 int pictureShift(const ButtonDesign& design, const ButtonState& state, int dpi) {

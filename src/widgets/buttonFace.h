@@ -15,6 +15,10 @@ PixelImage buttonFace(const ButtonDesign& design, const ButtonState& state, Pixe
 PixelImage pictureInState(const PixelImage& picture, const ButtonDesign& design,
                           const ButtonState& state);
 
+/// Draws the sign of a button at its place on the face.
+void paintSign(PixelImage& face, const PixelRect& place, const ButtonDesign& design,
+               const ButtonState& state, int dpi, SystemColorLookup systemColor);
+
 /// How far the picture is moved from its place, right and down.
 int pictureShift(const ButtonDesign& design, const ButtonState& state, int dpi);
 /// The same of the caption.

@@ -70,10 +70,13 @@ RoundedBox RoundedBox::shrunk(int by) const {
 RoundedBox buttonShape(const ButtonDesign& design, PixelSize size, int dpi) {
     const bool round = design.ButtonStyle >= 2 && design.ButtonStyle <= 4;
     const int style = design.UseCornerStyle ? design.CornerStyle : 0;
-    return {{0, 0, size.width, size.height},
+    const int diameter = scaledLength(cornerDiameter, dpi);
+    // The edge that isn't to be seen lies beyond the window.
+    const int beyond = design.OpenBelow ? diameter : 0;
+    return {{0, 0, size.width, size.height + beyond},
             round && (style == 0 || style == 1),
             round && (style == 0 || style == 2),
-            scaledLength(cornerDiameter, dpi)};
+            diameter};
 }
 
 std::vector<PixelRect> regionOfShape(const RoundedBox& shape) {
@@ -94,11 +97,10 @@ PixelSize leastButtonSize(PixelSize wanted, int dpi) {
     return {std::max(wanted.width, least), std::max(wanted.height, least)};
 }
 
-ButtonContent LayoutContent(const ButtonDesign& design, PixelSize size, PixelSize picture, int dpi,
-                            const CaptionMeter& meter) {
-    const int before = scaledLength(marginBefore, dpi);
-    const int after = scaledLength(marginAfter, dpi);
-    const PixelRect inner{before, before, size.width - after, size.height - after};
+namespace {
+
+ButtonContent contentIn(const PixelRect& inner, const ButtonDesign& design, PixelSize picture,
+                        int dpi, const CaptionMeter& meter) {
     if (design.Caption.empty()) {
         return {centred(picture, inner), {}};
     }
@@ -112,6 +114,40 @@ ButtonContent LayoutContent(const ButtonDesign& design, PixelSize size, PixelSiz
     const auto [first, second] =
         block(pictureFirst ? picture : text, pictureFirst ? text : picture, stacked, gap, inner);
     return pictureFirst ? ButtonContent{first, second} : ButtonContent{second, first};
+}
+
+/// A narrow button has a smaller sign, nearer to the edge.
+struct SignMeasures {
+    int side;
+    int left;
+    int gap;
+};
+
+SignMeasures signMeasures(PixelSize size, int dpi) {
+    constexpr int wideFrom = 60;
+    constexpr SignMeasures ofWide{9, 7, 4};
+    constexpr SignMeasures ofNarrow{7, 4, 2};
+    const SignMeasures& measures = size.width < scaledLength(wideFrom, dpi) ? ofNarrow : ofWide;
+    return {scaledLength(measures.side, dpi), scaledLength(measures.left, dpi),
+            scaledLength(measures.gap, dpi)};
+}
+
+}  // namespace
+
+ButtonContent LayoutContent(const ButtonDesign& design, PixelSize size, PixelSize picture, int dpi,
+                            const CaptionMeter& meter) {
+    const int before = scaledLength(marginBefore, dpi);
+    const int after = scaledLength(marginAfter, dpi);
+    PixelRect inner{before, before, size.width - after, size.height - after};
+    if (design.Sign == ButtonSign::none) {
+        return contentIn(inner, design, picture, dpi, meter);
+    }
+    const SignMeasures sign = signMeasures(size, dpi);
+    const int top = (size.height - sign.side) / 2;
+    inner.left = sign.left + sign.side + sign.gap;
+    ButtonContent content = contentIn(inner, design, picture, dpi, meter);
+    content.sign = {sign.left, top, sign.left + sign.side, top + sign.side};
+    return content;
 }
 
 char16_t accessKeyOf(std::string_view caption) {

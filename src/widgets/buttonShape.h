@@ -38,13 +38,15 @@ PixelSize leastButtonSize(PixelSize wanted, int dpi);
 struct ButtonContent {
     PixelRect picture;
     PixelRect text;
+    /// Empty for a button without one.
+    PixelRect sign = {};
 };
 
 /// Tells the size of the caption when its lines break at that width.
 using CaptionMeter = std::function<PixelSize(int width)>;
 
-/// Where picture and caption stand. Without a picture its size is empty; `meter` is asked only if
-/// there is a caption.
+/// Where picture, caption and sign stand. Without a picture its size is empty; `meter` is asked
+/// only if there is a caption.
 ButtonContent LayoutContent(const ButtonDesign& design, PixelSize size, PixelSize picture, int dpi,
                             const CaptionMeter& meter);
 

@@ -113,6 +113,34 @@ TEST_F(SliderModelTest, ArrowKeysStep) {
     EXPECT_EQ(changes_, 2);
 }
 
+TEST_F(SliderModelTest, HomeAndEndGoToTheEnds) {
+    slider_.setMin(-3);
+    slider_.setMax(7);
+    EXPECT_TRUE(slider_.keyDown(key::end));
+    EXPECT_EQ(slider_.Value(), 7);
+    EXPECT_TRUE(slider_.keyDown(key::home));
+    EXPECT_EQ(slider_.Value(), -3);
+    EXPECT_EQ(changes_, 2);
+}
+
+TEST_F(SliderModelTest, PageUpAndPageDownGoByATenthOfTheRangeInWholeSteps) {
+    EXPECT_TRUE(slider_.keyDown(key::pageUp));
+    EXPECT_EQ(slider_.Value(), 30);
+    EXPECT_TRUE(slider_.keyDown(key::pageDown));
+    EXPECT_TRUE(slider_.keyDown(key::pageDown));
+    EXPECT_EQ(slider_.Value(), 10);
+    EXPECT_EQ(changes_, 3);
+    slider_.setMax(10);
+    slider_.keyDown(key::pageDown);
+    EXPECT_EQ(slider_.Value(), 9);
+    slider_.setMax(3);
+    slider_.keyDown(key::pageDown);
+    EXPECT_EQ(slider_.Value(), 2);
+    slider_.keyDown(key::pageUp);
+    slider_.keyDown(key::pageUp);
+    EXPECT_EQ(slider_.Value(), 3);
+}
+
 TEST_F(SliderModelTest, KeyAtTheEndRaisesChangeThoughNothingChanges) {
     slider_.setValue(100);
     slider_.keyDown(key::right);

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "scene/pixelImages.h"
+#include "support/Contrast.h"
+#include "widgets/captionColors.h"
+#include "widgets/dpi.h"
 
 namespace ormala {
 namespace {
@@ -177,6 +180,74 @@ TEST(pictureInState, DisabledPictureIsGreyAndFaded) {
     const PixelImage red{{1, 1}, {0xFFFF0000U}};
     EXPECT_EQ(pictureInState(red, grey(), {false, false, false, false}).argb,
               std::vector{0x60363636U});
+}
+
+/// The colour of an opaque pixel, whose parts stand the other way round.
+Color colorOf(std::uint32_t pixel) {
+    return rgb(static_cast<int>(pixel >> 16 & 0xFF), static_cast<int>(pixel >> 8 & 0xFF),
+               static_cast<int>(pixel & 0xFF));
+}
+
+TEST(buttonFace, ThePlaneFaceOfAPressIsDarkerAndThatOfAToggleIsNot) {
+    ButtonDesign design = grey();
+    design.PlaneFace = true;
+    EXPECT_EQ(pixelAt(face(design, {true, false, true, false}), {20, 10}), shifted(-22));
+    EXPECT_EQ(pixelAt(face(design, {true, false, true, false, true}), {20, 10}), shifted(0));
+}
+
+TEST(buttonFace, AnOpenBottomIsOneWithWhatLiesBelow) {
+    ButtonDesign design = grey();
+    design.PlaneFace = true;
+    design.OpenBelow = true;
+    const PixelImage image = face(design, {});
+    EXPECT_EQ(pixelAt(image, {0, 21}), outline);
+    EXPECT_EQ(pixelAt(image, {1, 21}), shifted(0));
+    EXPECT_EQ(pixelAt(image, {20, 21}), shifted(0));
+    EXPECT_EQ(pixelAt(image, {20, 0}), outline);
+}
+
+/// The pixels of a sign's place that have another colour than the face.
+int inkOf(ButtonSign sign, bool on, int dpi = 96) {
+    ButtonDesign design = grey();
+    design.PlaneFace = true;
+    design.Sign = sign;
+    const ButtonState state{true, false, false, false, on};
+    PixelImage image = face(design, state, dpi);
+    const PixelRect place = scaledToDpi(PixelRect{7, 6, 16, 15}, dpi);
+    paintSign(image, place, design, state, dpi, &sampleSystemColor);
+    int ink = 0;
+    for (int y = place.top; y < place.bottom; ++y) {
+        for (int x = place.left; x < place.right; ++x) {
+            ink += pixelAt(image, {x, y}) != shifted(0) ? 1 : 0;
+        }
+    }
+    return ink;
+}
+
+TEST(paintSign, TickAndLampTellWithoutColourWhetherAButtonIsOn) {
+    for (const int dpi : {96, 144, 192}) {
+        EXPECT_GE(inkOf(ButtonSign::tick, true, dpi), inkOf(ButtonSign::tick, false, dpi) + 6);
+        EXPECT_GE(inkOf(ButtonSign::lamp, true, dpi), inkOf(ButtonSign::lamp, false, dpi) + 6);
+    }
+    EXPECT_NE(inkOf(ButtonSign::tick, false), inkOf(ButtonSign::lamp, false));
+}
+
+TEST(buttonFace, CaptionsStandOutFromEachRowBehindThem) {
+    for (const CaptionColors& colors :
+         {dialogCaption, dialogCaptionOn, toolbarCaption, toolbarCaptionOn}) {
+        ButtonDesign design;
+        design.BackColor = colors.face;
+        design.PlaneFace = colors.plane;
+        for (const bool pressed : {false, true}) {
+            const PixelImage image =
+                buttonFace(design, {true, false, pressed, false, false}, {90, 24}, 96, nullptr);
+            for (int y = 6; y < 18; ++y) {
+                EXPECT_GE(test::contrast(colorOf(pixelAt(image, {45, y})), colors.text),
+                          test::readable)
+                    << std::hex << colors.face << std::dec << " row " << y;
+            }
+        }
+    }
 }
 
 }  // namespace

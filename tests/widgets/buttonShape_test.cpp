@@ -140,6 +140,42 @@ TEST(LayoutContent, MarginsGrowWithTheResolution) {
     });
 }
 
+TEST(LayoutContent, ASignStandsAtTheLeftAndTheContentKeepsClearOfIt) {
+    ButtonDesign design;
+    design.Caption = "Visible";
+    design.Sign = ButtonSign::tick;
+    int width = 0;
+    const auto meter = [&](int room) {
+        width = room;
+        return PixelSize{40, 13};
+    };
+    const ButtonContent content = LayoutContent(design, {100, 24}, {}, 96, meter);
+    EXPECT_EQ(content.sign, (PixelRect{7, 7, 16, 16}));
+    EXPECT_EQ(width, 100 - 3 - 20);
+    EXPECT_GE(content.text.left, 20);
+    EXPECT_EQ(LayoutContent(design, {200, 48}, {}, 192, meter).sign, (PixelRect{14, 15, 32, 33}));
+    design.Sign = ButtonSign::none;
+    EXPECT_TRUE(LayoutContent(design, {100, 24}, {}, 96, meter).sign.empty());
+}
+
+TEST(LayoutContent, ANarrowButtonHasRoomForSignPictureAndDigit) {
+    ButtonDesign design;
+    design.Caption = "8";
+    design.Sign = ButtonSign::lamp;
+    const ButtonContent content = LayoutContent(design, {41, 24}, {15, 15}, 96, [](int) {
+        return PixelSize{6, 13};
+    });
+    EXPECT_EQ(content.sign, (PixelRect{4, 8, 11, 15}));
+    EXPECT_GE(content.picture.left, content.sign.right + 2);
+    EXPECT_LE(content.text.right, 38);
+}
+
+TEST(buttonShape, AnOpenBottomHasNoCorners) {
+    ButtonDesign design;
+    design.OpenBelow = true;
+    EXPECT_EQ(corners(design), "..XX");
+}
+
 TEST(accessKeyOf, IsTheLetterAfterTheLastSingleAmpersand) {
     EXPECT_EQ(accessKeyOf("&Save"), u'S');
     EXPECT_EQ(accessKeyOf("Save &as"), u'a');

@@ -8,6 +8,7 @@
 
 #include "app/win/frmSettings.h"
 #include "dialogs/win/frmAbout.h"
+#include "dialogs/win/frmColor.h"
 #include "dialogs/win/frmOptions.h"
 #include "e2e/support/AppDataFolder.h"
 #include "measure/ManualMeasures.h"
@@ -114,6 +115,35 @@ TEST_F(ScreenReader, NamesAllOfTheControlWindowAndItsPanels) {
     expectSpoken("chkShowAngle", "Show angles between the lines", ROLE_SYSTEM_CHECKBUTTON,
                  STATE_SYSTEM_CHECKED);
     expectSpoken("cmdColorA", "Select color for line 'a'", ROLE_SYSTEM_PUSHBUTTON);
+}
+
+TEST_F(ScreenReader, NamesAllOfTheControlWindowWith33ToolsWhereverTheListStands) {
+    const test::AppDataFolder folder;
+    frmSettings settings(false);
+    ToolList& tools = settings.tools().tools();
+    // A first start has two.
+    constexpr int more = 31;
+    for (int made = 0; made < more; ++made) {
+        tools.AddNewControl(made % 2);
+    }
+    for (int notch = 0; notch < 3; ++notch) {
+        read(settings.handle());
+        expectSpoken("cmdTL", "Up", ROLE_SYSTEM_PUSHBUTTON);
+        expectSpoken("cmdMove", "Scroll position", ROLE_SYSTEM_INDICATOR);
+        expectSpoken("cmdBR", "Down", ROLE_SYSTEM_PUSHBUTTON);
+        settings.tools().Scroll(true);
+    }
+}
+
+TEST_F(ScreenReader, NamesAllOfTheDialogOfColors) {
+    const TestWindow owner;
+    frmColor dialog;
+    readDialog("frmColor");
+    EXPECT_EQ(dialog.GetColor(owner.handle(), 0), 0);
+    expectSpoken("btnPalette(0)", "All hues, from light to dark", ROLE_SYSTEM_RADIOBUTTON,
+                 STATE_SYSTEM_CHECKED);
+    expectSpoken("btnPalette(1)", "Pure colors", ROLE_SYSTEM_RADIOBUTTON);
+    expectSpoken("btnPalette(2)", "Subdued colors", ROLE_SYSTEM_RADIOBUTTON);
 }
 
 TEST_F(ScreenReader, NamesAllOfTheDialogOfPatterns) {

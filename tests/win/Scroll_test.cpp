@@ -1,7 +1,8 @@
 #include "widgets/win/Scroll.h"
 
-#include <commctrl.h>
 #include <gtest/gtest.h>
+
+#include <oleacc.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -13,6 +14,9 @@
 #include "platform/win/text.h"
 #include "scene/Input.h"
 #include "support/win/Wait.h"
+#include "win/AccessibleReader.h"
+#include "win/ControlPanel.h"
+#include "win/EnglishTexts.h"
 #include "win/TestSheet.h"
 
 namespace ormala {
@@ -294,26 +298,31 @@ TEST_F(ScrollTest, PressedArrowLooksPressedWhileTheMouseIsOnIt) {
     mouse(bar_->handle(), WM_LBUTTONUP, 8, 90);
 }
 
-TEST_F(ScrollTest, TipsSayTheirTextOnAllButtons) {
-    bar_->SetTooltip("Scroll the list");
-    bar_->SetTooltip("Scroll the patterns");
-    int tips = 0;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM parameter) -> BOOL {
-            wchar_t text[100]{};
-            TTTOOLINFOW tool{};
-            tool.cbSize = sizeof tool;
-            tool.lpszText = text;
-            if (classOf(window) == "tooltips_class32" &&
-                SendMessageW(window, TTM_ENUMTOOLSW, 0, reinterpret_cast<LPARAM>(&tool)) != FALSE &&
-                narrow(text) == "Scroll the patterns") {
-                ++*reinterpret_cast<int*>(parameter);
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&tips));
-    EXPECT_EQ(tips, 3);
+TEST_F(ScrollTest, ItsPartsAreToldByWordsAndHaveNoTips) {
+    const AccessibleThread thread;
+    const EnglishTexts english;
+    const int tips = tipWindowCount();
+    const auto told = [this](const char* name) { return AccessibleReader(part(name)).name(); };
+    EXPECT_EQ(told("cmdTL"), "Up");
+    EXPECT_EQ(told("cmdBR"), "Down");
+    EXPECT_EQ(told("cmdMove"), "Scroll position");
+    EXPECT_EQ(AccessibleReader(part("cmdTL")).role(), ROLE_SYSTEM_PUSHBUTTON);
+    EXPECT_EQ(AccessibleReader(part("cmdMove")).role(), ROLE_SYSTEM_INDICATOR);
+    MlSetLanguage(languageGerman, {});
+    EXPECT_EQ(told("cmdTL"), "Nach oben");
+    EXPECT_EQ(told("cmdBR"), "Nach unten");
+    EXPECT_EQ(told("cmdMove"), "Bildlaufposition");
+    for (const char* name : {"cmdTL", "cmdMove", "cmdBR"}) {
+        SendMessageW(part(name), WM_MOUSEMOVE, 0, MAKELPARAM(8, 8));
+    }
+    EXPECT_EQ(tipWindowCount(), tips);
+}
+
+TEST_F(ScrollTest, AScreenReaderPressesAnArrow) {
+    const AccessibleThread thread;
+    const int before = bar_->Value();
+    EXPECT_EQ(AccessibleReader(part("cmdBR")).act(), S_OK);
+    EXPECT_TRUE(test::waitUntil([&] { return bar_->Value() != before; }));
 }
 
 TEST_F(ScrollTest, BarOfNoSizeDoesNotFail) {

@@ -4,6 +4,7 @@
 
 #include "dialogs/palettes.h"
 #include "language/MlStringModule.h"
+#include "win/DialogPicture.h"
 #include "win/OptionsStage.h"
 #include "win/TestAccessible.h"
 
@@ -266,6 +267,42 @@ TEST_F(frmOptionsTest, ALanguageChangeByItsOwnOKRelabelsTheDialog) {
     EXPECT_EQ(text("btnTab(0)"), "Allgemein");
     EXPECT_EQ(text("cmdCancel"), "Abbrechen");
     EXPECT_EQ(text("sldMagnification"), "Vergrößerung: 4");
+}
+
+TEST_F(frmOptionsTest, ThePaletteEndsWhereItsColumnEndsAtEveryResolution) {
+    untilReady()
+        .then([this] {
+            for (const int dpi : {96, 120, 144, 168, 192}) {
+                moveToDpi(dialog_.handle(), dpi);
+                RECT palette{};
+                GetWindowRect(part("colpicGrid"), &palette);
+                RECT slider{};
+                GetWindowRect(part("sldGridOffsetX"), &slider);
+                EXPECT_EQ(palette.right, slider.right) << dpi;
+            }
+        })
+        .key(VK_ESCAPE);
+    show(1);
+}
+
+TEST_F(frmOptionsTest, TheOpenTabIsOneWithItsPage) {
+    untilReady()
+        .then([this] {
+            constexpr COLORREF on = RGB(187, 168, 0);
+            RECT tab{};
+            GetWindowRect(part("btnTab(1)"), &tab);
+            MapWindowPoints(HWND_DESKTOP, dialog_.handle(), reinterpret_cast<POINT*>(&tab), 2);
+            RedrawWindow(dialog_.handle(), nullptr, nullptr,
+                         RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+            const HDC context = GetDC(dialog_.handle());
+            const int middle = static_cast<int>(tab.left + tab.right) / 2;
+            for (int y = static_cast<int>(tab.bottom) - 4; y < tab.bottom + 2; ++y) {
+                EXPECT_EQ(GetPixel(context, middle, y), on) << y - tab.bottom;
+            }
+            ReleaseDC(dialog_.handle(), context);
+        })
+        .key(VK_ESCAPE);
+    show(1);
 }
 
 TEST_F(frmOptionsTest, TheCaptionIsComposedOfTheTitle) {

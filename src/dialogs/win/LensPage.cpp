@@ -37,7 +37,7 @@ enum Id {
 };
 
 /// In pixels at 96 DPI.
-constexpr int stylePicture = 17;
+constexpr int stylePicture = 15;
 
 }  // namespace
 

@@ -26,8 +26,6 @@ constexpr int tabTop = 8;
 constexpr int tabHeight = 28;
 constexpr int tabWidth = 192;
 constexpr int tabGap = 4;
-/// How far a tab's round corners reach up.
-constexpr int cornerHeight = 4;
 /// The page begins below a line that joins the open tab to it.
 constexpr int lineTop = tabTop + tabHeight + 2;
 constexpr int lineHeight = 2;
@@ -56,6 +54,7 @@ frmOptions::~frmOptions() {
 
 void frmOptions::makeControls() {
     btnTab_.create(handle(), idTab, "btnTab", std::vector<std::string>(optionPageCount));
+    btnTab_.setSign(ButtonSign::none);
     handlers_.push_back(btnTab_.Change.subscribe([this] { openPage(btnTab_.selected()); }));
     picTab_[0] = std::make_unique<GeneralPage>(handle(), idPage, values_);
     picTab_[1] = std::make_unique<GridPage>(handle(), idPage + 1, values_.grid);
@@ -116,12 +115,14 @@ void frmOptions::openPage(int index) {
     btnTab_.select(index);
     for (int each = 0; each < optionPageCount; ++each) {
         btnTab_[each].setPlaneFace(each == index);
+        btnTab_[each].setOpenBelow(each == index);
         picTab_.at(static_cast<std::size_t>(each))->setVisible(each == index);
     }
     InvalidateRect(handle(), nullptr, FALSE);
 }
 
-/// The frame of the page with the line under the tabs, to which the open tab reaches down.
+/// The frame of the page with the line under the tabs, to which the open tab reaches down without
+/// an edge between them.
 void frmOptions::paint(HDC context) {
     const auto fill = [&](const PixelRect& designed, Color color) {
         fillRect(context, toRect(scaledToDpi(designed, dpi())), color);
@@ -129,7 +130,11 @@ void frmOptions::paint(HDC context) {
     fill(pagePlace, dark::outline);
     fill({pagePlace.left, lineTop, pagePlace.right, pagePlace.top}, dark::on);
     const PixelRect tab = tabPlace(page_);
-    fill({tab.left, tab.bottom - cornerHeight, tab.right, lineTop}, dark::on);
+    const PixelRect joint = scaledToDpi({tab.left, tab.bottom, tab.right, lineTop}, dpi());
+    const int line = lineWidthAt(dpi());
+    fillRect(context, toRect(joint), dark::outline);
+    fillRect(context, toRect({joint.left + line, joint.top, joint.right - line, joint.bottom}),
+             dark::on);
 }
 
 Color frmOptions::chooseColor(HWND owner, Color present) {

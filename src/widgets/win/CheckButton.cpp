@@ -8,6 +8,7 @@ CheckButton::CheckButton(HWND parent, int id, std::string_view name)
     : ZelvikButtonXP(parent, id, name) {
     setControlType(1);
     dressButton(*this);
+    setSign(ButtonSign::tick);
     toggling_ = Click.subscribe([this] {
         setChecked(!checked());
         Change.raise();

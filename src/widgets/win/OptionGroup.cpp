@@ -1,12 +1,10 @@
 #include "widgets/win/OptionGroup.h"
 
-#include "widgets/win/darkColors.h"
+#include "widgets/captionColors.h"
 
 namespace ormala {
 
 namespace {
-
-constexpr Color offFace = rgb(112, 112, 112);
 
 /// A toggle that is one of several.
 constexpr int oneOfSeveral = 2;
@@ -28,6 +26,7 @@ void OptionGroup::create(HWND parent, int firstId, std::string_view name,
         ZelvikButtonXP& button = *buttons_.back();
         button.setCaption(caption);
         button.setControlType(oneOfSeveral);
+        button.setSign(ButtonSign::lamp);
         dressButton(button);
         setStyleBit(button.handle(), WS_GROUP, index == 0);
         choosing_.push_back(button.Click.subscribe([this, index] { choose(index); }));
@@ -51,6 +50,12 @@ void OptionGroup::select(int index) {
     }
 }
 
+void OptionGroup::setSign(ButtonSign sign) {
+    for (const auto& button : buttons_) {
+        button->setSign(sign);
+    }
+}
+
 void OptionGroup::choose(int index) {
     if (index != selected_) {
         select(index);
@@ -67,8 +72,9 @@ void startGroup(HWND child) {
 }
 
 void dressButton(ZelvikButtonXP& button, bool on) {
-    button.setBackColor(on ? dark::on : offFace);
-    button.setForeColor(on ? dark::onText : dark::text);
+    const CaptionColors& colors = on ? dialogCaptionOn : dialogCaption;
+    button.setBackColor(colors.face);
+    button.setForeColor(colors.text);
 }
 
 }  // namespace ormala

@@ -27,6 +27,8 @@ class OptionGroup {
     [[nodiscard]] int selected() const { return selected_; }
     /// Raises no `Change`.
     void select(int index);
+    /// At first each has a lamp.
+    void setSign(ButtonSign sign);
     /// Where the focus is to go.
     [[nodiscard]] HWND focusTarget() const;
 

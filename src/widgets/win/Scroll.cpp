@@ -1,5 +1,6 @@
 #include "widgets/win/Scroll.h"
 
+#include <oleacc.h>
 #include <windowsx.h>
 
 #include "language/MlStringModule.h"
@@ -55,10 +56,20 @@ void Scroll::ApplyLanguage() {
     cmdBR_.setCaption(MlString(textBottomRight, "5"));
 }
 
-void Scroll::SetTooltip(const std::string& text) {
-    for (ScrollButton* button : buttons()) {
-        button->SetTooltip(text);
+/// The captions of the arrows are signs, so that all parts have a word of their own to be told by.
+LRESULT Scroll::tellFacts(ScrollPart part, AccessibleFacts& facts) const {
+    facts.state = model_.Enabled() ? STATE_SYSTEM_FOCUSABLE : STATE_SYSTEM_UNAVAILABLE;
+    facts.state |= focusedPart() == part ? STATE_SYSTEM_FOCUSED : 0;
+    if (part == ScrollPart::thumb) {
+        facts.name = MlString(542, "Scroll position");
+        facts.role = ROLE_SYSTEM_INDICATOR;
+        return TRUE;
     }
+    facts.name = part == ScrollPart::topLeft ? MlString(540, "Up") : MlString(541, "Down");
+    facts.role = ROLE_SYSTEM_PUSHBUTTON;
+    facts.action = "Press";
+    facts.actionMessage = BM_CLICK;
+    return TRUE;
 }
 
 void Scroll::setDpi(int dpi) {
@@ -253,6 +264,10 @@ std::optional<LRESULT> Scroll::buttonMessage(ScrollButton& button, UINT message,
         case BM_CLICK:
             model_.stepOnce(button.part());
             return 0;
+        case WM_GETOBJECT:
+            return answerAccessible(button.handle(), wParam, lParam);
+        case accessibleFactsMessage:
+            return tellFacts(button.part(), wantedFacts(lParam));
         case WM_MOUSELEAVE:
             if (hover_ == button.part()) {
                 hover(ScrollPart::none);

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <array>
-#include <string>
 #include <string_view>
 
+#include "platform/win/Accessible.h"
 #include "platform/win/BackBuffer.h"
 #include "widgets/ScrollModel.h"
 #include "widgets/win/ScrollButton.h"
@@ -32,8 +32,6 @@ class Scroll : public Window, private ScrollButtonHost {
     [[nodiscard]] int Min() const { return model_.Min(); }
     void setMin(int min) { model_.setMin(min); }
 
-    /// On the arrows and the thumb.
-    void SetTooltip(const std::string& text);
     /// The resolution of the screen that it is drawn for; at first that of its window.
     void setDpi(int dpi);
     [[nodiscard]] const ScrollLayout& layout() const { return model_.layout(); }
@@ -51,6 +49,7 @@ class Scroll : public Window, private ScrollButtonHost {
     std::optional<LRESULT> mouseMessage(HWND window, UINT message, LPARAM lParam);
 
     void ApplyLanguage();
+    LRESULT tellFacts(ScrollPart part, AccessibleFacts& facts) const;
     void refresh();
     void placeButtons();
     LRESULT paint(HWND window);

@@ -16,13 +16,6 @@ void ScrollButton::open(HWND bar, int id, std::string_view name) {
     setControlName(handle(), name);
 }
 
-void ScrollButton::SetTooltip(const std::string& text) {
-    if (!tip_) {
-        tip_.emplace(handle());
-    }
-    tip_->setText(text);
-}
-
 void ScrollButton::place(const PixelRect& box) const {
     const UINT visibility = box.empty() ? SWP_HIDEWINDOW : SWP_SHOWWINDOW;
     SetWindowPos(handle(), nullptr, box.left, box.top, box.width(), box.height(),
@@ -30,9 +23,6 @@ void ScrollButton::place(const PixelRect& box) const {
 }
 
 std::optional<LRESULT> ScrollButton::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (tip_ && message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
-        tip_->relay(message, wParam, lParam);
-    }
     return host_.buttonMessage(*this, message, wParam, lParam);
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
 #include <optional>
-#include <string>
+#include <string_view>
 
-#include "platform/win/TipWindow.h"
 #include "platform/win/Window.h"
 #include "widgets/scrollLayout.h"
 
@@ -21,7 +20,7 @@ class ScrollButtonHost {
     ~ScrollButtonHost() = default;
 };
 
-/// An arrow or the thumb of a scroll bar as a window, which can have the focus, a text and a tip.
+/// An arrow or the thumb of a scroll bar as a window, which can have the focus and a text.
 class ScrollButton : public Window {
   public:
     ScrollButton(ScrollButtonHost& host, ScrollPart part) : host_(host), part_(part) {}
@@ -29,7 +28,6 @@ class ScrollButton : public Window {
     /// `id` is the control ID within the bar.
     void open(HWND bar, int id, std::string_view name);
     [[nodiscard]] ScrollPart part() const { return part_; }
-    void SetTooltip(const std::string& text);
     /// Moves it without painting, and hides it where the place is empty.
     void place(const PixelRect& box) const;
 
@@ -38,7 +36,6 @@ class ScrollButton : public Window {
 
     ScrollButtonHost& host_;
     ScrollPart part_;
-    std::optional<TipWindow> tip_;
 };
 
 }  // namespace ormala

@@ -63,6 +63,11 @@ void ZelvikButtonXP::setButtonStyle(int style) {
     applyShape();
 }
 
+void ZelvikButtonXP::setOpenBelow(bool open) {
+    design_.OpenBelow = open;
+    applyShape();
+}
+
 void ZelvikButtonXP::setUseCornerStyle(bool used) {
     if (design_.UseCornerStyle != used) {
         design_.UseCornerStyle = used;

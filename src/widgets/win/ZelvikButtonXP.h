@@ -55,6 +55,8 @@ class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface
     void setForeColor(Color color) { design(&ButtonDesign::ForeColor, color); }
     void setGreyPicture(bool grey) { design(&ButtonDesign::GreyPicture, grey); }
     void setPlaneFace(bool plane) { design(&ButtonDesign::PlaneFace, plane); }
+    void setSign(ButtonSign sign) { design(&ButtonDesign::Sign, sign); }
+    void setOpenBelow(bool open);
     void setButtonStyle(int style);
     void setUseCornerStyle(bool used);
     void setCornerStyle(int style);

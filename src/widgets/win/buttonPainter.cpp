@@ -72,6 +72,9 @@ void paintButton(HDC context, const ButtonFaceLook& look) {
     const int shift = pictureShift(design, look.state, look.dpi);
     blendOnto(face, pictureInState(look.picture, design, look.state),
               {content.picture.left + shift, content.picture.top + shift});
+    if (!content.sign.empty()) {
+        paintSign(face, content.sign, design, look.state, look.dpi, &systemColor);
+    }
     copyPixels(context, face);
     if (look.state.focused && design.ShowFocusRect && design.ButtonStyle != 2) {
         paintFocusRectangle(context, look);
