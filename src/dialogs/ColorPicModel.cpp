@@ -31,8 +31,13 @@ int keptFactor(int factor) {
     return std::clamp(factor, 1, largestFactor);
 }
 
-int floorOfQuotient(int place, int factor) {
-    return place < 0 ? -1 : place / factor;
+/// Of so many fields that share a length.
+int startOfField(int field, int fields, int length) {
+    return field * length / fields;
+}
+
+int fieldAtPlace(int place, int fields, int length) {
+    return place < 0 ? -1 : ((place + 1) * fields - 1) / length;
 }
 
 }  // namespace
@@ -43,7 +48,7 @@ ColorPicModel::ColorPicModel() : blinkColors_(blinkTable()) {
 
 void ColorPicModel::setRGBColor(Color color) {
     rgbColor_ = std::clamp(color, black, white);
-    field_ = palette().find(rgbColor_, field_);
+    field_ = palette().nearest(rgbColor_);
 }
 
 void ColorPicModel::SetRGBColorToCurrentPixelColor() {
@@ -62,7 +67,7 @@ std::string ColorPicModel::valueText() const {
 
 void ColorPicModel::setPictureIndex(int index) {
     pictureIndex_ = std::clamp(index, 0, paletteCount - 1);
-    field_ = palette().find(rgbColor_, palette().clamped(field_));
+    field_ = palette().nearest(rgbColor_);
 }
 
 void ColorPicModel::setSizeFactorX(int factor) {
@@ -73,15 +78,25 @@ void ColorPicModel::setSizeFactorY(int factor) {
     factor_.height = keptFactor(factor);
 }
 
+void ColorPicModel::setRoom(PixelSize room) {
+    room_ = {std::max(room.width, 1), std::max(room.height, 1)};
+}
+
 PixelSize ColorPicModel::size() const {
+    if (room_) {
+        return *room_;
+    }
     const PixelSize fields = palette().size;
     return {fields.width * factor_.width, fields.height * factor_.height};
 }
 
 PixelRect ColorPicModel::fieldBox(PixelPoint field) const {
-    const int left = field.x * factor_.width;
-    const int top = field.y * factor_.height;
-    return {left, top, left + factor_.width, top + factor_.height};
+    const PixelSize fields = palette().size;
+    const PixelSize whole = size();
+    return {startOfField(field.x, fields.width, whole.width),
+            startOfField(field.y, fields.height, whole.height),
+            startOfField(field.x + 1, fields.width, whole.width),
+            startOfField(field.y + 1, fields.height, whole.height)};
 }
 
 Color ColorPicModel::markColor() const {
@@ -145,8 +160,10 @@ void ColorPicModel::tick() {
 }
 
 PixelPoint ColorPicModel::fieldAt(PixelPoint point) const {
-    return palette().clamped(
-        {floorOfQuotient(point.x, factor_.width), floorOfQuotient(point.y, factor_.height)});
+    const PixelSize fields = palette().size;
+    const PixelSize whole = size();
+    return palette().clamped({fieldAtPlace(point.x, fields.width, whole.width),
+                              fieldAtPlace(point.y, fields.height, whole.height)});
 }
 
 void ColorPicModel::PickAt(PixelPoint point) {

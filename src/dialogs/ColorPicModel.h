@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,7 +18,7 @@ class ColorPicModel : public MousePicking {
 
     [[nodiscard]] Color RGBColor() const { return rgbColor_; }
     /// Kept within black and white. The mark goes to the first field of that colour; where there is
-    /// none it stays. Raises no `RGBChanged`.
+    /// none, to the one that comes nearest. Raises no `RGBChanged`.
     void setRGBColor(Color color);
     /// The colour of the field under the mark becomes the chosen one.
     void SetRGBColorToCurrentPixelColor();
@@ -33,6 +34,10 @@ class ColorPicModel : public MousePicking {
     [[nodiscard]] int SizeFactorY() const { return factor_.height; }
     void setSizeFactorX(int factor);
     void setSizeFactorY(int factor);
+
+    /// The palette fills just that room from now on, whichever it is; its fields may differ by a
+    /// pixel.
+    void setRoom(PixelSize room);
 
     [[nodiscard]] const Palette& palette() const { return paletteOf(pictureIndex_); }
     /// Of the whole palette in pixels.
@@ -71,6 +76,7 @@ class ColorPicModel : public MousePicking {
     Color rgbColor_ = 0;
     int pictureIndex_ = 0;
     PixelSize factor_{10, 10};
+    std::optional<PixelSize> room_;
     PixelPoint field_;
     bool mouseIsDown_ = false;
     bool doubleClicked_ = false;

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstddef>
 
+#include "scene/pixelImages.h"
+
 namespace ormala {
 
 namespace {
@@ -45,11 +47,39 @@ double lightnessOfRow(int row, int rows) {
                          : between(pure, darkest, row - middle, rows - middle);
 }
 
+/// The sum of the squares, from 0 on.
+int squaredDistance(Color a, Color b) {
+    int sum = 0;
+    for (const int shift : {0, 8, 16}) {
+        const int difference = (a >> shift & 0xFF) - (b >> shift & 0xFF);
+        sum += difference * difference;
+    }
+    return sum;
+}
+
+/// A colour that the program begins with, on the field whose colour came nearest to it.
+struct FirstColor {
+    PixelPoint field;
+    Color color;
+};
+
+constexpr std::array firstColors{
+    FirstColor{{3, 6}, rgb(255, 159, 0)},    FirstColor{{12, 8}, rgb(0, 191, 191)},
+    FirstColor{{8, 8}, rgb(0, 191, 0)},      FirstColor{{4, 9}, rgb(127, 127, 0)},
+    FirstColor{{19, 6}, rgb(180, 0, 255)},   FirstColor{{0, 2}, rgb(255, 127, 127)},
+    FirstColor{{15, 2}, rgb(127, 176, 255)}, FirstColor{{24, 6}, rgb(125, 125, 125)},
+    FirstColor{{24, 3}, rgb(191, 191, 191)},
+};
+
 Palette huesByLightness() {
     Palette palette{{25, 12}, {}};
     for (int row = 0; row < palette.size.height; ++row) {
         addHues(palette, 24, 1, lightnessOfRow(row, palette.size.height));
         palette.colors.push_back(grey(between(1, 0, row, palette.size.height)));
+    }
+    for (const auto& [field, color] : firstColors) {
+        const int index = field.y * palette.size.width + field.x;
+        palette.colors.at(static_cast<std::size_t>(index)) = color;
     }
     return palette;
 }
@@ -88,11 +118,13 @@ PixelPoint Palette::clamped(PixelPoint field) const {
     return {std::clamp(field.x, 0, size.width - 1), std::clamp(field.y, 0, size.height - 1)};
 }
 
-PixelPoint Palette::find(Color color, PixelPoint otherwise) const {
-    const auto found = std::ranges::find(colors, color);
-    if (found == colors.end()) {
-        return otherwise;
-    }
+bool Palette::holds(Color color) const {
+    return std::ranges::find(colors, color) != colors.end();
+}
+
+PixelPoint Palette::nearest(Color color) const {
+    const auto found = std::ranges::min_element(
+        colors, {}, [color](Color each) { return squaredDistance(each, color); });
     const int index = static_cast<int>(found - colors.begin());
     return {index % size.width, index / size.width};
 }
@@ -101,6 +133,30 @@ const Palette& paletteOf(int index) {
     static const std::array<Palette, paletteCount> palettes = {huesByLightness(), pureColors(),
                                                                mutedColors()};
     return palettes.at(static_cast<std::size_t>(std::clamp(index, 0, paletteCount - 1)));
+}
+
+int paletteFor(Color color) {
+    for (int index = 0; index < paletteCount; ++index) {
+        if (paletteOf(index).holds(color)) {
+            return index;
+        }
+    }
+    return palette::hues;
+}
+
+PixelImage palettePicture(int index, PixelSize size) {
+    const Palette& palette = paletteOf(index);
+    PixelImage picture = filledImage(size, 0);
+    for (int y = 0; y < palette.size.height; ++y) {
+        for (int x = 0; x < palette.size.width; ++x) {
+            const PixelRect box{x * size.width / palette.size.width,
+                                y * size.height / palette.size.height,
+                                (x + 1) * size.width / palette.size.width,
+                                (y + 1) * size.height / palette.size.height};
+            fillBox(picture, box, opaquePixel(palette.at({x, y})));
+        }
+    }
+    return picture;
 }
 
 }  // namespace ormala

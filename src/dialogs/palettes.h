@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "modAPI/colors.h"
+#include "scene/PixelImage.h"
 #include "scene/PixelRect.h"
 
 namespace ormala {
@@ -18,15 +19,17 @@ struct Palette {
     [[nodiscard]] Color at(PixelPoint field) const;
     /// The nearest field of the palette.
     [[nodiscard]] PixelPoint clamped(PixelPoint field) const;
-    /// Where that colour stands first, row by row; `otherwise` if it stands nowhere.
-    [[nodiscard]] PixelPoint find(Color color, PixelPoint otherwise) const;
+    [[nodiscard]] bool holds(Color color) const;
+    /// Where that colour stands first, row by row; if it stands nowhere, the field whose colour
+    /// differs least from it.
+    [[nodiscard]] PixelPoint nearest(Color color) const;
 };
 
 inline constexpr int paletteCount = 3;
 
 namespace palette {
 /// 25 x 12: hues from left to right, from light to dark downwards, pure in the seventh row; greys
-/// at the right end.
+/// at the right end. All colours that tools, grid and magnifier begin with are among them.
 constexpr int hues = 0;
 /// 12 x 4: a row of greys; under it each pure hue, dark and light.
 constexpr int pure = 1;
@@ -36,5 +39,11 @@ constexpr int muted = 2;
 
 /// An index beyond an end takes the palette at that end.
 const Palette& paletteOf(int index);
+
+/// The palette that shows a colour: the first one that holds it, and the hues for any other one.
+int paletteFor(Color color);
+
+/// All fields of a palette in a picture of that size.
+PixelImage palettePicture(int index, PixelSize size);
 
 }  // namespace ormala

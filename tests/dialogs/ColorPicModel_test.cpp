@@ -103,14 +103,37 @@ TEST_F(ColorPicModelTest, AColorIsToldByItsRedGreenAndBlue) {
     EXPECT_EQ(picker_->valueText(), "#000000");
 }
 
-TEST_F(ColorPicModelTest, AColorThatIsNowhereLeavesTheMark) {
-    picker_->setRGBColor(rgb(0, 255, 0));
+TEST_F(ColorPicModelTest, AForeignColorPutsTheMarkOnTheNearestFieldUntilTheUserPicks) {
+    picker_->setRGBColor(rgb(2, 250, 3));
     EXPECT_EQ(picker_->field(), (PixelPoint{4, 1}));
+    EXPECT_EQ(picker_->RGBColor(), rgb(2, 250, 3));
     picker_->setRGBColor(rgb(1, 2, 3));
-    EXPECT_EQ(picker_->RGBColor(), rgb(1, 2, 3));
-    EXPECT_EQ(picker_->field(), (PixelPoint{4, 1}));
+    EXPECT_EQ(picker_->field(), (PixelPoint{0, 0}));
+    EXPECT_EQ(events_, "");
+    picker_->keyDown(key::right);
+    EXPECT_EQ(picker_->RGBColor(), colorAt(1, 0));
+}
+
+TEST_F(ColorPicModelTest, TheColorUnderTheMarkCanBecomeTheChosenOne) {
+    picker_->setRGBColor(rgb(2, 250, 3));
     picker_->SetRGBColorToCurrentPixelColor();
     EXPECT_EQ(picker_->RGBColor(), rgb(0, 255, 0));
+}
+
+TEST_F(ColorPicModelTest, ThePaletteFillsItsRoomWhicheverItIs) {
+    constexpr PixelSize room{412, 181};
+    picker_->setRoom(room);
+    for (int index = 0; index < paletteCount; ++index) {
+        picker_->setPictureIndex(index);
+        const PixelSize fields = picker_->palette().size;
+        EXPECT_EQ(picker_->size(), room);
+        EXPECT_EQ(picker_->fieldBox({fields.width - 1, fields.height - 1}).right, room.width);
+        EXPECT_EQ(picker_->fieldBox({fields.width - 1, fields.height - 1}).bottom, room.height);
+        for (int x = 0; x < room.width; ++x) {
+            picker_->press({x, x % room.height});
+            EXPECT_TRUE(picker_->shpSelected().contains({x, x % room.height})) << index << " " << x;
+        }
+    }
 }
 
 TEST_F(ColorPicModelTest, AFactorStaysWithin1And100) {
@@ -122,17 +145,16 @@ TEST_F(ColorPicModelTest, AFactorStaysWithin1And100) {
     EXPECT_EQ(picker_->fieldBox({2, 1}), (PixelRect{2, 100, 3, 200}));
 }
 
-TEST_F(ColorPicModelTest, AnotherPaletteTakesTheMarkToTheColorAndElseKeepsItInside) {
+TEST_F(ColorPicModelTest, AnotherPaletteTakesTheMarkToTheColorOrTheNearestOne) {
     picker_->setPictureIndex(palette::hues);
     picker_->setRGBColor(0xFFFFFF);
     EXPECT_EQ(picker_->field(), (PixelPoint{24, 0}));
     picker_->setPictureIndex(palette::pure);
     EXPECT_EQ(picker_->field(), (PixelPoint{11, 0}));
     picker_->setPictureIndex(palette::hues);
-    picker_->press({245, 115});
-    picker_->setRGBColor(rgb(1, 2, 3));
+    picker_->setRGBColor(rgb(254, 253, 252));
     picker_->setPictureIndex(palette::pure);
-    EXPECT_EQ(picker_->field(), (PixelPoint{11, 3}));
+    EXPECT_EQ(picker_->field(), (PixelPoint{11, 0}));
     picker_->setPictureIndex(17);
     EXPECT_EQ(picker_->PictureIndex(), palette::muted);
 }

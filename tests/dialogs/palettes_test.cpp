@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include "scene/pixelImages.h"
+
 namespace ormala {
 namespace {
 
@@ -47,10 +49,9 @@ TEST(Palettes, EveryColorIsAPlainOne) {
 }
 
 TEST(Palettes, BothLargeOnesHoldBlackAndWhite) {
-    const PixelPoint nowhere{-1, -1};
     for (const int index : {palette::hues, palette::pure}) {
-        EXPECT_NE(paletteOf(index).find(black, nowhere), nowhere);
-        EXPECT_NE(paletteOf(index).find(white, nowhere), nowhere);
+        EXPECT_TRUE(paletteOf(index).holds(black));
+        EXPECT_TRUE(paletteOf(index).holds(white));
     }
 }
 
@@ -94,11 +95,33 @@ TEST(Palettes, TheMutedOneShoutsNowhere) {
     }
 }
 
-TEST(Palettes, AColorIsFoundWhereItStandsAndElseTheFallbackAnswers) {
-    const Palette palette{{2, 2}, {1, 2, 2, 3}};
-    EXPECT_EQ(palette.find(2, {9, 9}), (PixelPoint{1, 0}));
-    EXPECT_EQ(palette.find(3, {9, 9}), (PixelPoint{1, 1}));
-    EXPECT_EQ(palette.find(4, {9, 9}), (PixelPoint{9, 9}));
+TEST(Palettes, AColorIsFoundWhereItStandsFirstAndElseWhereItsDistanceIsLeast) {
+    const Palette palette{{2, 2}, {0, rgb(90, 0, 0), rgb(90, 0, 0), rgb(0, 90, 90)}};
+    EXPECT_EQ(palette.nearest(rgb(90, 0, 0)), (PixelPoint{1, 0}));
+    EXPECT_EQ(palette.nearest(rgb(0, 90, 90)), (PixelPoint{1, 1}));
+    EXPECT_EQ(palette.nearest(rgb(40, 0, 0)), (PixelPoint{0, 0}));
+    EXPECT_EQ(palette.nearest(rgb(50, 0, 0)), (PixelPoint{1, 0}));
+    // All three parts count, so that one great difference outweighs two small ones.
+    EXPECT_EQ(palette.nearest(rgb(60, 60, 60)), (PixelPoint{1, 1}));
+    EXPECT_TRUE(palette.holds(rgb(0, 90, 90)));
+    EXPECT_FALSE(palette.holds(rgb(0, 90, 91)));
+}
+
+TEST(Palettes, TheOneForAColorHoldsIt) {
+    EXPECT_EQ(paletteFor(rgb(255, 0, 0)), palette::hues);
+    EXPECT_EQ(paletteFor(paletteOf(palette::pure).at({0, 3})), palette::pure);
+    EXPECT_EQ(paletteFor(0x4F4F4F), palette::muted);
+    EXPECT_EQ(paletteFor(rgb(1, 2, 3)), palette::hues);
+}
+
+TEST(Palettes, APictureShowsEachFieldInItsPlace) {
+    const PixelImage picture = palettePicture(palette::pure, {24, 8});
+    for (int x = 0; x < 12; ++x) {
+        for (int y = 0; y < 4; ++y) {
+            EXPECT_EQ(pixelAt(picture, {2 * x + 1, 2 * y + 1}),
+                      opaquePixel(paletteOf(palette::pure).at({x, y})));
+        }
+    }
 }
 
 TEST(Palettes, AnIndexBeyondAnEndTakesThePaletteThere) {

@@ -76,6 +76,22 @@ TEST_F(ColorPicTest, AClickTakesTheFocusAndPicksTheField) {
     EXPECT_EQ(changes, 2);
 }
 
+TEST_F(ColorPicTest, OneThatLeavesTheFocusToOthersPicksWithoutIt) {
+    picker_.leaveFocusToOthers();
+    SetFocus(panel_.handle());
+    mouse(WM_LBUTTONDOWN, 45, 15);
+    mouse(WM_LBUTTONUP, 45, 15);
+    EXPECT_EQ(GetFocus(), panel_.handle());
+    EXPECT_EQ(picker_.RGBColor(), rgb(0, 255, 0));
+}
+
+TEST_F(ColorPicTest, ThePaletteFillsAPlaceToItsLastPixel) {
+    picker_.place(PixelRect{10, 10, 422, 191});
+    EXPECT_EQ(clientSize(), (PixelSize{412, 181}));
+    const auto last = static_cast<COLORREF>(picker_.palette().at({11, 3}));
+    EXPECT_EQ(shownAt({411, 180}), last);
+}
+
 TEST_F(ColorPicTest, ADragOutOfThePaletteKeepsTheMarkAtTheNearestCell) {
     mouse(WM_LBUTTONDOWN, 45, 15);
     EXPECT_EQ(GetCapture(), window());

@@ -162,8 +162,10 @@ TEST_F(frmColorTest, ArrowsPickFromTheFieldOfThePresentColor) {
     EXPECT_EQ(get(colorAt(8, 6)), colorAt(9, 5));
 }
 
-TEST_F(frmColorTest, TabReachesTheButtonAndComesBack) {
+TEST_F(frmColorTest, TabReachesThePalettesAndTheButtonAndComesBack) {
     untilReady()
+        .key(VK_TAB)
+        .until("the palettes", [this] { return GetFocus() == part("btnPalette(0)"); })
         .key(VK_TAB)
         .until("the button", [this] { return GetFocus() == part("cmdOK"); })
         .key(VK_TAB)
@@ -177,6 +179,73 @@ TEST_F(frmColorTest, TheNextUseBeginsWithItsOwnColor) {
     EXPECT_EQ(get(red), red);
     untilReady().key(VK_RETURN);
     EXPECT_EQ(get(0), 0);
+}
+
+TEST_F(frmColorTest, PageDownAndPageUpGoThroughThePalettesAndKeepTheColor) {
+    const auto shows = [this](int index) {
+        return [this, index] {
+            const std::string name = "btnPalette(" + std::to_string(index) + ")";
+            return SendMessageW(part(name.c_str()), BM_GETCHECK, 0, 0) == BST_CHECKED;
+        };
+    };
+    untilReady()
+        .until("the hues", shows(0))
+        .key(VK_PRIOR)
+        .key(VK_NEXT)
+        .until("the pure colours", shows(1))
+        .key(VK_NEXT)
+        .until("the subdued ones", shows(2))
+        .key(VK_NEXT)
+        .key(VK_PRIOR)
+        .until("the pure colours again", shows(1))
+        .then([this] { SetFocus(part("cmdOK")); })
+        .key(VK_PRIOR)
+        .until("the hues again", shows(0))
+        .key(VK_RETURN);
+    EXPECT_EQ(get(red), red);
+}
+
+TEST_F(frmColorTest, AColorOfAnotherPaletteIsPickedThere) {
+    const Palette& muted = paletteOf(palette::muted);
+    const Color wanted = muted.at({12, 5});
+    untilReady()
+        .then([this] { PostMessageW(part("btnPalette(2)"), BM_CLICK, 0, 0); })
+        .until("the palette",
+               [this] {
+                   return SendMessageW(part("btnPalette(2)"), BM_GETCHECK, 0, 0) == BST_CHECKED;
+               })
+        .then([&] {
+            RECT client{};
+            GetClientRect(picker(), &client);
+            const LPARAM point =
+                MAKELPARAM(client.right - 4, (2 * 5 + 1) * client.bottom / (2 * muted.size.height));
+            mouse(WM_LBUTTONDOWN, point);
+            mouse(WM_LBUTTONUP, point);
+        })
+        .until("the colour", [&] { return accessibleValueOf(picker()) == told(wanted); })
+        .key(VK_RETURN);
+    EXPECT_EQ(get(red), wanted);
+    untilReady()
+        .then([this] {
+            EXPECT_EQ(SendMessageW(part("btnPalette(2)"), BM_GETCHECK, 0, 0), BST_CHECKED);
+        })
+        .key(VK_ESCAPE);
+    EXPECT_EQ(get(wanted), wanted);
+}
+
+TEST_F(frmColorTest, EachPaletteFillsTheSameRoom) {
+    RECT first{};
+    GetClientRect(picker(), &first);
+    untilReady()
+        .key(VK_NEXT)
+        .then([&] {
+            RECT second{};
+            GetClientRect(picker(), &second);
+            EXPECT_EQ(second.right, first.right);
+            EXPECT_EQ(second.bottom, first.bottom);
+        })
+        .key(VK_ESCAPE);
+    EXPECT_EQ(get(red), red);
 }
 
 TEST_F(frmColorTest, SpeaksBothLanguages) {

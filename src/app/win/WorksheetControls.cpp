@@ -20,6 +20,8 @@ WorksheetControls::WorksheetControls(HWND parent)
       sldTransTemplateMode_(parent, idTemplateMode, "sldTransTemplateMode"),
       colorWorksheet_(parent, idColor, "colorWorksheet") {
     colorWorksheet_.setPictureIndex(palette::muted);
+    // Arrow keys that are meant for a tool must not change the colour.
+    colorWorksheet_.leaveFocusToOthers();
 }
 
 void WorksheetControls::layOut(const SettingsLayout& layout, int dpi) {

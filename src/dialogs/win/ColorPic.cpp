@@ -3,6 +3,7 @@
 #include <oleacc.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/win/Accessible.h"
 #include "platform/win/controlName.h"
@@ -68,6 +69,26 @@ void ColorPic::place(PixelPoint corner) const {
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void ColorPic::place(const PixelRect& room) {
+    model_.setRoom({room.width(), room.height()});
+    place(PixelPoint{room.left, room.top});
+    resize();
+}
+
+void ColorPic::leaveFocusToOthers() {
+    leavesFocus_ = true;
+    mouse_.setTakesFocus(false);
+}
+
+/// The press has brought the picker's window to the front, whose keys the user did not want.
+void ColorPic::giveFocusBack() {
+    const HWND former = std::exchange(formerFocus_, nullptr);
+    if (former != nullptr && IsWindowVisible(former) != FALSE &&
+        GetAncestor(former, GA_ROOT) != GetAncestor(handle(), GA_ROOT)) {
+        SetFocus(former);
+    }
+}
+
 void ColorPic::resize() {
     const PixelSize size = model_.size();
     SetWindowPos(handle(), nullptr, 0, 0, size.width, size.height,
@@ -89,8 +110,9 @@ void ColorPic::paint(HDC context, const PixelRect& wanted) const {
             }
         }
     }
-    const int line = std::max(1, std::min(SizeFactorX(), SizeFactorY()) / markShare);
-    frameRect(context, shpSelected(), line, model_.markColor());
+    const PixelRect mark = shpSelected();
+    const int line = std::max(1, std::min(mark.width(), mark.height()) / markShare);
+    frameRect(context, mark, line, model_.markColor());
 }
 
 /// While the mark blinks only its field is painted.
@@ -131,6 +153,24 @@ LRESULT ColorPic::onAccessibleFacts(LPARAM lParam) const {
     return TRUE;
 }
 
+LRESULT ColorPic::onRelease(LPARAM lParam) {
+    const HWND window = handle();
+    mouse_.onMessage(window, WM_LBUTTONUP, lParam);
+    // The end of a double click may have destroyed the picker.
+    if (IsWindow(window) != FALSE) {
+        giveFocusBack();
+    }
+    return 0;
+}
+
+std::optional<LRESULT> ColorPic::onKeyDown(int key) {
+    if (model_.keyDown(key)) {
+        return 0;
+    }
+    KeyDown.raise(key);
+    return std::nullopt;
+}
+
 std::optional<LRESULT> ColorPic::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     tip_.relay(handle(), message, wParam, lParam);
     switch (message) {
@@ -146,8 +186,12 @@ std::optional<LRESULT> ColorPic::onMessage(UINT message, WPARAM wParam, LPARAM l
         case WM_GETDLGCODE:
             return DLGC_WANTARROWS;
         case WM_KEYDOWN:
-            return model_.keyDown(static_cast<int>(wParam)) ? std::optional<LRESULT>(0)
-                                                            : std::nullopt;
+            return onKeyDown(static_cast<int>(wParam));
+        case WM_MOUSEACTIVATE:
+            formerFocus_ = leavesFocus_ ? GetFocus() : nullptr;
+            return std::nullopt;
+        case WM_LBUTTONUP:
+            return onRelease(lParam);
         case WM_GETOBJECT:
             return answerAccessible(handle(), wParam, lParam);
         case accessibleFactsMessage:

@@ -22,7 +22,7 @@ class ColorPic : public Window {
 
     [[nodiscard]] Color RGBColor() const { return model_.RGBColor(); }
     /// Kept within black and white. The mark goes to the first field of that colour; where there is
-    /// none it stays. Raises no `RGBChanged`.
+    /// none, to the one that comes nearest. Raises no `RGBChanged`.
     void setRGBColor(Color color);
     /// The colour of the field under the mark becomes the chosen one.
     void SetRGBColorToCurrentPixelColor();
@@ -38,6 +38,11 @@ class ColorPic : public Window {
     void setSizeFactorY(int factor);
     /// The upper left corner in the parent's pixels.
     void place(PixelPoint corner) const;
+    /// A place that the palette fills from now on, whichever it is.
+    void place(const PixelRect& room);
+    /// The mouse picks without taking the focus, and gives it back to the window that has lost it
+    /// to the press. Keys get it as ever.
+    void leaveFocusToOthers();
 
     [[nodiscard]] const Palette& palette() const { return model_.palette(); }
     /// The pixels of a field, of the whole palette, and of the field under the mark.
@@ -53,6 +58,8 @@ class ColorPic : public Window {
     Event<> RGBChanged;
     /// Raised once the colour is final: a handler may destroy the picker.
     Event<> DoubleClick;
+    /// A key that the picker leaves to its owner.
+    Event<int> KeyDown;
 
   private:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -60,6 +67,9 @@ class ColorPic : public Window {
     LRESULT onFocus(bool focused);
     LRESULT onTimer();
     LRESULT onAccessibleFacts(LPARAM lParam) const;
+    std::optional<LRESULT> onKeyDown(int key);
+    LRESULT onRelease(LPARAM lParam);
+    void giveFocusBack();
     void resize();
     void showColor();
     void paint(HDC context, const PixelRect& wanted) const;
@@ -68,6 +78,9 @@ class ColorPic : public Window {
     HeldMouse mouse_{model_};
     BackBuffer buffer_;
     HoverTip tip_;
+    bool leavesFocus_ = false;
+    /// Of another window, at the press that has brought this one to the front.
+    HWND formerFocus_ = nullptr;
     Subscription changing_;
     Subscription ending_;
 };

@@ -57,7 +57,7 @@ void GridPage::makeLook() {
     makeLabel(lblGridColor_, idColorLabel, "lblGridColor");
     colpicGrid_ = std::make_unique<ColorPic>(handle(), idColor, "colpicGrid");
     colpicGrid_->setPictureIndex(palette::hues);
-    add("colpicGrid", [this](const PixelRect& box, int) { placePicker(box); });
+    add("colpicGrid", [this](const PixelRect& box, int) { colpicGrid_->place(box); });
     whenShown([this] { colpicGrid_->setRGBColor(grid_.color); });
     whenChanged(colpicGrid_->RGBChanged, [this] {
         grid_.color = colpicGrid_->RGBColor();
@@ -97,13 +97,6 @@ void GridPage::Pair::showCopy(ctlSlider& slider, int value) const {
     }
 }
 
-void GridPage::placePicker(const PixelRect& box) {
-    const PixelSize fields = colpicGrid_->palette().size;
-    colpicGrid_->setSizeFactorX(box.width() / fields.width);
-    colpicGrid_->setSizeFactorY(box.height() / fields.height);
-    colpicGrid_->place({box.left, box.top});
-}
-
 void GridPage::ApplyLanguage() {
     const std::string selectColor = MlString(6, "Select color");
     label(*offset_.same, 90);
@@ -111,7 +104,7 @@ void GridPage::ApplyLanguage() {
     colpicGrid_->SetTooltip(selectColor);
     label(lblGridColor_.handle(), 91);
     label(lblGridLine_.handle(), 92);
-    GridLineSelect_->SetTooltip(MlString(92, "Line width and style"));
+    GridLineSelect_->SetTooltip(MlString(43, "Select line width and style"));
     label(optGridMode_[0], 88);
     label(optGridMode_[1], 89);
     label(*size_.x, 223);
@@ -128,12 +121,8 @@ void GridPage::showColor() const {
 /// The palette in a frame, and beneath it the colour, which need not be one of the palette.
 void GridPage::paint(HDC context) {
     const int line = lineWidthAt(dpi());
-    const PixelRect at = placeOf("colpicGrid");
-    const PixelSize size = colpicGrid_->size();
-    const PixelRect picker{at.left, at.top, at.left + size.width, at.top + size.height};
-    frameRect(context, picker.grown(line), line, dark::outline);
-    PixelRect shown = placeOf("picGridColor");
-    shown.right = picker.right;
+    frameRect(context, placeOf("colpicGrid").grown(line), line, dark::outline);
+    const PixelRect shown = placeOf("picGridColor");
     fillRect(context, toRect(shown), grid_.color);
     frameRect(context, shown.grown(line), line, dark::outline);
 }

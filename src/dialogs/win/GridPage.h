@@ -29,7 +29,6 @@ class GridPage : public OptionsPage {
 
     void makeLook();
     void bind(Pair& pair);
-    void placePicker(const PixelRect& box);
     void showColor() const;
     void paint(HDC context) override;
 

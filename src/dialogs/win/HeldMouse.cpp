@@ -10,7 +10,9 @@ void HeldMouse::hold(HWND window) {
 }
 
 void HeldMouse::press(HWND window, PixelPoint point) {
-    SetFocus(window);
+    if (takesFocus_) {
+        SetFocus(window);
+    }
     hold(window);
     picking_.press(point);
 }

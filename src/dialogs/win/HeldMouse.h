@@ -9,12 +9,15 @@
 namespace ormala {
 
 /// Tells what is picked on of the left button in its window. The window holds the mouse, and has
-/// the focus, from the press on; a release of a button that went down elsewhere tells nothing.
+/// the focus unless told otherwise, from the press on; a release of a button that went down
+/// elsewhere tells nothing.
 class HeldMouse {
   public:
     /// Must live as long.
     explicit HeldMouse(MousePicking& picking) : picking_(picking) {}
 
+    /// At first it takes it.
+    void setTakesFocus(bool takes) { takesFocus_ = takes; }
     /// The answer to a message about the left button; nothing for any other message.
     std::optional<LRESULT> onMessage(HWND window, UINT message, LPARAM lParam);
 
@@ -27,6 +30,7 @@ class HeldMouse {
 
     MousePicking& picking_;
     bool holds_ = false;
+    bool takesFocus_ = true;
 };
 
 }  // namespace ormala
