@@ -1,6 +1,7 @@
 #include "app/Documents.h"
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 
 #include "language/MlStringModule.h"
@@ -85,12 +86,34 @@ void Documents::Load() {
     loadIfReadable();
 }
 
+/// Whether a file may be written that the dialog has not asked about, since it saw another name.
+Answer Documents::askToReplace(const std::string& path) {
+    const int error = ports_.store.errorOfPath(path);
+    if (error == errorFileNotFound || error == errorPathNotFound) {
+        return Answer::yes;
+    }
+    const std::string question = MlString(520, "%0 already exists.%nDo you want to replace it?");
+    return ports_.view.ask(MlFormat(question, std::array{path}));
+}
+
+/// Empty if the user wants none. After a No the dialog comes up again.
+std::string Documents::pickNewFile() {
+    for (;;) {
+        const std::string picked = ports_.view.pickFile(true);
+        std::string path = picked.empty() ? picked : withToolsFileExtension(picked);
+        const Answer answer = path == picked ? Answer::yes : askToReplace(path);
+        if (answer != Answer::no) {
+            return answer == Answer::yes ? path : std::string();
+        }
+    }
+}
+
 bool Documents::saveUnderNewName() {
-    const std::string picked = ports_.view.pickFile(true);
-    if (picked.empty()) {
+    const std::string path = pickNewFile();
+    if (path.empty()) {
         return false;
     }
-    takePath(withToolsFileExtension(picked));
+    takePath(path);
     return saveWhateverIsThere();
 }
 
@@ -103,13 +126,13 @@ bool Documents::save() {
 
 /// Asks if another program has changed the file.
 bool Documents::mayOverwrite() {
+    const std::string& path = ports_.toolsFile.Path();
     if (!ports_.toolsFile.changedElsewhere()) {
         return true;
     }
-    const std::string path[] = {ports_.toolsFile.Path()};
     const std::string question =
         MlString(505, "'%0' has been changed by another program. Overwrite it?");
-    return ports_.view.ask(MlFormat(question, path)) == Answer::yes;
+    return ports_.view.ask(MlFormat(question, std::array{path})) == Answer::yes;
 }
 
 void Documents::Save() {

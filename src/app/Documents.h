@@ -53,6 +53,7 @@ class Documents {
   public:
     struct Ports {
         INIFile& toolsFile;
+        FileStore& store;
         ToolFile& file;
         ToolList& tools;
         BusyView& busy;
@@ -86,6 +87,8 @@ class Documents {
 
   private:
     bool save();
+    Answer askToReplace(const std::string& path);
+    std::string pickNewFile();
     bool saveUnderNewName();
     [[nodiscard]] bool mayOverwrite();
     void takePath(const std::string& path);

@@ -279,6 +279,7 @@ constexpr TextRow rows[] = {
     {377, "Loading..."},
     {378, "Removing all tools..."},
     {505, "'%0' has been changed by another program. Overwrite it?"},
+    {520, "%0 already exists.%nDo you want to replace it?"},
     {540, "Up"},
     {541, "Down"},
     {542, "Scroll position"},

@@ -278,6 +278,7 @@ constexpr TextRow rows[] = {
     {377, "Lade..."},
     {378, "Entferne alle Werkzeuge..."},
     {505, "'%0' wurde von einem anderen Programm geändert. Überschreiben?"},
+    {520, "%0 ist bereits vorhanden.%nMöchten Sie die Datei ersetzen?"},
     {540, "Nach oben"},
     {541, "Nach unten"},
     {542, "Bildlaufposition"},

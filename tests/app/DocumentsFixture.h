@@ -14,6 +14,8 @@ class FakeDocumentView : public DocumentView {
   public:
     Answer answer = Answer::cancel;
     std::string picked;
+    /// What is picked after that, once each.
+    std::vector<std::string> pickedNext;
     /// For questions about other programs.
     Answer overwrite = Answer::cancel;
     std::vector<std::string> questions;
@@ -27,7 +29,12 @@ class FakeDocumentView : public DocumentView {
     }
     std::string pickFile(bool forSaving) override {
         picks.push_back(forSaving);
-        return picked;
+        const std::string answered = picked;
+        if (!pickedNext.empty()) {
+            picked = pickedNext.front();
+            pickedNext.erase(pickedNext.begin());
+        }
+        return answered;
     }
     std::string CompactPathForDisplay(const std::string& path) override {
         return path.size() > lineWidth ? "..." + path.substr(path.size() - lineWidth + 3) : path;
@@ -78,7 +85,7 @@ class DocumentsFixture : public ToolFileFixture {
 
     FakeDocumentView view_;
     bool savedAtTheEnd_ = false;
-    Documents documents_{{ini_.file, toolFile_, stage_.list, stage_.view, view_}};
+    Documents documents_{{ini_.file, ini_.store, toolFile_, stage_.list, stage_.view, view_}};
 };
 
 }  // namespace ormala

@@ -15,7 +15,7 @@ TEST_F(DocumentsTest, AFirstStartShowsOneToolOfEachKind) {
     ToolListStage first;
     first.list.prepareFirstTools();
     ToolFile toolFile({ini_.file, ini_.store, first.list, first.view}, {"1", [] { return "t"; }});
-    Documents documents({ini_.file, toolFile, first.list, first.view, view_});
+    Documents documents({ini_.file, ini_.store, toolFile, first.list, first.view, view_});
     documents.loadAutomatic(automaticPath);
     EXPECT_EQ(first.kinds(), "SM");
     EXPECT_TRUE(first.sheet.isVisible(first.stencil(0).RefControlControl()));
@@ -238,6 +238,66 @@ TEST_F(DocumentsTest, ThePathLineSpeaksTheLanguageOfTheUser) {
     documents_.UpdatePathLine();
     EXPECT_EQ(view_.line.caption, MlString(307, {}));
     EXPECT_NE(view_.line.caption, noneText);
+}
+
+/// The dialog asks about the file of the typed name; the program writes another one.
+class ReplacedDocument : public DocumentsTest {
+  protected:
+    ReplacedDocument() {
+        startWithTools();
+        file("C:\\data\\plan.v2.OM") = "old";
+        file("C:\\data\\plan..OM") = "old";
+        file("C:\\data\\plan.OM") = "old";
+    }
+    void saveAs(const std::string& name, Answer answer) {
+        view_.picked = "C:\\data\\" + name;
+        view_.answer = answer;
+        documents_.SaveAs();
+    }
+};
+
+TEST_F(ReplacedDocument, AFileThatTheDialogCouldNotSeeIsAskedAbout) {
+    for (const std::string name : {"plan", "plan.v2", "plan."}) {
+        view_.questions.clear();
+        saveAs(name, Answer::cancel);
+        EXPECT_EQ(view_.questions,
+                  std::vector<std::string>{"C:\\data\\" + name +
+                                           ".OM already exists.\r\nDo you want to replace it?"});
+        EXPECT_EQ(file("C:\\data\\" + name + ".OM"), "old");
+        EXPECT_TRUE(documents_.NoFileYet());
+    }
+}
+
+TEST_F(ReplacedDocument, YesWritesOverIt) {
+    saveAs("plan.v2", Answer::yes);
+    EXPECT_NE(file("C:\\data\\plan.v2.OM"), "old");
+    expectNamed("C:\\data\\plan.v2.OM");
+}
+
+TEST_F(ReplacedDocument, NoLeadsBackToTheDialog) {
+    view_.pickedNext = {"C:\\data\\other"};
+    saveAs("plan.v2", Answer::no);
+    EXPECT_EQ(view_.picks, (std::vector<bool>{true, true}));
+    EXPECT_EQ(view_.questions.size(), 1U);
+    EXPECT_EQ(file("C:\\data\\plan.v2.OM"), "old");
+    expectNamed("C:\\data\\other.OM");
+}
+
+TEST_F(ReplacedDocument, WhatTheDialogHasSeenIsNotAskedAboutTwice) {
+    saveAs("plan.OM", Answer::cancel);
+    EXPECT_FALSE(asked());
+    expectNamed("C:\\data\\plan.OM");
+}
+
+TEST_F(ReplacedDocument, AFileThatCannotBeLookedAtIsAskedAbout) {
+    ini_.store.unreadable.insert("C:\\data\\secret.OM");
+    saveAs("secret", Answer::cancel);
+    EXPECT_TRUE(asked());
+}
+
+TEST_F(ReplacedDocument, AFolderThatIsMissingHoldsNoFileToAskAbout) {
+    saveAs("missing\\plan", Answer::cancel);
+    EXPECT_FALSE(asked());
 }
 
 TEST(WithToolsFileExtension, IsAppendedWhereThereIsNone) {

@@ -94,10 +94,52 @@ TEST_F(Documents, ANewOneIsEmptyAndAlwaysAsks) {
 TEST_F(Documents, SaveUnderANewNameAppendsTheExtensionAndNamesTheDocument) {
     saveAs(file("rahmen"));
     EXPECT_TRUE(waitUntil([&] {
-        return PanelScene::control(scene_.settings(), "lblPath").text().ends_with("rahmen.OM");
+        // The system's dialog may append it in small letters.
+        const std::string path = PanelScene::control(scene_.settings(), "lblPath").text();
+        return path.ends_with("rahmen.OM") || path.ends_with("rahmen.om");
     }));
     EXPECT_TRUE(SettingsFile::read(file("rahmen.OM")).hasSection("Tool 1"));
     EXPECT_EQ(scene_.program().close(), 0U);
+}
+
+/// The question of the file dialog itself, whatever the system calls it.
+DesktopWindow overwriteQuestion(const Program& program) {
+    DesktopWindow found;
+    waitUntil([&] {
+        for (const DesktopWindow& window : topLevelWindows(program.process().id())) {
+            if (window.isVisible() && window.item(IDYES).exists()) {
+                found = window;
+            }
+        }
+        return found.exists();
+    });
+    return found;
+}
+
+TEST_F(Documents, ANameTypedWithoutItsExtensionIsAskedAboutBeforeItsFileIsReplaced) {
+    writeBytes(file("plan.OM"), "kept");
+    scene_.press("cmdSaveAs");
+    const DesktopWindow dialog =
+        waitForTopLevel(scene_.program().process().id(), "#32770", saveTitle);
+    scene_.typeFileName(dialog, file("plan"));
+    const DesktopWindow asked = overwriteQuestion(scene_.program());
+    ASSERT_TRUE(asked.exists());
+    asked.post(WM_COMMAND, IDNO);
+    asked.waitUntilClosed();
+    EXPECT_EQ(bytesOf(file("plan.OM")), "kept");
+    scene_.cancelFileDialog(saveTitle);
+    EXPECT_TRUE(pathLineSays(noDocument));
+}
+
+TEST_F(Documents, ANameWithAnotherExtensionIsAskedAboutUnderTheNameThatIsWritten) {
+    writeBytes(file("plan.v2.OM"), "kept");
+    scene_.press("cmdSaveAs");
+    scene_.answerFileDialog(saveTitle, file("plan.v2"));
+    const DesktopWindow asked = overwriteQuestion(scene_.program());
+    ASSERT_TRUE(asked.exists());
+    asked.post(WM_COMMAND, IDYES);
+    EXPECT_TRUE(waitUntil([&] { return bytesOf(file("plan.v2.OM")) != "kept"; }));
+    EXPECT_TRUE(SettingsFile::read(file("plan.v2.OM")).hasSection("Tool 1"));
 }
 
 TEST_F(Documents, AChangedOneIsAskedForAndSaved) {

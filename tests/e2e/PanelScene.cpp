@@ -146,10 +146,14 @@ void PanelScene::press(const DesktopWindow& control) {
 
 void PanelScene::answerFileDialog(std::string_view title, const std::filesystem::path& path) {
     const DesktopWindow dialog = waitForTopLevel(program_->process().id(), "#32770", title);
+    typeFileName(dialog, path);
+    dialog.waitUntilClosed();
+}
+
+void PanelScene::typeFileName(const DesktopWindow& dialog, const std::filesystem::path& path) {
     const std::u8string name = path.u8string();
     dialog.item(fileNameField).setText({reinterpret_cast<const char*>(name.data()), name.size()});
     dialog.post(WM_COMMAND, IDOK);
-    dialog.waitUntilClosed();
 }
 
 void PanelScene::cancelFileDialog(std::string_view title) {

@@ -71,6 +71,8 @@ class PanelScene {
 
     /// Answers the program's file dialog with a path.
     void answerFileDialog(std::string_view title, const std::filesystem::path& path);
+    /// Puts a path into the name field of the shown dialog and presses its button.
+    static void typeFileName(const DesktopWindow& dialog, const std::filesystem::path& path);
     /// Leaves it without one.
     void cancelFileDialog(std::string_view title);
 

@@ -60,9 +60,33 @@ TEST_F(FileDialogs, ACancelledDialogAnswersNothing) {
 }
 
 TEST_F(FileDialogs, AFileToSaveNeedNotBeThere) {
-    const std::wstring file = (folder_.path() / L"\u03a9 new").wstring();
+    const std::wstring file = (folder_.path() / L"\u03a9 new.OM").wstring();
     answer(L"Save Tools As", file, IDOK);
     EXPECT_EQ(wide(PickToolsFile(nullptr, true)), file);
+}
+
+TEST_F(FileDialogs, ANameWithoutAnExtensionGetsThatOfToolSettingsFiles) {
+    const std::wstring file = (folder_.path() / "plan").wstring();
+    answer(L"Save Tools As", file, IDOK);
+    // The dialog may take it from its filter, in small letters.
+    const std::wstring named = file + L".OM";
+    EXPECT_EQ(CompareStringOrdinal(wide(PickToolsFile(nullptr, true)).c_str(), -1, named.c_str(),
+                                   -1, TRUE),
+              CSTR_EQUAL);
+}
+
+TEST_F(FileDialogs, ASaveOverAFileIsAskedAboutWhenItsExtensionIsLeftOut) {
+    std::ofstream(folder_.path() / "plan.OM") << "[General]\r\n";
+    const auto question = [] {
+        const HWND active = GetActiveWindow();
+        return active != nullptr && GetDlgItem(active, IDYES) != nullptr;
+    };
+    answer(L"Save Tools As", (folder_.path() / "plan").wstring(), IDOK);
+    player_.until("the question", question)
+        .then([] { PostMessageW(GetActiveWindow(), WM_COMMAND, IDNO, 0); })
+        .until("the dialog again", [question] { return !question(); })
+        .then([] { PostMessageW(dialog(L"Save Tools As"), WM_COMMAND, IDCANCEL, 0); });
+    EXPECT_EQ(PickToolsFile(nullptr, true), "");
 }
 
 TEST(CompactPath, KeepsAPathThatFits) {

@@ -33,7 +33,7 @@ ToolsPane::ToolsPane(const Ports& ports, int id)
           [this] { tools_.setUnits(ports_.defaultUnits); })),
       viewChanged_(list_.viewChanged.subscribe([this] { tellPanelsWhatShows(); })),
       toolFile_({toolsFile_, ports.store, tools_, *this}, {versionText, timeOfSaving}),
-      documents_({toolsFile_, toolFile_, tools_, *this, dialogs_}) {
+      documents_({toolsFile_, ports.store, toolFile_, tools_, *this, dialogs_}) {
     tools_.setUnits(ports.defaultUnits);
 }
 

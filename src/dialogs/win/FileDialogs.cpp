@@ -53,6 +53,8 @@ std::string PickToolsFile(HWND owner, bool forSaving) {
     record.lpstrFile = file.data();
     record.nMaxFile = longestPath;
     record.lpstrTitle = title.c_str();
+    // So that the dialog looks for the file, and asks about it, under its whole name.
+    record.lpstrDefExt = L"OM";
     record.Flags =
         OFN_LONGNAMES | OFN_HIDEREADONLY | (forSaving ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST);
     const BOOL picked = forSaving ? GetSaveFileNameW(&record) : GetOpenFileNameW(&record);

@@ -7,8 +7,8 @@
 namespace ormala {
 
 /// The system's modal dialog for a tool-settings file to load or to save; empty if it was
-/// cancelled. The process's current folder is afterwards what it was before. A file to save is
-/// answered as it was typed, without an extension that the user left out.
+/// cancelled. The process's current folder is afterwards what it was before. A name that is typed
+/// without an extension gets that of tool-settings files; any other stays as it was typed.
 std::string PickToolsFile(HWND owner, bool forSaving);
 
 /// The path with an ellipsis for its middle folders, so that it fits a width in pixels in the
