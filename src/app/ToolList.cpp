@@ -1,6 +1,7 @@
 #include "app/ToolList.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "language/MlStringModule.h"
@@ -168,6 +169,17 @@ std::vector<ToolList::Entry> ToolList::GetPanelsInVisualOrder() const {
         entries.push_back({pair->kind, *pair->listed});
     }
     return entries;
+}
+
+ToolPanel* ToolList::successorOf(const ToolPanel& panel) const {
+    const auto shown = GetPanelsInVisualOrder();
+    const auto at = std::ranges::find_if(
+        shown, [&](const Entry& entry) { return &entry.listed.panel() == &panel; });
+    if (at == shown.end() || shown.size() == 1) {
+        return nullptr;
+    }
+    const bool isLast = std::next(at) == shown.end();
+    return &(isLast ? std::prev(at) : std::next(at))->listed.panel();
 }
 
 void ToolList::ArrangePanels() {

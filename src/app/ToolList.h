@@ -43,6 +43,9 @@ class ToolList {
     /// Destroys the panel, unless it is a first one.
     void RemovePanel(const ToolPanel& panel);
     void RemoveAllTools();
+    /// The panel that is to follow when this one goes: the one that takes its place, else the last
+    /// one that stays; null if none stays.
+    [[nodiscard]] ToolPanel* successorOf(const ToolPanel& panel) const;
 
     struct Entry {
         ToolKind kind;

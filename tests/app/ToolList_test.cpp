@@ -95,6 +95,21 @@ TEST_F(ToolListTest, TheRefusalSpeaksTheLanguageOfTheUser) {
     EXPECT_NE(stage_.messages.errors.at(0), "The maximum number of tools (33) has been reached.");
 }
 
+TEST_F(ToolListTest, TheSuccessorOfAPanelTakesItsPlaceOrIsTheLastOne) {
+    stage_.addStencil();
+    const auto panel = [&](std::size_t at) {
+        return &list_.GetPanelsInVisualOrder().at(at).listed.panel();
+    };
+    EXPECT_EQ(list_.successorOf(*panel(0)), panel(1));
+    EXPECT_EQ(list_.successorOf(*panel(1)), panel(2));
+    EXPECT_EQ(list_.successorOf(*panel(2)), panel(1));
+    ToolPanel* stays = panel(1);
+    list_.RemovePanel(*panel(0));
+    list_.RemovePanel(*panel(1));
+    EXPECT_EQ(panel(0), stays);
+    EXPECT_EQ(list_.successorOf(*stays), nullptr);
+}
+
 TEST_F(ToolListTest, RemovingTheFirstToolAndAddingOneReusesItAndRestartsItsColours) {
     const Color first = stage_.stencil(0).Color();
     const ToolPanel* panel = &stage_.stencil(0);

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "e2e/PanelScene.h"
+#include "e2e/ToolPanel.h"
 
 namespace ormala::test {
 namespace {
@@ -49,6 +52,66 @@ TEST(ToolList, TheFirstToolFindsRoomForItsPanel) {
         return scene.control("picOuter").rect().height() >= scene.panel(0).rect().height();
     }));
     EXPECT_TRUE(looksSelected(scene.panel(0)));
+}
+
+bool titleSays(const PanelScene& scene, const std::string& mode) {
+    return waitUntil([&] { return scene.settings().text() == "Ormala - " + mode; });
+}
+
+/// Keys that are dead while the keyboard is nowhere.
+void expectKeysAlive(const PanelScene& scene) {
+    keyboard::press(VK_F4);
+    EXPECT_TRUE(titleSays(scene, "Template"));
+    keyboard::press(VK_F2);
+    EXPECT_TRUE(titleSays(scene, "Edit"));
+}
+
+bool anyLooksSelected(const PanelScene& scene) {
+    constexpr Color selectedGround = 0x4A4A4A;
+    return std::ranges::any_of(scene.panels(), [](const DesktopWindow& panel) {
+        const ScreenRect rect = panel.rect();
+        return screen::pixel({rect.left + 2, rect.top + 30}) == selectedGround;
+    });
+}
+
+TEST(ToolList, ADoubleClickOnRemoveRemovesOneToolAndSelectsNone) {
+    PanelScene scene(ToolSet()
+                         .stencil({100, 100, 300, 300})
+                         .stencil({400, 100, 600, 300})
+                         .stencil({400, 400, 600, 500})
+                         .file());
+    scene.mouse.doubleClick(PanelScene::control(scene.panel(0), "cmdDelete").center());
+    ASSERT_TRUE(scene.waitForPanels(2));
+    expectKeysAlive(scene);
+    EXPECT_EQ(scene.panels().size(), 2U);
+    EXPECT_FALSE(anyLooksSelected(scene));
+    scene.mouse.moveTo(PanelScene::control(scene.panel(0), "lblTitle").center());
+    scene.press(PanelScene::control(scene.panel(0), "cmdDelete"));
+    ASSERT_TRUE(scene.waitForPanels(1));
+    scene.mouse.moveTo(PanelScene::control(scene.panel(0), "lblTitle").center());
+    scene.press(PanelScene::control(scene.panel(0), "cmdDelete"));
+    ASSERT_TRUE(scene.waitForPanels(0));
+    expectKeysAlive(scene);
+}
+
+TEST(ToolList, KeysStayAliveAfterARemovalByKeyOnThePanel) {
+    PanelScene scene(ToolSet().stencil({100, 100, 300, 300}).stencil({400, 100, 600, 300}).file());
+    clickTitle(scene, 0);
+    const DesktopWindow remove = PanelScene::control(scene.panel(0), "cmdDelete");
+    focusByTab(remove);
+    keyboard::press(VK_SPACE);
+    ASSERT_TRUE(scene.waitForPanels(1));
+    expectKeysAlive(scene);
+}
+
+TEST(ToolList, KeysStayAliveAfterARemovalByKeyOnTheWorksheet) {
+    PanelScene scene(twoStencils());
+    scene.mouse.click(scene.onScreen({500, 200}));
+    ASSERT_TRUE(looksSelected(scene.panel(1)));
+    keyboard::press(VK_DELETE);
+    ASSERT_TRUE(scene.waitForPanels(1));
+    keyboard::press(VK_F4);
+    EXPECT_TRUE(titleSays(scene, "Template"));
 }
 
 TEST(ToolList, SmallButtonsOfANewPanelGrowUnderTheMouse) {

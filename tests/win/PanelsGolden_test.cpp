@@ -26,7 +26,7 @@ namespace {
 class QuietPanelHost : public PanelHost {
     void panelSelected(PanelWindow& /*panel*/) override {}
     void panelGotFocus(PanelWindow& /*panel*/) override {}
-    void removePanel(PanelWindow& /*panel*/) override {}
+    void removePanel(PanelWindow& /*panel*/, bool /*byMouse*/) override {}
 };
 
 /// A panel in each of its looks: at rest, of the selected tool, and both paused.

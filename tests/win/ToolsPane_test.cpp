@@ -60,6 +60,48 @@ TEST_F(ToolsPaneTest, PauseHidesTheToolAndLeavesOnlyItsOwnButton) {
     EXPECT_FALSE(IsWindowEnabled(namedChild(measure(), "cmdUndo")));
 }
 
+TEST_F(ToolsPaneTest, TheFocusOfARemovedPanelGoesOnToItsNeighbourWhoseToolStaysUnselected) {
+    ASSERT_TRUE(test::waitUntil([&] { return GetActiveWindow() == settings_.handle(); }));
+    SetFocus(namedChild(stencil(), "cmdDelete"));
+    click(stencil(), "cmdDelete");
+    ASSERT_TRUE(test::waitUntil([&] { return IsWindowVisible(stencil()) == FALSE; }));
+    EXPECT_EQ(GetFocus(), measure());
+    EXPECT_EQ(sheet().selected(), nullptr);
+    SetFocus(nullptr);
+    SetFocus(settings_.handle());
+    EXPECT_EQ(GetFocus(), measure());
+    EXPECT_EQ(sheet().selected(), nullptr);
+    click(measure(), "cmdDelete");
+    ASSERT_TRUE(test::waitUntil([&] { return IsWindowVisible(measure()) == FALSE; }));
+    EXPECT_EQ(GetFocus(), namedChild(settings_.handle(), "picOuter"));
+}
+
+TEST_F(ToolsPaneTest, ThePressesOfADoubleClickOnRemoveEndThere) {
+    const HWND next = namedChild(measure(), "cmdDelete");
+    click(stencil(), "cmdDelete");
+    MSG press{next, WM_LBUTTONDOWN, MK_LBUTTON, 0, GetTickCount(), {}};
+    GetCursorPos(&press.pt);
+    EXPECT_TRUE(settings_.preview(press));
+    MSG onToolbar = press;
+    onToolbar.hwnd = namedChild(settings_.handle(), "cmdAddGrid");
+    EXPECT_FALSE(settings_.preview(onToolbar));
+    MSG away = press;
+    away.message = WM_MOUSEMOVE;
+    away.pt.x += GetSystemMetrics(SM_CXDOUBLECLK) + 1;
+    EXPECT_FALSE(settings_.preview(away));
+    EXPECT_FALSE(settings_.preview(press));
+}
+
+TEST_F(ToolsPaneTest, ARemovalByKeyKeepsNoPressBack) {
+    const HWND button = namedChild(stencil(), "cmdDelete");
+    SendMessageW(button, WM_KEYDOWN, VK_SPACE, 1);
+    SendMessageW(button, WM_KEYUP, VK_SPACE, 1);
+    MSG press{
+        namedChild(measure(), "cmdDelete"), WM_LBUTTONDOWN, MK_LBUTTON, 0, GetTickCount(), {}};
+    GetCursorPos(&press.pt);
+    EXPECT_FALSE(settings_.preview(press));
+}
+
 TEST_F(ToolsPaneTest, UndoOfADisconnectShowsTheLinesConnectedAgain) {
     const auto connected = [&] {
         return SendMessageW(namedChild(measure(), "optMode(0)"), BM_GETCHECK, 0, 0) == BST_CHECKED;

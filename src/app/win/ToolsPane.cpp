@@ -15,6 +15,30 @@ namespace {
 /// A panel is removed once the event is over in which its tool or its button asked for that.
 constexpr UINT wmRemovePanel = WM_APP + 1;
 
+PressGuard::DoubleClick doubleClickOfSystem() {
+    return {{GetSystemMetrics(SM_CXDOUBLECLK), GetSystemMetrics(SM_CYDOUBLECLK)},
+            static_cast<std::int32_t>(GetDoubleClickTime())};
+}
+
+bool isPress(UINT message) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+        case WM_RBUTTONDOWN:
+        case WM_RBUTTONDBLCLK:
+        case WM_MBUTTONDOWN:
+        case WM_MBUTTONDBLCLK:
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool holdsFocus(HWND window) {
+    const HWND focus = GetFocus();
+    return focus != nullptr && (focus == window || IsChild(window, focus) != FALSE);
+}
+
 }  // namespace
 
 ToolsPane::ToolsPane(const Ports& ports, int id)
@@ -33,7 +57,8 @@ ToolsPane::ToolsPane(const Ports& ports, int id)
           [this] { tools_.setUnits(ports_.defaultUnits); })),
       viewChanged_(list_.viewChanged.subscribe([this] { tellPanelsWhatShows(); })),
       toolFile_({toolsFile_, ports.store, tools_, *this}, {versionText, timeOfSaving}),
-      documents_({toolsFile_, ports.store, toolFile_, tools_, *this, dialogs_}) {
+      documents_({toolsFile_, ports.store, toolFile_, tools_, *this, dialogs_}),
+      pressGuard_(doubleClickOfSystem()) {
     tools_.setUnits(ports.defaultUnits);
 }
 
@@ -134,6 +159,10 @@ void ToolsPane::beginBusy(const std::string& info, bool hourglass) {
     if (hourglass) {
         SetCursor(LoadCursorW(nullptr, IDC_WAIT));
     }
+    if (holdsFocus(list_.handle())) {
+        // The panels may go, and with them the keyboard.
+        SetFocus(list_.handle());
+    }
     list_.setBulkUpdate(true);
     ports_.bar.showInfo(info);
     refresh();
@@ -196,9 +225,14 @@ bool ToolsPane::hasPanelAt(POINT screen) const {
 
 void ToolsPane::giveFocusToPanel() {
     // A focus that comes back is no choice of the user's.
-    const bool former = std::exchange(restoringFocus_, true);
     const PanelWindow* panel = panelMaker_.panelOf(focused_);
-    SetFocus(panel != nullptr && panel->isVisible() ? panel->handle() : list_.handle());
+    focusWithoutSelecting(panel != nullptr && panel->isVisible() ? panel->handle()
+                                                                 : list_.handle());
+}
+
+void ToolsPane::focusWithoutSelecting(HWND window) {
+    const bool former = std::exchange(restoringFocus_, true);
+    SetFocus(window);
     restoringFocus_ = former;
 }
 
@@ -218,7 +252,41 @@ void ToolsPane::ensureControlVisible(HWND control) {
     }
 }
 
-void ToolsPane::removePanel(PanelWindow& panel) {
+PanelWindow* ToolsPane::windowOf(const ToolPanel* panel) const {
+    const auto& panels = panelMaker_.panels();
+    const auto at = std::ranges::find_if(
+        panels, [panel](PanelWindow* window) { return &window->core() == panel; });
+    return at == panels.end() ? nullptr : *at;
+}
+
+/// The keyboard goes on to a neighbour, whose tool stays as it is.
+void ToolsPane::remove(PanelWindow& panel) {
+    const PanelWindow* next = windowOf(tools_.successorOf(panel.core()));
+    const HWND follower = next != nullptr ? next->handle() : list_.handle();
+    if (focused_ == panel.handle()) {
+        focused_ = follower;
+    }
+    if (holdsFocus(panel.handle())) {
+        focusWithoutSelecting(follower);
+    }
+    tools_.RemovePanel(panel.core());
+}
+
+bool ToolsPane::swallows(const MSG& message) {
+    const PixelPoint mouse{message.pt.x, message.pt.y};
+    if (message.message == WM_MOUSEMOVE || message.message == WM_NCMOUSEMOVE) {
+        pressGuard_.mouseMoved(mouse);
+    }
+    return isPress(message.message) && IsChild(list_.picInner(), message.hwnd) != FALSE &&
+           !pressGuard_.takesPress(mouse, message.time);
+}
+
+void ToolsPane::removePanel(PanelWindow& panel, bool byMouse) {
+    if (byMouse) {
+        POINT mouse{};
+        GetCursorPos(&mouse);
+        pressGuard_.removed({mouse.x, mouse.y}, GetTickCount());
+    }
     PostMessageW(ports_.window, wmRemovePanel, 0, reinterpret_cast<LPARAM>(panel.handle()));
 }
 
@@ -228,7 +296,7 @@ std::optional<LRESULT> ToolsPane::onMessage(UINT message, LPARAM lParam) {
     }
     if (PanelWindow* panel = panelMaker_.panelOf(reinterpret_cast<HWND>(lParam))) {
         if (!panel->core().Hidden()) {
-            tools_.RemovePanel(panel->core());
+            remove(*panel);
         }
     }
     return 0;

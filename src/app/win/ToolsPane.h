@@ -5,6 +5,7 @@
 #include "app/Documents.h"
 #include "app/FocusMemory.h"
 #include "app/PanelLayout.h"
+#include "app/PressGuard.h"
 #include "app/ToolFile.h"
 #include "app/ToolList.h"
 #include "app/win/CommandBar.h"
@@ -76,6 +77,9 @@ class ToolsPane : private ToolListView, private BusyView, private PanelHost {
     void giveFocusToPanel();
     /// Scrolls so that a control shows that has got the focus by a key.
     void ensureControlVisible(HWND control);
+    /// Whether a message of the program ends here: the second press of a double click that has
+    /// removed a panel.
+    bool swallows(const MSG& message);
     /// A message that the pane has sent the window.
     std::optional<LRESULT> onMessage(UINT message, LPARAM lParam);
 
@@ -90,10 +94,13 @@ class ToolsPane : private ToolListView, private BusyView, private PanelHost {
 
     void panelSelected(PanelWindow& panel) override;
     void panelGotFocus(PanelWindow& panel) override;
-    void removePanel(PanelWindow& panel) override;
+    void removePanel(PanelWindow& panel, bool byMouse) override;
 
     void tellPanelsWhatShows();
     void SetFocusToSelectedControl();
+    void remove(PanelWindow& panel);
+    void focusWithoutSelecting(HWND window);
+    [[nodiscard]] PanelWindow* windowOf(const ToolPanel* panel) const;
     void EnsurePanelVisible(const PanelWindow& panel);
 
     Ports ports_;
@@ -113,6 +120,7 @@ class ToolsPane : private ToolListView, private BusyView, private PanelHost {
     /// The panel that gets the focus when the window gets it; compared only, since it may be gone.
     HWND focused_ = nullptr;
     bool restoringFocus_ = false;
+    PressGuard pressGuard_;
 };
 
 }  // namespace ormala

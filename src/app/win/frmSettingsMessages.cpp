@@ -206,6 +206,9 @@ LRESULT frmSettings::onCommand(WPARAM wParam) {
 }
 
 bool frmSettings::preview(const MSG& message) {
+    if (tools_ && tools_->swallows(message)) {
+        return true;
+    }
     const bool own =
         !closed_ && (message.hwnd == handle() || IsChild(handle(), message.hwnd) != FALSE);
     if (!own || message.message != WM_KEYDOWN) {

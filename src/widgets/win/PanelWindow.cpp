@@ -69,7 +69,7 @@ PanelWindow::PanelWindow(const wchar_t* className, std::string_view name, const 
 void PanelWindow::open() {
     constexpr int toggle = 1;
     button("cmdPause").setControlType(toggle);
-    onClick("cmdDelete", [this] { removeRequested(); });
+    connectDelete();
     onClick("cmdUndo", [this] { core().Undo(); });
     onClick("cmdRedo", [this] { core().Redo(); });
     onClick("cmdPause", [this] { core().togglePause(); });
@@ -238,6 +238,17 @@ void PanelWindow::onHold(std::string_view name, Hold hold) {
     subscriptions_.push_back(held.lostFocus.subscribe([shared] { shared->releaseKey(); }));
 }
 
+/// The click itself doesn't know whether it came from the mouse.
+void PanelWindow::connectDelete() {
+    const auto byMouse = std::make_shared<bool>(false);
+    ZelvikButtonXP& cmdDelete = button("cmdDelete");
+    subscriptions_.push_back(
+        cmdDelete.MouseDown.subscribe([byMouse](MouseArguments) { *byMouse = true; }));
+    subscriptions_.push_back(
+        cmdDelete.KeyDown.subscribe([byMouse](KeyArguments) { *byMouse = false; }));
+    onClick("cmdDelete", [this, byMouse] { host_.removePanel(*this, *byMouse); });
+}
+
 void PanelWindow::onHover(std::string_view name, const std::function<void(bool)>& action) {
     subscriptions_.push_back(button(name).MouseEnter.subscribe([action](int) { action(true); }));
     subscriptions_.push_back(button(name).MouseExit.subscribe([action](int) { action(false); }));
@@ -324,7 +335,7 @@ void PanelWindow::popUpMenu() {
                                        menuPlace_.x, menuPlace_.y, 0, window, nullptr);
     // The panel may have gone meanwhile.
     if (chosen == static_cast<BOOL>(mnuDelete) && IsWindow(window) != FALSE) {
-        removeRequested();
+        host_.removePanel(*this, true);
     }
 }
 

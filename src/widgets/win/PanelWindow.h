@@ -29,7 +29,7 @@ class PanelHost {
     /// The user went to the panel or to one of its buttons, or the focus came back to it.
     virtual void panelGotFocus(PanelWindow& panel) = 0;
     /// The user wants tool and panel gone. They must outlive the call.
-    virtual void removePanel(PanelWindow& panel) = 0;
+    virtual void removePanel(PanelWindow& panel, bool byMouse) = 0;
 };
 
 /// The window of a tool's panel: the controls of its design, which show what the panel's core
@@ -100,7 +100,7 @@ class PanelWindow : public Window, protected PanelView {
     void enable(const PanelEnabling& enabling) override;
     void runRefreshTimer(bool run) override;
     void toolBecameSelected() override { host_.panelSelected(*this); }
-    void removeRequested() override { host_.removePanel(*this); }
+    void removeRequested() override { host_.removePanel(*this, false); }
     void showMenu(const std::string& removeText) override;
 
   private:
@@ -113,6 +113,7 @@ class PanelWindow : public Window, protected PanelView {
     LRESULT onPaint();
     LRESULT onTimer(WPARAM id);
     void popUpMenu();
+    void connectDelete();
 
     const PanelDesign& design_;
     PanelHost& host_;
