@@ -1,5 +1,6 @@
 #include "measure/UnitChoice.h"
 
+#include <algorithm>
 #include <cstddef>
 
 #include "base/Utf8.h"
@@ -14,20 +15,8 @@ bool isLeadSurrogate(char16_t unit) {
     return unit >= 0xD800 && unit < 0xDC00;
 }
 
-}  // namespace
-
-bool UnitChoice::isValid() const {
-    return !hasRealUnit() || units.LengthFactor > 0;
-}
-
-MeasureUnits UnitChoice::stored() const {
-    MeasureUnits result = units;
-    result.LengthUnit.erase(result.LengthUnit.find_last_not_of(' ') + 1);
-    return result;
-}
-
-bool unitTakesKey(std::string_view name) {
-    return utf16FromUtf8(name).size() < mostCharacters;
+bool isControlCharacter(char c) {
+    return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
 }
 
 std::string unitCut(std::string_view name) {
@@ -36,6 +25,35 @@ std::string unitCut(std::string_view name) {
         cut.pop_back();
     }
     return utf8FromUtf16(cut);
+}
+
+}  // namespace
+
+bool UnitChoice::isValid() const {
+    return !hasRealUnit() || units.LengthFactor > 0;
+}
+
+MeasureUnits UnitChoice::stored() const {
+    MeasureUnits result = units;
+    result.LengthUnit = std::string(trimBlanks(result.LengthUnit));
+    return result;
+}
+
+bool unitTakesKey(std::string_view name) {
+    return utf16FromUtf8(name).size() < mostCharacters;
+}
+
+bool unitIsStorable(std::string_view name, const CodePage& codePage) {
+    const bool isPlain = std::ranges::none_of(name, isControlCharacter);
+    return isPlain && !name.starts_with(' ') &&
+           codePage.utf8FromBytes(codePage.bytesFromUtf8(name)) == name;
+}
+
+std::string unitCorrected(std::string_view former, std::string_view name,
+                          const CodePage& codePage) {
+    const std::size_t begin = std::min(name.find_first_not_of(' '), name.size());
+    std::string cut = unitCut(name.substr(begin));
+    return unitIsStorable(cut, codePage) ? cut : std::string(former);
 }
 
 }  // namespace ormala

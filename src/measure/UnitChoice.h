@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "storage/CodePage.h"
 #include "widgets/MeasureUnits.h"
 
 namespace ormala {
@@ -26,14 +27,19 @@ struct UnitChoice {
     [[nodiscard]] bool hasRealUnit() const { return units.LengthMode != 0; }
     /// Whether it can be confirmed: a real unit has a factor above 0.
     [[nodiscard]] bool isValid() const;
-    /// The units as they are stored, the name without blanks at its end.
+    /// The units as they are stored, the name without blanks at its ends.
     [[nodiscard]] MeasureUnits stored() const;
 };
 
 /// Whether one more character can be typed into a name.
 bool unitTakesKey(std::string_view name);
 
-/// The name, cut to its longest.
-std::string unitCut(std::string_view name);
+/// Whether a settings file gives the name back as it is: it drops blanks in front, and knows only
+/// the characters of its code page.
+bool unitIsStorable(std::string_view name, const CodePage& codePage);
+
+/// What becomes of a name that has changed, such as by pasting: without blanks in front, cut to its
+/// longest, and the former one if that can't be stored.
+std::string unitCorrected(std::string_view former, std::string_view name, const CodePage& codePage);
 
 }  // namespace ormala

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <numeric>
+#include <utility>
 
 namespace ormala {
 
@@ -122,6 +124,17 @@ PatternSelectLayout patternSelectLayout() {
     }
     placeLastLine(layout, bottom + groupGap);
     return layout;
+}
+
+std::vector<int> patternsAsSeen() {
+    const PatternSelectLayout layout = patternSelectLayout();
+    std::vector<int> seen(layout.patterns.size());
+    std::iota(seen.begin(), seen.end(), 0);
+    std::ranges::sort(seen, {}, [&](int index) {
+        const PixelRect& button = layout.patterns.at(static_cast<std::size_t>(index)).button;
+        return std::pair(button.top, button.left);
+    });
+    return seen;
 }
 
 }  // namespace ormala

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include "scene/PixelRect.h"
 #include "stencil/PatternTable.h"
@@ -27,5 +28,9 @@ struct PatternSelectLayout {
 /// The patterns of a group follow each other under its heading, in the order of the table. A group
 /// that has room beside the former one stands there.
 PatternSelectLayout patternSelectLayout();
+
+/// The indexes of the `PatternTable` in the order in which the patterns are seen, row by row: keys
+/// go through them in this order.
+std::vector<int> patternsAsSeen();
 
 }  // namespace ormala

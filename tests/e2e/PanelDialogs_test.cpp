@@ -227,6 +227,79 @@ TEST_F(PanelDialogs, ALineStyleIsPickedByADoubleClick) {
     EXPECT_EQ(SettingsFile::read(scene.data().toolsFile()).number("Tool 1", "LineWidth"), 4);
 }
 
+TEST_F(PanelDialogs, APressOnAButtonThatMovesOffLeavesTheDialogOpen) {
+    PanelScene scene(oneStencil(), userOptions());
+    const ToolPanel panel(scene);
+    for (const auto& [button, name] :
+         {std::pair("cmdColor", "frmColor"), std::pair("cmdLineStyle", "frmLineStyle")}) {
+        panel.press(button);
+        const Dialog dialog(scene, name);
+        scene.mouse.drag(dialog.control("cmdOK").center(), dialog.window().at(2, 2));
+        EXPECT_TRUE(dialog.window().isVisible()) << name;
+        dialog.escape();
+    }
+    scene.mouse.drag(panel.control("cmdDelete").center(), panel.control("lblTitle").center());
+    scene.mouse.drag(scene.control("cmdAddGrid").center(), scene.control("lblPath").center());
+    scene.press("cmdAddMeasure");
+    EXPECT_TRUE(scene.waitForPanels(2));
+}
+
+TEST_F(PanelDialogs, TheListOfUnitsProposesAndChangesTheTextOnlyByAChoice) {
+    PanelScene scene(oneMeasure(), userOptions());
+    const ToolPanel panel(scene);
+    panel.press("cmdUnits");
+    const Dialog dialog(scene, "frmUnit");
+    dialog.press("optLengthUnit(1)");
+    const DesktopWindow unit = dialog.control("cboUnit");
+    const auto isDropped = [&] { return unit.send(CB_GETDROPPEDSTATE) == TRUE; };
+    const ScreenPoint arrow{unit.rect().right - 8, unit.center().y};
+    dialog.enter("cboUnit", "m");
+    scene.mouse.click(arrow);
+    ASSERT_TRUE(waitUntil(isDropped));
+    EXPECT_EQ(unit.text(), "m");
+    keyboard::press(VK_DOWN);
+    keyboard::press(VK_ESCAPE);
+    ASSERT_TRUE(waitUntil([&] { return !isDropped(); }));
+    EXPECT_EQ(unit.text(), "m");
+    keyboard::press(VK_DOWN, Modifiers::Alt);
+    ASSERT_TRUE(waitUntil(isDropped));
+    EXPECT_EQ(unit.text(), "m");
+    keyboard::press(VK_ESCAPE);
+    ASSERT_TRUE(waitUntil([&] { return !isDropped(); }));
+    EXPECT_EQ(unit.text(), "m");
+    keyboard::press(VK_F4);
+    ASSERT_TRUE(waitUntil(isDropped));
+    keyboard::press(VK_DOWN);
+    keyboard::press(VK_RETURN);
+    unit.waitForText("km");
+    keyboard::type(" \u00b5");
+    keyboard::press(VK_F4);
+    ASSERT_TRUE(waitUntil(isDropped));
+    // The third row, below the field.
+    const auto row = static_cast<int>(unit.send(CB_GETITEMHEIGHT).value_or(0));
+    scene.mouse.click({unit.center().x, unit.rect().bottom + 2 * row + row / 2});
+    unit.waitForText("mm");
+    dialog.leave("cmdOK");
+    EXPECT_TRUE(waitUntil([&] { return panel.control("lblLengthA").text().ends_with(" mm "); }));
+}
+
+TEST_F(PanelDialogs, EscapeInTheListOfRotationsKeepsFieldAndPattern) {
+    PanelScene scene(oneStencil(), userOptions());
+    const ToolPanel panel(scene);
+    const Picture before = stencilPicture(scene);
+    panel.press("cmdSelectPattern");
+    const Dialog dialog(scene, "frmPatternSelect");
+    const DesktopWindow list = dialog.control("cboRotation");
+    scene.mouse.click(list.center());
+    ASSERT_TRUE(waitUntil([&] { return list.send(CB_GETDROPPEDSTATE) == TRUE; }));
+    keyboard::press(VK_DOWN, Modifiers::None, 3);
+    keyboard::press(VK_ESCAPE);
+    ASSERT_TRUE(waitUntil([&] { return list.send(CB_GETDROPPEDSTATE) == FALSE; }));
+    EXPECT_EQ(list.send(CB_GETCURSEL), 0);
+    dialog.leave("cmdOK");
+    EXPECT_TRUE(difference(stencilPicture(scene), before).empty());
+}
+
 TEST_F(PanelDialogs, UnitsAreThoseOfTheToolAndByDefaultOfNewOnes) {
     PanelScene scene(oneMeasure(), userOptions());
     const ToolPanel panel(scene);

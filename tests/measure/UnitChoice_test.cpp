@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "modAPI/textForms.h"
+#include "support/MemoryCodePage.h"
 
 namespace ormala {
 namespace {
@@ -59,18 +60,40 @@ TEST(UnitChoice, SixteenthCharacterIsNotTyped) {
 }
 
 TEST(UnitChoice, PastedNameIsCutToFifteenCharacters) {
-    EXPECT_EQ(unitCut("12345678901234567890"), "123456789012345");
-    EXPECT_EQ(unitCut("123456789012345"), "123456789012345");
-    EXPECT_EQ(unitCut("µµµµµµµµµµµµµµµµ"), "µµµµµµµµµµµµµµµ");
+    const MemoryCodePage codePage;
+    EXPECT_EQ(unitCorrected("", "12345678901234567890", codePage), "123456789012345");
+    EXPECT_EQ(unitCorrected("", "123456789012345", codePage), "123456789012345");
+    EXPECT_EQ(unitCorrected("", "µµµµµµµµµµµµµµµµ", codePage), "µµµµµµµµµµµµµµµ");
 }
 
 TEST(UnitChoice, CutLeavesNoHalfOfACharacter) {
-    EXPECT_EQ(unitCut("12345678901234😀"), "12345678901234");
+    EXPECT_EQ(unitCorrected("", "12345678901234😀", MemoryCodePage()), "12345678901234");
 }
 
-TEST(UnitChoice, NameLosesTheBlanksAtItsEndAndKeepsThoseInFront) {
+TEST(UnitChoice, PastedNameLosesTheBlanksInFront) {
+    EXPECT_EQ(unitCorrected("", "   sea mile", MemoryCodePage()), "sea mile");
+    EXPECT_EQ(unitCorrected("km", "   ", MemoryCodePage()), "");
+}
+
+TEST(UnitChoice, PastedNameThatCannotBeStoredLeavesTheFormerOne) {
+    EXPECT_EQ(unitCorrected("km", "kΩ", MemoryCodePage()), "km");
+    EXPECT_EQ(unitCorrected("km", "k\tm", MemoryCodePage()), "km");
+    EXPECT_EQ(unitCorrected("km", "k\x7Fm", MemoryCodePage()), "km");
+}
+
+TEST(UnitChoice, OnlyWhatAFileGivesBackCanBeStored) {
+    const MemoryCodePage codePage;
+    for (const std::string_view name : {"", "m", "µm", "sea mile", "\"", "'", "km ", "a=b", ";"}) {
+        EXPECT_TRUE(unitIsStorable(name, codePage)) << name;
+    }
+    for (const std::string_view name : {" m", " ", "Ω", "漢", "m\t", "\tm"}) {
+        EXPECT_FALSE(unitIsStorable(name, codePage)) << name;
+    }
+}
+
+TEST(UnitChoice, NameLosesTheBlanksAtItsEnds) {
     const MeasureUnits units = choice(1, 1, "  sea mile  ").stored();
-    EXPECT_EQ(units.LengthUnit, "  sea mile");
+    EXPECT_EQ(units.LengthUnit, "sea mile");
     EXPECT_EQ(choice(1, 1, "   ").stored().LengthUnit, "");
 }
 

@@ -71,5 +71,17 @@ TEST(PatternSelectLayout, ThePicturesAreLargeEnoughToTellThePatternsApart) {
     }
 }
 
+TEST(PatternSelectLayout, PatternsAsSeenGoRowByRowFromLeftToRight) {
+    const PatternSelectLayout layout = patternSelectLayout();
+    const std::vector<int> seen = patternsAsSeen();
+    ASSERT_EQ(seen.size(), layout.patterns.size());
+    for (std::size_t i = 1; i < seen.size(); ++i) {
+        const PixelRect former = layout.patterns.at(static_cast<std::size_t>(seen[i - 1])).button;
+        const PixelRect next = layout.patterns.at(static_cast<std::size_t>(seen[i])).button;
+        EXPECT_TRUE(next.top > former.top || (next.top == former.top && next.left > former.left))
+            << seen[i];
+    }
+}
+
 }  // namespace
 }  // namespace ormala

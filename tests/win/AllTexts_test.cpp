@@ -19,6 +19,7 @@
 #include "stencil/StencilPanel.h"
 #include "stencil/win/frmPatternSelect.h"
 #include "stencil/win/frmRatio.h"
+#include "support/MemoryCodePage.h"
 #include "support/QuietToolHost.h"
 #include "widgets/win/Label.h"
 #include "win/EnglishTexts.h"
@@ -238,7 +239,8 @@ TEST_P(AllTextsOfDialogs, HaveRoomInTheDialogOfUnits) {
     tool.setLengthFactor(12345.678901);
     tool.setLengthUnit("km");
     MeasureUnits defaults;
-    frmUnit dialog("Ormala", ".");
+    const MemoryCodePage codePage;
+    frmUnit dialog("Ormala", ".", codePage);
     expectRoomIn("frmUnit", 3, [](int unit) { click(indexed("optLengthUnit", unit)); });
     dialog.SelectUnits(owner_.handle(), tool, defaults);
 }

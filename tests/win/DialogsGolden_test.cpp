@@ -11,6 +11,7 @@
 #include "measure/win/frmUnit.h"
 #include "stencil/win/frmPatternSelect.h"
 #include "stencil/win/frmRatio.h"
+#include "support/MemoryCodePage.h"
 #include "support/QuietToolHost.h"
 #include "support/win/Golden.h"
 #include "win/EnglishTexts.h"
@@ -91,7 +92,8 @@ TEST_P(DialogsGolden, UnitsLookAsTheyAlwaysDid) {
     tool.setLengthFactor(0.25);
     tool.setLengthUnit("km");
     MeasureUnits defaults;
-    frmUnit dialog("Ormala", ".");
+    const MemoryCodePage codePage;
+    frmUnit dialog("Ormala", ".", codePage);
     comparePicture("frmUnit", "unit_dialog");
     EXPECT_EQ(dialog.SelectUnits(owner_.handle(), tool, defaults), frmUnit::cancelled);
 }

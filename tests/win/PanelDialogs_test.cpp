@@ -8,6 +8,7 @@
 #include "e2e/support/AppDataFolder.h"
 #include "measure/ctlMeasure.h"
 #include "stencil/ctlRatioGrid.h"
+#include "support/MemoryCodePage.h"
 #include "win/EnglishTexts.h"
 #include "win/ModalPlayer.h"
 
@@ -88,9 +89,10 @@ TEST_F(PanelDialogsTest, OtherWindowsAreAsideDuringTheMouseAction) {
     std::vector<bool> asides;
     MeasureUnits units;
     const TextForm form;
+    const MemoryCodePage codePage;
     const SpecialRatios ratios([](int, std::string_view text) { return std::string(text); }, form);
-    PanelDialogs dialogs({settings_.handle(), settings_.worksheet().handle(), ratios, form, units,
-                          [&](bool aside) { asides.push_back(aside); }});
+    PanelDialogs dialogs({settings_.handle(), settings_.worksheet().handle(), ratios, form,
+                          codePage, units, [&](bool aside) { asides.push_back(aside); }});
     StencilCommands& commands = dialogs;
     commands.applyMouseAction(stencil());
     EXPECT_EQ(asides, (std::vector<bool>{true, false}));

@@ -16,6 +16,7 @@
 #include "platform/win/controlName.h"
 #include "stencil/win/frmPatternSelect.h"
 #include "stencil/win/frmRatio.h"
+#include "support/MemoryCodePage.h"
 #include "support/QuietToolHost.h"
 #include "win/AccessibleReader.h"
 #include "win/EnglishTexts.h"
@@ -177,7 +178,8 @@ TEST_F(ScreenReader, NamesAllOfTheDialogOfUnits) {
     ctlMeasure tool(host, settings, others);
     MeasureUnits defaults;
     const TestWindow owner;
-    frmUnit dialog("Ormala", ".");
+    const MemoryCodePage codePage;
+    frmUnit dialog("Ormala", ".", codePage);
     readDialog("frmUnit");
     EXPECT_EQ(dialog.SelectUnits(owner.handle(), tool, defaults), frmUnit::cancelled);
     expectSpoken("optLengthUnit(0)", "Pixel (no real world unit)", ROLE_SYSTEM_RADIOBUTTON,

@@ -13,6 +13,7 @@
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
 #include "stencil/PatternRotations.h"
+#include "stencil/PatternSelectLayout.h"
 #include "widgets/dpi.h"
 #include "win/ModalPlayer.h"
 
@@ -207,6 +208,82 @@ TEST_F(PatternSelectTest, TheListTakesKeys) {
         },
         "cmdOK"));
     EXPECT_EQ(patterns_[0], (PatternSetting{5, *rotationOfRow(1)}));
+}
+
+TEST_F(PatternSelectTest, EscapeInTheOpenListKeepsTheRotation) {
+    const auto isDropped = [this] {
+        return SendMessageW(control("cboRotation"), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
+    };
+    player_.untilActive("frmPatternSelect")
+        .then([this] { SetFocus(control("cboRotation")); })
+        .key(VK_F4)
+        .until("the list", isDropped)
+        .key(VK_DOWN)
+        .key(VK_DOWN)
+        .key(VK_ESCAPE)
+        .until("the end of the list", [isDropped] { return !isDropped(); })
+        .until("the former row", [this] { return rotationRow() == 0; })
+        .then([this] { click("cmdOK"); });
+    EXPECT_TRUE(form_.SelectPattern(patterns_, tab_, nullptr));
+    EXPECT_EQ(patterns_[0], (PatternSetting{5, 0}));
+}
+
+TEST_F(PatternSelectTest, EnterInTheOpenListTakesTheRow) {
+    const auto isDropped = [this] {
+        return SendMessageW(control("cboRotation"), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
+    };
+    player_.untilActive("frmPatternSelect")
+        .then([this] { SetFocus(control("cboRotation")); })
+        .key(VK_F4)
+        .until("the list", isDropped)
+        .key(VK_DOWN)
+        .key(VK_DOWN)
+        .key(VK_RETURN)
+        .until("the end of the list", [isDropped] { return !isDropped(); })
+        .then([this] { EXPECT_EQ(rotationRow(), 2); })
+        .then([this] { click("cmdOK"); });
+    EXPECT_TRUE(form_.SelectPattern(patterns_, tab_, nullptr));
+    EXPECT_EQ(patterns_[0], (PatternSetting{5, *rotationOfRow(2)}));
+}
+
+TEST_F(PatternSelectTest, TabGoesFromControlToControlAsTheyAreSeen) {
+    std::vector<std::string> reached;
+    player_.untilActive("frmPatternSelect").then([this] { SetFocus(control("btnTab(0)")); });
+    constexpr int stops = 5 + PatternTable::count + 3;
+    for (int stop = 0; stop < stops; ++stop) {
+        player_.then([&reached] { reached.push_back(controlName(GetFocus())); }).key(VK_TAB);
+    }
+    player_.then([this] { EXPECT_EQ(GetFocus(), control("btnTab(0)")); }).key(VK_ESCAPE);
+    (void)form_.SelectPattern(patterns_, tab_, nullptr);
+    std::vector<std::string> seen;
+    for (int tab = 0; tab < 5; ++tab) {
+        seen.push_back("btnTab(" + std::to_string(tab) + ")");
+    }
+    for (const int pattern : patternsAsSeen()) {
+        seen.push_back("optPattern(" + std::to_string(pattern) + ")");
+    }
+    // The first tab has no "No pattern".
+    seen.insert(seen.end(), {"cboRotation", "cmdOK", "cmdCancel"});
+    EXPECT_EQ(reached, seen);
+}
+
+TEST_F(PatternSelectTest, ArrowKeysGoFromPatternToPattern) {
+    tab_ = 1;
+    std::vector<std::string> reached;
+    player_.untilActive("frmPatternSelect").then([this] {
+        SetFocus(control("optPattern(" + std::to_string(patternsAsSeen().front()) + ")"));
+    });
+    for (int stop = 0; stop <= PatternTable::count; ++stop) {
+        player_.then([&reached] { reached.push_back(controlName(GetFocus())); }).key(VK_RIGHT);
+    }
+    player_.then([&reached] { reached.push_back(controlName(GetFocus())); }).key(VK_ESCAPE);
+    (void)form_.SelectPattern(patterns_, tab_, nullptr);
+    std::vector<std::string> seen;
+    for (const int pattern : patternsAsSeen()) {
+        seen.push_back("optPattern(" + std::to_string(pattern) + ")");
+    }
+    seen.insert(seen.end(), {"optNoPattern", seen.front()});
+    EXPECT_EQ(reached, seen);
 }
 
 TEST_F(PatternSelectTest, EveryNameHasRoomInBothLanguages) {

@@ -4,6 +4,7 @@
 
 #include "language/MlStringModule.h"
 #include "measure/ManualMeasures.h"
+#include "support/MemoryCodePage.h"
 #include "support/QuietToolHost.h"
 #include "win/EnglishTexts.h"
 #include "win/ModalPlayer.h"
@@ -36,6 +37,25 @@ class frmUnitTest : public testing::Test {
             SendMessageW(unitField(), WM_CHAR, key, 1);
         }
     }
+    [[nodiscard]] std::string unitText() const { return textOf(part("cboUnit")); }
+    [[nodiscard]] bool isDropped() const {
+        return SendMessageW(part("cboUnit"), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
+    }
+    void paste(const wchar_t* text) const {
+        SendMessageW(unitField(), EM_SETSEL, 0, -1);
+        SendMessageW(unitField(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text));
+    }
+    /// The dialog with the focus on the unit of a tool.
+    ModalPlayer& onUnit(const char* unit) {
+        give({0, 1, 1, unit});
+        return player_.untilActive("frmUnit").then([this] { SetFocus(unitField()); });
+    }
+    ModalPlayer& untilDropped() {
+        return player_.until("the list", [this] { return isDropped(); });
+    }
+    ModalPlayer& untilClosed() {
+        return player_.until("the end of the list", [this] { return !isDropped(); });
+    }
     int select() { return dialog_.SelectUnits(owner_.handle(), tool_, defaults_); }
 
     EnglishTexts english_;
@@ -45,7 +65,8 @@ class frmUnitTest : public testing::Test {
     ManualMeasures others_;
     ctlMeasure tool_{host_, settings_, others_};
     MeasureUnits defaults_;
-    frmUnit dialog_{"Ormala", "."};
+    MemoryCodePage codePage_;
+    frmUnit dialog_{"Ormala", ".", codePage_};
     ModalPlayer player_;
 };
 
@@ -73,11 +94,11 @@ TEST_F(frmUnitTest, OKGivesTheToolWhatWasEntered) {
             click("optAngleUnit(1)");
             click("optLengthUnit(1)");
             setText("txnFactor", L"0.25");
-            setText("cboUnit", L" sea mile  ");
+            setText("cboUnit", L"sea mile  ");
         })
         .key(VK_RETURN);
     EXPECT_EQ(select(), frmUnit::changed);
-    EXPECT_EQ(given(), (MeasureUnits{1, 1, 0.25, " sea mile"}));
+    EXPECT_EQ(given(), (MeasureUnits{1, 1, 0.25, "sea mile"}));
     EXPECT_EQ(defaults_, MeasureUnits{});
 }
 
@@ -145,6 +166,137 @@ TEST_F(frmUnitTest, SixteenthCharacterHasNoEffectAndLongerTextIsCut) {
         .key(VK_RETURN);
     select();
     EXPECT_EQ(tool_.LengthUnit(), "abcdefghijklmno");
+}
+
+TEST_F(frmUnitTest, TheListComesUpAndGoesWithoutChangingTheText) {
+    struct Opening {
+        UINT message;
+        WPARAM wParam;
+        bool inField;
+    };
+    onUnit("m");
+    for (const Opening& opening : {Opening{CB_SHOWDROPDOWN, TRUE, false},
+                                   {WM_KEYDOWN, VK_F4, true},
+                                   {WM_KEYDOWN, VK_DOWN, true},
+                                   {WM_KEYDOWN, VK_UP, true},
+                                   {WM_KEYDOWN, VK_PRIOR, true},
+                                   {WM_SYSKEYDOWN, VK_DOWN, true}}) {
+        player_.then([this, opening] {
+            const HWND target = opening.inField ? unitField() : part("cboUnit");
+            SendMessageW(target, opening.message, opening.wParam, 1);
+            EXPECT_EQ(unitText(), "m") << opening.message << ", " << opening.wParam;
+        });
+        untilDropped().key(VK_ESCAPE);
+        untilClosed().then([this, opening] {
+            EXPECT_EQ(unitText(), "m") << opening.message << ", " << opening.wParam;
+        });
+    }
+    player_.key(VK_RETURN);
+    EXPECT_EQ(select(), frmUnit::changed);
+    EXPECT_EQ(tool_.LengthUnit(), "m");
+}
+
+TEST_F(frmUnitTest, EscapeInTheListTakesBackTheRowsGoneTo) {
+    onUnit("m").key(VK_F4);
+    untilDropped().key(VK_DOWN).key(VK_DOWN).key(VK_ESCAPE);
+    untilClosed()
+        .then([this] {
+            EXPECT_EQ(unitText(), "m");
+            EXPECT_TRUE(IsWindowVisible(dialog_.handle()));
+        })
+        .key(VK_RETURN);
+    select();
+    EXPECT_EQ(tool_.LengthUnit(), "m");
+}
+
+TEST_F(frmUnitTest, ARowTakenByEnterBecomesTheText) {
+    onUnit("m").key(VK_F4);
+    untilDropped().key(VK_DOWN).key(VK_RETURN);
+    untilClosed()
+        .then([this] {
+            EXPECT_EQ(unitText(), "km");
+            EXPECT_TRUE(IsWindowVisible(dialog_.handle()));
+        })
+        .key(VK_RETURN);
+    select();
+    EXPECT_EQ(tool_.LengthUnit(), "km");
+}
+
+TEST_F(frmUnitTest, EnterInAListThatWasOnlyOpenedKeepsTheText) {
+    onUnit("k").key(VK_F4);
+    untilDropped().key(VK_RETURN);
+    untilClosed().then([this] { EXPECT_EQ(unitText(), "k"); }).key(VK_RETURN);
+    select();
+    EXPECT_EQ(tool_.LengthUnit(), "k");
+}
+
+TEST_F(frmUnitTest, WhatIsTypedAboveTheOpenListStays) {
+    onUnit("m").key(VK_F4);
+    untilDropped()
+        .then([this] {
+            SendMessageW(unitField(), EM_SETSEL, 1, 1);
+            typeUnit(L"y");
+        })
+        .key(VK_RETURN);
+    untilClosed().then([this] { EXPECT_EQ(unitText(), "my"); }).key(VK_RETURN);
+    select();
+    EXPECT_EQ(tool_.LengthUnit(), "my");
+}
+
+TEST_F(frmUnitTest, GoingElsewhereLeavesTheListWithoutARow) {
+    onUnit("m").key(VK_F4);
+    untilDropped().key(VK_DOWN).then([this] { SetFocus(part("cmdOK")); });
+    untilClosed().then([this] { EXPECT_EQ(unitText(), "m"); }).key(VK_RETURN);
+    select();
+    EXPECT_EQ(tool_.LengthUnit(), "m");
+}
+
+TEST_F(frmUnitTest, TheWheelOverTheClosedFieldKeepsTheText) {
+    onUnit("m")
+        .then([this] {
+            for (const HWND window : {unitField(), part("cboUnit")}) {
+                SendMessageW(window, WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+                EXPECT_EQ(unitText(), "m");
+            }
+        })
+        .key(VK_RETURN);
+    select();
+    EXPECT_EQ(tool_.LengthUnit(), "m");
+}
+
+TEST_F(frmUnitTest, NothingIsTypedThatAFileWouldLose) {
+    onUnit("")
+        .then([this] {
+            typeUnit(L"  \u03a9s\u6f22ea mile");
+            EXPECT_EQ(unitText(), "sea mile");
+            SendMessageW(unitField(), EM_SETSEL, 0, 0);
+            typeUnit(L" \u03a9");
+            EXPECT_EQ(unitText(), "sea mile");
+            DWORD caret = 1;
+            SendMessageW(unitField(), EM_GETSEL, reinterpret_cast<WPARAM>(&caret), 0);
+            EXPECT_EQ(caret, 0U);
+            SendMessageW(unitField(), EM_SETSEL, 0, 3);
+            typeUnit(L"\b");
+            EXPECT_EQ(unitText(), "mile");
+        })
+        .key(VK_RETURN);
+    select();
+    EXPECT_EQ(tool_.LengthUnit(), "mile");
+}
+
+TEST_F(frmUnitTest, NothingIsPastedThatAFileWouldLose) {
+    onUnit("km")
+        .then([this] {
+            paste(L"k\u03a9");
+            EXPECT_EQ(unitText(), "km");
+            paste(L"   \u00b5m");
+            EXPECT_EQ(unitText(), "\u00b5m");
+            paste(L"\u6f22");
+            EXPECT_EQ(unitText(), "\u00b5m");
+        })
+        .key(VK_RETURN);
+    select();
+    EXPECT_EQ(tool_.LengthUnit(), "\u00b5m");
 }
 
 TEST_F(frmUnitTest, DefaultIsTakenOverByOKOnly) {

@@ -51,8 +51,8 @@ void PanelDialogs::applyMouseAction(ctlRatioGrid& stencil) {
 }
 
 bool PanelDialogs::SelectUnits(ctlMeasure& tool) {
-    frmUnit& dialog =
-        made(frmUnit_, std::string(applicationTitle), ports_.textForm.decimalSeparator);
+    frmUnit& dialog = made(frmUnit_, std::string(applicationTitle),
+                           ports_.textForm.decimalSeparator, ports_.codePage);
     const MeasureUnits former = ports_.defaultUnits;
     const bool changed =
         dialog.SelectUnits(ports_.owner, tool, ports_.defaultUnits) == frmUnit::changed;

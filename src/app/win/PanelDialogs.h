@@ -10,6 +10,7 @@
 #include "modAPI/textForms.h"
 #include "stencil/SpecialRatios.h"
 #include "stencil/StencilCommands.h"
+#include "storage/CodePage.h"
 #include "widgets/MeasureUnits.h"
 
 namespace ormala {
@@ -30,6 +31,8 @@ class PanelDialogs : public StencilCommands, public MeasureCommands {
         HWND worksheet;
         const SpecialRatios& ratios;
         const TextForm& textForm;
+        /// Of the settings files.
+        const CodePage& codePage;
         /// What new measuring tools measure in, which the dialog of units can change.
         MeasureUnits& defaultUnits;
         /// Hides the windows that would lie under a drag on the screen, or shows them again.

@@ -47,7 +47,7 @@ ToolsPane::ToolsPane(const Ports& ports, int id)
       toolsFile_(ports.store, ports.codePage, fileMessages_),
       list_(ports.window, id),
       panelDialogs_({ports.window, ports.worksheet.handle(), ports.ratios, ports.settings.textForm,
-                     ports.defaultUnits,
+                     ports.codePage, ports.defaultUnits,
                      [this](bool aside) { ports_.controlWindow.putWindowsAside(aside); }}),
       panelMaker_({list_, ports.worksheet.sheet(), *this, panelDialogs_, ports.settings,
                    ports.ratios, ports.globalEvents}),

@@ -2,7 +2,10 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
+#include <vector>
 
 #include "base/Utf8.h"
 #include "language/MlStringModule.h"
@@ -34,8 +37,8 @@ constexpr int listHeight = 200;
 
 }  // namespace
 
-frmUnit::frmUnit(std::string title, std::string_view decimalSeparator)
-    : title_(std::move(title)), decimalSeparator_(decimalSeparator) {
+frmUnit::frmUnit(std::string title, std::string_view decimalSeparator, const CodePage& codePage)
+    : title_(std::move(title)), decimalSeparator_(decimalSeparator), codePage_(codePage) {
     open({L"frmUnit", clientSize});
 }
 
@@ -47,13 +50,25 @@ void frmUnit::makeControls() {
     txnFactor_ =
         std::make_unique<TextBoxNumeric>(handle(), idFactor, "txnFactor", decimalSeparator_);
     txnFactor_->setDecimalsMax(mostDecimals);
-    cboUnit_.create(handle(), idUnit, "cboUnit", unitProposals);
-    cboUnit_.takesKey = &unitTakesKey;
-    cboUnit_.corrected = &unitCut;
+    makeUnit();
     optAngleUnit_.create(handle(), idAngleUnit, "optAngleUnit", {"Degrees (°)", "Radians (rad)"});
     makeButtons();
     fraLength_.create(handle(), idLengthFrame, "fraLength", " Unit of line length ");
     fraAngle_.create(handle(), idAngleFrame, "fraAngle", " Unit of angle ");
+}
+
+void frmUnit::makeUnit() {
+    const auto isStorable = [this](std::string_view name) {
+        return unitIsStorable(name, codePage_);
+    };
+    std::vector<std::string_view> proposals;
+    std::ranges::copy_if(unitProposals, std::back_inserter(proposals), isStorable);
+    cboUnit_.create(handle(), idUnit, "cboUnit", proposals);
+    cboUnit_.takesKey = &unitTakesKey;
+    cboUnit_.takesText = isStorable;
+    cboUnit_.corrected = [this](std::string_view former, std::string_view name) {
+        return unitCorrected(former, name, codePage_);
+    };
 }
 
 void frmUnit::makeButtons() {

@@ -19,8 +19,9 @@ class frmUnit : public ModalDialog {
     static constexpr int changed = 1;
     static constexpr int cancelled = 2;
 
-    /// The title is the caption of messages.
-    frmUnit(std::string title, std::string_view decimalSeparator);
+    /// The title is the caption of messages. The code page of the settings files, which must
+    /// outlive the dialog, says which units can be kept.
+    frmUnit(std::string title, std::string_view decimalSeparator, const CodePage& codePage);
     ~frmUnit() override { destroy(); }
 
     /// Shows the dialog for a tool. By OK the tool gets what was entered, and `defaults` too if the
@@ -36,6 +37,7 @@ class frmUnit : public ModalDialog {
     void confirm() override;
     void command(int id, int notification) override;
 
+    void makeUnit();
     void makeButtons();
     void show(const MeasureUnits& units);
     [[nodiscard]] UnitChoice entered() const;
@@ -43,6 +45,7 @@ class frmUnit : public ModalDialog {
 
     std::string title_;
     std::string decimalSeparator_;
+    const CodePage& codePage_;
     OptionGroup optLengthUnit_;
     StandardControl lblEquals_;
     std::unique_ptr<TextBoxNumeric> txnFactor_;

@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 #include "modAPI/colors.h"
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/handles.h"
@@ -18,6 +20,9 @@ constexpr Color textColor = rgb(255, 230, 0);
 constexpr Color quietColor = rgb(112, 112, 112);
 constexpr Color edge = rgb(64, 64, 64);
 constexpr Color focusMark = rgb(140, 170, 230);
+
+/// Once the system has told all about the end of the list.
+constexpr UINT wmSettle = WM_APP + 1;
 
 constexpr int rowHeight = 17;
 constexpr int textMargin = 5;
@@ -66,8 +71,46 @@ void RotationList::place(const PixelRect& box, int dpi) {
 
 void RotationList::select(std::optional<int> row) {
     constexpr int none = -1;
-    SendMessageW(handle(), CB_SETCURSEL, static_cast<WPARAM>(row.value_or(none)), 0);
+    row_ = row.value_or(none);
+    SendMessageW(handle(), CB_SETCURSEL, static_cast<WPARAM>(row_), 0);
     InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void RotationList::notified(int notification) {
+    switch (notification) {
+        case CBN_DROPDOWN:
+            settling_ = false;
+            choice_.opened();
+            break;
+        case CBN_SELCHANGE:
+            if (choice_.isOpen() || settling_) {
+                choice_.reached(selected());
+            } else {
+                row_ = selected();
+                Change.raise();
+            }
+            break;
+        case CBN_SELENDOK:
+        case CBN_SELENDCANCEL:
+            choice_.ended(notification == CBN_SELENDOK);
+            break;
+        case CBN_CLOSEUP:
+            // The system may tell of the row only after this.
+            choice_.closed();
+            settling_ = true;
+            PostMessageW(handle(), wmSettle, 0, 0);
+            break;
+        default:
+            break;
+    }
+}
+
+void RotationList::settle() {
+    const int former = row_;
+    select(choice_.chosen().value_or(former));
+    if (row_ != former) {
+        Change.raise();
+    }
 }
 
 int RotationList::selected() const {
@@ -140,6 +183,11 @@ std::optional<LRESULT> RotationList::onMessage(UINT message, WPARAM wParam, LPAR
             return paint();
         case WM_ERASEBKGND:
             return 1;
+        case wmSettle:
+            if (std::exchange(settling_, false)) {
+                settle();
+            }
+            return 0;
         case WM_LBUTTONDOWN:
         case WM_LBUTTONUP:
         case WM_SETFOCUS:

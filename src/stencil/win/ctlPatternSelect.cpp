@@ -16,6 +16,7 @@
 #include "widgets/PanelView.h"
 #include "widgets/dpi.h"
 #include "widgets/win/ModalDialog.h"
+#include "widgets/win/OptionGroup.h"
 #include "widgets/win/darkColors.h"
 
 namespace ormala {
@@ -63,12 +64,15 @@ PictureMaker pictureOf(int pattern) {
 
 }  // namespace
 
-ctlPatternSelect::Choice::Choice(HWND parent, int id, const std::string& suffix)
-    : button(parent, id, "opt" + suffix) {
+ctlPatternSelect::Choice::Choice(HWND parent, int id, const std::string& nameEnd)
+    : suffix(nameEnd), button(parent, id, "opt" + nameEnd) {
     button.setControlType(2);
     button.setPlaneFace(true);
-    const int labelId = id - idFirstPattern + idFirstLabel;
-    makeText(label, parent, suffix == "NoPattern" ? SS_LEFT : SS_CENTER, labelId, "lbl" + suffix);
+}
+
+void ctlPatternSelect::Choice::makeLabel(HWND parent, DWORD style) {
+    const int labelId = GetDlgCtrlID(button.handle()) - idFirstPattern + idFirstLabel;
+    makeText(label, parent, style, labelId, "lbl" + suffix);
 }
 
 ctlPatternSelect::ctlPatternSelect(HWND parent, int id, PatternPage& page) : page_(&page) {
@@ -90,7 +94,7 @@ void ctlPatternSelect::Initialize() {
 }
 
 void ctlPatternSelect::makePatterns() {
-    for (int i = 0; i < PatternTable::count; ++i) {
+    for (const int i : patternsAsSeen()) {
         auto choice = std::make_unique<Choice>(handle(), idFirstPattern + i,
                                                "Pattern(" + std::to_string(i) + ")");
         choice->button.setPictureSize(pictureSide, pictureSide);
@@ -101,6 +105,7 @@ void ctlPatternSelect::makePatterns() {
         });
         patterns_.at(static_cast<std::size_t>(i)) = std::move(choice);
     }
+    startGroup(GetWindow(handle(), GW_CHILD));
 }
 
 void ctlPatternSelect::makeNoPattern() {
@@ -112,12 +117,20 @@ void ctlPatternSelect::makeNoPattern() {
 }
 
 void ctlPatternSelect::makeTexts() {
+    cboRotation_.create(handle(), idRotation, "cboRotation");
+    startGroup(cboRotation_.handle());
+    rotationPicked_ =
+        cboRotation_.Change.subscribe([this] { page_->chooseRotation(cboRotation_.selected()); });
+    for (const auto& choice : patterns_) {
+        choice->makeLabel(handle(), SS_CENTER);
+    }
+    startGroup(patterns_.front()->label.handle());
+    noPattern_->makeLabel(handle(), SS_LEFT);
     for (std::size_t i = 0; i < lblPatternGroup_.size(); ++i) {
         makeText(lblPatternGroup_.at(i), handle(), SS_LEFT, idFirstGroup + static_cast<int>(i),
                  "lblPatternGroup(" + std::to_string(i) + ")");
     }
     makeText(lblRotation_, handle(), SS_RIGHT, idRotationLabel, "lblRotation");
-    cboRotation_.create(handle(), idRotation, "cboRotation");
 }
 
 void ctlPatternSelect::setPage(PatternPage& page) {
@@ -196,10 +209,6 @@ HWND ctlPatternSelect::chosen() const {
     return patterns_.at(static_cast<std::size_t>(std::max(pattern, 0)))->button.handle();
 }
 
-void ctlPatternSelect::rotationPicked() {
-    page_->chooseRotation(cboRotation_.selected());
-}
-
 void ctlPatternSelect::eraseGround(HDC context) const {
     fill(context, clientRectangle(), ground);
 }
@@ -210,8 +219,8 @@ std::optional<LRESULT> ctlPatternSelect::onMessage(UINT message, WPARAM wParam, 
             eraseGround(reinterpret_cast<HDC>(wParam));
             return 1;
         case WM_COMMAND:
-            if (LOWORD(wParam) == idRotation && HIWORD(wParam) == CBN_SELCHANGE) {
-                rotationPicked();
+            if (LOWORD(wParam) == idRotation) {
+                cboRotation_.notified(HIWORD(wParam));
             }
             return 0;
         case WM_DRAWITEM:

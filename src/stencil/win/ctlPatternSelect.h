@@ -32,8 +32,11 @@ class ctlPatternSelect : public Window {
   private:
     /// A picture button with its name beneath.
     struct Choice {
-        Choice(HWND parent, int id, const std::string& suffix);
+        Choice(HWND parent, int id, const std::string& nameEnd);
+        /// Of its own making: all labels stand behind all buttons, where no key goes to them.
+        void makeLabel(HWND parent, DWORD style);
 
+        std::string suffix;
         ZelvikButtonXP button;
         StandardControl label;
         Subscription click;
@@ -45,7 +48,6 @@ class ctlPatternSelect : public Window {
     void makeNoPattern();
     void makeTexts();
     void showSetting();
-    void rotationPicked();
     void move(HWND child, const PixelRect& designed, HFONT font) const;
     void eraseGround(HDC context) const;
 
@@ -58,6 +60,7 @@ class ctlPatternSelect : public Window {
     std::array<StandardControl, 3> lblPatternGroup_;
     StandardControl lblRotation_;
     RotationList cboRotation_;
+    Subscription rotationPicked_;
 };
 
 }  // namespace ormala

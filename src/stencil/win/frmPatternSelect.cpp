@@ -13,6 +13,7 @@
 #include "stencil/PatternSelectLayout.h"
 #include "widgets/PanelView.h"
 #include "widgets/dpi.h"
+#include "widgets/win/OptionGroup.h"
 
 namespace ormala {
 
@@ -94,8 +95,9 @@ void frmPatternSelect::makeControls() {
     }
     PatternSelect_ = std::make_unique<ctlPatternSelect>(handle(), idPatternSelect, choice_->page());
     setControlName(PatternSelect_->handle(), "PatternSelect");
-    lblPreview_.create(handle(),
-                       {WC_STATICW, SS_LEFT | SS_NOPREFIX, idPreviewLabel, "lblPreview", {}});
+    startGroup(PatternSelect_->handle());
+    constexpr DWORD labelStyle = SS_LEFT | SS_NOPREFIX | WS_GROUP;
+    lblPreview_.create(handle(), {WC_STATICW, labelStyle, idPreviewLabel, "lblPreview", {}});
     picPreview_.create(handle(), {WC_STATICW, SS_OWNERDRAW, idPreview, "picPreview", {}});
     makeButtons();
 }
@@ -117,6 +119,7 @@ void frmPatternSelect::makeButtons() {
         button->setBackColor(buttonColor);
         button->setForeColor(lines);
     }
+    startGroup(cmdOK_->handle());
     ok_ = cmdOK_->Click.subscribe([this] { accept(); });
     cancel_ = cmdCancel_->Click.subscribe([this] { cancel(); });
 }

@@ -4,6 +4,7 @@
 #include <oleacc.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/win/handles.h"
 #include "platform/win/text.h"
@@ -15,6 +16,11 @@ namespace {
 
 /// What a combo box adds to the height of its text, in pixels.
 constexpr int heightOfEdges = 6;
+
+/// Once the system has told all about the end of the list.
+constexpr UINT wmSettle = WM_APP + 1;
+
+constexpr DWORD allOfText = 0xFFFF0000;
 
 COMBOBOXINFO partsOf(HWND combo) {
     COMBOBOXINFO parts{};
@@ -68,18 +74,123 @@ void ComboField::setAccessibleName(const std::string& name) {
     field_.setAccessible(name, ROLE_SYSTEM_TEXT);
 }
 
-void ComboField::notified(int notification) {
-    if (notification != CBN_EDITCHANGE || correcting_ || !corrected) {
-        return;
+bool ComboField::isDropped() const {
+    return SendMessageW(handle(), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
+}
+
+std::string ComboField::rowText(int row) const {
+    const LRESULT length = SendMessageW(handle(), CB_GETLBTEXTLEN, static_cast<WPARAM>(row), 0);
+    std::wstring found(length > 0 ? static_cast<std::size_t>(length) : 0, L'\0');
+    SendMessageW(handle(), CB_GETLBTEXT, static_cast<WPARAM>(row),
+                 reinterpret_cast<LPARAM>(found.data()));
+    return narrow(found);
+}
+
+/// Marks the row of the present text. The system would mark one that only begins like it.
+void ComboField::propose() const {
+    const auto rows = static_cast<int>(SendMessageW(handle(), CB_GETCOUNT, 0, 0));
+    int row = 0;
+    while (row < rows && rowText(row) != former_) {
+        ++row;
     }
+    constexpr int none = -1;
+    SendMessageW(partsOf(handle()).hwndList, LB_SETCURSEL,
+                 static_cast<WPARAM>(row < rows ? row : none), 0);
+}
+
+void ComboField::showText(const std::string& text, DWORD selection) {
+    const bool former = std::exchange(correcting_, true);
+    if (text != this->text()) {
+        setText(text);
+    }
+    SendMessageW(field_.handle(), EM_SETSEL, LOWORD(selection),
+                 static_cast<LPARAM>(static_cast<SHORT>(HIWORD(selection))));
+    correcting_ = former;
+}
+
+/// These keys would step through the rows of the closed list.
+bool ComboField::openByKey(UINT message, WPARAM key) {
+    const bool steps = key == VK_UP || key == VK_DOWN;
+    const bool opens = message == WM_SYSKEYDOWN
+                           ? steps
+                           : steps || key == VK_PRIOR || key == VK_NEXT || key == VK_F4;
+    if (!opens || isDropped()) {
+        return false;
+    }
+    SendMessageW(handle(), CB_SHOWDROPDOWN, TRUE, 0);
+    return true;
+}
+
+/// When the list comes up, or the button is let go that has opened it, the system takes a row that
+/// begins like the text for the text.
+LRESULT ComboField::mayOpen(UINT message, WPARAM wParam, LPARAM lParam) {
+    const bool wasOpen = isDropped();
+    const std::string before = text();
+    const auto selection = static_cast<DWORD>(SendMessageW(field_.handle(), EM_GETSEL, 0, 0));
+    const LRESULT result = standardHandling(message, wParam, lParam);
+    if (!wasOpen && isDropped()) {
+        former_ = before;
+        formerSelection_ = selection;
+        settling_ = false;
+        choice_.opened();
+    }
+    if (isDropped()) {
+        propose();
+        showText(before, selection);
+    }
+    return result;
+}
+
+void ComboField::textChanged() {
     const std::string present = text();
-    const std::string wanted = corrected(present);
+    const std::string wanted = corrected ? corrected(former_, present) : present;
+    former_ = wanted;
     if (wanted != present) {
-        correcting_ = true;
-        setText(wanted);
-        const auto end = static_cast<WPARAM>(wide(wanted).size());
-        SendMessageW(field_.handle(), EM_SETSEL, end, static_cast<LPARAM>(end));
-        correcting_ = false;
+        const auto caret = LOWORD(SendMessageW(field_.handle(), EM_GETSEL, 0, 0));
+        const auto end = static_cast<WORD>(std::min<std::size_t>(caret, wide(wanted).size()));
+        showText(wanted, MAKELONG(end, end));
+    }
+    formerSelection_ = static_cast<DWORD>(SendMessageW(field_.handle(), EM_GETSEL, 0, 0));
+    if (choice_.isOpen()) {
+        choice_.typed();
+        propose();
+    }
+}
+
+/// The system may tell of the row only after this.
+void ComboField::listEnded() {
+    choice_.closed();
+    settling_ = true;
+    settle();
+    PostMessageW(handle(), wmSettle, 0, 0);
+}
+
+void ComboField::settle() {
+    const auto row = choice_.chosen();
+    showText(row ? rowText(*row) : former_, row ? allOfText : formerSelection_);
+}
+
+void ComboField::notified(int notification) {
+    switch (notification) {
+        case CBN_EDITCHANGE:
+            if (!correcting_) {
+                textChanged();
+            }
+            break;
+        case CBN_SELCHANGE:
+            if (choice_.isOpen() || settling_) {
+                choice_.reached(static_cast<int>(SendMessageW(handle(), CB_GETCURSEL, 0, 0)));
+            }
+            break;
+        case CBN_SELENDOK:
+        case CBN_SELENDCANCEL:
+            choice_.ended(notification == CBN_SELENDOK);
+            break;
+        case CBN_CLOSEUP:
+            listEnded();
+            break;
+        default:
+            break;
     }
 }
 
@@ -106,8 +217,28 @@ LRESULT ComboField::onPaint() {
     return 0;
 }
 
-std::optional<LRESULT> ComboField::onMessage(UINT message, WPARAM wParam, LPARAM /*lParam*/) {
+std::optional<LRESULT> ComboField::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+        case WM_LBUTTONUP:
+        case CB_SHOWDROPDOWN:
+            return mayOpen(message, wParam, lParam);
+        case WM_MOUSEWHEEL:
+            return isDropped() ? std::nullopt : std::optional<LRESULT>(0);
+        case WM_SETTEXT: {
+            const LRESULT result = standardHandling(message, wParam, lParam);
+            if (!correcting_) {
+                former_ = text();
+            }
+            return result;
+        }
+        case wmSettle:
+            if (std::exchange(settling_, false)) {
+                settle();
+                former_ = text();
+            }
+            return 0;
         case WM_PAINT:
             return onPaint();
         case WM_ERASEBKGND:
@@ -117,14 +248,34 @@ std::optional<LRESULT> ComboField::onMessage(UINT message, WPARAM wParam, LPARAM
     }
 }
 
-std::optional<LRESULT> ComboField::Field::onMessage(UINT message, WPARAM /*wParam*/,
+/// The text that a typed character would make, in place of what is marked.
+bool ComboField::Field::takes(wchar_t character) const {
+    constexpr wchar_t firstPrinted = L' ';
+    constexpr wchar_t deletedWord = 0x7F;
+    if (host_.takesKey && !host_.takesKey(text())) {
+        return false;
+    }
+    if (!host_.takesText || character < firstPrinted || character == deletedWord) {
+        return true;
+    }
+    std::wstring typed = wide(text());
+    const auto marked = static_cast<DWORD>(SendMessageW(handle(), EM_GETSEL, 0, 0));
+    const std::size_t first = std::min<std::size_t>(LOWORD(marked), typed.size());
+    const std::size_t last = std::min<std::size_t>(HIWORD(marked), typed.size());
+    typed.replace(first, last - first, 1, character);
+    return host_.takesText(narrow(typed));
+}
+
+std::optional<LRESULT> ComboField::Field::onMessage(UINT message, WPARAM wParam,
                                                     LPARAM /*lParam*/) {
     switch (message) {
         case WM_CHAR:
-            if (host_.takesKey && !host_.takesKey(text())) {
-                return 0;
-            }
-            return std::nullopt;
+            return takes(static_cast<wchar_t>(wParam)) ? std::nullopt : std::optional<LRESULT>(0);
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+            return host_.openByKey(message, wParam) ? std::optional<LRESULT>(0) : std::nullopt;
+        case WM_MOUSEWHEEL:
+            return host_.isDropped() ? std::nullopt : std::optional<LRESULT>(0);
         case WM_SETFOCUS:
         case WM_KILLFOCUS:
             InvalidateRect(host_.handle(), nullptr, FALSE);

@@ -6,10 +6,13 @@
 #include <string_view>
 
 #include "platform/win/StandardControl.h"
+#include "widgets/ListChoice.h"
 
 namespace ormala {
 
-/// A combo box for a text that can be typed or taken from a list, in the program's look.
+/// A combo box for a text that can be typed or taken from a list, in the program's look. The list
+/// only proposes: its coming up, going through it and leaving it keep the text, and keys and the
+/// wheel change the text through the open list alone.
 class ComboField : public StandardControl {
   public:
     ~ComboField() override { destroy(); }
@@ -22,10 +25,12 @@ class ComboField : public StandardControl {
     void SetTooltip(const std::string& text);
     void setAccessibleName(const std::string& name);
 
-    /// Whether a character may be typed into that text; all may at first.
+    /// Whether a key may be typed into that text; all may at first.
     std::function<bool(const std::string& text)> takesKey;
-    /// What becomes of a text that has changed in any other way.
-    std::function<std::string(const std::string& text)> corrected;
+    /// Whether that text may come about by a typed character; all may at first.
+    std::function<bool(const std::string& text)> takesText;
+    /// What becomes of a text that has changed in any other way, and what it was before.
+    std::function<std::string(const std::string& former, const std::string& text)> corrected;
 
     /// To be called with the notifications that its parent gets from it.
     void notified(int notification);
@@ -38,17 +43,33 @@ class ComboField : public StandardControl {
 
       private:
         std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+        [[nodiscard]] bool takes(wchar_t character) const;
 
         ComboField& host_;
     };
 
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void centreText(int height) const;
+    [[nodiscard]] bool isDropped() const;
+    bool openByKey(UINT message, WPARAM key);
+    LRESULT mayOpen(UINT message, WPARAM wParam, LPARAM lParam);
+    void propose() const;
+    [[nodiscard]] std::string rowText(int row) const;
+    void textChanged();
+    void listEnded();
+    void settle();
+    void showText(const std::string& text, DWORD selection);
     LRESULT onPaint();
     void paintArrow(HDC context, const RECT& area) const;
 
     Field field_{*this};
     bool correcting_ = false;
+    ListChoice choice_;
+    /// What the text and what is marked in it were before the list or the last change.
+    std::string former_;
+    DWORD formerSelection_ = 0;
+    /// The list has gone, but perhaps not all of its notifications have come.
+    bool settling_ = false;
 };
 
 }  // namespace ormala
