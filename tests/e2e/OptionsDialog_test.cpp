@@ -115,6 +115,40 @@ TEST(OptionsDialog, OKWithNoChangeLeavesTheFileAsItWas) {
     EXPECT_EQ(before.number("Options", "GridSizeX"), 512);
 }
 
+TEST(OptionsDialog, APressThatMovesOffChoosesNothing) {
+    OptionsScene options;
+    const SettingsFile before = options.restarted();
+    const Dialog dialog = options.open(0);
+    const ScreenPoint ground = dialog.window().at(3, 3);
+    const bool border = dialog.isOn("chkTemplateWithBorder");
+    for (const char* name : {"btnTab(1)", "btnTab(2)", "optLanguage(0)", "optLanguage(1)",
+                             "chkTemplateWithBorder", "cmdOK", "cmdCancel"}) {
+        options.scene.mouse.drag(dialog.control(name).center(), ground);
+    }
+    EXPECT_TRUE(dialog.window().isVisible());
+    EXPECT_TRUE(dialog.isOn("btnTab(0)"));
+    EXPECT_FALSE(dialog.isOn("btnTab(1)"));
+    EXPECT_FALSE(dialog.isOn("btnTab(2)"));
+    EXPECT_TRUE(dialog.control("picTab(0)").isVisible());
+    EXPECT_TRUE(dialog.isOn("optLanguage(0)"));
+    EXPECT_FALSE(dialog.isOn("optLanguage(1)"));
+    EXPECT_EQ(dialog.isOn("chkTemplateWithBorder"), border);
+    dialog.leave("cmdOK");
+    EXPECT_EQ(optionKeys(options.closed()), optionKeys(before));
+}
+
+TEST(OptionsDialog, ASizeBeyondItsSliderIsTakenOnceItsSliderIsMovedToTheEnd) {
+    OptionsScene options(withKeys({{"GridSizeX", " 512"}, {"GridSizeY", " 40"}}));
+    const Dialog dialog = options.open(1);
+    focusByTab(dialog.control("sldGridSizeX"));
+    keyboard::press(VK_LEFT);
+    keyboard::press(VK_RIGHT);
+    dialog.leave("cmdOK");
+    const SettingsFile kept = options.closed();
+    EXPECT_EQ(kept.number("Options", "GridSizeX"), 300);
+    EXPECT_EQ(kept.number("Options", "GridSizeY"), 40);
+}
+
 TEST(OptionsDialog, OKAppliesWhatWasChangedOnAllPages) {
     OptionsScene options(withKeys({{"LensVisible", "-1"}}));
     const Dialog dialog = options.open(0);

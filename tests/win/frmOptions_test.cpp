@@ -112,6 +112,78 @@ TEST_F(frmOptionsTest, OKAppliesEveryControl) {
     EXPECT_EQ(port_.applied[0], expected);
 }
 
+TEST_F(frmOptionsTest, APressThatMovesOffChoosesNothing) {
+    untilReady()
+        .then([this] {
+            for (const char* name : {"btnTab(2)", "optLanguage(1)", "chkTemplateWithBorder",
+                                     "optGridMode(1)", "optHotSpotStyle(7)", "cmdOK"}) {
+                const bool before = isOn(name);
+                SendMessageW(part(name), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+                EXPECT_EQ(isOn(name), before) << name;
+                SendMessageW(part(name), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(-30, -30));
+                SendMessageW(part(name), WM_LBUTTONUP, 0, MAKELPARAM(-30, -30));
+                EXPECT_EQ(isOn(name), before) << name;
+            }
+            expectPage(0);
+        })
+        .key(VK_RETURN);
+    show(0);
+    ASSERT_EQ(port_.applied.size(), 1U);
+    EXPECT_EQ(port_.applied[0], port_.live);
+}
+
+TEST_F(frmOptionsTest, APressAndAReleaseOnAnOptionChooseIt) {
+    untilReady()
+        .then([this] {
+            for (const char* name : {"optLanguage(1)", "btnTab(2)"}) {
+                SendMessageW(part(name), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+                SendMessageW(part(name), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+                EXPECT_TRUE(isOn(name)) << name;
+            }
+            expectPage(2);
+        })
+        .key(VK_RETURN);
+    show(0);
+    ASSERT_EQ(port_.applied.size(), 1U);
+    EXPECT_EQ(port_.applied[0].language, languageGerman);
+}
+
+TEST_F(frmOptionsTest, AValueBeyondItsSliderIsTakenOnlyWhenItsSliderIsMoved) {
+    port_.live.grid.steps = {512, 400, 0, 0};
+    untilReady().then([this] { EXPECT_EQ(text("sldGridSizeX"), "Grid size X: 300"); });
+    pressOK();
+    show(1);
+    untilReady().then([this] {
+        // Away from the end and back to it.
+        step("sldGridSizeX", VK_LEFT);
+        step("sldGridSizeX", VK_RIGHT);
+        EXPECT_EQ(text("sldGridSizeX"), "Grid size X: 300");
+    });
+    pressOK();
+    show(1);
+    untilReady().then([this] {
+        const HWND slider = part("sldGridSizeY");
+        RECT room{};
+        GetClientRect(slider, &room);
+        const auto send = [slider](UINT message, LONG x, LONG y) {
+            SendMessageW(slider, message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON,
+                         MAKELPARAM(x, y));
+        };
+        const LONG y = room.bottom - 8;
+        send(WM_LBUTTONDOWN, room.right - 7, y);
+        send(WM_MOUSEMOVE, room.right - 60, y);
+        send(WM_MOUSEMOVE, room.right - 7, y);
+        send(WM_LBUTTONUP, room.right - 7, y);
+        EXPECT_EQ(text("sldGridSizeY"), "Grid size Y: 300");
+    });
+    pressOK();
+    show(1);
+    ASSERT_EQ(port_.applied.size(), 3U);
+    EXPECT_EQ(port_.applied[0].grid.steps, port_.live.grid.steps);
+    EXPECT_EQ(port_.applied[1].grid.steps, (decltype(port_.live.grid.steps){300, 400, 0, 0}));
+    EXPECT_EQ(port_.applied[2].grid.steps, (decltype(port_.live.grid.steps){512, 300, 0, 0}));
+}
+
 TEST_F(frmOptionsTest, ThePickedGridColorIsApplied) {
     port_.live.grid.color = rgb(255, 0, 0);
     untilReady().then([this] { SendMessageW(part("colpicGrid"), WM_KEYDOWN, VK_DOWN, 1); });

@@ -30,8 +30,8 @@ void OptionGroup::create(HWND parent, int firstId, std::string_view name,
         dressButton(button);
         setStyleBit(button.handle(), WS_GROUP, index == 0);
         choosing_.push_back(button.Click.subscribe([this, index] { choose(index); }));
-        choosing_.push_back(button.gotFocus.subscribe([this, index] {
-            if (hasChoice()) {
+        choosing_.push_back(button.gotFocus.subscribe([this, index, &button] {
+            if (hasChoice() && !button.isFocusedByPress()) {
                 choose(index);
             }
         }));

@@ -71,6 +71,9 @@ class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface
     /// In pixels at 96 DPI.
     void setPictureSize(int width, int height);
 
+    /// While a press gives it the focus: a click may follow, or not.
+    [[nodiscard]] bool isFocusedByPress() const { return focusedByPress_; }
+
     /// Where picture and caption stand in the button; empty for what it does not have.
     [[nodiscard]] ButtonContent content();
 
@@ -128,6 +131,7 @@ class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface
     /// The one that the system cuts the window to.
     RoundedBox shape_;
     bool captured_ = false;
+    bool focusedByPress_ = false;
     HoverTip tip_;
 };
 

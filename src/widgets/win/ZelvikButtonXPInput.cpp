@@ -53,10 +53,12 @@ LRESULT ZelvikButtonXP::press(int button, WPARAM wParam, LPARAM lParam) {
     const HWND window = handle();
     if (button != mouseButton::right) {
         // A handler of the focus may destroy the button.
+        focusedByPress_ = true;
         SetFocus(window);
         if (IsWindow(window) == FALSE) {
             return 0;
         }
+        focusedByPress_ = false;
     }
     captureMouse();
     model_.mouseDown(argumentsOf(button, wParam, lParam));
