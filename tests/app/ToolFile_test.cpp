@@ -266,6 +266,33 @@ TEST_F(ToolFileTest, EveryKeyOfAStencilCounts) {
     }
 }
 
+/// The section of a stencil with a pattern in each slot.
+std::string stencilOfFivePatterns() {
+    std::string text = exampleToolFile;
+    for (int slot = 2; slot <= 5; ++slot) {
+        const std::string none = "PatternID" + std::to_string(slot) + "=-1";
+        text.replace(text.find(none), none.size(),
+                     "PatternID" + std::to_string(slot) + "= " + std::to_string(slot));
+    }
+    return text;
+}
+
+TEST_F(ToolFileTest, EachKeyOfEachSlotCountsWhetherTheSlotHasAPatternOrNot) {
+    for (const std::string& file : {std::string(exampleToolFile), stencilOfFivePatterns()}) {
+        loadText(file);
+        EXPECT_TRUE(toolFile_.compare());
+        for (int slot = 1; slot <= 5; ++slot) {
+            for (const auto& [key, value] :
+                 {std::pair("PatternID", 12.0), std::pair("PatternPreRotation", .5)}) {
+                bytes() = file;
+                ini_.file.setCurrentSection("Tool 1");
+                ini_.file.setDoubleValue(key + std::to_string(slot), value);
+                EXPECT_FALSE(toolFile_.compare()) << key << slot;
+            }
+        }
+    }
+}
+
 TEST_F(ToolFileTest, EveryKeyOfAMeasurementCounts) {
     const std::string keys[] = {"Type",
                                 "Connected",

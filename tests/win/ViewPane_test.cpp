@@ -164,6 +164,22 @@ TEST_F(ViewPaneTest, TheMenuOffersEachStateOfTheWorksheetOnlyFromTheOther) {
     EXPECT_TRUE(view_.menu().isEnabled(MenuEntry::mnuWindowNormal));
 }
 
+TEST_F(ViewPaneTest, OptionsThatAreAsTheyWereChangeNoLanguageAndRedrawTheGrid) {
+    OptionsPort& port = view_;
+    int changes = 0;
+    const Subscription listening =
+        GetLanguageSupport().LanguageChange.subscribe([&changes] { ++changes; });
+    int paints = 0;
+    const Subscription painting = settings_.worksheet().painted.subscribe([&paints] { ++paints; });
+    UpdateWindow(settings_.worksheet().handle());
+    paints = 0;
+    const OptionValues values = port.optionValues();
+    port.applyOptions(values);
+    EXPECT_EQ(changes, 0);
+    EXPECT_GT(paints, 0);
+    EXPECT_EQ(port.optionValues(), values);
+}
+
 TEST_F(ViewPaneTest, TheLanguageChangesAlsoBeforeTheDialogWasEverOpen) {
     OptionValues values = view_.optionValues();
     const int former = values.language;
