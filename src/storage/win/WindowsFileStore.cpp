@@ -5,10 +5,9 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string_view>
 
-#include "base/Utf8.h"
+#include "base/win/systemMessage.h"
 #include "storage/FileReplacement.h"
 #include "storage/Patience.h"
 #include "storage/win/FileHandle.h"
@@ -97,16 +96,6 @@ bool isDanglingLink(const std::wstring& path, DWORD attributes) {
            isMissing(GetLastError());
 }
 
-std::string descriptionOf(DWORD error) {
-    wchar_t* text = nullptr;
-    const DWORD length = FormatMessageW(
-        FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-        nullptr, error, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-    const std::unique_ptr<wchar_t, decltype(&LocalFree)> owner(text, &LocalFree);
-    const std::string description = utf8FromUtf16(std::u16string(text, text + length));
-    return description.substr(0, description.find_last_not_of("\r\n ") + 1);
-}
-
 bool isFolder(const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
@@ -114,13 +103,13 @@ bool isFolder(const std::wstring& path) {
 
 WriteResult replaced(const std::wstring& target, std::string_view bytes, OldFile old) {
     if (target.empty() || !isReplaceable(target)) {
-        return {false, descriptionOf(target.empty() ? ERROR_PATH_NOT_FOUND : ERROR_ACCESS_DENIED)};
+        return {false, systemMessage(target.empty() ? ERROR_PATH_NOT_FOUND : ERROR_ACCESS_DENIED)};
     }
     NeighbourFile neighbour(target);
     if (replaceFile(neighbour, bytes, old)) {
         return {true, {}};
     }
-    return {false, descriptionOf(neighbour.error())};
+    return {false, systemMessage(neighbour.error())};
 }
 
 }  // namespace
@@ -163,17 +152,17 @@ RemoveResult WindowsFileStore::remove(const std::string& path) {
     if (DeleteFileW(longPath(path).c_str()) != 0) {
         return {true, {}};
     }
-    return {false, descriptionOf(GetLastError())};
+    return {false, systemMessage(GetLastError())};
 }
 
 RemoveResult WindowsFileStore::couldRemove(const std::string& path) {
     constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const std::wstring target = longPath(path);
     if (!isReplaceable(target)) {
-        return {false, descriptionOf(ERROR_ACCESS_DENIED)};
+        return {false, systemMessage(ERROR_ACCESS_DENIED)};
     }
     if (!openFile(target, DELETE, shareAll, OPEN_EXISTING)) {
-        return {false, descriptionOf(GetLastError())};
+        return {false, systemMessage(GetLastError())};
     }
     return {true, {}};
 }
