@@ -2,6 +2,7 @@
 
 #include "e2e/SheetFrame.h"
 #include "e2e/ToolPanel.h"
+#include "e2e/TwoStencils.h"
 
 // Who has the keyboard, and which click selects.
 
@@ -11,24 +12,6 @@ namespace {
 constexpr const char* editCaption = "Ormala - Edit";
 constexpr const char* templateCaption = "Ormala - Template";
 constexpr const char* pauseCaption = "Ormala - Pause";
-
-/// A stencil at the left and one at the right; their centre grips are at (200, 200) and (500, 200).
-SettingsFile twoStencils() {
-    return ToolSet().stencil({100, 100, 300, 300}).stencil({400, 100, 600, 300}).file();
-}
-
-/// The ground of a panel tells the selected one.
-bool looksSelected(const DesktopWindow& panel) {
-    constexpr Color selectedGround = 0x4A4A4A;
-    const ScreenRect rect = panel.rect();
-    return waitUntil([&] {
-        return screen::pixel({rect.left + 2, rect.center().y}) == selectedGround;
-    });
-}
-
-void clickTitle(PanelScene& scene, std::size_t panel) {
-    scene.press(PanelScene::control(scene.panel(panel), "lblTitle"));
-}
 
 /// The first panel is the selected one, and another program is in front.
 void leaveWithTheFirstSelected(PanelScene& scene) {

@@ -47,6 +47,14 @@ class StencilCommands : public testing::Test {
         panel.press("cmdUndo");
         ASSERT_TRUE(waitUntil([&] { return !panel.isEnabled("cmdUndo"); }));
     }
+    void expectDragInTheProgramBelow() const {
+        const BackdropReport report = scene.backdrop().waitFor(
+            "drag", [](const BackdropReport& seen) { return seen.leftUp == 1; });
+        EXPECT_EQ(report.leftDown, 1);
+        EXPECT_EQ(report.lastDown(), scene.onScreen({205, 155}));
+        EXPECT_EQ(report.lastUp(), scene.onScreen({365, 257}));
+        EXPECT_GE(report.dragMoves, 1);
+    }
     /// Puts the mouse where it touches nothing.
     void stepAside() { scene.mouse.moveTo(scene.onScreen({150, 330})); }
     Picture stencilPicture() {
@@ -288,11 +296,7 @@ TEST_F(StencilCommands, TheMouseActionDragsInTheProgramBelow) {
         } else {
             panel.press("cmdSendMouseInput");
         }
-        const BackdropReport report = scene.backdrop().waitFor(
-            "drag", [](const BackdropReport& seen) { return seen.leftUp == 1; });
-        EXPECT_EQ(report.leftDown, 1);
-        EXPECT_EQ(report.lastDown(), scene.onScreen({205, 155}));
-        EXPECT_EQ(report.lastUp(), scene.onScreen({365, 257}));
+        expectDragInTheProgramBelow();
         EXPECT_TRUE(waitUntil([&] { return scene.settings().rect() == place; }));
         EXPECT_TRUE(waitUntil([&] { return Mouse::position() == button.center(); }));
         expectStart();
@@ -304,12 +308,7 @@ TEST_F(StencilCommands, TheMouseActionInEditModeDragsInTheProgramBelowAndNoGrip)
     scene.mouse.moveTo(panel.control("cmdSendMouseInput").center());
     scene.backdrop().reset();
     panel.press("cmdSendMouseInput");
-    const BackdropReport report = scene.backdrop().waitFor(
-        "drag", [](const BackdropReport& seen) { return seen.leftUp == 1; });
-    EXPECT_EQ(report.leftDown, 1);
-    EXPECT_EQ(report.lastDown(), scene.onScreen({205, 155}));
-    EXPECT_EQ(report.lastUp(), scene.onScreen({365, 257}));
-    EXPECT_GE(report.dragMoves, 1);
+    expectDragInTheProgramBelow();
     EXPECT_TRUE(waitUntil([&] { return scene.program().window("frmResizer").isVisible(); }));
     expectStart();
     EXPECT_FALSE(panel.isEnabled("cmdUndo"));

@@ -4,30 +4,12 @@
 
 #include "e2e/PanelScene.h"
 #include "e2e/ToolPanel.h"
+#include "e2e/TwoStencils.h"
 
 namespace ormala::test {
 namespace {
 
 constexpr const char* tooMany = "The maximum number of tools (33) has been reached.";
-
-/// A stencil at the left and one at the right; their centre grips are at (200, 200) and (500, 200).
-SettingsFile twoStencils() {
-    return ToolSet().stencil({100, 100, 300, 300}).stencil({400, 100, 600, 300}).file();
-}
-
-/// The ground of a panel tells the selected one.
-bool looksSelected(const DesktopWindow& panel) {
-    constexpr Color selectedGround = 0x4A4A4A;
-    const ScreenRect rect = panel.rect();
-    return waitUntil([&] {
-        return screen::pixel({rect.left + 2, rect.center().y}) == selectedGround;
-    });
-}
-
-/// A place of a panel that no button grows over.
-void clickTitle(PanelScene& scene, std::size_t panel) {
-    scene.press(PanelScene::control(scene.panel(panel), "lblTitle"));
-}
 
 TEST(ToolList, ToolsAreAddedUntilTheyAreRefused) {
     PanelScene scene(SettingsFile{});

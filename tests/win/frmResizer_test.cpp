@@ -352,11 +352,16 @@ TEST_F(frmResizerTest, DragThatIsTakenBackLeavesTheWorksheetInTheHole) {
     const RECT frame = frame_.rectangle();
     const PixelRect before = hole();
     const POINT start{(frame.left + frame.right) / 2, (frame.top + before.top - 5) / 2 + 1};
-    SetCursorPos(static_cast<int>(start.x), static_cast<int>(start.y));
-    test::pause(test::milliseconds{30});
-    SendMessageW(frame_.handle(), WM_ENTERSIZEMOVE, 0, 0);
-    SetCursorPos(static_cast<int>(start.x) + 60, static_cast<int>(start.y) + 45);
-    ASSERT_TRUE(test::waitUntil([&] { return worksheet().left == before.left + 60; }));
+    const auto takesTheWorksheetAlong = [&] {
+        // A message of its move that is still on its way would end it.
+        SetCursorPos(static_cast<int>(start.x), static_cast<int>(start.y));
+        test::pause(test::milliseconds{30});
+        SendMessageW(frame_.handle(), WM_ENTERSIZEMOVE, 0, 0);
+        SetCursorPos(static_cast<int>(start.x) + 60, static_cast<int>(start.y) + 45);
+        test::pause(test::milliseconds{200});
+        return worksheet().left == before.left + 60;
+    };
+    ASSERT_TRUE(test::waitUntil(takesTheWorksheetAlong));
     // The frame has never moved.
     SendMessageW(frame_.handle(), WM_EXITSIZEMOVE, 0, 0);
     EXPECT_EQ(worksheet(), before);

@@ -9,13 +9,19 @@
 namespace ormala {
 namespace {
 
-class ControlHeight : public ModesStage {};
+class ControlHeight : public ModesStage {
+  protected:
+    static constexpr int pulled = 345;
+
+    void startPulled() {
+        start();
+        SetWindowPos(settings_->handle(), nullptr, 0, 0, widthOf(settings_->rectangle()), pulled,
+                     SWP_NOMOVE | SWP_NOZORDER);
+    }
+};
 
 TEST_F(ControlHeight, ShiftF4ShrinksTheWindowAndMinimisesIt) {
-    constexpr int pulled = 321;
-    start();
-    SetWindowPos(settings_->handle(), nullptr, 0, 0, widthOf(settings_->rectangle()), pulled,
-                 SWP_NOMOVE | SWP_NOZORDER);
+    startPulled();
     {
         const HeldKeys held{VK_SHIFT};
         press(VK_F4);
@@ -42,10 +48,7 @@ TEST_F(ControlHeight, ChangeBySystemMenuWhileMinimisedTakesEffectWhenTheWindowCo
 }
 
 TEST_F(ControlHeight, ChangeBySystemMenuWhileMinimisedLosesNoHeight) {
-    constexpr int pulled = 345;
-    start();
-    SetWindowPos(settings_->handle(), nullptr, 0, 0, widthOf(settings_->rectangle()), pulled,
-                 SWP_NOMOVE | SWP_NOZORDER);
+    startPulled();
     ShowWindow(settings_->handle(), SW_MINIMIZE);
     SendMessageW(settings_->handle(), WM_SYSCOMMAND, 1011, 0);
     ShowWindow(settings_->handle(), SW_RESTORE);
@@ -55,10 +58,7 @@ TEST_F(ControlHeight, ChangeBySystemMenuWhileMinimisedLosesNoHeight) {
 }
 
 TEST_F(ControlHeight, AProgramThatEndsMinimisedAndShortKnowsItsHeight) {
-    constexpr int pulled = 345;
-    start();
-    SetWindowPos(settings_->handle(), nullptr, 0, 0, widthOf(settings_->rectangle()), pulled,
-                 SWP_NOMOVE | SWP_NOZORDER);
+    startPulled();
     ShowWindow(settings_->handle(), SW_MINIMIZE);
     SendMessageW(settings_->handle(), WM_SYSCOMMAND, 1011, 0);
     const auto dpi = static_cast<int>(GetDpiForWindow(settings_->handle()));

@@ -26,6 +26,18 @@ int heightOf(const RECT& rect) {
 /// The control window with an application-data folder of its own.
 class frmSettingsTest : public testing::Test {
   protected:
+    /// As the system does for a window of its monitor. The sizes that a user can give it then.
+    MINMAXINFO doubleTheResolution() {
+        const RECT place = settings_.rectangle();
+        RECT suggested{place.left, place.top, place.left + 2 * (place.right - place.left),
+                       place.top + 2 * (place.bottom - place.top)};
+        SendMessageW(settings_.handle(), WM_DPICHANGED, MAKEWPARAM(192, 192),
+                     reinterpret_cast<LPARAM>(&suggested));
+        MINMAXINFO limits{};
+        SendMessageW(settings_.handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+        return limits;
+    }
+
     test::AppDataFolder folder_;
     frmSettings settings_{false};
 };
@@ -112,12 +124,7 @@ TEST_F(frmSettingsTest, HeightOfEditModeComesBack) {
 
 TEST_F(frmSettingsTest, FollowsTheResolutionOfItsMonitor) {
     const RECT place = settings_.rectangle();
-    RECT suggested{place.left, place.top, place.left + 2 * (place.right - place.left),
-                   place.top + 2 * (place.bottom - place.top)};
-    SendMessageW(settings_.handle(), WM_DPICHANGED, MAKEWPARAM(192, 192),
-                 reinterpret_cast<LPARAM>(&suggested));
-    MINMAXINFO limits{};
-    SendMessageW(settings_.handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+    const MINMAXINFO limits = doubleTheResolution();
     EXPECT_GE(limits.ptMinTrackSize.x, 600);
     const RECT now = settings_.rectangle();
     EXPECT_NEAR(now.right - now.left, 2 * (place.right - place.left), 40);
@@ -126,13 +133,7 @@ TEST_F(frmSettingsTest, FollowsTheResolutionOfItsMonitor) {
 TEST_F(frmSettingsTest, ShortWindowGrowsAgainAfterAChangeOfResolution) {
     const int before = heightOf(settings_.rectangle());
     settings_.SetMode(2, false);
-    const RECT place = settings_.rectangle();
-    RECT suggested{place.left, place.top, place.left + 2 * (place.right - place.left),
-                   place.top + 2 * (place.bottom - place.top)};
-    SendMessageW(settings_.handle(), WM_DPICHANGED, MAKEWPARAM(192, 192),
-                 reinterpret_cast<LPARAM>(&suggested));
-    MINMAXINFO limits{};
-    SendMessageW(settings_.handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+    const MINMAXINFO limits = doubleTheResolution();
     EXPECT_EQ(heightOf(settings_.rectangle()), limits.ptMinTrackSize.y);
     settings_.SetMode(0, false);
     EXPECT_NEAR(heightOf(settings_.rectangle()), 2 * before, 2);
