@@ -37,6 +37,16 @@ void sendKey(WORD key, DWORD flags) {
     send(input);
 }
 
+/// The modifiers that the user holds, in the order of their presses.
+std::vector<WORD>& heldModifierKeys() {
+    static std::vector<WORD> keys;
+    return keys;
+}
+
+bool isModifier(WORD key) {
+    return key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU;
+}
+
 }  // namespace
 
 HeldKeys::HeldKeys(Modifiers modifiers) {
@@ -69,11 +79,22 @@ bool HeldKeys::holdAgain() const {
 namespace keyboard {
 
 void down(WORD key) {
+    std::erase(heldModifierKeys(), key);
+    if (isModifier(key)) {
+        heldModifierKeys().push_back(key);
+    }
     sendKey(key, 0);
 }
 
 void up(WORD key) {
+    std::erase(heldModifierKeys(), key);
     sendKey(key, KEYEVENTF_KEYUP);
+}
+
+void repeatHeldModifiers() {
+    for (const WORD key : heldModifierKeys()) {
+        sendKey(key, 0);
+    }
 }
 
 void press(WORD key, Modifiers modifiers, int times) {

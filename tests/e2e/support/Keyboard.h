@@ -36,6 +36,9 @@ namespace keyboard {
 
 void down(WORD key);
 void up(WORD key);
+/// Presses each modifier that `down` or `HeldKeys` holds once more, as a keyboard does about thirty
+/// times a second as long as the key is held.
+void repeatHeldModifiers();
 /// Down and up, once or several times, with the modifiers held around.
 void press(WORD key, Modifiers modifiers = Modifiers::None, int times = 1);
 /// Types any text, as characters and not as keys.

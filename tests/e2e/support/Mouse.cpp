@@ -89,6 +89,7 @@ ScreenPoint Mouse::position() {
 
 void Mouse::moveTo(ScreenPoint point) {
     requireSoon("mouse pointer at " + text(point), [point] {
+        keyboard::repeatHeldModifiers();
         sendMove(point);
         letArrive();
         return position() == point;

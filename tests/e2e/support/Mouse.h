@@ -12,7 +12,8 @@ namespace ormala::test {
 enum class MouseButton { Left, Right, Middle };
 
 /// The user's mouse. Each movement returns when the pointer stands where it was sent and the window
-/// there has handled it. Buttons still held at the object's end are released.
+/// there has handled it. Modifiers that are held repeat themselves before each movement, and on the
+/// way there. Buttons still held at the object's end are released.
 class Mouse {
   public:
     Mouse() = default;
