@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "e2e/SheetScene.h"
+#include "e2e/SheetFrame.h"
 
 namespace ormala::test {
 namespace {
@@ -37,6 +37,25 @@ TEST(Hover, DragLightsNoOtherGrip) {
     scene.mouse.release();
 }
 
+TEST(Hover, ToolsFollowTheMouseOverTheControlWindow) {
+    SheetScene scene;
+    const ScreenRect monitor = screen::primaryMonitor();
+    const ScreenRect control = scene.settings().rect();
+    // The control window stands beside the frame and not over the worksheet.
+    place(frameOf(scene), {20, 20, monitor.width() - control.width() - 60, 720});
+    ASSERT_TRUE(worksheetFits(scene));
+    moveTo(scene.settings(), {monitor.right - control.width() - 10, 20});
+    scene.mouse.moveTo(scene.onScreen(scene.model.gripPixel(-1, -1)));
+    EXPECT_EQ(gripPixels(scene, {-1, -1}, cornerColor), 19U * 19U);
+    scene.mouse.moveTo(scene.settings().center());
+    const ScreenPoint at = scene.onScreen(scene.model.gripPixel(-1, -1));
+    const ScreenRect around{at.x - 14, at.y - 14, at.x + 15, at.y + 15};
+    EXPECT_TRUE(waitUntil([&] {
+        return screen::capture(around).count(blended(cornerColor, SheetScene::backdropColor, 191),
+                                             2) == 7U * 7U;
+    }));
+}
+
 void expectTips(SheetScene& scene, const std::vector<std::pair<Spot, std::string>>& tips) {
     for (const auto& [shares, text] : tips) {
         scene.stepAside();
@@ -56,6 +75,26 @@ TEST(Hover, TipSaysWhatTheGripDoes) {
          {{rotationShare, rotationShare}, "Rotate (Shift, Ctrl or Alt key: fixed angles)"},
          {{0, -1}, "Resize (Shift key: snap to special ratio; Ctrl key: symmetric at center)"},
          {{1, 1}, "Resize, preserve ratio (Ctrl key: symmetric at center)"}});
+}
+
+TEST(Hover, NoTipComesUpDuringADrag) {
+    SheetScene scene;
+    const std::string tip = "Resize, preserve ratio (Ctrl key: symmetric at center)";
+    const ScreenPoint corner = scene.onScreen(scene.model.gripPixel(1, 1));
+    scene.stepAside();
+    scene.mouse.moveTo(corner);
+    EXPECT_TRUE(waitUntil([&] { return scene.program().tip() == tip; }));
+    scene.mouse.press();
+    for (int i = 1; i <= 5; ++i) {
+        scene.mouse.moveTo(corner + ScreenPoint{i, i});
+    }
+    // A tip comes after the time of a double click.
+    EXPECT_FALSE(waitUntil([&] { return !scene.program().tip().empty(); },
+                           milliseconds(3 * static_cast<int>(GetDoubleClickTime()))))
+        << scene.program().tip();
+    scene.mouse.release();
+    scene.mouse.moveTo(corner + ScreenPoint{6, 6});
+    EXPECT_TRUE(waitUntil([&] { return scene.program().tip() == tip; }));
 }
 
 TEST(Hover, TipSpeaksGerman) {

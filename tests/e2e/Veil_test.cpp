@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "e2e/PanelScene.h"
 #include "e2e/SheetScene.h"
 
 namespace ormala::test {
@@ -39,6 +40,36 @@ TEST(Veil, IsGoneInTemplateModeWhileTheToolShines) {
         EXPECT_EQ(picture.part(left).count(SheetScene::backdropColor),
                   static_cast<std::size_t>(left.width()) * static_cast<std::size_t>(left.height()));
     }
+}
+
+TEST(Veil, AToolOfItsColorIsGoneFromTheScreenInTemplateMode) {
+    const SettingsFile tools = [] {
+        SettingsFile file = ToolSet()
+                                .stencil({300, 300, 500, 450})
+                                .measure({{200, 250}, {260, 250}}, {{200, 520}, {260, 520}}, false)
+                                .file();
+        file.set("Tool 1", "Color", " " + std::to_string(veilColor));
+        file.set("Tool 2", "ColorA", " " + std::to_string(veilColor));
+        file.set("Tool 2", "ColorB", " 65280");
+        return file;
+    }();
+    SettingsFile options;
+    options.set("Options", "Mode", " 1");
+    options.set("Options", "TransparencyTemplateMode", " 0");
+    options.set("Options", "WorksheetColor", " " + std::to_string(veilColor));
+    PanelScene scene(tools, options);
+    const ScreenPoint origin = scene.onScreen({0, 0});
+    const ScreenRect upper{origin.x + 190, origin.y + 240, origin.x + 520, origin.y + 500};
+    const ScreenRect lower{origin.x + 190, origin.y + 510, origin.x + 520, origin.y + 530};
+    // The other line, which has a colour of its own, shines.
+    ASSERT_TRUE(waitUntil([&] { return screen::capture(lower).count(0x00FF00) >= 61U; }));
+    EXPECT_EQ(screen::waitUntilStill(upper).count(SheetScene::backdropColor),
+              static_cast<std::size_t>(upper.width()) * static_cast<std::size_t>(upper.height()));
+    // In edit mode both stand there.
+    scene.settings().activate();
+    keyboard::press(VK_F2);
+    EXPECT_TRUE(
+        waitUntil([&] { return screen::capture(upper).count(SheetScene::backdropColor) == 0U; }));
 }
 
 TEST(Veil, LetsClicksFallThroughInTemplateModeAtTheSamePixel) {
