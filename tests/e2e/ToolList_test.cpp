@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "e2e/PanelScene.h"
 #include "e2e/ToolPanel.h"
 #include "e2e/TwoStencils.h"
 
