@@ -107,7 +107,8 @@ DesktopWindow overwriteQuestion(const Program& program) {
     DesktopWindow found;
     waitUntil([&] {
         for (const DesktopWindow& window : topLevelWindows(program.process().id())) {
-            if (window.isVisible() && window.item(IDYES).exists()) {
+            if (window.isVisible() && window.className() == "#32770" &&
+                window.item(IDYES).exists()) {
                 found = window;
             }
         }
