@@ -77,16 +77,17 @@ ShownTexts buttonCaption(HWND control, int dpi) {
     if (button == nullptr || button->Caption().empty()) {
         return {};
     }
-    const auto [picture, text] = button->content();
+    const auto [picture, text, sign] = button->content();
     const PixelRect content = picture.empty() ? text : picture.united(text);
     const PixelSize size = clientSize(control);
-    // What sticks out on one side counts for both, since it is centred.
-    const int left = std::min(content.left, size.width - content.right);
+    // What sticks out on one side counts for both, since it is centred in the room beside the sign.
+    const int first = sign.empty() ? 0 : sign.right;
+    const int left = std::min(content.left - first, size.width - content.right);
     const int top = std::min(content.top, size.height - content.bottom);
     const int line = lineWidthAt(dpi);
     return {{button->Caption(),
-             {size.width - 2 * left, size.height - 2 * top},
-             {size.width - 2 * line, size.height - 2 * line}}};
+             {size.width - first - 2 * left, size.height - 2 * top},
+             {size.width - first - 2 * line, size.height - 2 * line}}};
 }
 
 ShownTexts sliderTexts(HWND control, int dpi) {
