@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "e2e/LensScene.h"
-#include "e2e/SheetFrame.h"
 
 // The popup menus of the worksheet and of the magnifier, chosen from by keys as a user does.
 
@@ -155,27 +154,6 @@ TEST(Menus, TheMenuKeyOfTheWorksheetOpensItsMenu) {
     keyboard::press(VK_RETURN);
     popup.waitUntilHidden();
     EXPECT_TRUE(menus.turnsOn("chkGrid"));
-}
-
-TEST(Menus, AButtonThatClosesTheMenuOfAFullScreenWorksheetLetsGoOfTheMouse) {
-    MenuScene menus;
-    moveTo(menus.scene.settings(), {1300, 60});
-    // In the middle of the first line, "Maximized window".
-    const ScreenPoint first = menus.openByMouse().rect().origin() + ScreenPoint{40, 12};
-    menus.scene.mouse.click(first);
-    menus.scene.program().window("frmResizer").waitUntilHidden();
-    const DesktopWindow popup = menus.openByMouse();
-    // As fast as a hand does it.
-    menus.scene.mouse.moveTo(menus.scene.control("chkGrid").center());
-    menus.scene.mouse.press();
-    pause(milliseconds{80});
-    menus.scene.mouse.release();
-    popup.waitUntilHidden();
-    menus.scene.mouse.click(menus.scene.onScreen({60, 700}));
-    EXPECT_TRUE(waitUntil([&] { return menus.scene.worksheet().isForeground(); }));
-    const bool grid = menus.scene.control("chkGrid").send(BM_GETCHECK) == BST_CHECKED;
-    menus.scene.press("chkGrid");
-    EXPECT_TRUE(grid ? menus.turnsOff("chkGrid") : menus.turnsOn("chkGrid"));
 }
 
 TEST(Menus, EscapeLeavesEverythingAsItWas) {

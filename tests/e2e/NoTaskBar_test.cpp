@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "e2e/SheetFrame.h"
+#include "e2e/support/Device.h"
 
 // A worksheet that fills a screen of which no task bar takes a part.
 
@@ -78,6 +79,28 @@ TEST(NoTaskBar, DialogStaysInFrontOfTheWorksheetThatIsClicked) {
     EXPECT_TRUE(difference(screen::waitUntilStill(dialog.clientRect()), before).empty());
     full.scene.mouse.click(dialog.item(IDCANCEL).center());
     dialog.waitUntilHidden();
+}
+
+TEST(NoTaskBar, AButtonThatClosesTheMenuLetsGoOfTheMouse) {
+    SheetScene scene;
+    moveTo(scene.settings(), {1300, 60});
+    const DesktopWindow toggle = scene.settings().named("chkGrid");
+    Device device;
+    const auto openMenu = [&] {
+        device.click(scene.onScreen({40, 40}), MouseButton::Right);
+        return waitForTopLevel(scene.program().process().id(), "#32768");
+    };
+    // In the middle of the first line, "Maximized window".
+    device.click(openMenu().rect().origin() + ScreenPoint{40, 12});
+    frameOf(scene).waitUntilHidden();
+    const DesktopWindow popup = openMenu();
+    device.click(toggle.center());
+    popup.waitUntilHidden();
+    device.click(scene.onScreen({60, 700}));
+    EXPECT_TRUE(waitUntil([&] { return scene.worksheet().isForeground(); }));
+    const auto formerState = toggle.send(BM_GETCHECK);
+    device.click(toggle.center());
+    EXPECT_TRUE(waitUntil([&] { return toggle.send(BM_GETCHECK) != formerState; }));
 }
 
 }  // namespace

@@ -9,6 +9,15 @@
 
 namespace ormala::test {
 
+namespace {
+
+/// As the display counts them.
+std::string numberOf(MouseButton button) {
+    return button == MouseButton::Left ? "1" : button == MouseButton::Middle ? "2" : "3";
+}
+
+}  // namespace
+
 Device::Device() : stage_(L"ORMALA_DEVICE") {}
 
 Device::~Device() {
@@ -29,22 +38,29 @@ void Device::moveTo(ScreenPoint point) {
     }
 }
 
-void Device::press() {
-    held_ = true;
+void Device::press(MouseButton button) {
+    held_ = button;
     if (stage_.isThere()) {
-        stage_.request("mousedown 1");
+        stage_.request("mousedown " + numberOf(button));
     } else {
-        mouse_.press();
+        mouse_.press(button);
     }
 }
 
 void Device::release() {
-    held_ = false;
+    const MouseButton button = held_.value_or(MouseButton::Left);
+    held_.reset();
     if (stage_.isThere()) {
-        stage_.request("mouseup 1");
+        stage_.request("mouseup " + numberOf(button));
     } else {
-        mouse_.release();
+        mouse_.release(button);
     }
+}
+
+void Device::click(ScreenPoint point, MouseButton button) {
+    moveTo(point);
+    press(button);
+    release();
 }
 
 void Device::pressEscape() {

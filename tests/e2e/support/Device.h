@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "e2e/support/Keyboard.h"
 #include "e2e/support/Mouse.h"
 #include "e2e/support/StageService.h"
@@ -17,8 +19,9 @@ class Device {
     Device& operator=(const Device&) = delete;
 
     void moveTo(ScreenPoint point);
-    void press();
+    void press(MouseButton button = MouseButton::Left);
     void release();
+    void click(ScreenPoint point, MouseButton button = MouseButton::Left);
     void pressEscape();
 
     /// Presses at `from` and goes to `to` in equal moves, and holds the button.
@@ -28,7 +31,7 @@ class Device {
   private:
     StageService stage_;
     Mouse mouse_;
-    bool held_ = false;
+    std::optional<MouseButton> held_;
 };
 
 }  // namespace ormala::test
