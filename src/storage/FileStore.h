@@ -61,7 +61,8 @@ class FileStore {
 
     virtual RemoveResult remove(const std::string& path) = 0;
 
-    /// What `remove` would answer now; the file stays.
+    /// What `remove` would answer now, or within a second if another program holds the file; the
+    /// file stays.
     virtual RemoveResult couldRemove(const std::string& path) = 0;
 
     /// Makes every folder named in the path; what follows its last backslash is a file's name and

@@ -161,8 +161,14 @@ RemoveResult WindowsFileStore::couldRemove(const std::string& path) {
     if (!isReplaceable(target)) {
         return {false, systemMessage(ERROR_ACCESS_DENIED)};
     }
-    if (!openFile(target, DELETE, shareAll, OPEN_EXISTING)) {
-        return {false, systemMessage(GetLastError())};
+    SystemClock clock;
+    DWORD error = ERROR_SUCCESS;
+    tryPatiently(clock, longestWaitForFile, [&] {
+        error = openFile(target, DELETE, shareAll, OPEN_EXISTING) ? ERROR_SUCCESS : GetLastError();
+        return error != ERROR_SHARING_VIOLATION;
+    });
+    if (error != ERROR_SUCCESS) {
+        return {false, systemMessage(error)};
     }
     return {true, {}};
 }

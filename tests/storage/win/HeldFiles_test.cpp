@@ -73,6 +73,17 @@ TEST_F(HeldFiles, AreReadWhenTheyAreLetGoSoon) {
     EXPECT_EQ(result.bytes, "old");
 }
 
+TEST_F(HeldFiles, CouldBeRemovedWhenTheyAreLetGoSoon) {
+    HeldFile holder(widePath_, FILE_SHARE_READ);
+    std::thread other([&holder] {
+        Sleep(300);
+        holder.release();
+    });
+    const RemoveResult result = store_.couldRemove(path_);
+    other.join();
+    EXPECT_TRUE(result.removed) << result.description;
+}
+
 TEST_F(HeldFiles, StayAsTheyAreWhereTheyCantBeKept) {
     for (const DWORD share : {DWORD{0}, DWORD{FILE_SHARE_READ}}) {
         HeldFile holder(widePath_, share);
