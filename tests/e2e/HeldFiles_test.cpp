@@ -145,6 +145,12 @@ class HeldDocument : public testing::Test {
         EXPECT_TRUE(box.text().starts_with(begin)) << box.text();
         box.answer(button);
     }
+    /// A click right behind the closing of a message could meet a window that isn't in front yet.
+    void save() {
+        EXPECT_TRUE(scene_.settings().settle());
+        scene_.settings().activate();
+        scene_.press("cmdSave");
+    }
     bool hasSecondTool() { return bytesOf(file_).find("[Tool 2]") != std::string::npos; }
 
     PanelScene scene_{ToolSet().stencil({100, 100, 300, 300}).file()};
@@ -177,7 +183,7 @@ TEST_F(HeldDocument, ALoadSaysSoOnceAndLeavesToolsAndPanels) {
 TEST_F(HeldDocument, ASaveThatFailsSaysSoAndTheWindowStaysUntilTheWorkIsSafe) {
     addStencil();
     HeldFile holder(file_.wstring(), FILE_SHARE_READ);
-    scene_.press("cmdSave");
+    save();
     answer(failedToSave(file_), IDOK);
     EXPECT_EQ(bytesOf(file_), saved_);
     scene_.program().requestClose();
@@ -198,7 +204,7 @@ TEST_F(HeldDocument, TheWorkOfAnotherProgramIsWrittenOverOnlyAfterAQuestion) {
     const std::string others = "[Tool 1]\r\nType= 1\r\n";
     addStencil();
     writeBytes(file_, others);
-    scene_.press("cmdSave");
+    save();
     answer(question, IDNO);
     EXPECT_EQ(bytesOf(file_), others);
     scene_.program().requestClose();
@@ -206,7 +212,7 @@ TEST_F(HeldDocument, TheWorkOfAnotherProgramIsWrittenOverOnlyAfterAQuestion) {
     answer(question, IDCANCEL);
     EXPECT_EQ(bytesOf(file_), others);
     EXPECT_TRUE(scene_.settings().isVisible());
-    scene_.press("cmdSave");
+    save();
     answer(question, IDYES);
     EXPECT_TRUE(waitUntil([&] { return hasSecondTool(); }));
     EXPECT_EQ(scene_.program().close(), 0U);
