@@ -5,10 +5,30 @@
 namespace ormala::test {
 namespace {
 
+/// The pixels inside the border of a grip on a screen of some resolution.
+struct GripSizes {
+    std::size_t resting = 0;
+    std::size_t grown = 0;
+    /// How far from the centre a resting grip can be taken, along either axis.
+    int reach = 0;
+};
+
+GripSizes gripSizes(const SheetScene& scene) {
+    switch (GetDpiForWindow(scene.worksheet().handle())) {
+        case 192:
+            return {17 * 17, 41 * 41, 9 + 12};
+        case 144:
+            return {11 * 11, 29 * 29, 6 + 9};
+        default:
+            return {7 * 7, 19 * 19, 4 + 6};
+    }
+}
+
 /// How many pixels of the resting colour lie about the grip at these shares.
 std::size_t gripPixels(SheetScene& scene, Spot shares, Color color) {
     const ScreenPoint at = scene.onScreen(scene.model.gripPixel(shares.x, shares.y));
-    const ScreenRect around{at.x - 14, at.y - 14, at.x + 15, at.y + 15};
+    const int room = gripSizes(scene).reach + 4;
+    const ScreenRect around{at.x - room, at.y - room, at.x + room + 1, at.y + room + 1};
     return screen::waitUntilStill(around).count(blended(color, SheetScene::backdropColor, 191), 2);
 }
 
@@ -16,12 +36,16 @@ constexpr Color cornerColor = 0xC0FFC0;
 
 TEST(Hover, GripGrowsUnderTheMouseAndShrinksBehindIt) {
     SheetScene scene;
+    const auto [resting, grown, reach] = gripSizes(scene);
+    const ScreenPoint center = scene.onScreen(scene.model.gripPixel(1, 1));
     scene.stepAside();
-    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), 7U * 7U);
-    scene.mouse.moveTo(scene.onScreen(scene.model.gripPixel(1, 1)) + ScreenPoint{8, -8});
-    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), 19U * 19U);
+    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), resting);
+    scene.mouse.moveTo(center + ScreenPoint{reach, -reach});
+    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), grown);
     scene.stepAside();
-    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), 7U * 7U);
+    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), resting);
+    scene.mouse.moveTo(center + ScreenPoint{reach + 2, 0});
+    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), resting);
 }
 
 TEST(Hover, DragLightsNoOtherGrip) {
@@ -33,7 +57,7 @@ TEST(Hover, DragLightsNoOtherGrip) {
     for (int i = 1; i <= 10; ++i) {
         scene.mouse.moveTo({side.x + (corner.x - side.x) * i / 10, side.y});
     }
-    EXPECT_LE(gripPixels(scene, {1, -1}, cornerColor), 7U * 7U);
+    EXPECT_LE(gripPixels(scene, {1, -1}, cornerColor), gripSizes(scene).resting);
     scene.mouse.release();
 }
 

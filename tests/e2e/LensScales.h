@@ -13,13 +13,16 @@ class LensScales {
     LensScales(const LensWindow& lens, int factor, bool grid)
         : lens_(lens), factor_(factor), grid_(grid) {}
 
-    // Compares the ticks along the first half of the image with those of the numbers from `first`
-    // on, for a scale above or below it and for one at its left or right.
+    // Compares the ticks along the whole image with those of the numbers from `first` on, for a
+    // scale above or below it and for one at its left or right.
     void expectColumns(std::string_view scale, int first) const;
     void expectRows(std::string_view scale, int first) const;
 
   private:
-    [[nodiscard]] int compared(int imageLength) const { return imageLength / factor_ / 2; }
+    /// The enlarged pixels. The last line of a grid lies outside of the image.
+    [[nodiscard]] int compared(int imageLength) const {
+        return (imageLength + (grid_ && factor_ > 1 ? 1 : 0)) / factor_;
+    }
     /// From the side of an enlarged pixel to its tick.
     [[nodiscard]] int middle() const;
     /// Of a number's tick, as it is seen.

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
+#include "e2e/LensScales.h"
 #include "e2e/LensScene.h"
 
 // The magnifier as a window: its place, its menu and keys, and what it keeps.
@@ -142,6 +144,31 @@ TEST(Magnifier, StaysOpaqueBesideTheMouseInEditMode) {
     EXPECT_FALSE(window.hasExtendedStyle(WS_EX_LAYERED));
     EXPECT_TRUE(window.isTopmost());
     EXPECT_TRUE(scene.lens.showsScreen(LensScene::spot, 4));
+}
+
+TEST(Magnifier, StaysAboveTheControlWindowBesideTheMouse) {
+    LensScene scene(withKeys(bareLens(), {{"LensSticked", "-1"}, {"LensRulBOrigin", " 1"}}));
+    const DesktopWindow settings = scene.scene.settings();
+    // On the ground beside its buttons, where the magnifier beside the mouse lies over it.
+    const ScreenPoint ground = settings.clientRect().origin() + ScreenPoint{2, scaled(scene, 86)};
+    const auto expectUncovered = [&] {
+        // It slides along the edge of the screen.
+        const int last = screen::primaryMonitor().right - scene.lens.window().rect().width();
+        const ScreenPoint corner{std::min(ground.x + scaled(scene, 24), last),
+                                 ground.y + scaled(scene, 32)};
+        ASSERT_TRUE(waitUntil([&] { return scene.lens.window().rect().origin() == corner; }));
+        screen::waitUntilStill(scene.lens.part("picRulBottom").rect());
+        LensScales(scene.lens, 4, false).expectColumns("picRulBottom", 0);
+    };
+    for (int i = 0; i < 2; ++i) {
+        scene.scene.mouse.click(ground);
+        ASSERT_TRUE(waitUntil([&] { return settings.isForeground(); }));
+        expectUncovered();
+        // A worksheet that comes forward takes the control window with it.
+        scene.scene.mouse.click(scene.scene.onScreen({20, 20}));
+        scene.scene.mouse.moveTo(ground);
+        expectUncovered();
+    }
 }
 
 TEST(Magnifier, WorksInPauseModeToo) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "e2e/PanelScene.h"
 #include "e2e/support/Clipboard.h"
 
@@ -55,25 +57,104 @@ class Shot {
         return screen::waitUntilStill(scene.worksheet().rect());
     }
 
+    /// What a user sees of the worksheet before a shot: the reference for it, and for the screen
+    /// afterwards. The control window has the keyboard.
+    Picture seenBefore() {
+        scene.settings().activate();
+        return seen();
+    }
+
+    [[nodiscard]] bool says(std::string_view note) const {
+        const DesktopWindow info = scene.control("lblInfo");
+        return waitUntil([&] { return info.isVisible() && info.text() == note; });
+    }
+
     PanelScene scene;
 };
 
+std::string sizeOf(const ScreenRect& rect) {
+    return std::to_string(rect.width()) + " x " + std::to_string(rect.height());
+}
+
 TEST(ScreenShot, EqualsTheScreenInsideTheWorksheet) {
     Shot shot(options());
+    const Picture before = shot.seenBefore();
     shot.putControlWindow(true);
     const ScreenRect place = shot.scene.settings().rect();
     const Picture pasted = shot.take();
     EXPECT_EQ(shot.scene.settings().rect(), place);
-    expectSame(pasted, shot.seen());
+    expectSame(pasted, before);
+}
+
+TEST(ScreenShot, ChangesNothingOfWhatIsShownAndLeavesTheKeyboardWhereItWas) {
+    Shot shot(options());
+    const Picture before = shot.seenBefore();
+    ASSERT_TRUE(shot.scene.settings().isForeground());
+    shot.take();
+    expectSame(screen::waitUntilStill(shot.scene.worksheet().rect()), before);
+    EXPECT_TRUE(shot.scene.settings().isForeground());
+}
+
+TEST(ScreenShot, TakenWhileTheWorksheetHasTheKeyboardShowsItsToolWithTheFocus) {
+    Shot shot(options());
+    shot.scene.mouse.click(shot.scene.onScreen({200, 200}));
+    shot.scene.mouse.moveTo(shot.scene.onScreen({20, 20}));
+    const Picture before = shot.seen();
+    const Picture pasted = shot.take();
+    expectSame(pasted, before);
+    expectSame(screen::waitUntilStill(shot.scene.worksheet().rect()), before);
+}
+
+TEST(ScreenShot, TellsWhatItHasCopied) {
+    Shot shot(options());
+    const std::string size = sizeOf(shot.scene.worksheet().rect());
+    shot.take();
+    EXPECT_TRUE(shot.says(size + " pixels copied to the clipboard"));
+    // The path comes back in its place.
+    shot.scene.control("lblInfo").waitUntilHidden();
+    EXPECT_TRUE(shot.scene.control("lblPath").isVisible());
+}
+
+TEST(ScreenShot, TellsWhatItHasCopiedInGermanAndInTheShortWindow) {
+    Shot shot(options({{"Language", " 1031"}, {"Mode", " 1"}}));
+    const std::string size = sizeOf(shot.scene.worksheet().rect());
+    shot.take();
+    EXPECT_TRUE(shot.says(size + " Pixel in die Zwischenablage kopiert"));
+    const ScreenRect info = shot.scene.control("lblInfo").rect();
+    EXPECT_LE(info.bottom, shot.scene.settings().clientRect().bottom);
+}
+
+TEST(ScreenShot, WaitsForAClipboardThatAnotherProgramHoldsForAMoment) {
+    Shot shot(options());
+    const std::string size = sizeOf(shot.scene.worksheet().rect());
+    {
+        const clipboard::Held held;
+        PanelScene::choose(shot.scene.control("cmdScreenshot"));
+        shot.scene.settings().settle();
+    }
+    EXPECT_TRUE(shot.says(size + " pixels copied to the clipboard"));
+    EXPECT_TRUE(clipboard::picture({0, 0}).has_value());
+}
+
+TEST(ScreenShot, TellsThatAnotherProgramHoldsTheClipboard) {
+    Shot shot(options());
+    {
+        const clipboard::Held held;
+        PanelScene::choose(shot.scene.control("cmdScreenshot"));
+        EXPECT_TRUE(shot.says("The clipboard is in use by another program."));
+    }
+    EXPECT_FALSE(clipboard::picture({0, 0}).has_value());
+    shot.take();
 }
 
 TEST(ScreenShot, HoldsWhatShinesThroughInTemplateMode) {
     Shot shot(options({{"Mode", " 1"}}));
+    const Picture before = shot.seenBefore();
     const Picture pasted = shot.take();
     const ScreenRect sheet = shot.scene.worksheet().rect();
     const ScreenPoint corner = sheet.origin() + ScreenPoint{5, 5};
     EXPECT_EQ(pasted.at(corner), shot.scene.backdrop().colorAt(corner));
-    expectSame(pasted, shot.seen());
+    expectSame(pasted, before);
 }
 
 TEST(ScreenShot, LeavesTheCrossHairAndTheMagnifierOut) {
@@ -98,6 +179,7 @@ TEST(ScreenShot, LeavesTheCrossHairAndTheMagnifierOut) {
 TEST(ScreenShot, OfAMinimisedControlWindowLeavesItsPlaceAlone) {
     Shot shot(options());
     const ScreenRect place = shot.scene.settings().rect();
+    // The worksheet has the keyboard then.
     ShowWindow(shot.scene.settings().handle(), SW_MINIMIZE);
     ASSERT_TRUE(waitUntil([&] { return shot.scene.settings().isMinimised(); }));
     expectSame(shot.take(), screen::waitUntilStill(shot.scene.worksheet().rect()));

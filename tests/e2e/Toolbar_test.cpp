@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "e2e/PanelScene.h"
+#include "support/win/TemporaryFolder.h"
 
 // Every button, slider and swatch of the toolbar does its work and shows its state.
 
@@ -186,6 +189,45 @@ TEST(Toolbar, HelpPausesTheWorksheetUntilAModeIsChosen) {
     scene.settings().activate();
     keyboard::press(VK_F2);
     scene.worksheet().waitUntilVisible();
+}
+
+/// A copy of the program in a folder of its own, without the help beside it. The next programs are
+/// started from there.
+class ProgramWithoutHelp {
+  public:
+    ProgramWithoutHelp() {
+        namespace fs = std::filesystem;
+        const fs::path original = testProgramFolder().parent_path().parent_path() / "Ormala.exe";
+        const fs::path copy = folder_.path() / "Ormala.exe";
+        fs::copy_file(original, copy);
+        _wputenv_s(L"ORMALA_EXE", copy.c_str());
+    }
+    ProgramWithoutHelp(const ProgramWithoutHelp&) = delete;
+    ProgramWithoutHelp& operator=(const ProgramWithoutHelp&) = delete;
+    ~ProgramWithoutHelp() { _wputenv_s(L"ORMALA_EXE", L""); }
+
+  private:
+    TemporaryFolder folder_;
+};
+
+TEST(Toolbar, HelpThatIsNotThereIsSaidAndLeavesTheMode) {
+    for (const auto& [language, text] :
+         {std::pair{" 9", "The help could not be opened:\r\nhelp_en.html"},
+          {" 1031", "Die Hilfe konnte nicht ge\u00f6ffnet werden:\r\nhelp_de.html"}}) {
+        const ProgramWithoutHelp program;
+        SettingsFile options;
+        options.set("Options", "Language", language);
+        PanelScene scene(SettingsFile{}, options);
+        const std::string caption = scene.settings().text();
+        scene.settings().activate();
+        keyboard::press(VK_F1);
+        const MessageBoxWindow box = scene.program().waitForMessageBox("Ormala");
+        EXPECT_EQ(box.text(), text);
+        box.answer(IDOK);
+        EXPECT_EQ(scene.settings().text(), caption);
+        EXPECT_TRUE(scene.worksheet().isVisible());
+        EXPECT_EQ(scene.program().close(), 0U);
+    }
 }
 
 TEST(Toolbar, TheTabKeyGoesThroughItInItsOrder) {

@@ -131,6 +131,7 @@ void frmSettings::raiseAboveAll() {
     }
     raiseWithoutActivating(handle(), HWND_TOPMOST);
     raiseWithoutActivating(handle());
+    raiseLens(true);
 }
 
 void frmSettings::putWindowsAside(bool aside) {

@@ -9,15 +9,7 @@ namespace ormala::test::clipboard {
 namespace {
 
 /// The clipboard, open; another program may hold it for a moment.
-class OpenClipboardScope {
-  public:
-    OpenClipboardScope() {
-        requireSoon("clipboard", [] { return OpenClipboard(nullptr) != FALSE; });
-    }
-    OpenClipboardScope(const OpenClipboardScope&) = delete;
-    OpenClipboardScope& operator=(const OpenClipboardScope&) = delete;
-    ~OpenClipboardScope() { CloseClipboard(); }
-};
+using OpenClipboardScope = Held;
 
 /// Asks the system for the pixels, as a program does that pastes the picture as a bitmap.
 std::vector<Color> pixelsOf(HBITMAP bitmap, int width, int height) {
@@ -38,6 +30,14 @@ std::vector<Color> pixelsOf(HBITMAP bitmap, int width, int height) {
 }
 
 }  // namespace
+
+Held::Held() {
+    requireSoon("clipboard", [] { return OpenClipboard(nullptr) != FALSE; });
+}
+
+Held::~Held() {
+    CloseClipboard();
+}
 
 void clear() {
     const OpenClipboardScope open;

@@ -10,4 +10,13 @@ void clear();
 /// The picture on the clipboard, with its upper left corner at `origin`; none if there is none.
 std::optional<Picture> picture(ScreenPoint origin);
 
+/// Keeps the clipboard from all other programs for its lifetime.
+class Held {
+  public:
+    Held();
+    Held(const Held&) = delete;
+    Held& operator=(const Held&) = delete;
+    ~Held();
+};
+
 }  // namespace ormala::test::clipboard
