@@ -149,8 +149,9 @@ TEST(Magnifier, StaysOpaqueBesideTheMouseInEditMode) {
 TEST(Magnifier, StaysAboveTheControlWindowBesideTheMouse) {
     LensScene scene(withKeys(bareLens(), {{"LensSticked", "-1"}, {"LensRulBOrigin", " 1"}}));
     const DesktopWindow settings = scene.scene.settings();
-    // On the ground beside its buttons, where the magnifier beside the mouse lies over it.
-    const ScreenPoint ground = settings.clientRect().origin() + ScreenPoint{2, scaled(scene, 86)};
+    // On its path line, where no button grows and the magnifier beside the mouse lies over it.
+    const ScreenPoint ground =
+        settings.clientRect().origin() + ScreenPoint{scaled(scene, 60), scaled(scene, 140)};
     const auto expectUncovered = [&] {
         // It slides along the edge of the screen.
         const int last = screen::primaryMonitor().right - scene.lens.window().rect().width();
