@@ -89,34 +89,6 @@ TEST_F(ViewPaneTest, TogglesReachTheirOwners) {
     EXPECT_FALSE(view_.lens().lens().isVisible());
 }
 
-bool isAbove(HWND upper, HWND lower) {
-    HWND window = lower;
-    while (window != nullptr && window != upper) {
-        window = GetWindow(window, GW_HWNDPREV);
-    }
-    return window == upper;
-}
-
-TEST_F(ViewPaneTest, AMagnifierBesideTheMouseStaysAboveTheControlWindow) {
-    const auto comeForward = [this] {
-        SetWindowPos(settings_.handle(), HWND_TOP, 0, 0, 0, 0,
-                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    };
-    view_.SetLens(true);
-    frmLens& lens = view_.lens().lens();
-    lens.setSticked(true);
-    EXPECT_TRUE(isAbove(lens.handle(), settings_.handle()));
-    comeForward();
-    EXPECT_TRUE(isAbove(lens.handle(), settings_.handle()));
-    view_.SetLens(false);
-    comeForward();
-    view_.SetLens(true);
-    EXPECT_TRUE(isAbove(lens.handle(), settings_.handle()));
-    lens.setSticked(false);
-    comeForward();
-    EXPECT_TRUE(isAbove(settings_.handle(), lens.handle())) << "it lies where the user put it";
-}
-
 TEST_F(ViewPaneTest, ClosingTheMagnifierTurnsItsToggleOff) {
     view_.SetLens(true);
     ASSERT_TRUE(isOn(L"chkLens"));
