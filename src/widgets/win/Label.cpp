@@ -66,7 +66,7 @@ std::string Label::tipText() const {
 
 /// What is cut is asked when the mouse comes, and not at each of the many changes of a text.
 void Label::showTip(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_MOUSEMOVE) {
+    if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
         if (const std::string text = tipText(); text != tip_.text()) {
             tip_.setText(text);
         }

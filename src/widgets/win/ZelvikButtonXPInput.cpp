@@ -37,7 +37,10 @@ void ZelvikButtonXP::watchMouse(bool on) {
 }
 
 void ZelvikButtonXP::captureMouse() {
-    SetCapture(handle());
+    // Taking the mouse once more would tell the button that it has lost it.
+    if (GetCapture() != handle()) {
+        SetCapture(handle());
+    }
     captured_ = true;
 }
 
