@@ -53,7 +53,9 @@ bool Label::isCut() const {
     const std::wstring shown = wide(drawnText());
     SIZE size{};
     GetTextExtentPoint32W(context.get(), shown.c_str(), static_cast<int>(shown.size()), &size);
-    return size.cx > clientRectangle().right;
+    const LONG room = clientRectangle().right;
+    // One without a place shows nothing to be cut.
+    return room > 0 && size.cx > room;
 }
 
 std::string Label::tipText() const {
