@@ -45,12 +45,16 @@ bool FrameSizeMemory::changedTo(PixelSize outer) {
     return std::exchange(last_, outer) != outer;
 }
 
-bool HoleKeeper::puts(const PixelRect& actual, const PixelRect& hole) {
-    constexpr int mostTries = 8;
+HoleKeeper::Step HoleKeeper::next(const PixelRect& actual, const PixelRect& hole) {
+    constexpr int triesAtOnce = 8;
+    constexpr int mostTries = 20;
     if (std::exchange(hole_, hole) != hole || actual == hole) {
         tries_ = 0;
     }
-    return actual != hole && tries_++ < mostTries;
+    if (actual == hole || tries_ >= mostTries) {
+        return Step::rest;
+    }
+    return ++tries_ <= triesAtOnce ? Step::putNow : Step::putLater;
 }
 
 }  // namespace ormala

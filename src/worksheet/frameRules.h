@@ -37,9 +37,12 @@ class FrameSizeMemory {
 /// has put either of them.
 class HoleKeeper {
   public:
-    /// Whether the worksheet, which lies at `actual`, has to be put into `hole` once more. A system
-    /// that will not have it there is let be after a few tries, until the hole is another one.
-    bool puts(const PixelRect& actual, const PixelRect& hole);
+    enum class Step { rest, putNow, putLater };
+
+    /// Whether the worksheet, which lies at `actual`, has to be put into `hole` once more: at once,
+    /// or, if that has been of no use, when the system has had time to come to rest. One that will
+    /// not have it there is let be in the end, until the hole is another one.
+    Step next(const PixelRect& actual, const PixelRect& hole);
 
   private:
     PixelRect hole_;

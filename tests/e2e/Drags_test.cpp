@@ -33,8 +33,10 @@ class FrameDrag {
     }
 
     [[nodiscard]] ScreenRect frame() const { return frameOf(scene).rect(); }
+    /// Not where the last drag began: two presses at one place would be a double click.
     void dragBy(int dx, int dy) {
-        const ScreenPoint from = titleBarOf(scene);
+        constexpr int aside = 60;
+        const ScreenPoint from = titleBarOf(scene) - ScreenPoint{aside, 0};
         device.drag(from, from + ScreenPoint{dx, dy});
     }
     void dragByAndTakeBack(int dx, int dy) {

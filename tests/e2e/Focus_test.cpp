@@ -3,6 +3,7 @@
 #include "e2e/SheetFrame.h"
 #include "e2e/ToolPanel.h"
 #include "e2e/TwoStencils.h"
+#include "e2e/clickToFront.h"
 
 // Who has the keyboard, and which click selects.
 
@@ -18,6 +19,10 @@ void leaveWithTheFirstSelected(PanelScene& scene) {
     clickTitle(scene, 0);
     ASSERT_TRUE(looksSelected(scene.panel(0)));
     scene.backdrop().window().activate();
+}
+
+bool comesForwardByClick(SheetScene& scene) {
+    return clickToFront(scene.mouse, scene.worksheet(), scene.onScreen({40, 40}));
 }
 
 TEST(Focus, AReturnThroughTheWorksheetSwallowsNoClickOnAPanel) {
@@ -63,8 +68,7 @@ TEST(Focus, TemplateModeAndPauseOfTheWorksheetGiveTheControlWindowTheKeyboard) {
         const char* caption;
     };
     for (const Change change : {Change{VK_F4, templateCaption}, Change{VK_F3, pauseCaption}}) {
-        scene.mouse.click(scene.onScreen({40, 40}));
-        ASSERT_TRUE(waitUntil([&] { return scene.worksheet().isForeground(); }));
+        ASSERT_TRUE(comesForwardByClick(scene));
         keyboard::press(change.key);
         scene.settings().waitForText(change.caption);
         EXPECT_TRUE(waitUntil([&] { return scene.settings().isForeground(); }));
@@ -78,8 +82,7 @@ TEST(Focus, WithoutAControlWindowTheProgramBelowGetsTheKeyboard) {
     SheetScene scene;
     scene.settings().post(WM_SYSCOMMAND, SC_MINIMIZE);
     ASSERT_TRUE(waitUntil([&] { return scene.settings().isMinimised(); }));
-    scene.mouse.click(scene.onScreen({40, 40}));
-    ASSERT_TRUE(waitUntil([&] { return scene.worksheet().isForeground(); }));
+    ASSERT_TRUE(comesForwardByClick(scene));
     keyboard::press(VK_F4);
     scene.settings().waitForText(templateCaption);
     EXPECT_TRUE(waitUntil([&] { return scene.backdrop().window().isForeground(); }));
@@ -93,8 +96,7 @@ TEST(Focus, WithoutAControlWindowTheProgramBelowGetsTheKeyboard) {
 
 TEST(Focus, MinimisingWithTheModeGivesTheProgramBelowTheKeyboard) {
     SheetScene scene;
-    scene.mouse.click(scene.onScreen({40, 40}));
-    ASSERT_TRUE(waitUntil([&] { return scene.worksheet().isForeground(); }));
+    ASSERT_TRUE(comesForwardByClick(scene));
     keyboard::press(VK_F4, Modifiers::Shift);
     EXPECT_TRUE(waitUntil([&] { return scene.settings().isMinimised(); }));
     EXPECT_TRUE(waitUntil([&] { return scene.backdrop().window().isForeground(); }));

@@ -69,14 +69,16 @@ TEST(Hover, ToolsFollowTheMouseOverTheControlWindow) {
     place(frameOf(scene), {20, 20, monitor.width() - control.width() - 60, 720});
     ASSERT_TRUE(worksheetFits(scene));
     moveTo(scene.settings(), {monitor.right - control.width() - 10, 20});
+    const GripSizes sizes = gripSizes(scene);
     scene.mouse.moveTo(scene.onScreen(scene.model.gripPixel(-1, -1)));
-    EXPECT_EQ(gripPixels(scene, {-1, -1}, cornerColor), 19U * 19U);
+    EXPECT_EQ(gripPixels(scene, {-1, -1}, cornerColor), sizes.grown);
     scene.mouse.moveTo(scene.settings().center());
     const ScreenPoint at = scene.onScreen(scene.model.gripPixel(-1, -1));
-    const ScreenRect around{at.x - 14, at.y - 14, at.x + 15, at.y + 15};
+    const int room = sizes.reach + 4;
+    const ScreenRect around{at.x - room, at.y - room, at.x + room + 1, at.y + room + 1};
     EXPECT_TRUE(waitUntil([&] {
         return screen::capture(around).count(blended(cornerColor, SheetScene::backdropColor, 191),
-                                             2) == 7U * 7U;
+                                             2) == sizes.resting;
     }));
 }
 

@@ -107,8 +107,8 @@ TEST_F(PanelDialogs, HalvesAreLinesThroughTheMiddle) {
     const Picture picture = stencilPicture(scene);
     const Color ground = picture.at(picture.rect().origin());
     const auto isLine = [&](int x, int y) { return picture.at(scene.onScreen({x, y})) != ground; };
-    // Between the grips.
-    for (const int y : {185, 195, 217, 228}) {
+    // Between the grips, also where those are twice as large.
+    for (const int y : {185, 190, 223, 228}) {
         for (int x = 245; x < 325; ++x) {
             EXPECT_EQ(isLine(x, y), x == 285) << x << ", " << y;
         }

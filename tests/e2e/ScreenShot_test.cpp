@@ -3,6 +3,7 @@
 #include <string>
 
 #include "e2e/PanelScene.h"
+#include "e2e/clickToFront.h"
 #include "e2e/support/Clipboard.h"
 
 // The screen shot on the clipboard, pasted by another program.
@@ -97,7 +98,8 @@ TEST(ScreenShot, ChangesNothingOfWhatIsShownAndLeavesTheKeyboardWhereItWas) {
 
 TEST(ScreenShot, TakenWhileTheWorksheetHasTheKeyboardShowsItsToolWithTheFocus) {
     Shot shot(options());
-    shot.scene.mouse.click(shot.scene.onScreen({200, 200}));
+    ASSERT_TRUE(clickToFront(shot.scene.mouse, shot.scene.worksheet(),
+                             shot.scene.onScreen({200, 200})));
     shot.scene.mouse.moveTo(shot.scene.onScreen({20, 20}));
     const Picture before = shot.seen();
     const Picture pasted = shot.take();

@@ -73,34 +73,42 @@ TEST(FullScreenPlace, LeavesARowOfAMonitorWithoutATaskBar) {
               (PixelRect{-1280, -50, 0, 973}));
 }
 
+using Step = HoleKeeper::Step;
+
 TEST(HoleKeeper, LeavesAWorksheetAloneThatLiesInTheHole) {
     HoleKeeper keeper;
     for (int i = 0; i < 100; ++i) {
-        EXPECT_FALSE(keeper.puts({10, 20, 300, 400}, {10, 20, 300, 400}));
+        EXPECT_EQ(keeper.next({10, 20, 300, 400}, {10, 20, 300, 400}), Step::rest);
     }
 }
 
 TEST(HoleKeeper, PutsBackAWorksheetThatIsAPixelTooWideOrElsewhere) {
     HoleKeeper keeper;
-    EXPECT_TRUE(keeper.puts({10, 20, 301, 400}, {10, 20, 300, 400}));
-    EXPECT_TRUE(keeper.puts({0, 20, 290, 400}, {10, 20, 300, 400}));
-    EXPECT_FALSE(keeper.puts({10, 20, 300, 400}, {10, 20, 300, 400}));
-    EXPECT_TRUE(keeper.puts({10, 19, 300, 399}, {10, 20, 300, 400}));
+    EXPECT_EQ(keeper.next({10, 20, 301, 400}, {10, 20, 300, 400}), Step::putNow);
+    EXPECT_EQ(keeper.next({0, 20, 290, 400}, {10, 20, 300, 400}), Step::putNow);
+    EXPECT_EQ(keeper.next({10, 20, 300, 400}, {10, 20, 300, 400}), Step::rest);
+    EXPECT_EQ(keeper.next({10, 19, 300, 399}, {10, 20, 300, 400}), Step::putNow);
 }
 
-TEST(HoleKeeper, GivesInToASystemThatWillNotHaveItThere) {
+TEST(HoleKeeper, WaitsForASystemThatIsNotAtRestAndGivesInToOneThatWillNotHaveItThere) {
+    constexpr PixelRect elsewhere{0, 20, 290, 400};
     constexpr PixelRect hole{-50, 20, 240, 400};
     HoleKeeper keeper;
-    int tries = 0;
-    while (keeper.puts({0, 20, 290, 400}, hole) && tries < 100) {
-        ++tries;
+    int atOnce = 0;
+    int later = 0;
+    for (int i = 0; i < 100; ++i) {
+        const Step step = keeper.next(elsewhere, hole);
+        atOnce += step == Step::putNow ? 1 : 0;
+        later += step == Step::putLater ? 1 : 0;
+        // None at once after the first one later.
+        EXPECT_FALSE(step == Step::putNow && later > 0);
     }
-    EXPECT_GE(tries, 3);
-    EXPECT_LE(tries, 20);
-    EXPECT_FALSE(keeper.puts({0, 20, 290, 400}, hole));
+    EXPECT_EQ(atOnce, 8);
+    EXPECT_EQ(later, 12);
+    EXPECT_EQ(keeper.next(elsewhere, hole), Step::rest);
     // Another hole is another matter.
-    EXPECT_TRUE(keeper.puts({0, 20, 290, 400}, {-49, 20, 241, 400}));
-    EXPECT_TRUE(keeper.puts({0, 20, 290, 400}, hole));
+    EXPECT_EQ(keeper.next(elsewhere, {-49, 20, 241, 400}), Step::putNow);
+    EXPECT_EQ(keeper.next(elsewhere, hole), Step::putNow);
 }
 
 }  // namespace

@@ -28,47 +28,63 @@ void letScreenSettle() {
     DwmFlush();
 }
 
-/// Gives the keyboard back to who had it, should a window manager have passed it on while the
-/// window that had it was off all screens.
-class KeptFocus {
-  public:
-    explicit KeptFocus(frmWorksheet& worksheet)
-        : worksheet_(worksheet), front_(GetForegroundWindow()), focus_(GetFocus()) {
-        worksheet_.setFocusHeld(true);
-    }
-    KeptFocus(const KeptFocus&) = delete;
-    KeptFocus& operator=(const KeptFocus&) = delete;
-    ~KeptFocus() {
-        if (focus_ != nullptr && GetFocus() != focus_) {
-            SetForegroundWindow(front_);
-            SetFocus(focus_);
-        }
-        worksheet_.setFocusHeld(false);
-    }
+/// How long a window manager may take to pass the keyboard on after a window has come back.
+constexpr ULONGLONG restingTime = 400;
 
-  private:
-    frmWorksheet& worksheet_;
-    HWND front_;
-    HWND focus_;
-};
+bool userActedSince(DWORD tick) {
+    LASTINPUTINFO last{};
+    last.cbSize = sizeof last;
+    return GetLastInputInfo(&last) != FALSE && static_cast<LONG>(last.dwTime - tick) > 0;
+}
 
 }  // namespace
 
+KeptFocus::KeptFocus(frmWorksheet& worksheet)
+    : worksheet_(worksheet),
+      front_(GetForegroundWindow()),
+      focus_(GetFocus()),
+      begin_(GetTickCount()) {
+    worksheet_.setFocusHeld(true);
+}
+
+KeptFocus::~KeptFocus() {
+    worksheet_.setFocusHeld(false);
+}
+
+bool KeptFocus::giveBack() const {
+    if (userActedSince(begin_)) {
+        return false;
+    }
+    if (IsWindow(focus_) != FALSE && GetFocus() != focus_) {
+        SetForegroundWindow(front_);
+        SetFocus(focus_);
+    }
+    return true;
+}
+
 void ScreenShot::take(frmWorksheet& worksheet) {
+    focus_.emplace(worksheet);
     {
-        const KeptFocus focus(worksheet);
         const OffScreen aside(control_);
         letScreenSettle();
         picture_.emplace(worksheet.rectangle());
     }
-    patientUntil_ = GetTickCount64() + clipboardPatience;
+    focus_->giveBack();
+    const ULONGLONG now = GetTickCount64();
+    restUntil_ = now + restingTime;
+    patientUntil_ = now + clipboardPatience;
+    SetTimer(control_, timer_, clipboardInterval, nullptr);
     deliver();
 }
 
 void ScreenShot::tick() {
+    if (focus_ && (!focus_->giveBack() || GetTickCount64() >= restUntil_)) {
+        focus_.reset();
+    }
     if (picture_) {
         deliver();
-    } else {
+    }
+    if (!focus_ && !picture_) {
         KillTimer(control_, timer_);
     }
 }
@@ -88,15 +104,12 @@ void ScreenShot::deliver() {
         case ScreenPicture::Answer::held:
             if (GetTickCount64() >= patientUntil_) {
                 tell(ShotOutcome::held);
-            } else {
-                SetTimer(control_, timer_, clipboardInterval, nullptr);
             }
             break;
     }
 }
 
 void ScreenShot::tell(ShotOutcome outcome) {
-    KillTimer(control_, timer_);
     const ScreenPicture picture = *std::exchange(picture_, std::nullopt);
     told.raise(shotNote(outcome, picture.size()));
 }

@@ -113,9 +113,18 @@ void frmResizer::checkHole() {
     checking_ = false;
     const bool atRest = IsIconic(handle()) == FALSE && IsZoomed(handle()) == FALSE &&
                         IsIconic(worksheet_.handle()) == FALSE && !unseenDrag_;
-    if (atRest && !worksheet_.MaxSized() &&
-        keeper_.puts(fromRect(worksheet_.rectangle()), hole())) {
-        PositionWorksheet();
+    if (!atRest || worksheet_.MaxSized()) {
+        return;
+    }
+    switch (keeper_.next(fromRect(worksheet_.rectangle()), hole())) {
+        case HoleKeeper::Step::putNow:
+            PositionWorksheet();
+            break;
+        case HoleKeeper::Step::putLater:
+            SetTimer(handle(), tmrSetSize, tmrSetSizeInterval, nullptr);
+            break;
+        case HoleKeeper::Step::rest:
+            break;
     }
 }
 
@@ -331,6 +340,9 @@ void frmResizer::onExitSizeMove() {
 void frmResizer::followUnseen() {
     if (!unseenDrag_) {
         KillTimer(handle(), tmrSetSize);
+        if (isVisible()) {
+            PositionWorksheet();
+        }
     } else if (isVisible()) {
         POINT cursor{};
         GetCursorPos(&cursor);
