@@ -30,6 +30,14 @@ if(ORMALA_FUZZ)
   target_compile_options(ormala_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
+# Neither a path nor a time of this build gets into the program or its symbols.
+if(ORMALA_SHIPPED)
+  target_compile_options(
+    ormala_options INTERFACE "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=."
+                             "-ffile-prefix-map=${PROJECT_BINARY_DIR}=build" -frandom-seed=Ormala)
+  target_link_options(ormala_options INTERFACE -Wl,--no-insert-timestamp)
+endif()
+
 if(WIN32)
   target_compile_definitions(
     ormala_options
