@@ -67,8 +67,10 @@ def opened_page():
 
 
 def added_keys(before, after):
-    """Without the system's own key above that of the program, which is made with the first one."""
-    return set(after) - set(before) - {FOR_USER.rpartition("\\")[0]}
+    """Without what the system makes by itself: notes of Wine's own, and the key above that of the
+    program with the first one in it."""
+    return {key for key in set(after) - set(before)
+            if "\\Software\\Wine\\" not in key and not FOR_USER.startswith(f"{key}\\")}
 
 
 class Stage(unittest.TestCase):
