@@ -66,11 +66,12 @@ Section "un."
   ${IfNot} ${Errors}
     Return
   ${EndIf}
-  Delete "$INSTDIR\Uninstall.exe"
-  RMDir "$INSTDIR"
   Delete "$SMPROGRAMS\Ormala.lnk"
   DeleteRegKey SHCTX "${KEY}"
   ${If} $removesSettings = 1
     Call un.deleteSettings
   ${EndIf}
+  ; Last, so that who waits for it finds all done.
+  Delete "$INSTDIR\Uninstall.exe"
+  RMDir "$INSTDIR"
 SectionEnd

@@ -259,7 +259,7 @@ class Removal(Stage):
     def test_settings_and_what_the_user_put_there_stay(self):
         (self.for_user / "Mine.OM").write_text("mine")
         self.remove(self.for_user)
-        windows.wait_for("the registry's entry gone", lambda: FOR_USER not in windows.registry())
+        self.assertNotIn(FOR_USER, windows.registry())
         self.assertEqual(windows.files_below(self.for_user), {"Mine.OM"})
         self.assertEqual(windows.files_below(self.settings), set(self.OWN + self.OF_PROGRAM))
 
@@ -298,6 +298,23 @@ class Portable(Stage):
         self.assertEqual(opened_page(), windows.windows_path(folder / "help_en.html"))
         self.close(program)
         self.assertEqual(windows.files_below(folder), set(portable_files()))
+
+    def test_the_program_alone_says_that_its_help_is_missing(self):
+        note_opened_pages()
+        windows.system_tool("reg", "delete", OPENED, "/f")
+        folder = windows.DRIVE / "alone"
+        write_files({"Ormala.exe": portable_files()["Ormala.exe"]}, folder)
+        self.addCleanup(shutil.rmtree, folder)
+        program = self.start(folder)
+        message = "^Ormala$"
+        windows.settle(CONTROL_WINDOW)
+        windows.keys("F1")
+        windows.wait_for("a message", lambda: windows.windows_named(message))
+        self.assertTrue(windows.windows_named(f"{CONTROL_WINDOW}Edit$"))
+        self.assertNotIn(OPENED, windows.registry())
+        windows.press_until(message, "Return", "the end of the message",
+                            lambda: not windows.windows_named(message))
+        self.close(program)
 
 
 def run_on_stage():
