@@ -58,6 +58,15 @@ class Signing(unittest.TestCase):
         self.assertIn("Could not make the package", done.stdout)
         self.assertFalse((self.output / "SHA256SUMS").exists())
 
+    def test_a_folder_of_other_things_is_left_alone(self):
+        self.output.mkdir()
+        other = self.output / "letter.txt"
+        other.write_text("mine")
+        done = self.package("")
+        self.assertNotEqual(done.returncode, 0)
+        self.assertIn("holds something else", done.stdout)
+        self.assertTrue(other.exists())
+
     def test_a_command_that_signs_nothing_has_failed(self):
         file = self.folder / "program.exe"
         file.write_bytes(b"program")
