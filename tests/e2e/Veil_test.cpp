@@ -51,6 +51,9 @@ TEST(Veil, AToolOfItsColorIsGoneFromTheScreenInTemplateMode) {
         file.set("Tool 1", "Color", " " + std::to_string(veilColor));
         file.set("Tool 2", "ColorA", " " + std::to_string(veilColor));
         file.set("Tool 2", "ColorB", " 65280");
+        // Their halo has the backdrop's colour.
+        file.set("Tool 2", "LabelsLengthVisible", " 0");
+        file.set("Tool 2", "LabelsAngleVisible", " 0");
         return file;
     }();
     SettingsFile options;
