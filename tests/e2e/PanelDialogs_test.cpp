@@ -295,7 +295,7 @@ TEST_F(PanelDialogs, EscapeInTheListOfRotationsKeepsFieldAndPattern) {
     keyboard::press(VK_DOWN, Modifiers::None, 3);
     keyboard::press(VK_ESCAPE);
     ASSERT_TRUE(waitUntil([&] { return list.send(CB_GETDROPPEDSTATE) == FALSE; }));
-    EXPECT_EQ(list.send(CB_GETCURSEL), 0);
+    EXPECT_TRUE(waitUntil([&] { return list.send(CB_GETCURSEL) == 0; }));
     dialog.leave("cmdOK");
     EXPECT_TRUE(difference(stencilPicture(scene), before).empty());
 }
