@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "scene/ToolControl.h"
-#include "widgets/ToolPanel.h"
+#include "toolkit/ToolPanel.h"
 
 namespace ormala {
 

@@ -5,7 +5,7 @@
 #include "magnifier/LensOptions.h"
 #include "modAPI/colors.h"
 #include "storage/INIFile.h"
-#include "widgets/MeasureUnits.h"
+#include "toolkit/MeasureUnits.h"
 #include "worksheet/BackgroundGrid.h"
 
 namespace ormala {

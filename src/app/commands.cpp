@@ -1,6 +1,6 @@
 #include "app/commands.h"
 
-#include "widgets/PanelDesign.h"
+#include "toolkit/PanelDesign.h"
 
 namespace ormala {
 

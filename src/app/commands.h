@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "app/modes.h"
-#include "widgets/pictures.h"
+#include "pictures/pictures.h"
 
 namespace ormala {
 

@@ -5,7 +5,7 @@
 
 #include "measure/MeasureGrips.h"
 #include "scene/DirtyRegion.h"
-#include "widgets/DragReadOut.h"
+#include "toolkit/DragReadOut.h"
 
 namespace ormala {
 

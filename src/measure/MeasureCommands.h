@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/LookDialogs.h"
+#include "toolkit/LookDialogs.h"
 
 namespace ormala {
 

@@ -5,7 +5,7 @@
 #include "measure/MeasureState.h"
 #include "measure/MeasureTexts.h"
 #include "scene/DirtyRegion.h"
-#include "widgets/ctlLabel.h"
+#include "toolkit/ctlLabel.h"
 
 namespace ormala {
 

@@ -4,6 +4,7 @@
 
 #include "language/MlStringModule.h"
 #include "measure/MeasureReadOuts.h"
+#include "widgets/captionColors.h"
 
 namespace ormala {
 

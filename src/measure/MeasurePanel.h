@@ -3,8 +3,8 @@
 #include "measure/MeasureCommands.h"
 #include "measure/ctlMeasure.h"
 #include "scene/ToolSettings.h"
-#include "widgets/PanelCore.h"
-#include "widgets/toolKeys.h"
+#include "toolkit/PanelCore.h"
+#include "toolkit/toolKeys.h"
 
 namespace ormala {
 

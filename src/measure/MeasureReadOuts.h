@@ -4,8 +4,8 @@
 
 #include "measure/MeasureState.h"
 #include "modAPI/textForms.h"
-#include "widgets/MeasureUnits.h"
-#include "widgets/PanelView.h"
+#include "toolkit/MeasureUnits.h"
+#include "toolkit/PanelView.h"
 
 namespace ormala {
 

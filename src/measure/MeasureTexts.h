@@ -4,7 +4,7 @@
 
 #include "measure/MeasureState.h"
 #include "modAPI/textForms.h"
-#include "widgets/MeasureUnits.h"
+#include "toolkit/MeasureUnits.h"
 
 namespace ormala {
 

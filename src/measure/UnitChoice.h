@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "storage/CodePage.h"
-#include "widgets/MeasureUnits.h"
+#include "toolkit/MeasureUnits.h"
 
 namespace ormala {
 

@@ -10,7 +10,7 @@
 #include "measure/OtherMeasures.h"
 #include "scene/ToolSettings.h"
 #include "storage/StateHistory.h"
-#include "widgets/GripTool.h"
+#include "toolkit/GripTool.h"
 
 namespace ormala {
 

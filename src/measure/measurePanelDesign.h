@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/PanelDesign.h"
+#include "toolkit/PanelDesign.h"
 
 namespace ormala {
 

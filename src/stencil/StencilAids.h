@@ -7,7 +7,7 @@
 #include "scene/DirtyRegion.h"
 #include "scene/ToolControl.h"
 #include "stencil/StencilGrips.h"
-#include "widgets/DragReadOut.h"
+#include "toolkit/DragReadOut.h"
 
 namespace ormala {
 

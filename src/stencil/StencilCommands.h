@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "stencil/StencilState.h"
-#include "widgets/LookDialogs.h"
+#include "toolkit/LookDialogs.h"
 
 namespace ormala {
 

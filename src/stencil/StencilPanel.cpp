@@ -7,6 +7,7 @@
 #include "stencil/PatternTable.h"
 #include "stencil/StencilReadOuts.h"
 #include "stencil/StencilSteps.h"
+#include "widgets/captionColors.h"
 
 namespace ormala {
 

@@ -6,9 +6,9 @@
 #include "stencil/SpecialRatios.h"
 #include "stencil/StencilCommands.h"
 #include "stencil/ctlRatioGrid.h"
-#include "widgets/PanelCore.h"
-#include "widgets/RepeatButton.h"
-#include "widgets/toolKeys.h"
+#include "toolkit/PanelCore.h"
+#include "toolkit/RepeatButton.h"
+#include "toolkit/toolKeys.h"
 
 namespace ormala {
 

@@ -5,7 +5,7 @@
 #include "modAPI/textForms.h"
 #include "stencil/SpecialRatios.h"
 #include "stencil/StencilState.h"
-#include "widgets/PanelView.h"
+#include "toolkit/PanelView.h"
 
 namespace ormala {
 

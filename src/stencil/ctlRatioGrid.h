@@ -10,7 +10,7 @@
 #include "stencil/StencilGrips.h"
 #include "stencil/StencilState.h"
 #include "storage/StateHistory.h"
-#include "widgets/GripTool.h"
+#include "toolkit/GripTool.h"
 
 namespace ormala {
 

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "modAPI/colors.h"
-#include "widgets/PanelView.h"
 
 namespace ormala {
+
+/// The colours of a two-state button.
+inline constexpr Color onColor = rgb(187, 168, 0);
+inline constexpr Color offColor = rgb(112, 112, 112);
 
 /// A button's face and the caption on it, which stands out from every row behind it: the contrast
 /// is at least 4.5 to 1.

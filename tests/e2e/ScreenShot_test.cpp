@@ -98,8 +98,8 @@ TEST(ScreenShot, ChangesNothingOfWhatIsShownAndLeavesTheKeyboardWhereItWas) {
 
 TEST(ScreenShot, TakenWhileTheWorksheetHasTheKeyboardShowsItsToolWithTheFocus) {
     Shot shot(options());
-    ASSERT_TRUE(clickToFront(shot.scene.mouse, shot.scene.worksheet(),
-                             shot.scene.onScreen({200, 200})));
+    ASSERT_TRUE(
+        clickToFront(shot.scene.mouse, shot.scene.worksheet(), shot.scene.onScreen({200, 200})));
     shot.scene.mouse.moveTo(shot.scene.onScreen({20, 20}));
     const Picture before = shot.seen();
     const Picture pasted = shot.take();

@@ -9,7 +9,7 @@
 #include "scene/Input.h"
 #include "stencil/DragTable.h"
 #include "stencil/StencilTexts.h"
-#include "widgets/DragReadOut.h"
+#include "toolkit/DragReadOut.h"
 
 namespace ormala {
 namespace {

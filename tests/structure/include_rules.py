@@ -15,13 +15,15 @@ LEVELS = {
     "storage": 1,
     "scene": 1,
     "platform": 1,
-    "widgets": 2,
-    "stencil": 3,
-    "measure": 3,
-    "worksheet": 4,
-    "magnifier": 4,
-    "dialogs": 5,
-    "app": 6,
+    "pictures": 2,
+    "widgets": 3,
+    "toolkit": 4,
+    "stencil": 5,
+    "measure": 5,
+    "worksheet": 6,
+    "magnifier": 6,
+    "dialogs": 7,
+    "app": 8,
 }
 
 # Folders of one level do not know each other, but for these.

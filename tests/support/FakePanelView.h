@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "widgets/PanelView.h"
+#include "toolkit/PanelView.h"
 
 namespace ormala {
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "language/MlStringModule.h"
-#include "widgets/PanelDesign.h"
+#include "toolkit/PanelDesign.h"
 
 namespace ormala::test {
 

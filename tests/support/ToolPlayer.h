@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "widgets/GripTool.h"
+#include "toolkit/GripTool.h"
 
 namespace ormala {
 

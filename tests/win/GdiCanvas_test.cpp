@@ -6,7 +6,7 @@
 
 #include "modAPI/constants.h"
 #include "stencil/StencilPainter.h"
-#include "widgets/ctlLabel.h"
+#include "toolkit/ctlLabel.h"
 #include "win/TestSheet.h"
 
 namespace ormala {

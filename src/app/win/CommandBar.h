@@ -7,7 +7,7 @@
 #include "app/Documents.h"
 #include "app/settingsLayout.h"
 #include "base/Event.h"
-#include "widgets/win/ButtonGrowth.h"
+#include "toolkit/win/ButtonGrowth.h"
 #include "widgets/win/GradShape.h"
 #include "widgets/win/Label.h"
 #include "widgets/win/ZelvikButtonXP.h"

@@ -11,7 +11,7 @@
 #include "stencil/SpecialRatios.h"
 #include "stencil/StencilCommands.h"
 #include "storage/CodePage.h"
-#include "widgets/MeasureUnits.h"
+#include "toolkit/MeasureUnits.h"
 
 namespace ormala {
 

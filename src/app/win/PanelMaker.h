@@ -6,7 +6,7 @@
 #include "language/clsGlobalEvents.h"
 #include "scene/ToolSettings.h"
 #include "stencil/SpecialRatios.h"
-#include "widgets/win/PanelWindow.h"
+#include "toolkit/win/PanelWindow.h"
 #include "worksheet/Sheet.h"
 
 namespace ormala {

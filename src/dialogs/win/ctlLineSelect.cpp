@@ -2,13 +2,13 @@
 
 #include <oleacc.h>
 
+#include "pictures/linePicture.h"
 #include "platform/win/Accessible.h"
 #include "platform/win/OriginScope.h"
 #include "platform/win/controlName.h"
 #include "platform/win/pixels.h"
 #include "platform/win/regions.h"
 #include "scene/dpi.h"
-#include "widgets/linePicture.h"
 #include "widgets/win/darkColors.h"
 
 namespace ormala {

@@ -3,12 +3,12 @@
 #include <utility>
 
 #include "language/MlStringModule.h"
+#include "pictures/pictures.h"
 #include "platform/win/OriginScope.h"
 #include "platform/win/pixels.h"
 #include "platform/win/regions.h"
 #include "scene/pixelImages.h"
 #include "widgets/dpi.h"
-#include "widgets/pictures.h"
 #include "widgets/win/darkColors.h"
 
 namespace ormala {

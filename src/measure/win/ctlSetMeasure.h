@@ -1,7 +1,7 @@
 #pragma once
 
 #include "measure/MeasurePanel.h"
-#include "widgets/win/PanelWindow.h"
+#include "toolkit/win/PanelWindow.h"
 
 namespace ormala {
 

@@ -8,7 +8,8 @@
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/handles.h"
 #include "platform/win/text.h"
-#include "widgets/PanelView.h"
+#include "toolkit/PanelView.h"
+#include "widgets/captionColors.h"
 #include "widgets/dpi.h"
 
 namespace ormala {

@@ -11,7 +11,8 @@
 #include "platform/win/regions.h"
 #include "stencil/PatternPicture.h"
 #include "stencil/PatternSelectLayout.h"
-#include "widgets/PanelView.h"
+#include "toolkit/PanelView.h"
+#include "widgets/captionColors.h"
 #include "widgets/dpi.h"
 #include "widgets/win/OptionGroup.h"
 

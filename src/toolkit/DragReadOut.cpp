@@ -1,0 +1,40 @@
+#include "toolkit/DragReadOut.h"
+
+#include <cmath>
+#include <utility>
+
+#include "modAPI/textForms.h"
+
+namespace ormala {
+
+namespace {
+
+std::string wholeDown(double value) {
+    return formatNumber(std::floor(value), "0", {});
+}
+
+}  // namespace
+
+DragReadOut::DragReadOut() {
+    label_.setFontSize(readableFontSize);
+}
+
+void DragReadOut::show() {
+    label_.setCaption({});
+    label_.setVisible(true);
+}
+
+void DragReadOut::setText(std::string text, const TextMeter& meter) {
+    label_.setCaption(std::move(text));
+    label_.fit(meter);
+}
+
+void DragReadOut::place(const Point& at, PixelSize sheet, const TextMeter& meter) {
+    PlaceInfoLabel(label_, at, sheet, meter);
+}
+
+std::string moveText(const Point& at) {
+    return "X = " + wholeDown(at.x) + "  Y = " + wholeDown(at.y);
+}
+
+}  // namespace ormala
