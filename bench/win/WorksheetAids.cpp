@@ -16,9 +16,9 @@ constexpr PixelSize largeScreen{3840, 2160};
 constexpr test::milliseconds longerThanTheLimit{25};
 
 double repaint(TestSheet& sheet, const BackgroundGrid& grid) {
-    sheet.window().setGrid(grid);
+    sheet.aids.grid = grid;
     return elapsed([&] {
-        sheet.window().RefreshGrid();
+        sheet.window().aidsChanged();
         GdiFlush();
     });
 }
@@ -49,7 +49,8 @@ void gridRepaint() {
 
 void crossHairMoves() {
     TestSheet sheet(largeScreen);
-    sheet.window().setCrossHairEnabled(true);
+    sheet.aids.crossHair = true;
+    sheet.window().aidsChanged();
     int repaints = 0;
     const Subscription painted = sheet.window().painted.subscribe([&] { ++repaints; });
     std::vector<double> times;

@@ -31,7 +31,7 @@ template <typename AnyOptions, typename Visitor>
 void visitOptions(AnyOptions& options, Visitor&& visitor) {
     visitor("ShowReferenceLines", options.showReferenceLines);
     visitor("TemplateWithBorder", options.templateWithBorder);
-    visitor("CircleCompass", options.circleCompass);
+    visitor("CircleCompass", options.aids.circleCompass);
     visitor("Mode", options.mode);
     visitor("TransparencyEditMode", options.transparencyEditMode);
     visitor("TransparencyTemplateMode", options.transparencyTemplateMode);
@@ -42,15 +42,15 @@ void visitOptions(AnyOptions& options, Visitor&& visitor) {
     visitor("DefaultLengthFactor", options.defaultUnits.LengthFactor);
     visitor("DefaultLengthUnit", options.defaultUnits.LengthUnit);
     visitor("WorksheetColor", options.worksheetColor);
-    visitor("CrossHairEnabled", options.crossHairEnabled);
-    visitor("GridEnabled", options.grid.enabled);
-    visitor("GridStyle", options.grid.style);
-    visitor("GridLineWidth", options.grid.lineWidth);
-    visitor("GridColor", options.grid.color);
-    visitor("GridSizeX", options.grid.steps.stepX);
-    visitor("GridSizeY", options.grid.steps.stepY);
-    visitor("GridOffsetX", options.grid.steps.originX);
-    visitor("GridOffsetY", options.grid.steps.originY);
+    visitor("CrossHairEnabled", options.aids.crossHair);
+    visitor("GridEnabled", options.aids.grid.enabled);
+    visitor("GridStyle", options.aids.grid.style);
+    visitor("GridLineWidth", options.aids.grid.lineWidth);
+    visitor("GridColor", options.aids.grid.color);
+    visitor("GridSizeX", options.aids.grid.steps.stepX);
+    visitor("GridSizeY", options.aids.grid.steps.stepY);
+    visitor("GridOffsetX", options.aids.grid.steps.originX);
+    visitor("GridOffsetY", options.aids.grid.steps.originY);
     visitor("LensVisible", options.lensVisible);
     visitLens(options.lens, visitor);
 }
@@ -103,11 +103,11 @@ void mend(Options& options) {
     if (!(options.defaultUnits.LengthFactor > 0)) {
         options.defaultUnits.LengthFactor = first.defaultUnits.LengthFactor;
     }
-    if (options.grid.steps.stepX < 1) {
-        options.grid.steps.stepX = first.grid.steps.stepX;
+    if (options.aids.grid.steps.stepX < 1) {
+        options.aids.grid.steps.stepX = first.aids.grid.steps.stepX;
     }
-    if (options.grid.steps.stepY < 1) {
-        options.grid.steps.stepY = first.grid.steps.stepY;
+    if (options.aids.grid.steps.stepY < 1) {
+        options.aids.grid.steps.stepY = first.aids.grid.steps.stepY;
     }
     options.lens.factor = std::clamp(options.lens.factor, 1, 10);
 }

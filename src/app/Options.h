@@ -6,7 +6,7 @@
 #include "modAPI/colors.h"
 #include "storage/INIFile.h"
 #include "toolkit/MeasureUnits.h"
-#include "worksheet/BackgroundGrid.h"
+#include "worksheet/AidOptions.h"
 
 namespace ormala {
 
@@ -14,7 +14,6 @@ namespace ormala {
 struct Options {
     bool showReferenceLines = true;
     bool templateWithBorder = false;
-    bool circleCompass = true;
     /// 0 edit, 1 template, 2 pause.
     int mode = 0;
     /// Percent, 0 to 100.
@@ -27,8 +26,7 @@ struct Options {
     /// Of new measuring tools. The file holds the factor as a whole number.
     MeasureUnits defaultUnits;
     Color worksheetColor = 0x4F4F4F;
-    bool crossHairEnabled = false;
-    BackgroundGrid grid;
+    AidOptions aids;
     bool lensVisible = false;
     LensOptions lens;
 

@@ -2,7 +2,7 @@
 
 #include "language/MlStringModule.h"
 #include "magnifier/LensOptions.h"
-#include "worksheet/BackgroundGrid.h"
+#include "worksheet/AidOptions.h"
 
 namespace ormala {
 

@@ -21,6 +21,9 @@ constexpr int middle = 4;
 namespace key {
 constexpr int tab = 9;
 constexpr int enter = 13;
+constexpr int shift = 16;
+constexpr int ctrl = 17;
+constexpr int alt = 18;
 constexpr int space = 32;
 constexpr int pageUp = 33;
 constexpr int pageDown = 34;

@@ -14,13 +14,6 @@ namespace ormala {
 /// further away than a hand trembles.
 class CircleCompass {
   public:
-    struct Radii {
-        int outer = 0;
-        int inner = 0;
-
-        bool operator==(const Radii&) const = default;
-    };
-
     /// The left button starts; any other one hides. `background` is the worksheet's plain colour.
     void press(const MouseInput& input, Color background);
     /// `input.button` has all buttons that are held.
@@ -29,13 +22,16 @@ class CircleCompass {
     /// The mouse was taken away, or does not reach the worksheet any more.
     void lost();
 
-    /// None while nothing is to be seen.
-    [[nodiscard]] const std::optional<Radii>& shown() const { return shown_; }
     void draw(Canvas& canvas) const;
     /// The pixels that look different since the last call.
     [[nodiscard]] DirtyRegion takeChanges();
 
   private:
+    struct Radii {
+        int outer = 0;
+        int inner = 0;
+    };
+
     [[nodiscard]] Radii radiiTo(const MouseInput& input) const;
     [[nodiscard]] PixelRect circle(int radius) const;
     [[nodiscard]] PixelRect centerMark() const;
@@ -45,6 +41,7 @@ class CircleCompass {
     PixelPoint center_;
     Color circleColor_ = 0;
     Color centerColor_ = 0;
+    /// None while nothing is to be seen.
     std::optional<Radii> shown_;
     DirtyRegion changed_;
 };

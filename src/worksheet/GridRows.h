@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "scene/PixelRect.h"
-#include "worksheet/BackgroundGrid.h"
+#include "worksheet/AidOptions.h"
 
 namespace ormala {
 

@@ -5,10 +5,6 @@
 
 namespace ormala {
 
-const Sheet::Elements& Sheet::elements(ToolKind kind) const {
-    return arrays_[static_cast<std::size_t>(kind)];
-}
-
 Sheet::Elements& Sheet::elements(ToolKind kind) {
     return arrays_[static_cast<std::size_t>(kind)];
 }
@@ -68,10 +64,6 @@ OverlayItem* Sheet::GetFirstControl(int kind) const {
     return arrays_[static_cast<std::size_t>(kind)].front().item.get();
 }
 
-int Sheet::count(ToolKind kind) const {
-    return static_cast<int>(elements(kind).size());
-}
-
 void Sheet::RemoveControl(const OverlayItem& item) {
     for (Elements& array : arrays_) {
         const auto at = std::ranges::find_if(
@@ -93,6 +85,7 @@ void Sheet::withdraw(const OverlayItem& item) {
         focused_->control().LoseFocus();
         focused_ = nullptr;
     }
+    host_.showTip(item, 0);
     withdrawn.raise(item);
 }
 
@@ -195,6 +188,9 @@ void Sheet::focusArrives(OverlayItem& item) {
 }
 
 void Sheet::windowGotFocus() {
+    if (focusHeld_) {
+        return;
+    }
     windowFocused_ = true;
     if (focused_ == nullptr) {
         const auto visible = visibleInArrayOrder();
@@ -206,9 +202,24 @@ void Sheet::windowGotFocus() {
 }
 
 void Sheet::windowLostFocus() {
+    if (focusHeld_) {
+        return;
+    }
     windowFocused_ = false;
     if (focused_ != nullptr) {
         focused_->control().LoseFocus();
+    }
+}
+
+void Sheet::setFocusHeld(bool held, bool windowHasFocus) {
+    focusHeld_ = held;
+    if (windowHasFocus == windowFocused_) {
+        return;
+    }
+    if (windowHasFocus) {
+        windowGotFocus();
+    } else {
+        windowLostFocus();
     }
 }
 

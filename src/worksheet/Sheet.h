@@ -51,7 +51,6 @@ class Sheet {
     void RemoveControl(const OverlayItem& item);
     /// Element 0 of that kind, null for another kind.
     [[nodiscard]] OverlayItem* GetFirstControl(int kind) const;
-    [[nodiscard]] int count(ToolKind kind) const;
 
     void setVisible(const OverlayItem& item, bool visible);
     [[nodiscard]] bool isVisible(const OverlayItem& item) const;
@@ -70,10 +69,13 @@ class Sheet {
     /// The window got or lost the focus; it keeps which tool had it.
     void windowGotFocus();
     void windowLostFocus();
+    /// Meanwhile the tools learn of neither; at the end they learn who has it then.
+    void setFocusHeld(bool held, bool windowHasFocus);
     [[nodiscard]] OverlayItem* focused() const { return focused_; }
 
     /// Tells every tool whether the worksheet takes the mouse.
     void setEditMode(bool editMode);
+    [[nodiscard]] bool EditMode() const { return editMode_; }
     void resize(PixelSize size);
     [[nodiscard]] PixelSize size() const { return size_; }
 
@@ -93,7 +95,6 @@ class Sheet {
     using Elements = std::vector<Element>;
 
     OverlayItem* add(ToolKind kind, bool visible, std::optional<ToolChanges>& changes);
-    [[nodiscard]] const Elements& elements(ToolKind kind) const;
     [[nodiscard]] Elements& elements(ToolKind kind);
     [[nodiscard]] const Element* find(const OverlayItem& item) const;
     void focusArrives(OverlayItem& item);
@@ -110,6 +111,7 @@ class Sheet {
     OverlayItem* focused_ = nullptr;
     bool editMode_ = false;
     bool windowFocused_ = false;
+    bool focusHeld_ = false;
     PixelSize size_;
 };
 

@@ -4,8 +4,22 @@
 
 namespace ormala {
 
-SheetMouse::SheetMouse(Sheet& sheet)
+namespace {
+
+/// Seconds between two looks at a mouse that is outside the worksheet.
+constexpr float outsideInterval = 0.1F;
+
+bool isModifier(int key) {
+    return key == key::shift || key == key::ctrl || key == key::alt;
+}
+
+}  // namespace
+
+SheetMouse::SheetMouse(Sheet& sheet, Aids& aids, MousePort& port)
     : sheet_(sheet),
+      aids_(aids),
+      port_(port),
+      outsideLooks_(outsideInterval),
       withdrawn_(sheet.withdrawn.subscribe([this](const OverlayItem& item) { forget(item); })) {}
 
 OverlayItem* SheetMouse::itemAt(const MouseInput& input) const {
@@ -31,7 +45,7 @@ void SheetMouse::BroadcastMouseMove(const MouseInput& input, const MouseSource& 
             item->control().GlobalMouseMove(input, source);
         }
     }
-    broadcast.raise();
+    aids_.UpdateCrossHair();
 }
 
 void SheetMouse::press(const MouseInput& input) {
@@ -39,7 +53,7 @@ void SheetMouse::press(const MouseInput& input) {
     OverlayItem* item = holding() ? holder_ : itemAt(input);
     if (item == nullptr) {
         background_ = true;
-        backgroundDown.raise(input);
+        aids_.press(input);
         return;
     }
     holder_ = item;
@@ -57,7 +71,7 @@ void SheetMouse::move(const MouseInput& input) {
     if (item != nullptr) {
         item->mouseMove(input, source);
     } else {
-        backgroundMove.raise(input);
+        aids_.move(input);
     }
     if (input.button == mouseButton::none) {
         // Also after a release that fell where no event came from.
@@ -73,9 +87,17 @@ void SheetMouse::release(const MouseInput& input, int stillHeld) {
     }
     if (item != nullptr) {
         item->mouseUp(input, sourceOf(item));
-        toolUp.raise();
+        port_.raiseLens(true);
     } else {
-        backgroundUp.raise(input);
+        releaseOnBackground(input);
+    }
+}
+
+void SheetMouse::releaseOnBackground(const MouseInput& input) {
+    aids_.release(input);
+    port_.raiseControlWindow();
+    if (input.button == mouseButton::right) {
+        port_.ShowContextMenu();
     }
 }
 
@@ -84,24 +106,42 @@ void SheetMouse::lost() {
     letGo();
     if (item != nullptr) {
         item->mouseUp({}, sourceOf(item));
-        toolUp.raise();
+        port_.raiseLens(true);
     } else {
-        backgroundLost.raise();
+        aids_.lost();
     }
 }
 
-void SheetMouse::modifiersHeld(int shift) {
-    if (holding() && shift != last_.shift) {
+bool SheetMouse::keyChanged(int key, int shift) {
+    if (!isModifier(key) || !holding()) {
+        return false;
+    }
+    if (shift != last_.shift) {
         MouseInput again = last_;
         again.shift = shift;
         move(again);
     }
+    return true;
 }
 
-void SheetMouse::outside(float x, float y, bool heldByOther) {
+void SheetMouse::tick() {
+    if (sheet_.EditMode() && outsideLooks_.due(port_.now())) {
+        lookOutside();
+    }
+    aids_.tick();
+}
+
+void SheetMouse::lookOutside() {
+    const Pointer pointer = port_.pointer();
+    if (pointer.worksheet.contains(pointer.at)) {
+        return;
+    }
     MouseSource source = sourceOf(nullptr);
-    source.heldByOther = source.heldByOther || heldByOther;
-    BroadcastMouseMove({mouseButton::none, 0, x, y}, source);
+    source.heldByOther = background_ || (pointer.held && !holding());
+    BroadcastMouseMove(
+        {mouseButton::none, 0, static_cast<float>(pointer.at.x - pointer.worksheet.left),
+         static_cast<float>(pointer.at.y - pointer.worksheet.top)},
+        source);
 }
 
 void SheetMouse::forget(const OverlayItem& item) {

@@ -8,20 +8,26 @@ namespace ormala {
 
 namespace {
 
+/// Extended styles of the system.
+constexpr std::uint32_t topmost = 0x8;
+constexpr std::uint32_t passesMouse = 0x20;
 constexpr std::uint32_t layered = 0x80000;
-constexpr std::uint32_t transparentToMouse = 0x20;
+constexpr std::uint32_t takesNoKeyboard = 0x08000000;
+
 constexpr std::uint32_t noKey = 0xFFFFFFFF;
 constexpr std::uint32_t byKey = 1;
 constexpr std::uint32_t byAlpha = 2;
 
 }  // namespace
 
-LayeredLook layeredLook(bool clickable, Color background, int alpha, int clickAlpha) {
-    if (clickable) {
-        return {layered, noKey, clickAlpha, byAlpha};
+LayeredLook layeredLook(const Transparency& transparency, Color background) {
+    if (transparency.clickable) {
+        const std::uint32_t mouse = transparency.transparentToMouse ? passesMouse : 0;
+        return {topmost | layered | mouse, noKey, transparency.clickAlpha, byAlpha};
     }
-    return {layered | transparentToMouse, static_cast<std::uint32_t>(background), alpha,
-            byKey | byAlpha};
+    // Without the mouse it obeys no keys either, and must not take them from who does.
+    return {topmost | layered | passesMouse | takesNoKeyboard,
+            static_cast<std::uint32_t>(background), transparency.alpha, byKey | byAlpha};
 }
 
 int alphaOfTransparency(int percent) {

@@ -8,7 +8,7 @@ namespace ormala {
 
 /// How the worksheet's window is layered.
 struct LayeredLook {
-    /// Extended style bits: layered, and transparent to the mouse or not.
+    /// All of its extended style.
     std::uint32_t extendedStyle = 0;
     std::uint32_t colorKey = 0;
     int alpha = 255;
@@ -18,9 +18,20 @@ struct LayeredLook {
     bool operator==(const LayeredLook&) const = default;
 };
 
-/// A window that takes the mouse is a veil of one opacity; one that passes it on shows only what is
-/// not of the background's colour. `background` is a plain colour, no system colour.
-LayeredLook layeredLook(bool clickable, Color background, int alpha, int clickAlpha);
+/// What decides that. A window that takes the mouse is a veil of one opacity; one that passes it on
+/// shows only what is not of the background's colour.
+struct Transparency {
+    /// It takes the mouse.
+    bool clickable = false;
+    /// Every click falls through all the same; nothing that is seen changes.
+    bool transparentToMouse = false;
+    /// Opacities, 0 to 255: while it passes the mouse on, and while it takes it.
+    int alpha = 255;
+    int clickAlpha = 255;
+};
+
+/// `background` is a plain colour, no system colour.
+LayeredLook layeredLook(const Transparency& transparency, Color background);
 
 /// From a slider's transparency in percent, 100 being fully gone, to an opacity of 0 to 255.
 int alphaOfTransparency(int percent);

@@ -28,7 +28,7 @@ void PrintTo(const KeyCase& keyCase, std::ostream* out) {
 const KeyCase keyCases[] = {
     {"ShowReferenceLines", " 0", [](Options& o) { o.showReferenceLines = false; }},
     {"TemplateWithBorder", "-1", [](Options& o) { o.templateWithBorder = true; }},
-    {"CircleCompass", " 0", [](Options& o) { o.circleCompass = false; }},
+    {"CircleCompass", " 0", [](Options& o) { o.aids.circleCompass = false; }},
     {"Mode", " 2", [](Options& o) { o.mode = 2; }},
     {"TransparencyEditMode", " 30", [](Options& o) { o.transparencyEditMode = 30; }},
     {"TransparencyTemplateMode", " 100", [](Options& o) { o.transparencyTemplateMode = 100; }},
@@ -39,15 +39,15 @@ const KeyCase keyCases[] = {
     {"DefaultLengthFactor", " 12", [](Options& o) { o.defaultUnits.LengthFactor = 12; }},
     {"DefaultLengthUnit", "\xB5m", [](Options& o) { o.defaultUnits.LengthUnit = "\u00b5m"; }},
     {"WorksheetColor", " 16711680", [](Options& o) { o.worksheetColor = rgb(0, 0, 255); }},
-    {"CrossHairEnabled", "-1", [](Options& o) { o.crossHairEnabled = true; }},
-    {"GridEnabled", "-1", [](Options& o) { o.grid.enabled = true; }},
-    {"GridStyle", " 1", [](Options& o) { o.grid.style = 1; }},
-    {"GridLineWidth", " 0", [](Options& o) { o.grid.lineWidth = 0; }},
-    {"GridColor", " 255", [](Options& o) { o.grid.color = rgb(255, 0, 0); }},
-    {"GridSizeX", " 1", [](Options& o) { o.grid.steps.stepX = 1; }},
-    {"GridSizeY", " 75", [](Options& o) { o.grid.steps.stepY = 75; }},
-    {"GridOffsetX", "-20", [](Options& o) { o.grid.steps.originX = -20; }},
-    {"GridOffsetY", " 33", [](Options& o) { o.grid.steps.originY = 33; }},
+    {"CrossHairEnabled", "-1", [](Options& o) { o.aids.crossHair = true; }},
+    {"GridEnabled", "-1", [](Options& o) { o.aids.grid.enabled = true; }},
+    {"GridStyle", " 1", [](Options& o) { o.aids.grid.style = 1; }},
+    {"GridLineWidth", " 0", [](Options& o) { o.aids.grid.lineWidth = 0; }},
+    {"GridColor", " 255", [](Options& o) { o.aids.grid.color = rgb(255, 0, 0); }},
+    {"GridSizeX", " 1", [](Options& o) { o.aids.grid.steps.stepX = 1; }},
+    {"GridSizeY", " 75", [](Options& o) { o.aids.grid.steps.stepY = 75; }},
+    {"GridOffsetX", "-20", [](Options& o) { o.aids.grid.steps.originX = -20; }},
+    {"GridOffsetY", " 33", [](Options& o) { o.aids.grid.steps.originY = 33; }},
     {"LensVisible", "-1", [](Options& o) { o.lensVisible = true; }},
     {"LensFactor", " 10", [](Options& o) { o.lens.factor = 10; }},
     {"LensSticked", "-1", [](Options& o) { o.lens.sticked = true; }},
@@ -157,16 +157,16 @@ TEST_F(OptionsTest, ALengthFactorWithAFractionComesBackAsTheNearestWholeNumber) 
 }
 
 TEST_F(OptionsTest, AnyNumberButZeroReadsAsTrue) {
-    EXPECT_TRUE(readOne("GridEnabled", " 1").grid.enabled);
-    EXPECT_TRUE(readOne("GridEnabled", "-7").grid.enabled);
-    EXPECT_FALSE(readOne("GridEnabled", " 0").grid.enabled);
+    EXPECT_TRUE(readOne("GridEnabled", " 1").aids.grid.enabled);
+    EXPECT_TRUE(readOne("GridEnabled", "-7").aids.grid.enabled);
+    EXPECT_FALSE(readOne("GridEnabled", " 0").aids.grid.enabled);
 }
 
 TEST_F(OptionsTest, ATextReadsAsZero) {
-    EXPECT_FALSE(readOne("CircleCompass", "yes").circleCompass);
+    EXPECT_FALSE(readOne("CircleCompass", "yes").aids.circleCompass);
     EXPECT_EQ(readOne("TransparencyEditMode", "much").transparencyEditMode, 0);
-    EXPECT_EQ(readOne("GridColor", "red").grid.color, 0);
-    EXPECT_EQ(readOne("GridOffsetX", "left").grid.steps.originX, 0);
+    EXPECT_EQ(readOne("GridColor", "red").aids.grid.color, 0);
+    EXPECT_EQ(readOne("GridOffsetX", "left").aids.grid.steps.originX, 0);
 }
 
 TEST_F(OptionsTest, AnEmptyValueGivesTheDefaultAndLeavesAMessage) {
@@ -185,7 +185,7 @@ TEST_F(OptionsTest, AUnitMayBeEmpty) {
 }
 
 TEST_F(OptionsTest, ANumberOutsideTheRangeGivesTheDefaultAndLeavesAMessage) {
-    EXPECT_EQ(readOne("GridSizeX", "99999999999").grid.steps.stepX, 50);
+    EXPECT_EQ(readOne("GridSizeX", "99999999999").aids.grid.steps.stepX, 50);
     EXPECT_NE(file_.LastError(), "");
     EXPECT_EQ(readOne("EditModeFormHeight", "1E999").editModeFormHeight, 0);
     EXPECT_NE(file_.LastError(), "");
@@ -206,11 +206,11 @@ TEST_F(OptionsTest, ATransparencyStaysAPercentage) {
 }
 
 TEST_F(OptionsTest, AGridWithoutAStepGetsTheFirstOne) {
-    EXPECT_EQ(readOne("GridSizeX", " 0").grid.steps.stepX, 50);
-    EXPECT_EQ(readOne("GridSizeX", "-5").grid.steps.stepX, 50);
-    EXPECT_EQ(readOne("GridSizeY", " 0").grid.steps.stepY, 50);
-    EXPECT_EQ(readOne("GridSizeY", "word").grid.steps.stepY, 50);
-    EXPECT_EQ(readOne("GridSizeY", " .4").grid.steps.stepY, 50);
+    EXPECT_EQ(readOne("GridSizeX", " 0").aids.grid.steps.stepX, 50);
+    EXPECT_EQ(readOne("GridSizeX", "-5").aids.grid.steps.stepX, 50);
+    EXPECT_EQ(readOne("GridSizeY", " 0").aids.grid.steps.stepY, 50);
+    EXPECT_EQ(readOne("GridSizeY", "word").aids.grid.steps.stepY, 50);
+    EXPECT_EQ(readOne("GridSizeY", " .4").aids.grid.steps.stepY, 50);
 }
 
 TEST_F(OptionsTest, ALengthFactorThatIsNotPositiveBecomesOne) {
@@ -225,8 +225,8 @@ TEST_F(OptionsTest, AMagnificationStaysBetweenOneAndTen) {
 }
 
 TEST_F(OptionsTest, FractionsAreRounded) {
-    EXPECT_EQ(readOne("GridSizeX", " 12.5").grid.steps.stepX, 13);
-    EXPECT_EQ(readOne("GridOffsetX", "-12.5").grid.steps.originX, -13);
+    EXPECT_EQ(readOne("GridSizeX", " 12.5").aids.grid.steps.stepX, 13);
+    EXPECT_EQ(readOne("GridOffsetX", "-12.5").aids.grid.steps.originX, -13);
 }
 
 TEST_F(OptionsTest, WritingKeepsWhatItDoesNotKnow) {

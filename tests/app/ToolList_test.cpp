@@ -114,14 +114,14 @@ TEST_F(ToolListTest, RemovingTheFirstToolAndAddingOneReusesItAndRestartsItsColou
     const Color first = stage_.stencil(0).Color();
     const ToolPanel* panel = &stage_.stencil(0);
     const OverlayItem* tool = &stage_.stencil(0).RefControlControl();
-    const int count = stage_.sheet.count(ToolKind::stencil);
+    const std::size_t count = stage_.sheet.zOrder().size();
     list_.RemovePanel(*panel);
     EXPECT_EQ(stage_.kinds(), "M");
     StencilPanel& again = stage_.addStencil();
     EXPECT_EQ(&again, panel);
     EXPECT_EQ(&again.RefControlControl(), tool);
     EXPECT_EQ(again.Color(), first);
-    EXPECT_EQ(stage_.sheet.count(ToolKind::stencil), count);
+    EXPECT_EQ(stage_.sheet.zOrder().size(), count);
     EXPECT_TRUE(toolVisible(again));
 }
 
@@ -289,7 +289,7 @@ TEST_F(ToolListTest, ThePanelsDeleteKeyRemovesItsTool) {
     StencilPanel& added = stage_.addStencil();
     added.RefControl().keyDown(key::remove, 0);
     EXPECT_EQ(stage_.kinds(), "SM");
-    EXPECT_EQ(stage_.sheet.count(ToolKind::stencil), 1);
+    EXPECT_EQ(stage_.sheet.zOrder().size(), 2U);
 }
 
 TEST_F(ToolListTest, RemovingAPanelThatIsNotInTheListDoesNothing) {

@@ -3,7 +3,7 @@
 #include "app/Options.h"
 #include "dialogs/palettes.h"
 #include "modAPI/colors.h"
-#include "worksheet/BackgroundGrid.h"
+#include "worksheet/AidOptions.h"
 
 namespace ormala {
 namespace {
@@ -29,7 +29,7 @@ TEST(FirstColors, TheColorsOfToolsWithoutAnyInTheirFileAreFieldsToo) {
 TEST(FirstColors, ThoseOfGridAndMagnifierAreFieldsToo) {
     const Options options;
     for (const Color color :
-         {options.grid.color, options.lens.hotSpotColor, options.lens.gridColor}) {
+         {options.aids.grid.color, options.lens.hotSpotColor, options.lens.gridColor}) {
         EXPECT_TRUE(paletteOf(palette::hues).holds(color)) << std::hex << color;
     }
 }

@@ -66,7 +66,7 @@ class SettingsRun {
         options.editModeFormHeight = variant == 0 ? 0 : 12345;
         options.defaultUnits.LengthUnit = variant == 0 ? "m" : "inches";
         options.worksheetColor = variant == 0 ? 0 : 0xFFFFFF;
-        options.grid.enabled = variant != 0;
+        options.aids.grid.enabled = variant != 0;
         options.lens.factor = variant == 0 ? 10 : 2;
         return options;
     }

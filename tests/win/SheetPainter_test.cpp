@@ -15,10 +15,7 @@ void expectSameAsPaintedAnew(TestSheet& sheet) {
     const HWND window = sheet.window().handle();
     UpdateWindow(window);
     const PixelMap step = readClient(window);
-    // A change of the background and back draws both layers anew.
-    sheet.window().setBackground(RGB(1, 1, 1));
-    sheet.window().setBackground(RGB(79, 79, 79));
-    UpdateWindow(window);
+    sheet.paintAnew();
     EXPECT_EQ(step, readClient(window));
 }
 

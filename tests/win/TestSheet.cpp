@@ -6,6 +6,8 @@ namespace ormala {
 
 namespace {
 
+constexpr COLORREF ground = RGB(79, 79, 79);
+
 SpecialRatios makeRatios() {
     MlSetLanguage(languageEnglish, {});
     return SpecialRatios([](int id, std::string_view text) { return MlString(id, text); }, {});
@@ -46,10 +48,11 @@ PixelMap readClient(HWND window) {
 }
 
 TestSheet::TestSheet(PixelSize size) : ratios_(makeRatios()) {
-    window_ = std::make_unique<frmWorksheet>(maker_, foreground_, commands);
-    window_->setBackground(RGB(79, 79, 79));
+    window_ = std::make_unique<frmWorksheet>(maker_, foreground_, commands, aids);
+    window_->setBackground(ground);
     window_->setClickAlpha(191);
     window_->setMaxSized(false);
+    window_->show();
     SetWindowPos(window_->handle(), nullptr, 20, 20, size.width, size.height, SWP_NOZORDER);
     window_->setClickable(true);
 }
@@ -62,6 +65,13 @@ ctlRatioGrid& TestSheet::addStencil(const Rect& rect, double angle, Color color)
     stencil.History().Add(true);
     UpdateWindow(window_->handle());
     return stencil;
+}
+
+void TestSheet::paintAnew() {
+    // A change of the background and back draws both layers.
+    window_->setBackground(RGB(1, 1, 1));
+    window_->setBackground(ground);
+    UpdateWindow(window_->handle());
 }
 
 void TestSheet::mouse(UINT message, WPARAM buttons, int x, int y) {

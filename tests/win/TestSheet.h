@@ -66,8 +66,12 @@ class TestSheet {
     void mouse(UINT message, WPARAM buttons, int x, int y);
     void drag(int fromX, int fromY, int toX, int toY, int steps);
 
+    /// Draws everything anew.
+    void paintAnew();
+
     NotedCommands commands;
     ToolSettings settings;
+    AidOptions aids{{}, false, false};
 
   private:
     SpecialRatios ratios_;

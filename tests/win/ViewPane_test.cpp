@@ -77,14 +77,34 @@ TEST_F(ViewPaneTest, ButtonsAndMenuNeverDisagree) {
     }
 }
 
+int crossHairsShown(HWND worksheet) {
+    int shown = 0;
+    HWND line = nullptr;
+    while ((line = FindWindowExW(nullptr, line, L"frmCrossHair", nullptr)) != nullptr) {
+        const bool own = GetWindow(line, GW_OWNER) == worksheet;
+        shown += own && IsWindowVisible(line) != FALSE ? 1 : 0;
+    }
+    return shown;
+}
+
 TEST_F(ViewPaneTest, TogglesReachTheirOwners) {
+    const HWND worksheet = settings_.worksheet().handle();
+    int paints = 0;
+    const Subscription painted = settings_.worksheet().painted.subscribe([&] { ++paints; });
     view_.SetGrid(true);
-    EXPECT_TRUE(settings_.worksheet().GridEnabled());
-    view_.SetCrossHair(true);
-    EXPECT_TRUE(settings_.worksheet().CrossHairEnabled());
+    EXPECT_TRUE(view_.optionValues().grid.enabled);
+    EXPECT_EQ(paints, 1);
+    const RECT place = settings_.worksheet().rectangle();
+    EXPECT_TRUE(test::waitUntil([&] {
+        SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+        view_.SetCrossHair(true);
+        return crossHairsShown(worksheet) == 2;
+    }));
+    view_.SetCrossHair(false);
+    EXPECT_EQ(crossHairsShown(worksheet), 0);
     view_.SetLens(true);
     EXPECT_TRUE(view_.lens().lens().isVisible());
-    EXPECT_EQ(GetWindow(view_.lens().lens().handle(), GW_OWNER), settings_.worksheet().handle());
+    EXPECT_EQ(GetWindow(view_.lens().lens().handle(), GW_OWNER), worksheet);
     view_.SetLens(false);
     EXPECT_FALSE(view_.lens().lens().isVisible());
 }
@@ -136,7 +156,7 @@ TEST_F(ViewPaneTest, TheMenuOffersEachStateOfTheWorksheetOnlyFromTheOther) {
     EXPECT_TRUE(view_.menu().isEnabled(MenuEntry::mnuWindowNormal));
 }
 
-TEST_F(ViewPaneTest, OptionsThatAreAsTheyWereChangeNoLanguageAndRedrawTheGrid) {
+TEST_F(ViewPaneTest, OptionsThatAreAsTheyWereChangeNoLanguageAndOnlyAnotherGridIsDrawn) {
     OptionsPort& port = view_;
     int changes = 0;
     const Subscription listening =
@@ -145,10 +165,14 @@ TEST_F(ViewPaneTest, OptionsThatAreAsTheyWereChangeNoLanguageAndRedrawTheGrid) {
     const Subscription painting = settings_.worksheet().painted.subscribe([&paints] { ++paints; });
     UpdateWindow(settings_.worksheet().handle());
     paints = 0;
-    const OptionValues values = port.optionValues();
+    OptionValues values = port.optionValues();
     port.applyOptions(values);
     EXPECT_EQ(changes, 0);
-    EXPECT_GT(paints, 0);
+    EXPECT_EQ(paints, 0);
+    EXPECT_EQ(port.optionValues(), values);
+    values.grid.enabled = true;
+    port.applyOptions(values);
+    EXPECT_EQ(paints, 1);
     EXPECT_EQ(port.optionValues(), values);
 }
 

@@ -33,6 +33,10 @@ class frmCrossHairTest : public testing::Test {
   protected:
     frmCrossHairTest() { moveCursor(sheet_.left + 200, sheet_.top + 100); }
 
+    void enable(bool enabled) {
+        test_.aids.crossHair = enabled;
+        worksheet_.aidsChanged();
+    }
     static void moveCursor(int x, int y) {
         EXPECT_TRUE(test::waitUntil([&] {
             SetCursorPos(x, y);
@@ -57,13 +61,12 @@ class frmCrossHairTest : public testing::Test {
 TEST_F(frmCrossHairTest, HasTwoLinesThatStayHiddenUntilTheyAreEnabled) {
     ASSERT_NE(x_, nullptr);
     ASSERT_NE(y_, nullptr);
-    EXPECT_FALSE(worksheet_.CrossHairEnabled());
     EXPECT_FALSE(visible(x_));
     EXPECT_FALSE(visible(y_));
 }
 
 TEST_F(frmCrossHairTest, NeverTakesAClickAndIsFaintAndTopmost) {
-    worksheet_.setCrossHairEnabled(true);
+    enable(true);
     for (const HWND line : {x_, y_}) {
         const auto style = static_cast<DWORD>(GetWindowLongPtrW(line, GWL_EXSTYLE));
         constexpr DWORD layeredAndTransparent = 0x80020;
@@ -81,7 +84,7 @@ TEST_F(frmCrossHairTest, NeverTakesAClickAndIsFaintAndTopmost) {
 }
 
 TEST_F(frmCrossHairTest, IsBlackAllOver) {
-    worksheet_.setCrossHairEnabled(true);
+    enable(true);
     for (const HWND line : {x_, y_}) {
         UpdateWindow(line);
         const PixelMap map = readClient(line);
@@ -90,7 +93,7 @@ TEST_F(frmCrossHairTest, IsBlackAllOver) {
 }
 
 TEST_F(frmCrossHairTest, LinesAreOnePixelWideAndCrossAtTheCursor) {
-    worksheet_.setCrossHairEnabled(true);
+    enable(true);
     const int x = sheet_.left + 200;
     const int y = sheet_.top + 100;
     EXPECT_EQ(placeOf(x_), (PixelRect{sheet_.left, y, sheet_.right, y + 1}));
@@ -100,7 +103,7 @@ TEST_F(frmCrossHairTest, LinesAreOnePixelWideAndCrossAtTheCursor) {
 }
 
 TEST_F(frmCrossHairTest, FollowsTheMouseToItsLastPlaceHoweverFastItMoved) {
-    worksheet_.setCrossHairEnabled(true);
+    enable(true);
     for (int step = 0; step <= 10; ++step) {
         const int x = sheet_.left + 210 + step;
         moveCursor(x, sheet_.top + 120);
@@ -112,7 +115,7 @@ TEST_F(frmCrossHairTest, FollowsTheMouseToItsLastPlaceHoweverFastItMoved) {
 }
 
 TEST_F(frmCrossHairTest, AboveTheSheetButWithinItsWidthTheVerticalLineStays) {
-    worksheet_.setCrossHairEnabled(true);
+    enable(true);
     moveCursor(sheet_.left + 250, sheet_.top - 10);
     EXPECT_TRUE(test::waitUntil([&] { return !visible(x_); }));
     EXPECT_TRUE(
@@ -123,7 +126,7 @@ TEST_F(frmCrossHairTest, AboveTheSheetButWithinItsWidthTheVerticalLineStays) {
 }
 
 TEST_F(frmCrossHairTest, ExistsInEditModeOnly) {
-    worksheet_.setCrossHairEnabled(true);
+    enable(true);
     worksheet_.setClickable(false);
     EXPECT_FALSE(visible(x_));
     EXPECT_FALSE(visible(y_));
@@ -133,13 +136,23 @@ TEST_F(frmCrossHairTest, ExistsInEditModeOnly) {
     worksheet_.setClickable(true);
     EXPECT_TRUE(visible(x_));
     EXPECT_TRUE(visible(y_));
-    worksheet_.setCrossHairEnabled(false);
+    enable(false);
     EXPECT_FALSE(visible(x_));
     EXPECT_FALSE(visible(y_));
 }
 
+TEST_F(frmCrossHairTest, IsSetAsideForAScreenShot) {
+    enable(true);
+    worksheet_.setAidsAside(true);
+    EXPECT_FALSE(visible(x_));
+    EXPECT_FALSE(visible(y_));
+    worksheet_.setAidsAside(false);
+    EXPECT_TRUE(visible(x_));
+    EXPECT_TRUE(visible(y_));
+}
+
 TEST_F(frmCrossHairTest, AMoveRepaintsNothingOfTheWorksheet) {
-    worksheet_.setCrossHairEnabled(true);
+    enable(true);
     test::pause(test::milliseconds{50});
     int paints = 0;
     const Subscription painted = worksheet_.painted.subscribe([&] { ++paints; });
@@ -154,7 +167,7 @@ TEST_F(frmCrossHairTest, AMoveRepaintsNothingOfTheWorksheet) {
 }
 
 TEST_F(frmCrossHairTest, LiesAboveTheWorksheetAfterAPressOnTheBackground) {
-    worksheet_.setCrossHairEnabled(true);
+    enable(true);
     test_.drag(50, 60, 55, 60, 2);
     HWND above = GetWindow(worksheet_.handle(), GW_HWNDPREV);
     while (above != nullptr && above != x_) {

@@ -22,8 +22,8 @@ BackgroundGrid gridOf(int style, int lineWidth, const Grid& steps = {50, 40, 7, 
 }
 
 void showGrid(TestSheet& sheet, const BackgroundGrid& grid) {
-    sheet.window().setGrid(grid);
-    sheet.window().RefreshGrid();
+    sheet.aids.grid = grid;
+    sheet.window().aidsChanged();
 }
 
 PixelMap shown(TestSheet& sheet) {
@@ -79,15 +79,12 @@ TEST(WorksheetGrid, PointsStandOnTheCrossings) {
     EXPECT_EQ(count(map, gridColor), 13 * 12);
 }
 
-TEST(WorksheetGrid, SettingItPaintsNothingUntilItIsRefreshed) {
+TEST(WorksheetGrid, SettingItPaintsNothingUntilTheWorksheetIsTold) {
     TestSheet sheet(sheetSize);
-    const HWND window = sheet.window().handle();
-    sheet.window().setGrid(gridOf(2, 2));
-    EXPECT_TRUE(sheet.window().GridEnabled());
-    EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE));
+    sheet.aids.grid = gridOf(2, 2);
     sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
     EXPECT_EQ(count(shown(sheet), gridColor), 0);
-    sheet.window().RefreshGrid();
+    sheet.window().aidsChanged();
     EXPECT_GT(count(shown(sheet), gridColor), 0);
 }
 
@@ -110,7 +107,7 @@ TEST(WorksheetGrid, IsDrawnAnewWhereAToolWas) {
     stencil.setRectBound({30, 30, 200, 200});
     UpdateWindow(sheet.window().handle());
     const PixelMap step = shown(sheet);
-    sheet.window().RefreshGrid();
+    sheet.paintAnew();
     EXPECT_EQ(step, shown(sheet));
 }
 
@@ -138,21 +135,26 @@ TEST(WorksheetGrid, StaysVisibleInTemplateModeWhereTheBackgroundIsKeyedOut) {
 TEST(WorksheetGrid, TurnedOffItIsGone) {
     TestSheet sheet(sheetSize);
     showGrid(sheet, gridOf(2, 2));
-    BackgroundGrid grid = sheet.window().grid();
+    BackgroundGrid grid = sheet.aids.grid;
     grid.enabled = false;
     showGrid(sheet, grid);
-    EXPECT_FALSE(sheet.window().GridEnabled());
     EXPECT_EQ(count(shown(sheet), ground), sheetSize.width * sheetSize.height);
 }
 
-TEST(WorksheetGrid, EveryPaintingIsTold) {
+TEST(WorksheetGrid, EveryPaintingIsToldAndThereIsOneForEachChangeThatIsSeen) {
     TestSheet sheet(sheetSize);
     int paints = 0;
     const Subscription painted = sheet.window().painted.subscribe([&] { ++paints; });
-    sheet.window().RefreshGrid();
+    showGrid(sheet, gridOf(2, 2));
     EXPECT_EQ(paints, 1);
     showGrid(sheet, gridOf(2, 2));
+    EXPECT_EQ(paints, 1) << "the same grid";
+    showGrid(sheet, gridOf(0, 2));
     EXPECT_EQ(paints, 2);
+    BackgroundGrid off = gridOf(2, 5);
+    off.enabled = false;
+    showGrid(sheet, off);
+    EXPECT_EQ(paints, 2) << "neither is seen";
 }
 
 /// A worksheet with the compass on and a stencil at the lower right.
@@ -160,7 +162,7 @@ class WorksheetCompassTest : public testing::Test {
   protected:
     WorksheetCompassTest() {
         sheet_.addStencil({400, 300, 500, 400}, 0, rgb(255, 0, 0));
-        sheet_.window().setCircleCompassEnabled(true);
+        sheet_.aids.circleCompass = true;
     }
 
     void press(int x, int y) {
@@ -174,7 +176,7 @@ class WorksheetCompassTest : public testing::Test {
     }
     void expectAsPaintedAnew() {
         const PixelMap step = shown(sheet_);
-        sheet_.window().RefreshGrid();
+        sheet_.paintAnew();
         EXPECT_EQ(step, shown(sheet_));
     }
 
@@ -194,8 +196,7 @@ TEST_F(WorksheetCompassTest, ShowsNothingUpTo12PixelsAndBothCirclesWithTheCentre
 }
 
 TEST_F(WorksheetCompassTest, GrowsAndShrinksOverToolsAndGridWithoutATrace) {
-    sheet_.window().setGrid(gridOf(2, 2));
-    sheet_.window().RefreshGrid();
+    showGrid(sheet_, gridOf(2, 2));
     press(350, 260);
     for (const int distance : {60, 200, 130, 3, 280, 20}) {
         moveTo(350 + distance, 260);
@@ -264,7 +265,7 @@ TEST_F(WorksheetCompassTest, IsHiddenByAnotherButtonAndByTheLossOfTheMouse) {
 }
 
 TEST_F(WorksheetCompassTest, DoesNotOpenWhenItIsOff) {
-    sheet_.window().setCircleCompassEnabled(false);
+    sheet_.aids.circleCompass = false;
     press(150, 120);
     moveTo(250, 120);
     EXPECT_EQ(greens(), 0);

@@ -316,7 +316,7 @@ TEST(frmWorksheet, RemovedToolTakesItsTimerWithIt) {
     second.ShowMouseAction();
     sheet.window().sheet().RemoveControl(second);
     test::pause(test::milliseconds{200});
-    EXPECT_EQ(sheet.window().sheet().count(ToolKind::stencil), 1);
+    EXPECT_EQ(sheet.window().sheet().zOrder().size(), 1U);
 }
 
 }  // namespace

@@ -7,10 +7,13 @@
 #include <memory>
 #include <string>
 
+#include "support/FakeMousePort.h"
 #include "support/FakeOverlayItem.h"
 #include "support/FakeSheetPort.h"
 #include "support/QuietToolHost.h"
+#include "worksheet/Aids.h"
 #include "worksheet/Sheet.h"
+#include "worksheet/SheetMouse.h"
 
 namespace ormala {
 
@@ -67,6 +70,15 @@ class SheetFixture : public testing::Test {
     QuietToolHost host_;
     FakeToolFactory factory_{log_};
     Sheet sheet_{port_, host_, factory_};
+};
+
+/// The same with its aids and its mouse.
+class SheetMouseFixture : public SheetFixture {
+  protected:
+    AidOptions options_;
+    FakeMousePort window_;
+    Aids aids_{options_, sheet_, window_};
+    SheetMouse mouse_{sheet_, aids_, window_};
 };
 
 }  // namespace ormala

@@ -185,5 +185,43 @@ TEST_F(SheetFocusTest, WithoutAFocusTabStartsAtItsEndOfTheRing) {
     EXPECT_EQ(sheet_.focused(), &first_);
 }
 
+TEST_F(SheetFocusTest, WhileItIsHeldTheToolsLearnOfNoFocusOfTheWindow) {
+    sheet_.giveFocus(second_);
+    const int losses = second_.focusLosses;
+    log_.clear();
+    sheet_.setFocusHeld(true, true);
+    sheet_.windowLostFocus();
+    sheet_.windowGotFocus();
+    sheet_.windowLostFocus();
+    EXPECT_EQ(second_.focusLosses, losses);
+    EXPECT_TRUE(log_.empty());
+}
+
+TEST_F(SheetFocusTest, AtTheEndOfTheHoldTheToolsLearnWhoHasTheFocusThen) {
+    sheet_.giveFocus(second_);
+    const int losses = second_.focusLosses;
+    sheet_.setFocusHeld(true, true);
+    sheet_.windowLostFocus();
+    sheet_.setFocusHeld(false, false);
+    EXPECT_EQ(second_.focusLosses, losses + 1);
+    EXPECT_FALSE(second_.focused);
+    sheet_.setFocusHeld(true, false);
+    sheet_.windowGotFocus();
+    EXPECT_FALSE(second_.focused);
+    sheet_.setFocusHeld(false, true);
+    EXPECT_TRUE(second_.focused);
+}
+
+TEST_F(SheetFocusTest, AHoldThatEndsAsItBeganTellsNothing) {
+    sheet_.giveFocus(second_);
+    log_.clear();
+    sheet_.setFocusHeld(true, true);
+    sheet_.windowLostFocus();
+    sheet_.windowGotFocus();
+    sheet_.setFocusHeld(false, true);
+    EXPECT_TRUE(log_.empty());
+    EXPECT_TRUE(second_.focused);
+}
+
 }  // namespace
 }  // namespace ormala

@@ -10,21 +10,10 @@ MouseInput at(int button, float x, float y) {
 }
 
 /// A stencil at the left, a measurement over its right half, and free background from x = 200 on.
-class SheetMouseTest : public SheetFixture {
+class SheetMouseTest : public SheetMouseFixture {
   protected:
-    SheetMouseTest()
-        : down_(mouse_.backgroundDown.subscribe(
-              [this](const MouseInput& input) { downs_.push_back(input.button); })),
-          up_(mouse_.backgroundUp.subscribe(
-              [this](const MouseInput& input) { ups_.push_back(input.button); })) {}
-
     FakeOverlayItem& left_ = add(stencil, {0, 0, 100, 100});
     FakeOverlayItem& right_ = add(measurement, {50, 0, 150, 100});
-    SheetMouse mouse_{sheet_};
-    std::vector<int> downs_;
-    std::vector<int> ups_;
-    Subscription down_;
-    Subscription up_;
 };
 
 TEST_F(SheetMouseTest, APressGoesToTheForemostToolThatTakesThePoint) {
@@ -49,7 +38,8 @@ TEST_F(SheetMouseTest, AHiddenToolTakesNoPress) {
     sheet_.setVisible(right_, false);
     mouse_.press(at(mouseButton::left, 125, 50));
     EXPECT_EQ(noted(right_, "mouseDown"), 0);
-    EXPECT_EQ(downs_, std::vector<int>{mouseButton::left});
+    EXPECT_TRUE(mouse_.holding());
+    EXPECT_EQ(window_.lensRaises, std::vector<bool>{false}) << "it is the background's";
 }
 
 TEST_F(SheetMouseTest, APressSelectsTheToolAndGivesItTheFocus) {
@@ -74,11 +64,10 @@ TEST_F(SheetMouseTest, APressWithAnyButtonSelects) {
 
 TEST_F(SheetMouseTest, APressThatNoToolTakesIsTheBackgrounds) {
     mouse_.press(at(mouseButton::right, 250, 50));
-    EXPECT_EQ(downs_, std::vector<int>{mouseButton::right});
     EXPECT_EQ(sheet_.selected(), nullptr);
     EXPECT_TRUE(mouse_.holding());
     mouse_.release(at(mouseButton::right, 250, 50), 0);
-    EXPECT_EQ(ups_, std::vector<int>{mouseButton::right});
+    EXPECT_EQ(window_.menus, 1);
     EXPECT_FALSE(mouse_.holding());
 }
 
@@ -91,7 +80,7 @@ TEST_F(SheetMouseTest, AHeldToolKeepsTheMouseOverOthersAndOutside) {
     EXPECT_EQ(noted(left_, "mouseUp"), 1);
     EXPECT_EQ(noted(right_, "mouseMove"), 0);
     EXPECT_EQ(noted(right_, "mouseUp"), 0);
-    EXPECT_TRUE(ups_.empty());
+    EXPECT_EQ(window_.controlRaises, 0);
 }
 
 TEST_F(SheetMouseTest, TheHeldBackgroundKeepsTheMouseOverTools) {
@@ -100,7 +89,7 @@ TEST_F(SheetMouseTest, TheHeldBackgroundKeepsTheMouseOverTools) {
     mouse_.release(at(mouseButton::left, 25, 50), 0);
     EXPECT_EQ(noted(left_, "mouseMove"), 0);
     EXPECT_EQ(noted(left_, "mouseUp"), 0);
-    EXPECT_EQ(ups_, std::vector<int>{mouseButton::left});
+    EXPECT_EQ(window_.controlRaises, 1);
 }
 
 TEST_F(SheetMouseTest, FurtherButtonsGoToTheToolThatIsHeld) {
@@ -120,7 +109,10 @@ TEST_F(SheetMouseTest, FurtherButtonsGoToTheBackgroundThatIsHeld) {
     mouse_.press(at(mouseButton::left, 250, 50));
     mouse_.press(at(mouseButton::right, 25, 50));
     EXPECT_EQ(noted(left_, "mouseDown"), 0);
-    EXPECT_EQ(downs_, (std::vector<int>{mouseButton::left, mouseButton::right}));
+    mouse_.release(at(mouseButton::right, 25, 50), mouseButton::left);
+    EXPECT_EQ(noted(left_, "mouseUp"), 0);
+    EXPECT_EQ(window_.menus, 1);
+    EXPECT_TRUE(mouse_.holding());
 }
 
 TEST_F(SheetMouseTest, ReleasingTheFirstOfTwoButtonsHoldsOn) {
@@ -190,7 +182,7 @@ TEST_F(SheetMouseTest, ALostCaptureEndsTheDragOfTheTool) {
 TEST_F(SheetMouseTest, ALostCaptureOfTheBackgroundReleasesNothing) {
     mouse_.press(at(mouseButton::left, 250, 50));
     mouse_.lost();
-    EXPECT_TRUE(ups_.empty());
+    EXPECT_EQ(window_.controlRaises, 0);
     EXPECT_FALSE(mouse_.holding());
 }
 
@@ -240,8 +232,17 @@ TEST_F(SheetMouseTest, RemovingAnotherToolLeavesTheHoldAlone) {
     EXPECT_EQ(noted(left_, "mouseUp"), 1);
 }
 
-TEST_F(SheetMouseTest, TheMouseOutsideIsToldToEveryToolWithoutAButton) {
-    mouse_.outside(-30, 900, false);
+/// A mouse that the system has taken outside the worksheet.
+class SheetMouseOutside : public SheetMouseTest {
+  protected:
+    SheetMouseOutside() {
+        sheet_.setEditMode(true);
+        window_.mouse.at = {70, 950};
+    }
+};
+
+TEST_F(SheetMouseOutside, IsToldToEveryToolWithoutAButton) {
+    mouse_.tick();
     EXPECT_EQ(log_, (ToolLog{"stencil 0 GlobalMouseMove", "measure 0 GlobalMouseMove"}));
     EXPECT_EQ(left_.input.button, mouseButton::none);
     EXPECT_EQ(left_.input.x, -30);
@@ -250,81 +251,123 @@ TEST_F(SheetMouseTest, TheMouseOutsideIsToldToEveryToolWithoutAButton) {
     EXPECT_FALSE(left_.source.heldAwayFrom(&left_.control()));
 }
 
-TEST_F(SheetMouseTest, TheMouseOutsideReachesNoToolAsAMoveOfItsOwn) {
-    mouse_.outside(25, 50, false);
-    EXPECT_EQ(noted(left_, "mouseMove"), 0);
+TEST_F(SheetMouseOutside, IsLookedForTenTimesASecond) {
+    int told = 0;
+    for (int tick = 0; tick < 50; ++tick) {
+        window_.time += Aids::crossHairInterval / 1000.0F;
+        log_.clear();
+        mouse_.tick();
+        told += noted(left_, "GlobalMouseMove");
+    }
+    EXPECT_GE(told, 8);
+    EXPECT_LE(told, 10);
 }
 
-TEST_F(SheetMouseTest, OutsideAnotherWindowMayHoldTheMouse) {
-    mouse_.outside(25, 50, true);
+TEST_F(SheetMouseOutside, ReachesNoToolWhileTheWorksheetDoesNotTakeTheMouse) {
+    sheet_.setEditMode(false);
+    mouse_.tick();
+    EXPECT_TRUE(log_.empty());
+}
+
+TEST_F(SheetMouseOutside, IsNoneWithinTheWorksheet) {
+    const PixelRect& sheet = window_.mouse.worksheet;
+    for (const PixelPoint at :
+         {PixelPoint{sheet.left, sheet.top}, PixelPoint{sheet.right - 1, sheet.bottom - 1}}) {
+        window_.time += 1;
+        window_.mouse.at = at;
+        mouse_.tick();
+        EXPECT_TRUE(log_.empty());
+    }
+    window_.time += 1;
+    window_.mouse.at = {sheet.right, sheet.bottom - 1};
+    mouse_.tick();
+    EXPECT_EQ(noted(left_, "GlobalMouseMove"), 1);
+}
+
+TEST_F(SheetMouseOutside, MayBeHeldByAnotherWindow) {
+    window_.mouse.held = true;
+    mouse_.tick();
     EXPECT_TRUE(left_.source.heldAwayFrom(&left_.control()));
 }
 
-TEST_F(SheetMouseTest, OutsideTheToolInADragStillHoldsTheMouse) {
+TEST_F(SheetMouseOutside, IsStillHeldByTheToolInADrag) {
+    window_.mouse.held = true;
     mouse_.press(at(mouseButton::left, 25, 50));
-    mouse_.outside(-30, 50, false);
+    mouse_.tick();
     EXPECT_TRUE(mouse_.holding());
     EXPECT_EQ(right_.source.holder, &left_.control());
+    EXPECT_FALSE(left_.source.heldAwayFrom(&left_.control()));
 }
 
-/// What the worksheet hears of the mouse besides presses and releases of the background.
-class SheetMouseEventsTest : public SheetMouseTest {
-  protected:
-    int moves_ = 0;
-    int losses_ = 0;
-    int toolUps_ = 0;
-    int broadcasts_ = 0;
+/// What the window is asked for.
+class SheetMouseWindow : public SheetMouseTest {};
 
-  private:
-    Subscription move_ = mouse_.backgroundMove.subscribe([this](const MouseInput&) { ++moves_; });
-    Subscription lost_ = mouse_.backgroundLost.subscribe([this] { ++losses_; });
-    Subscription toolUp_ = mouse_.toolUp.subscribe([this] { ++toolUps_; });
-    Subscription broadcast_ = mouse_.broadcast.subscribe([this] { ++broadcasts_; });
-};
-
-TEST_F(SheetMouseEventsTest, AMoveOverTheBackgroundIsTheBackgrounds) {
-    mouse_.move(at(mouseButton::none, 250, 50));
-    EXPECT_EQ(moves_, 1);
-    mouse_.move(at(mouseButton::none, 25, 50));
-    EXPECT_EQ(moves_, 1);
-}
-
-TEST_F(SheetMouseEventsTest, TheHeldBackgroundHearsMovesOverTools) {
+TEST_F(SheetMouseWindow, APressWithTheLeftButtonOnTheBackgroundAsksForTheMagnifier) {
+    mouse_.press(at(mouseButton::right, 250, 50));
+    EXPECT_TRUE(window_.lensRaises.empty());
     mouse_.press(at(mouseButton::left, 250, 50));
-    mouse_.move(at(mouseButton::left, 25, 50));
-    EXPECT_EQ(moves_, 1);
+    EXPECT_EQ(window_.lensRaises, std::vector<bool>{false}) << "sticked or not";
 }
 
-TEST_F(SheetMouseEventsTest, MovesOfAHeldToolAreNotTheBackgrounds) {
-    mouse_.press(at(mouseButton::left, 25, 50));
-    mouse_.move(at(mouseButton::left, 250, 50));
-    EXPECT_EQ(moves_, 0);
+TEST_F(SheetMouseWindow, WithoutTheMagnifierWhatIsUppermostIsRaised) {
+    mouse_.press(at(mouseButton::left, 250, 50));
+    EXPECT_EQ(window_.worksheetRaises, std::vector<bool>{false});
+    options_.crossHair = true;
+    mouse_.press(at(mouseButton::left, 250, 50));
+    EXPECT_EQ(window_.worksheetRaises, (std::vector<bool>{false, true}));
+    window_.lensShown = true;
+    mouse_.press(at(mouseButton::left, 250, 50));
+    EXPECT_EQ(window_.worksheetRaises.size(), 2U);
 }
 
-TEST_F(SheetMouseEventsTest, EveryBroadcastIsToldOnceAllToolsHaveHeardIt) {
-    mouse_.move(at(mouseButton::none, 25, 50));
-    mouse_.move(at(mouseButton::none, 250, 50));
-    mouse_.outside(-30, 50, false);
-    EXPECT_EQ(broadcasts_, 3);
-}
-
-TEST_F(SheetMouseEventsTest, AReleaseOnAToolIsTold) {
+TEST_F(SheetMouseWindow, AReleaseOnAToolRaisesAStickedMagnifier) {
     mouse_.press(at(mouseButton::left, 25, 50));
     mouse_.release(at(mouseButton::left, 25, 50), 0);
-    EXPECT_EQ(toolUps_, 1);
-    mouse_.press(at(mouseButton::left, 250, 50));
-    mouse_.release(at(mouseButton::left, 250, 50), 0);
-    EXPECT_EQ(toolUps_, 1);
-}
-
-TEST_F(SheetMouseEventsTest, ALostCaptureOfTheBackgroundIsTold) {
-    mouse_.press(at(mouseButton::left, 250, 50));
-    mouse_.lost();
-    EXPECT_EQ(losses_, 1);
+    EXPECT_EQ(window_.lensRaises, std::vector<bool>{true});
     mouse_.press(at(mouseButton::left, 25, 50));
     mouse_.lost();
-    EXPECT_EQ(losses_, 1);
-    EXPECT_EQ(toolUps_, 1);
+    EXPECT_EQ(window_.lensRaises, (std::vector<bool>{true, true}));
+    EXPECT_EQ(window_.controlRaises, 0);
+}
+
+TEST_F(SheetMouseWindow, AReleaseOnTheBackgroundMayBeMeantForTheControlWindow) {
+    mouse_.press(at(mouseButton::left, 250, 50));
+    EXPECT_EQ(window_.controlRaises, 0);
+    mouse_.release(at(mouseButton::left, 250, 50), 0);
+    EXPECT_EQ(window_.controlRaises, 1);
+    EXPECT_EQ(window_.menus, 0) << "only the right button shows the menu";
+}
+
+TEST_F(SheetMouseWindow, TheMouseIsFreeWhenTheMenuComes) {
+    mouse_.press(at(mouseButton::right, 250, 50));
+    mouse_.release(at(mouseButton::right, 250, 50), 0);
+    EXPECT_EQ(window_.menus, 1);
+    EXPECT_FALSE(mouse_.holding());
+}
+
+TEST_F(SheetMouseWindow, EveryMoveTakesTheCrossHairAlong) {
+    options_.crossHair = true;
+    sheet_.setEditMode(true);
+    for (const float x : {25.0F, 250.0F}) {
+        window_.time += 1;
+        mouse_.move(at(mouseButton::none, x, 50));
+    }
+    EXPECT_EQ(window_.crossHairs.size(), 2U);
+}
+
+TEST_F(SheetMouseWindow, ADragOnTheBackgroundOpensTheCompass) {
+    mouse_.press(at(mouseButton::left, 250, 50));
+    mouse_.move(at(mouseButton::left, 350, 50));
+    EXPECT_TRUE(window_.repainted.meets({350, 50, 351, 51}));
+    window_.repainted.clear();
+    mouse_.lost();
+    EXPECT_TRUE(window_.repainted.meets({350, 50, 351, 51}));
+}
+
+TEST_F(SheetMouseWindow, ADragOfAToolOpensNone) {
+    mouse_.press(at(mouseButton::left, 25, 50));
+    mouse_.move(at(mouseButton::left, 250, 50));
+    EXPECT_TRUE(window_.repainted.empty());
 }
 
 }  // namespace

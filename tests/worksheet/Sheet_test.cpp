@@ -14,8 +14,8 @@ TEST_F(SheetTest, ElementZeroExistsHiddenFromTheStart) {
     const OverlayItem* first = sheet_.GetFirstControl(stencil);
     ASSERT_NE(first, nullptr);
     EXPECT_FALSE(sheet_.isVisible(*first));
-    EXPECT_EQ(sheet_.count(ToolKind::stencil), 1);
-    EXPECT_EQ(sheet_.count(ToolKind::measurement), 0);
+    EXPECT_EQ(sheet_.zOrder().size(), 1U);
+    EXPECT_EQ(sheet_.GetFirstControl(measurement), nullptr);
 }
 
 TEST_F(SheetTest, ElementZeroIsMadeOnce) {
@@ -23,7 +23,7 @@ TEST_F(SheetTest, ElementZeroIsMadeOnce) {
     const OverlayItem* first = sheet_.GetFirstControl(measurement);
     sheet_.makeFirstControl(ToolKind::measurement);
     EXPECT_EQ(sheet_.GetFirstControl(measurement), first);
-    EXPECT_EQ(sheet_.count(ToolKind::measurement), 1);
+    EXPECT_EQ(sheet_.zOrder().size(), 1U);
 }
 
 TEST_F(SheetTest, FirstControlOfAnotherKindIsNothing) {
@@ -40,7 +40,7 @@ TEST_F(SheetTest, ANewToolFollowsTheLastOfItsKind) {
     EXPECT_TRUE(sheet_.isVisible(second));
     EXPECT_FALSE(sheet_.isVisible(first));
     EXPECT_EQ(sheet_.GetFirstControl(stencil), &first);
-    EXPECT_EQ(sheet_.count(ToolKind::stencil), 2);
+    EXPECT_EQ(sheet_.zOrder().size(), 2U);
 }
 
 TEST_F(SheetTest, ANewToolCoversTheWholeSheetInItsMode) {
@@ -75,14 +75,14 @@ TEST_F(SheetTest, AKindThatTheFactoryCannotMakeStaysEmpty) {
     factory_.onlyStencils = true;
     EXPECT_EQ(sheet_.AddNewControl(measurement), nullptr);
     sheet_.makeFirstControl(ToolKind::measurement);
-    EXPECT_EQ(sheet_.count(ToolKind::measurement), 0);
+    EXPECT_TRUE(sheet_.zOrder().empty());
     EXPECT_EQ(sheet_.GetFirstControl(measurement), nullptr);
 }
 
 TEST_F(SheetTest, RemovingElementZeroHidesItAndKeepsItLoaded) {
     FakeOverlayItem& first = addFirst(ToolKind::stencil, true);
     sheet_.RemoveControl(first);
-    EXPECT_EQ(sheet_.count(ToolKind::stencil), 1);
+    EXPECT_EQ(sheet_.zOrder().size(), 1U);
     EXPECT_EQ(sheet_.GetFirstControl(stencil), &first);
     EXPECT_FALSE(sheet_.isVisible(first));
     EXPECT_EQ(noted(first, "destroyed"), 0);
@@ -102,7 +102,6 @@ TEST_F(SheetTest, RemovingAnotherElementDestroysIt) {
     const FakeOverlayItem& third = add(stencil);
     sheet_.RemoveControl(second);
     EXPECT_EQ(log_, ToolLog{"stencil 1 destroyed"});
-    EXPECT_EQ(sheet_.count(ToolKind::stencil), 2);
     EXPECT_EQ(sheet_.zOrder().size(), 2U);
     EXPECT_TRUE(sheet_.isVisible(third));
 }
@@ -112,7 +111,7 @@ TEST_F(SheetTest, RemovingAToolOfAnotherSheetChangesNothing) {
     const FakeOverlayItem foreign("foreign", log_);
     sheet_.RemoveControl(foreign);
     sheet_.SelectControl(foreign);
-    EXPECT_EQ(sheet_.count(ToolKind::stencil), 1);
+    EXPECT_EQ(sheet_.zOrder().size(), 1U);
     EXPECT_EQ(sheet_.selected(), nullptr);
     EXPECT_FALSE(sheet_.isVisible(foreign));
 }
@@ -143,6 +142,18 @@ TEST_F(SheetTest, TellsOnceThatAHiddenToolIsWithdrawn) {
     sheet_.setVisible(first, false);
     sheet_.RemoveControl(first);
     EXPECT_EQ(withdrawn, 1);
+}
+
+TEST_F(SheetTest, TakesAwayTheTipOfAToolThatIsWithdrawn) {
+    struct TipHost : QuietToolHost {
+        void showTip(const OverlayItem& item, TipId tip) override { told.emplace_back(&item, tip); }
+        std::vector<std::pair<const OverlayItem*, TipId>> told;
+    } host;
+    Sheet sheet(port_, host, factory_);
+    const OverlayItem& tool = *sheet.AddNewControl(stencil);
+    sheet.setVisible(tool, false);
+    ASSERT_EQ(host.told.size(), 1U);
+    EXPECT_EQ(host.told.front(), std::pair(&tool, TipId{0}));
 }
 
 TEST_F(SheetTest, SelectingBringsToTheFrontAndUnselectsAllOthers) {

@@ -5,33 +5,46 @@
 namespace ormala {
 namespace {
 
-constexpr std::uint32_t layered = 0x80000;
-constexpr std::uint32_t layeredAndTransparent = 0x80020;
+/// Extended styles: layered and topmost, and what comes with it where the mouse passes.
+constexpr std::uint32_t layered = 0x80008;
+constexpr std::uint32_t passesMouse = 0x20;
+constexpr std::uint32_t takesNoKeyboard = 0x08000000;
 constexpr std::uint32_t keyOfNoColor = 0xFFFFFFFF;
 constexpr std::uint32_t opacityOnly = 2;
 constexpr std::uint32_t keyAndOpacity = 3;
 constexpr Color background = 0x4F4F4F;
+constexpr Transparency veil{true, false, 128, 191};
+constexpr Transparency keyed{false, false, 128, 191};
 
 TEST(LayeredLook, AWindowThatTakesTheMouseIsAVeilOfOneOpacity) {
-    const LayeredLook veil{layered, keyOfNoColor, 191, opacityOnly};
-    EXPECT_EQ(layeredLook(true, background, 128, 191), veil);
+    const LayeredLook look{layered, keyOfNoColor, 191, opacityOnly};
+    EXPECT_EQ(layeredLook(veil, background), look);
 }
 
 TEST(LayeredLook, AWindowThatPassesTheMouseOnKeysItsBackgroundOut) {
-    const LayeredLook keyed{layeredAndTransparent, background, 128, keyAndOpacity};
-    EXPECT_EQ(layeredLook(false, background, 128, 191), keyed);
+    const LayeredLook look{layered | passesMouse | takesNoKeyboard, background, 128, keyAndOpacity};
+    EXPECT_EQ(layeredLook(keyed, background), look);
+}
+
+TEST(LayeredLook, LettingTheMouseThroughChangesNothingThatIsSeen) {
+    Transparency through = veil;
+    through.transparentToMouse = true;
+    const LayeredLook look{layered | passesMouse, keyOfNoColor, 191, opacityOnly};
+    EXPECT_EQ(layeredLook(through, background), look);
+    through.clickable = false;
+    EXPECT_EQ(layeredLook(through, background), layeredLook(keyed, background));
 }
 
 TEST(LayeredLook, TheBackgroundVanishesAlsoWithToolsAtFullStrength) {
-    const LayeredLook keyed = layeredLook(false, background, alphaOfTransparency(0), 191);
-    EXPECT_EQ(keyed.alpha, 255);
-    EXPECT_EQ(keyed.colorKey, static_cast<std::uint32_t>(background));
-    EXPECT_EQ(keyed.flags, keyAndOpacity);
+    const LayeredLook look = layeredLook({false, false, alphaOfTransparency(0), 191}, background);
+    EXPECT_EQ(look.alpha, 255);
+    EXPECT_EQ(look.colorKey, static_cast<std::uint32_t>(background));
+    EXPECT_EQ(look.flags, keyAndOpacity);
 }
 
 TEST(LayeredLook, TheKeyIsEveryPixelOfTheBackgroundsColourWhoeverDrewIt) {
     const Color ofATool = rgb(225, 153, 71);
-    EXPECT_EQ(layeredLook(false, ofATool, 128, 191).colorKey, static_cast<std::uint32_t>(ofATool));
+    EXPECT_EQ(layeredLook(keyed, ofATool).colorKey, static_cast<std::uint32_t>(ofATool));
 }
 
 TEST(AlphaOfTransparency, RunsFromOpaqueToFullyGone) {

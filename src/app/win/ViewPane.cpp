@@ -69,11 +69,8 @@ ViewPane::~ViewPane() = default;
 
 void ViewPane::load(INIFile& file) {
     const Options& options = ports_.options;
-    ports_.worksheet.setGrid(options.grid);
-    ports_.worksheet.RefreshGrid();
-    ports_.worksheet.setCrossHairEnabled(options.crossHairEnabled);
-    ports_.worksheet.setCircleCompassEnabled(options.circleCompass);
-    ports_.toolSettings.grid = options.grid.steps;
+    ports_.worksheet.aidsChanged();
+    ports_.toolSettings.grid = options.aids.grid.steps;
     ports_.toolSettings.showReferenceLines = options.showReferenceLines;
     controls_.setTransparencyEditMode(options.transparencyEditMode);
     controls_.setTransparencyTemplateMode(options.transparencyTemplateMode);
@@ -88,10 +85,7 @@ void ViewPane::load(INIFile& file) {
 void ViewPane::fetchOptions() {
     // The worksheet's colour is the user's last one, though it may wait for edit mode.
     Options& options = ports_.options;
-    const ToggleStates states = toggleStates();
-    options.grid = ports_.worksheet.grid();
-    options.crossHairEnabled = states.crossHair;
-    options.lensVisible = states.lens;
+    options.lensVisible = toggleStates().lens;
     options.lens = lens_.lens().options();
 }
 
@@ -100,21 +94,19 @@ void ViewPane::layOut(const SettingsLayout& layout, int dpi) {
 }
 
 void ViewPane::SetGrid(bool enabled) {
-    BackgroundGrid grid = ports_.worksheet.grid();
-    grid.enabled = enabled;
-    ports_.worksheet.setGrid(grid);
+    ports_.options.aids.grid.enabled = enabled;
     RefreshToggleStates();
-    ports_.worksheet.RefreshGrid();
+    ports_.worksheet.aidsChanged();
 }
 
 void ViewPane::SetCrossHair(bool enabled) {
-    ports_.worksheet.setCrossHairEnabled(enabled);
+    ports_.options.aids.crossHair = enabled;
+    ports_.worksheet.aidsChanged();
     RefreshToggleStates();
 }
 
 void ViewPane::SetCircleCompass(bool enabled) {
-    ports_.options.circleCompass = enabled;
-    ports_.worksheet.setCircleCompassEnabled(enabled);
+    ports_.options.aids.circleCompass = enabled;
     RefreshToggleStates();
 }
 
@@ -133,9 +125,9 @@ ToggleStates ViewPane::toggleStates() const {
     if (shotOf_) {
         return *shotOf_;
     }
-    return {lens_.lens().isVisible(), ports_.worksheet.GridEnabled(),
-            ports_.worksheet.CrossHairEnabled(), ports_.options.showReferenceLines,
-            ports_.options.circleCompass};
+    const AidOptions& aids = ports_.options.aids;
+    return {lens_.lens().isVisible(), aids.grid.enabled, aids.crossHair,
+            ports_.options.showReferenceLines, aids.circleCompass};
 }
 
 void ViewPane::RefreshToggleStates() {
@@ -194,14 +186,14 @@ void ViewPane::takeScreenShot() {
     const ToggleStates states = toggleStates();
     shotOf_ = states;
     lens_.setAside(true);
-    ports_.worksheet.setCrossHairEnabled(false);
+    ports_.worksheet.setAidsAside(true);
     ports_.bar.showNote({});
     shot_.take(ports_.worksheet);
     shotOf_.reset();
     if (states.lens) {
         lens_.setAside(false);
     }
-    ports_.worksheet.setCrossHairEnabled(states.crossHair);
+    ports_.worksheet.setAidsAside(false);
 }
 
 void ViewPane::showNote(const std::string& text) {
@@ -300,14 +292,14 @@ HWND ViewPane::ownerOfDialogs() const {
 }
 
 OptionValues ViewPane::optionValues() const {
-    return {CurrentLanguage(), ports_.options.templateWithBorder, ports_.worksheet.grid(),
+    return {CurrentLanguage(), ports_.options.templateWithBorder, ports_.options.aids.grid,
             lens_.lens().options()};
 }
 
 void ViewPane::applyOptions(const OptionValues& values) {
     ports_.toolSettings.grid = values.grid.steps;
-    ports_.worksheet.setGrid(values.grid);
-    ports_.worksheet.RefreshGrid();
+    ports_.options.aids.grid = values.grid;
+    ports_.worksheet.aidsChanged();
     ports_.options.templateWithBorder = values.templateWithBorder;
     if (values.language != CurrentLanguage()) {
         changeLanguage(values.language);

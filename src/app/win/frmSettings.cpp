@@ -130,7 +130,8 @@ void frmSettings::createWindow() {
 }
 
 void frmSettings::loadWorksheet() {
-    worksheet_ = std::make_unique<frmWorksheet>(factory_, focus_.foreground(), *this);
+    worksheet_ =
+        std::make_unique<frmWorksheet>(factory_, focus_.foreground(), *this, options_.aids);
     // During a change of mode the new one decides.
     worksheetResized_ = worksheet_->resized.subscribe(
         [this] { setWorksheetMaxSized(windowsOf(lit_).worksheetMaxSized); });

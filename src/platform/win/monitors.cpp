@@ -29,4 +29,10 @@ RECT workAreaAround(HWND window) {
     return monitorAround(window).rcWork;
 }
 
+POINT cursorPlace() {
+    POINT cursor{};
+    GetCursorPos(&cursor);
+    return cursor;
+}
+
 }  // namespace ormala

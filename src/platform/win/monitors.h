@@ -13,4 +13,7 @@ RECT virtualScreen();
 /// What that monitor has for windows.
 RECT workAreaAround(HWND window);
 
+/// Where the mouse is on the screens.
+POINT cursorPlace();
+
 }  // namespace ormala

@@ -27,24 +27,31 @@ void SheetPainter::resize(PixelSize size) {
     allChanged();
 }
 
-void SheetPainter::setBackground(COLORREF color) {
-    background_ = color;
+void SheetPainter::backgroundChanged() {
     makeGridRows();
     allChanged();
 }
 
-void SheetPainter::setGrid(const BackgroundGrid& grid) {
+bool SheetPainter::RefreshGrid() {
+    std::optional<BackgroundGrid> grid;
+    if (GridRows::shows(aids_.grid())) {
+        grid = aids_.grid();
+    }
+    if (grid == grid_) {
+        return false;
+    }
     grid_ = grid;
     makeGridRows();
     allChanged();
+    return true;
 }
 
 void SheetPainter::makeGridRows() {
     gridRows_.reset();
-    if (GridRows::shows(grid_)) {
-        gridRows_.emplace(
-            grid_, size_,
-            GridRows::Pixels{bitmapPixel(background_), bitmapPixel(colorRef(grid_.color))});
+    if (grid_) {
+        gridRows_.emplace(*grid_, size_,
+                          GridRows::Pixels{bitmapPixel(colorRef(aids_.background())),
+                                           bitmapPixel(colorRef(grid_->color))});
     }
 }
 
@@ -61,7 +68,7 @@ void SheetPainter::restChanged(HRGN region) {
 
 void SheetPainter::fill(HDC context, const PixelRect& area) const {
     const RECT rect = toRect(area);
-    SetDCBrushColor(context, background_);
+    SetDCBrushColor(context, colorRef(aids_.background()));
     FillRect(context, &rect, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
@@ -102,7 +109,7 @@ void SheetPainter::drawFront(HDC context, const PixelRect& area) const {
     if (front != nullptr && front->footprint().meets(area)) {
         front->draw(canvas);
     }
-    compass_.draw(canvas);
+    aids_.draw(canvas);
 }
 
 void SheetPainter::refreshRest() {

@@ -4,25 +4,26 @@
 
 #include "platform/win/BackBuffer.h"
 #include "platform/win/GdiCanvas.h"
-#include "worksheet/CircleCompass.h"
+#include "worksheet/Aids.h"
 #include "worksheet/GridRows.h"
 #include "worksheet/Sheet.h"
 
 namespace ormala {
 
 /// Paints the worksheet in two layers: everything at rest (the background with its grid and all
-/// tools but the foremost) is kept in a bitmap, and the foremost tool and the compass are drawn
+/// tools but the foremost) is kept in a bitmap, and the foremost tool and the aids are drawn
 /// over it, all within the changed region. So a drag costs one copy of that region and the drawing
 /// of one tool.
 class SheetPainter {
   public:
-    SheetPainter(const Sheet& sheet, const CircleCompass& compass, const GdiFonts& fonts)
-        : sheet_(sheet), compass_(compass), fonts_(fonts) {}
+    SheetPainter(const Sheet& sheet, const Aids& aids, const GdiFonts& fonts)
+        : sheet_(sheet), aids_(aids), fonts_(fonts) {}
 
     void resize(PixelSize size);
-    void setBackground(COLORREF color);
-    [[nodiscard]] COLORREF background() const { return background_; }
-    void setGrid(const BackgroundGrid& grid);
+    /// The background has another colour.
+    void backgroundChanged();
+    /// Takes the grid as it is set now. Whether anything looks different.
+    bool RefreshGrid();
 
     /// The layer at rest is to be drawn anew in this region before it is shown the next time.
     void restChanged(HRGN region);
@@ -42,12 +43,11 @@ class SheetPainter {
     void paintThroughBuffer(HDC context, HRGN region, const PixelRect& area);
 
     const Sheet& sheet_;
-    const CircleCompass& compass_;
+    const Aids& aids_;
     const GdiFonts& fonts_;
-    COLORREF background_ = 0;
-    BackgroundGrid grid_;
     PixelSize size_;
-    /// None while no grid is to be seen.
+    /// The grid that is drawn and its pixels; none while no grid is to be seen.
+    std::optional<BackgroundGrid> grid_;
     std::optional<GridRows> gridRows_;
     BackBuffer rest_;
     BackBuffer shown_;

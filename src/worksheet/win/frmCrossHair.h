@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "platform/win/Window.h"
-#include "worksheet/crossHair.h"
+#include "worksheet/MousePort.h"
 
 namespace ormala {
 

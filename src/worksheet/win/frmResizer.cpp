@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "language/MlStringModule.h"
+#include "platform/win/monitors.h"
 #include "platform/win/regions.h"
 
 namespace ormala {
@@ -33,6 +34,10 @@ RECT firstPlace() {
 
 PixelSize sizeOf(const RECT& rect) {
     return {static_cast<int>(rect.right - rect.left), static_cast<int>(rect.bottom - rect.top)};
+}
+
+PixelSize leastSizeOf(HWND frame) {
+    return leastFrameSize(static_cast<int>(GetDpiForWindow(frame)));
 }
 
 }  // namespace
@@ -86,14 +91,18 @@ void frmResizer::PositionWorksheet() {
     }
 }
 
+RECT frmResizer::holeInClient() const {
+    return toRect(worksheetInFrame(sizeOf(clientRectangle())));
+}
+
 PixelRect frmResizer::hole() const {
-    RECT place = toRect(worksheetInFrame(sizeOf(clientRectangle())));
+    RECT place = holeInClient();
     MapWindowPoints(handle(), HWND_DESKTOP, reinterpret_cast<POINT*>(&place), 2);
     return fromRect(place);
 }
 
 void frmResizer::layWorksheetInside(POINT shift) {
-    setWorksheetMaxSized(false);
+    worksheet_.setMaxSized(false);
     const PixelRect place = hole();
     SetWindowPos(worksheet_.handle(), nullptr, place.left + shift.x, place.top + shift.y,
                  place.width(), place.height(), keepOrder);
@@ -125,14 +134,6 @@ void frmResizer::checkHole() {
             break;
         case HoleKeeper::Step::rest:
             break;
-    }
-}
-
-void frmResizer::setWorksheetMaxSized(bool maxSized) {
-    if (worksheet_.isVisible()) {
-        worksheet_.setMaxSized(maxSized);
-    } else {
-        worksheet_.prepareMaxSized(maxSized);
     }
 }
 
@@ -176,7 +177,7 @@ void frmResizer::hide() {
 
 void frmResizer::maximise() {
     hide();
-    setWorksheetMaxSized(true);
+    worksheet_.setMaxSized(true);
     if (IsZoomed(handle()) != FALSE) {
         leaveMaximised();
     }
@@ -199,12 +200,8 @@ void frmResizer::showNormal() {
 }
 
 void frmResizer::widenAndNarrow() {
-    const RECT place = rectangle();
-    const PixelSize size = sizeOf(place);
-    constexpr UINT flags = SWP_NOMOVE | keepOrder;
-    SetWindowPos(handle(), nullptr, 0, 0, size.width + 1, size.height, flags);
+    widenAndTakeBack(*this, 1);
     PositionWorksheet();
-    SetWindowPos(handle(), nullptr, 0, 0, size.width, size.height, flags);
 }
 
 void frmResizer::follow() {
@@ -277,7 +274,7 @@ LRESULT frmResizer::onHitTest(LPARAM lParam) {
     const LRESULT part = DefWindowProcW(handle(), WM_NCHITTEST, 0, lParam);
     POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
     ScreenToClient(handle(), &point);
-    const RECT hole = toRect(worksheetInFrame(sizeOf(clientRectangle())));
+    const RECT hole = holeInClient();
     if (part != HTCLIENT || PtInRect(&hole, point) == FALSE) {
         return part;
     }
@@ -289,7 +286,7 @@ LRESULT frmResizer::onHitTest(LPARAM lParam) {
 LRESULT frmResizer::onPaint() {
     const PaintScope scope(handle());
     const PixelSize client = sizeOf(clientRectangle());
-    RECT hole = toRect(worksheetInFrame(client));
+    const RECT hole = holeInClient();
     SetDCBrushColor(scope.context(), keyColor);
     FillRect(scope.context(), &hole, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
     GdiCanvas canvas(scope.context(), {0, 0, client.width, client.height}, fonts_);
@@ -307,15 +304,14 @@ LRESULT frmResizer::onSize(WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT frmResizer::onGetMinMaxInfo(LPARAM lParam) {
-    const PixelSize least = leastFrameSize(static_cast<int>(GetDpiForWindow(handle())));
+    const PixelSize least = leastSizeOf(handle());
     auto& limits = *reinterpret_cast<MINMAXINFO*>(lParam);
     limits.ptMinTrackSize = {least.width, least.height};
     return DefWindowProcW(handle(), WM_GETMINMAXINFO, 0, lParam);
 }
 
 void frmResizer::onEnterSizeMove() {
-    POINT cursor{};
-    GetCursorPos(&cursor);
+    const POINT cursor = cursorPlace();
     const LRESULT held = SendMessageW(handle(), WM_NCHITTEST, 0, MAKELPARAM(cursor.x, cursor.y));
     unseenDrag_.reset();
     if (held == HTCAPTION) {
@@ -328,7 +324,7 @@ void frmResizer::onExitSizeMove() {
     unseenDrag_.reset();
     KillTimer(handle(), tmrSetSize);
     const PixelSize size = sizeOf(rectangle());
-    const PixelSize least = leastFrameSize(static_cast<int>(GetDpiForWindow(handle())));
+    const PixelSize least = leastSizeOf(handle());
     if (size.width <= least.width || size.height <= least.height) {
         // What shows the window may have made it smaller; this makes both agree again.
         widenAndNarrow();
@@ -344,8 +340,7 @@ void frmResizer::followUnseen() {
             PositionWorksheet();
         }
     } else if (isVisible()) {
-        POINT cursor{};
-        GetCursorPos(&cursor);
+        const POINT cursor = cursorPlace();
         layWorksheetInside({cursor.x - unseenDrag_->x, cursor.y - unseenDrag_->y});
     }
 }

@@ -46,7 +46,7 @@ class frmResizer : public Window {
     void layerAnew();
     void keepBeneathWorksheet();
     void follow();
-    void setWorksheetMaxSized(bool maxSized);
+    [[nodiscard]] RECT holeInClient() const;
     [[nodiscard]] PixelRect hole() const;
     void layWorksheetInside(POINT shift = {0, 0});
     void checkHoleSoon();

@@ -6,18 +6,14 @@
 #include "platform/win/dayTime.h"
 #include "platform/win/monitors.h"
 #include "platform/win/regions.h"
+#include "platform/win/windowOrder.h"
 #include "worksheet/frameRules.h"
-#include "worksheet/transparency.h"
 
 namespace ormala {
 
 namespace {
 
 constexpr UINT_PTR tmrCrosshair = 1;
-constexpr UINT tmrCrosshairInterval = 20;
-
-/// Seconds between two broadcasts of a mouse that is outside the worksheet.
-constexpr float outsideInterval = 0.1F;
 
 RECT primaryWorkArea() {
     RECT area{};
@@ -32,18 +28,33 @@ RECT areaToFill(HWND window) {
                                   fromRect(isPrimary ? primaryWorkArea() : monitor.rcMonitor)));
 }
 
+void letGoOfMouse(HWND window) {
+    if (GetCapture() == window) {
+        ReleaseCapture();
+    }
+}
+
 }  // namespace
 
+void widenAndTakeBack(const Window& window, int by) {
+    const RECT place = window.rectangle();
+    const int width = place.right - place.left;
+    const int height = place.bottom - place.top;
+    for (const int now : {width + by, width}) {
+        SetWindowPos(window.handle(), nullptr, 0, 0, now, height,
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+
 frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
-                           WorksheetCommands& commands)
+                           WorksheetCommands& commands, const AidOptions& aids)
     : fonts_(designDpi),
       foreground_(foreground),
       commands_(commands),
       sheet_(*this, *this, factory),
-      mouse_(sheet_),
-      painter_(sheet_, compass_, fonts_),
-      outsidePolls_(outsideInterval),
-      crossHairMoves_(tmrCrosshairInterval / 1000.0F) {
+      aids_(aids, sheet_, *this),
+      mouse_(sheet_, aids_, *this),
+      painter_(sheet_, aids_, fonts_) {
     WindowDesign design;
     design.className = L"frmWorksheet";
     // Some window managers of other systems leave a window without it to itself, and it has then no
@@ -56,8 +67,9 @@ frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
     tip_ = std::make_unique<TipWindow>(handle());
     CrossHairX_ = std::make_unique<frmCrossHair>(handle(), "CrossHairX");
     CrossHairY_ = std::make_unique<frmCrossHair>(handle(), "CrossHairY");
-    subscribeToMouse();
-    SetTimer(handle(), tmrCrosshair, tmrCrosshairInterval, nullptr);
+    languageChanged_ =
+        GetLanguageSupport().LanguageChange.subscribe([this] { tip_->setText(sheetTip_.text()); });
+    SetTimer(handle(), tmrCrosshair, Aids::crossHairInterval, nullptr);
 }
 
 frmWorksheet::~frmWorksheet() {
@@ -68,79 +80,57 @@ frmWorksheet::~frmWorksheet() {
     destroy();
 }
 
-void frmWorksheet::subscribeToMouse() {
-    using Input = const MouseInput&;
-    subscriptions_.push_back(
-        mouse_.backgroundDown.subscribe([this](Input input) { onBackgroundDown(input); }));
-    subscriptions_.push_back(
-        mouse_.backgroundMove.subscribe([this](Input input) { onBackgroundMove(input); }));
-    subscriptions_.push_back(
-        mouse_.backgroundUp.subscribe([this](Input input) { onBackgroundUp(input); }));
-    subscriptions_.push_back(mouse_.backgroundLost.subscribe([this] { hideCompass(); }));
-    subscriptions_.push_back(mouse_.toolUp.subscribe([this] { commands_.raiseLens(true); }));
-    subscriptions_.push_back(mouse_.broadcast.subscribe([this] { UpdateCrossHair(); }));
-    subscriptions_.push_back(
-        sheet_.withdrawn.subscribe([this](const OverlayItem& item) { showTip(item, 0); }));
-    subscriptions_.push_back(
-        GetLanguageSupport().LanguageChange.subscribe([this] { tip_->setText(sheetTip_.text()); }));
-}
-
 void frmWorksheet::setOwner(HWND owner) {
     SetWindowLongPtrW(handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
 }
 
 void frmWorksheet::ApplyLayered() {
-    const LayeredLook look =
-        layeredLook(clickable_, static_cast<Color>(painter_.background()), alpha_, clickAlpha_);
-    // Without the mouse it obeys no keys either, and must not take them from who does.
-    const DWORD focus = clickable_ ? 0 : WS_EX_NOACTIVATE;
-    const DWORD mouse = transparentToMouse_ ? WS_EX_TRANSPARENT : 0;
-    SetWindowLongPtrW(handle(), GWL_EXSTYLE,
-                      static_cast<LONG_PTR>(look.extendedStyle | WS_EX_TOPMOST | focus | mouse));
+    const LayeredLook look = layeredLook(transparency_, aids_.background());
+    SetWindowLongPtrW(handle(), GWL_EXSTYLE, static_cast<LONG_PTR>(look.extendedStyle));
     SetLayeredWindowAttributes(handle(), look.colorKey, static_cast<BYTE>(look.alpha), look.flags);
 }
 
-void frmWorksheet::letGoOfMouse() {
-    if (GetCapture() == handle()) {
-        ReleaseCapture();
-    }
-}
-
 void frmWorksheet::setTransparentToMouse(bool transparent) {
-    transparentToMouse_ = transparent;
+    transparency_.transparentToMouse = transparent;
     ApplyLayered();
 }
 
 void frmWorksheet::setClickable(bool clickable) {
     if (!clickable) {
         // A drag that is under way ends where it is.
-        letGoOfMouse();
+        letGoOfMouse(handle());
     }
-    clickable_ = clickable;
+    transparency_.clickable = clickable;
     ApplyLayered();
     sheet_.setEditMode(clickable);
-    if (!clickable) {
-        hideCompass();
-    }
-    SyncCrossHair();
+    aids_.editModeChanged();
     paintNow();
 }
 
 void frmWorksheet::setAlpha(int alpha) {
-    alpha_ = alpha;
+    transparency_.alpha = alpha;
     ApplyLayered();
 }
 
 void frmWorksheet::setClickAlpha(int alpha) {
-    clickAlpha_ = alpha;
+    transparency_.clickAlpha = alpha;
     ApplyLayered();
 }
 
 void frmWorksheet::setBackground(COLORREF color) {
-    if (color != painter_.background()) {
-        painter_.setBackground(color);
+    if (static_cast<Color>(color) != aids_.background()) {
+        aids_.setBackground(static_cast<Color>(color));
+        painter_.backgroundChanged();
         InvalidateRect(handle(), nullptr, FALSE);
     }
+}
+
+void frmWorksheet::aidsChanged() {
+    if (painter_.RefreshGrid()) {
+        InvalidateRect(handle(), nullptr, FALSE);
+        paintNow();
+    }
+    aids_.SyncCrossHair();
 }
 
 void frmWorksheet::takeDpi(UINT dpi) {
@@ -155,15 +145,16 @@ void frmWorksheet::show() {
     // Whoever is hidden may not have been told of another one.
     takeDpi(GetDpiForWindow(handle()));
     ShowWindow(handle(), SW_SHOWNA);
-    if (clickable_) {
+    if (transparency_.clickable) {
         // A key that was taken away while the window was hidden can be left behind in its shape.
-        SetLayeredWindowAttributes(handle(), painter_.background(), static_cast<BYTE>(clickAlpha_),
+        SetLayeredWindowAttributes(handle(), colorRef(aids_.background()),
+                                   static_cast<BYTE>(transparency_.clickAlpha),
                                    LWA_COLORKEY | LWA_ALPHA);
         ApplyLayered();
     }
     if (maxSized_) {
         // The screen may have changed while the window was hidden.
-        fillScreen();
+        setMaxSized(true);
     }
 }
 
@@ -173,40 +164,24 @@ void frmWorksheet::hide() {
 
 void frmWorksheet::setMaxSized(bool maxSized) {
     maxSized_ = maxSized;
-    if (!isVisible()) {
-        show();
-    } else if (maxSized) {
-        fillScreen();
-    }
-    if (!maxSized && IsZoomed(handle()) != FALSE) {
-        ShowWindow(handle(), SW_SHOWNOACTIVATE);
-    }
-}
-
-void frmWorksheet::prepareMaxSized(bool maxSized) {
-    maxSized_ = maxSized;
-    if (maxSized) {
-        fillScreen();
-    }
-}
-
-void frmWorksheet::fillScreen() {
-    if (IsZoomed(handle()) != FALSE) {
+    if (IsZoomed(handle()) != FALSE && (maxSized || isVisible())) {
         // Where a maximised window comes to lie is the system's choice.
         ShowWindow(handle(), SW_SHOWNOACTIVATE);
     }
-    const RECT area = areaToFill(handle());
-    SetWindowPos(handle(), nullptr, area.left, area.top, area.right - area.left,
-                 area.bottom - area.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    if (maxSized) {
+        const RECT area = areaToFill(handle());
+        SetWindowPos(handle(), nullptr, area.left, area.top, area.right - area.left,
+                     area.bottom - area.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    }
 }
 
 void frmWorksheet::narrowAndWiden() {
-    const RECT place = rectangle();
-    const int width = place.right - place.left;
-    const int height = place.bottom - place.top;
-    constexpr UINT flags = SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE;
-    SetWindowPos(handle(), nullptr, 0, 0, width - 1, height, flags);
-    SetWindowPos(handle(), nullptr, 0, 0, width, height, flags);
+    widenAndTakeBack(*this, -1);
+}
+
+void frmWorksheet::setFocusHeld(bool held) {
+    sheet_.setFocusHeld(held, GetFocus() == handle());
+    paintNow();
 }
 
 bool frmWorksheet::wasInFront() const {
@@ -217,25 +192,23 @@ void frmWorksheet::rememberForeground() {
     foreground_.LastForegroundWindow = GetForegroundWindow();
 }
 
-void frmWorksheet::repaintTool(const OverlayItem& item) {
-    const RegionHandle region = regionOf(item.footprint());
-    painter_.restChanged(region.get());
-    InvalidateRgn(handle(), region.get(), FALSE);
-}
-
-void frmWorksheet::repaint(const OverlayItem& item, const DirtyRegion& region) {
-    if (region.empty() || !sheet_.isVisible(item)) {
-        return;
-    }
+void frmWorksheet::invalidate(const DirtyRegion& region, bool atRest) {
     const RegionHandle changed = regionOf(region);
-    if (&item != sheet_.front()) {
+    if (atRest) {
         painter_.restChanged(changed.get());
     }
     InvalidateRgn(handle(), changed.get(), FALSE);
 }
 
-void frmWorksheet::paintNow() {
+void frmWorksheet::repaint(const OverlayItem& item, const DirtyRegion& region) {
+    if (!region.empty() && sheet_.isVisible(item)) {
+        invalidate(region, &item != sheet_.front());
+    }
+}
+
+LRESULT frmWorksheet::paintNow() {
     UpdateWindow(handle());
+    return 0;
 }
 
 void frmWorksheet::showTip(const OverlayItem& item, TipId tip) {
@@ -255,19 +228,37 @@ void frmWorksheet::runTimer(Ticking& ticking, int interval, bool running) {
     }
 }
 
-void frmWorksheet::pollOutside() {
-    if (!clickable_ || !outsidePolls_.due(secondsSinceMidnight())) {
-        return;
+float frmWorksheet::now() const {
+    return secondsSinceMidnight();
+}
+
+Pointer frmWorksheet::pointer() const {
+    const POINT cursor = cursorPlace();
+    return {{static_cast<int>(cursor.x), static_cast<int>(cursor.y)},
+            fromRect(rectangle()),
+            GetCapture() != nullptr};
+}
+
+void frmWorksheet::showCrossHair(const CrossHairLine& along, const CrossHairLine& down) {
+    CrossHairX_->move(along);
+    CrossHairY_->move(down);
+}
+
+void frmWorksheet::raiseWorksheet(bool crossHair) {
+    raiseWithoutActivating(crossHair ? CrossHairX_->handle() : handle());
+}
+
+void frmWorksheet::raiseControlWindow() {
+    commands_.raiseControlWindowAt(cursorPlace());
+}
+
+void frmWorksheet::ShowContextMenu() {
+    paintNow();
+    if (!mouse_.holding()) {
+        // The menu takes the mouse.
+        letGoOfMouse(handle());
     }
-    POINT cursor{};
-    GetCursorPos(&cursor);
-    const RECT place = rectangle();
-    if (PtInRect(&place, cursor) == FALSE) {
-        const bool heldByOther = GetCapture() != nullptr && !mouse_.holding();
-        mouse_.outside(static_cast<float>(cursor.x - place.left),
-                       static_cast<float>(cursor.y - place.top), heldByOther);
-        paintNow();
-    }
+    commands_.ShowContextMenu(cursorPlace());
 }
 
 }  // namespace ormala

@@ -7,14 +7,14 @@
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/TipWindow.h"
 #include "platform/win/Window.h"
-#include "worksheet/BackgroundGrid.h"
-#include "worksheet/CircleCompass.h"
+#include "worksheet/AidOptions.h"
+#include "worksheet/Aids.h"
 #include "worksheet/ForegroundMemory.h"
-#include "worksheet/RateLimit.h"
 #include "worksheet/Sheet.h"
 #include "worksheet/SheetMouse.h"
 #include "worksheet/SheetTip.h"
 #include "worksheet/sheetKeys.h"
+#include "worksheet/transparency.h"
 #include "worksheet/win/SheetPainter.h"
 #include "worksheet/win/frmCrossHair.h"
 
@@ -43,43 +43,36 @@ class WorksheetCommands {
 
 /// The see-through window on which the tools lie. In edit mode a veil over the screen that takes
 /// the mouse; otherwise only the tools show, and every click falls through to the program below.
-class frmWorksheet : public Window, private SheetPort, private ToolHost {
+class frmWorksheet : public Window, private SheetPort, private MousePort, private ToolHost {
   public:
-    /// Stays hidden. The arguments must outlive the worksheet.
-    frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground, WorksheetCommands& commands);
+    /// Stays hidden. The arguments must outlive the worksheet, which reads the options at each use.
+    frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground, WorksheetCommands& commands,
+                 const AidOptions& aids);
     ~frmWorksheet() override;
 
     [[nodiscard]] Sheet& sheet() { return sheet_; }
     /// A window that the worksheet lies above and that keeps it off the task bar.
     void setOwner(HWND owner);
 
-    [[nodiscard]] bool Clickable() const { return clickable_; }
+    [[nodiscard]] bool Clickable() const { return transparency_.clickable; }
     void setClickable(bool clickable);
     /// While set, every click falls through to the program below, whatever the mode; nothing that
     /// is seen changes.
     void setTransparentToMouse(bool transparent);
-    [[nodiscard]] int Alpha() const { return alpha_; }
+    [[nodiscard]] int Alpha() const { return transparency_.alpha; }
     void setAlpha(int alpha);
-    [[nodiscard]] int ClickAlpha() const { return clickAlpha_; }
+    [[nodiscard]] int ClickAlpha() const { return transparency_.clickAlpha; }
     void setClickAlpha(int alpha);
     [[nodiscard]] bool MaxSized() const { return maxSized_; }
     /// True: the window fills its screen and leaves the primary screen's task bar free; false: it
-    /// has the place that it is given. Shows the window.
+    /// has the place that it is given. A window that is hidden stays so.
     void setMaxSized(bool maxSized);
-    /// The same for a window that is hidden, and stays so until `show`.
-    void prepareMaxSized(bool maxSized);
     void setBackground(COLORREF color);
 
-    [[nodiscard]] const BackgroundGrid& grid() const { return grid_; }
-    [[nodiscard]] bool GridEnabled() const { return grid_.enabled; }
-    /// Paints nothing: the grid is seen after `RefreshGrid`.
-    void setGrid(const BackgroundGrid& grid) { grid_ = grid; }
-    void RefreshGrid();
-    [[nodiscard]] bool CrossHairEnabled() const { return crossHairEnabled_; }
-    /// Two lines through the mouse, shown while the worksheet takes it.
-    void setCrossHairEnabled(bool enabled);
-    /// Two circles that open with a drag on the background.
-    void setCircleCompassEnabled(bool enabled) { circleCompassEnabled_ = enabled; }
+    /// The options of the aids have changed. Paints at once if the grid looks different.
+    void aidsChanged();
+    /// Hides the cross hair for the time of a screen shot.
+    void setAidsAside(bool aside) { aids_.setAside(aside); }
 
     /// Meanwhile the tools do not learn that the window gets or loses the keyboard; at the end they
     /// learn who has it then.
@@ -105,44 +98,35 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
 
     bool wasInFront() const override;
     void rememberForeground() override;
-    void repaintTool(const OverlayItem& item) override;
+    void repaintTool(const OverlayItem& item) override { invalidate(item.footprint(), true); }
+
+    float now() const override;
+    Pointer pointer() const override;
+    void repaintInFront(const DirtyRegion& region) override { invalidate(region, false); }
+    void showCrossHair(const CrossHairLine& along, const CrossHairLine& down) override;
+    bool raiseLens(bool onlySticked) override { return commands_.raiseLens(onlySticked); }
+    void raiseWorksheet(bool crossHair) override;
+    void raiseControlWindow() override;
+    void ShowContextMenu() override;
+
     void repaint(const OverlayItem& item, const DirtyRegion& region) override;
     void showTip(const OverlayItem& item, TipId tip) override;
     const TextMeter& textMeter() const override { return fonts_; }
     void runTimer(Ticking& ticking, int interval, bool running) override;
 
     void ApplyLayered();
-    void fillScreen();
-    void letGoOfMouse();
+    void invalidate(const DirtyRegion& region, bool atRest);
     /// Of the monitor that the window is on.
     void takeDpi(UINT dpi);
     LRESULT onPress(int button, WPARAM wParam, LPARAM lParam);
-    LRESULT onMove(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT onMove(WPARAM wParam, LPARAM lParam);
     LRESULT onRelease(int button, WPARAM wParam, LPARAM lParam);
-    LRESULT onCaptureLost();
-    LRESULT onFocus(bool focused);
     LRESULT onTimer(WPARAM id);
     LRESULT onResize();
-    LRESULT onDisplayChange();
     std::optional<LRESULT> onKey(WPARAM key);
-    std::optional<LRESULT> onKeyUp(WPARAM key);
-    void tellModifiers(int shift);
     [[nodiscard]] bool takesKey(int key, int shift) const;
     bool obey(SheetCommand command);
-    void pollOutside();
-    void subscribeToMouse();
-    void onBackgroundDown(const MouseInput& input);
-    void onBackgroundMove(const MouseInput& input);
-    void onBackgroundUp(const MouseInput& input);
-    void raiseUppermost();
-    void ShowContextMenu();
-    void hideCompass();
-    void repaintCompass();
-    void SyncCrossHair();
-    void UpdateCrossHair();
-    void placeCrossHair();
-    LRESULT onPaint();
-    void paintNow();
+    LRESULT paintNow();
 
     GdiFonts fonts_;
     ForegroundMemory& foreground_;
@@ -150,28 +134,21 @@ class frmWorksheet : public Window, private SheetPort, private ToolHost {
     /// Before the sheet, since a tool stops its timer when it is destroyed.
     std::vector<Ticking*> timers_;
     Sheet sheet_;
+    Aids aids_;
     SheetMouse mouse_;
-    CircleCompass compass_;
     SheetPainter painter_;
-    std::vector<Subscription> subscriptions_;
-    std::unique_ptr<TipWindow> tip_;
     SheetTip sheetTip_;
+    std::unique_ptr<TipWindow> tip_;
+    Subscription languageChanged_;
     /// The line along the worksheet, and the one down it.
     std::unique_ptr<frmCrossHair> CrossHairX_;
     std::unique_ptr<frmCrossHair> CrossHairY_;
-    BackgroundGrid grid_;
-    RateLimit outsidePolls_;
-    RateLimit crossHairMoves_;
-    bool crossHairEnabled_ = false;
-    bool circleCompassEnabled_ = false;
-    bool clickable_ = false;
-    bool transparentToMouse_ = false;
-    bool focusHeld_ = false;
-    /// What the tools know.
-    bool focusKnown_ = false;
+    Transparency transparency_;
     bool maxSized_ = true;
-    int alpha_ = 255;
-    int clickAlpha_ = 255;
 };
+
+/// Makes a window wider by so many pixels and takes them back, so that it lays itself out and
+/// repaints after it was hidden.
+void widenAndTakeBack(const Window& window, int by);
 
 }  // namespace ormala

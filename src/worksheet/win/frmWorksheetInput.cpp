@@ -15,20 +15,18 @@ MouseInput mouseInput(int button, WPARAM wParam, LPARAM lParam) {
             static_cast<float>(GET_Y_LPARAM(lParam))};
 }
 
-bool isModifier(WPARAM key) {
-    return key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU;
-}
-
 }  // namespace
 
 std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_PAINT:
-            return onPaint();
+            painter_.paint(handle());
+            painted.raise();
+            return 0;
         case WM_ERASEBKGND:
             return 1;
         case WM_MOUSEMOVE:
-            return onMove(message, wParam, lParam);
+            return onMove(wParam, lParam);
         case WM_LBUTTONDOWN:
             return onPress(mouseButton::left, wParam, lParam);
         case WM_RBUTTONDOWN:
@@ -42,20 +40,25 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
         case WM_MBUTTONUP:
             return onRelease(mouseButton::middle, wParam, lParam);
         case WM_CAPTURECHANGED:
-            return onCaptureLost();
+            mouse_.lost();
+            return paintNow();
         case WM_KEYDOWN:
         case WM_SYSKEYDOWN:
             return onKey(wParam);
         case WM_KEYUP:
         case WM_SYSKEYUP:
-            return onKeyUp(wParam);
+            mouse_.keyChanged(static_cast<int>(wParam), heldModifiers());
+            paintNow();
+            return std::nullopt;
         case WM_SYSCOMMAND:
             // Releasing Alt after a drag must not open a menu that takes the keys away.
             return (wParam & 0xFFF0U) == SC_KEYMENU ? std::optional<LRESULT>(0) : std::nullopt;
         case WM_SETFOCUS:
-            return onFocus(true);
+            sheet_.windowGotFocus();
+            return paintNow();
         case WM_KILLFOCUS:
-            return onFocus(false);
+            sheet_.windowLostFocus();
+            return paintNow();
         case WM_TIMER:
             return onTimer(wParam);
         case WM_SIZE:
@@ -66,10 +69,12 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
         case WM_DPICHANGED:
             // Where it lies then is for its frame to tell, or for the screen that it fills.
             takeDpi(HIWORD(wParam));
-            paintNow();
-            return 0;
+            return paintNow();
         case WM_DISPLAYCHANGE:
-            return onDisplayChange();
+            if (maxSized_ && isVisible()) {
+                setMaxSized(true);
+            }
+            return 0;
         case WM_CLOSE:
             commands_.closeProgram();
             return 0;
@@ -88,15 +93,13 @@ LRESULT frmWorksheet::onPress(int button, WPARAM wParam, LPARAM lParam) {
         // Taking it twice would mean losing it.
         SetCapture(handle());
     }
-    paintNow();
-    return 0;
+    return paintNow();
 }
 
-LRESULT frmWorksheet::onMove(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT frmWorksheet::onMove(WPARAM wParam, LPARAM lParam) {
     mouse_.move(mouseInput(heldButtons(wParam), wParam, lParam));
-    tip_->relay(message, wParam, lParam);
-    paintNow();
-    return 0;
+    tip_->relay(WM_MOUSEMOVE, wParam, lParam);
+    return paintNow();
 }
 
 LRESULT frmWorksheet::onRelease(int button, WPARAM wParam, LPARAM lParam) {
@@ -105,38 +108,7 @@ LRESULT frmWorksheet::onRelease(int button, WPARAM wParam, LPARAM lParam) {
     if (stillHeld == 0 && GetCapture() == handle()) {
         ReleaseCapture();
     }
-    paintNow();
-    return 0;
-}
-
-LRESULT frmWorksheet::onCaptureLost() {
-    if (mouse_.holding()) {
-        mouse_.lost();
-        paintNow();
-    }
-    return 0;
-}
-
-LRESULT frmWorksheet::onFocus(bool focused) {
-    if (focusHeld_) {
-        return 0;
-    }
-    focusKnown_ = focused;
-    if (focused) {
-        sheet_.windowGotFocus();
-    } else {
-        sheet_.windowLostFocus();
-    }
-    paintNow();
-    return 0;
-}
-
-void frmWorksheet::setFocusHeld(bool held) {
-    focusHeld_ = held;
-    const bool focused = GetFocus() == handle();
-    if (!held && focused != focusKnown_) {
-        onFocus(focused);
-    }
+    return paintNow();
 }
 
 LRESULT frmWorksheet::onTimer(WPARAM id) {
@@ -144,15 +116,10 @@ LRESULT frmWorksheet::onTimer(WPARAM id) {
         timers_, [id](Ticking* ticking) { return reinterpret_cast<WPARAM>(ticking) == id; });
     if (at != timers_.end()) {
         (*at)->tick();
-        paintNow();
     } else {
-        pollOutside();
-        if (crossHairMoves_.refused()) {
-            // The last move of a fast hand came too early.
-            UpdateCrossHair();
-        }
+        mouse_.tick();
     }
-    return 0;
+    return paintNow();
 }
 
 LRESULT frmWorksheet::onResize() {
@@ -165,44 +132,21 @@ LRESULT frmWorksheet::onResize() {
     return 0;
 }
 
-LRESULT frmWorksheet::onDisplayChange() {
-    if (maxSized_ && isVisible()) {
-        setMaxSized(true);
-    }
-    return 0;
-}
-
 std::optional<LRESULT> frmWorksheet::onKey(WPARAM key) {
     const int shift = heldModifiers();
     if (!takesKey(static_cast<int>(key), shift)) {
         return std::nullopt;
     }
-    if (isModifier(key) && mouse_.holding()) {
-        tellModifiers(shift);
-        return 0;
-    }
-    if (!KeyDown(static_cast<int>(key), shift) && sheet_.focused() != nullptr) {
+    if (!mouse_.keyChanged(static_cast<int>(key), shift) &&
+        !KeyDown(static_cast<int>(key), shift) && sheet_.focused() != nullptr) {
         sheet_.focused()->keyDown(static_cast<int>(key), shift);
     }
-    paintNow();
-    return 0;
+    return paintNow();
 }
 
 bool frmWorksheet::takesKey(int key, int shift) const {
     const bool closing = key == VK_F4 && (shift & modifier::alt) != 0;
-    return clickable_ && !closing;
-}
-
-std::optional<LRESULT> frmWorksheet::onKeyUp(WPARAM key) {
-    if (isModifier(key)) {
-        tellModifiers(heldModifiers());
-    }
-    return std::nullopt;
-}
-
-void frmWorksheet::tellModifiers(int shift) {
-    mouse_.modifiersHeld(shift);
-    paintNow();
+    return transparency_.clickable && !closing;
 }
 
 bool frmWorksheet::KeyDown(int key, int shift) {

@@ -19,4 +19,13 @@ struct BackgroundGrid {
     bool operator==(const BackgroundGrid&) const = default;
 };
 
+/// What the user sets of the worksheet's own aids, with the defaults of a first start.
+struct AidOptions {
+    BackgroundGrid grid;
+    bool crossHair = false;
+    bool circleCompass = true;
+
+    bool operator==(const AidOptions&) const = default;
+};
+
 }  // namespace ormala
