@@ -12,6 +12,7 @@
 #include "stencil/StencilPanel.h"
 #include "support/FakePanelCommands.h"
 #include "support/MemoryMessagePresenter.h"
+#include "support/OwnToolSettings.h"
 #include "support/QuietToolHost.h"
 
 namespace ormala::bench {
@@ -100,7 +101,7 @@ class QuietToolList : public BusyView,
         return made;
     }
 
-    ToolSettings settings_;
+    OwnToolSettings settings_;
     QuietToolHost host_;
     FakeStencilCommands stencilCommands_;
     FakeMeasureCommands measureCommands_;
@@ -109,9 +110,10 @@ class QuietToolList : public BusyView,
     ToolMaker maker_{settings_, ratios_};
     Sheet sheet_{*this, host_, maker_};
     MemoryMessagePresenter messages_;
+    MeasureUnits units_;
 
   public:
-    ToolList list{{sheet_, *this, *this, messages_}};
+    ToolList list{{sheet_, *this, *this, messages_, units_}};
 };
 
 }  // namespace ormala::bench

@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include "stencil/ctlRatioGrid.h"
+#include "support/OwnToolSettings.h"
 
 // All that a step of a drag computes without painting, beside the drawing of the same stencil into
 // nothing.
@@ -40,7 +41,7 @@ class EmptyCanvas : public Canvas {
 
 struct Stencil {
     EmptyHost host;
-    ToolSettings settings;
+    OwnToolSettings settings;
     SpecialRatios ratios{[](int, std::string_view text) { return std::string(text); }, {}};
     ctlRatioGrid tool{host, settings, ratios};
 

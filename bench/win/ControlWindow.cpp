@@ -6,7 +6,7 @@
 
 #include "Figures.h"
 #include "ProcessorTime.h"
-#include "app/win/frmSettings.h"
+#include "app/win/shell/Program.h"
 #include "benchmarks.h"
 #include "e2e/support/AppDataFolder.h"
 #include "stencil/ctlRatioGrid.h"
@@ -26,16 +26,16 @@ class ControlWindowStage {
   public:
     ControlWindowStage() { list().RemoveAllTools(); }
 
-    [[nodiscard]] ToolList& list() { return settings_.tools().tools(); }
-    [[nodiscard]] ToolsPane& pane() { return settings_.tools(); }
+    [[nodiscard]] ToolList& list() { return program_.tools().tools(); }
+    [[nodiscard]] ToolsPane& pane() { return program_.tools(); }
     [[nodiscard]] PanelCore& lastPanel() {
         return dynamic_cast<PanelCore&>(list().GetPanelsInVisualOrder().back().listed.panel());
     }
     /// The lowest panel of a stencil.
     [[nodiscard]] HWND lastStencilPanel() {
-        const HWND inner =
-            FindWindowExW(FindWindowExW(settings_.handle(), nullptr, L"PictureBox", nullptr),
-                          nullptr, L"PictureBox", nullptr);
+        const HWND inner = FindWindowExW(
+            FindWindowExW(program_.settings().handle(), nullptr, L"PictureBox", nullptr), nullptr,
+            L"PictureBox", nullptr);
         HWND last = nullptr;
         int lowest = std::numeric_limits<int>::min();
         HWND panel = nullptr;
@@ -61,8 +61,9 @@ class ControlWindowStage {
         }
     }
     void paint() {
-        RedrawWindow(settings_.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-        UpdateWindow(settings_.worksheet().handle());
+        RedrawWindow(program_.settings().handle(), nullptr, nullptr,
+                     RDW_UPDATENOW | RDW_ALLCHILDREN);
+        UpdateWindow(program_.worksheet().handle());
         GdiFlush();
     }
     /// What the system still has to say is said, and the throttled read-outs are shown.
@@ -70,7 +71,7 @@ class ControlWindowStage {
 
   private:
     const test::AppDataFolder folder_;
-    frmSettings settings_{false};
+    Program program_{false};
 };
 
 int windowsToPaint(HWND window) {

@@ -64,6 +64,9 @@ class KeyReader {
         value = file_.LongValue(key, value ? -1 : 0) != 0;
     }
     void operator()(const char* key, int& value) const { value = file_.LongValue(key, value); }
+    void operator()(const char* key, Mode& value) const {
+        value = static_cast<Mode>(file_.LongValue(key, numberOf(value)));
+    }
     void operator()(const char* key, double& value) const {
         value = file_.LongValue(key, static_cast<int>(value));
     }
@@ -81,6 +84,7 @@ class KeyWriter {
 
     void operator()(const char* key, bool value) const { file_.setLongValue(key, value ? -1 : 0); }
     void operator()(const char* key, int value) const { file_.setLongValue(key, value); }
+    void operator()(const char* key, Mode value) const { file_.setLongValue(key, numberOf(value)); }
     void operator()(const char* key, double value) const {
         file_.setDoubleValue(key, RoundHalfAway(value, 0));
     }
@@ -95,7 +99,7 @@ class KeyWriter {
 /// Values that no control of the program could have set.
 void mend(Options& options) {
     const Options first;
-    if (options.mode < 0 || options.mode > 2) {
+    if (!isMode(options.mode)) {
         options.mode = first.mode;
     }
     options.transparencyEditMode = std::clamp(options.transparencyEditMode, 0, 100);

@@ -4,6 +4,7 @@
 
 #include "magnifier/LensOptions.h"
 #include "modAPI/colors.h"
+#include "scene/Mode.h"
 #include "storage/INIFile.h"
 #include "toolkit/MeasureUnits.h"
 #include "worksheet/AidOptions.h"
@@ -14,8 +15,7 @@ namespace ormala {
 struct Options {
     bool showReferenceLines = true;
     bool templateWithBorder = false;
-    /// 0 edit, 1 template, 2 pause.
-    int mode = 0;
+    Mode mode = Mode::edit;
     /// Percent, 0 to 100.
     int transparencyEditMode = 25;
     int transparencyTemplateMode = 50;

@@ -4,7 +4,6 @@
 #include <limits>
 #include <utility>
 
-#include "app/modes.h"
 #include "modAPI/rounding.h"
 
 namespace ormala {
@@ -19,8 +18,8 @@ int toInt(double value) {
                                        static_cast<double>(std::numeric_limits<int>::max())));
 }
 
-bool isShort(int mode) {
-    return mode == mode::templateMode || mode == mode::pause;
+bool isShort(Mode mode) {
+    return mode == Mode::templateMode || mode == Mode::pause;
 }
 
 bool standsShort(const SettingsHeight::Present& present) {
@@ -29,10 +28,10 @@ bool standsShort(const SettingsHeight::Present& present) {
 
 }  // namespace
 
-std::optional<int> SettingsHeight::adjust(int mode, int formerMode, const Present& present) {
+std::optional<int> SettingsHeight::adjust(Mode mode, Mode formerMode, const Present& present) {
     pending_ = present.state == WindowState::minimised;
-    const int from = std::exchange(pendingFrom_, std::nullopt).value_or(formerMode);
-    const bool leavesEdit = from == mode::edit && isShort(mode);
+    const Mode from = std::exchange(pendingFrom_, std::nullopt).value_or(formerMode);
+    const bool leavesEdit = from == Mode::edit && isShort(mode);
     if (present.state != WindowState::normal) {
         pendingFrom_ = pending_ ? std::optional(from) : std::nullopt;
         if (pending_ && leavesEdit && present.height > present.shortHeight) {
@@ -48,7 +47,7 @@ std::optional<int> SettingsHeight::adjust(int mode, int formerMode, const Presen
         return present.shortHeight;
     }
     // A user who has pulled the short window to another height keeps that one.
-    if (mode == mode::edit && standsShort(present) && editModeHeight_ > 0) {
+    if (mode == Mode::edit && standsShort(present) && editModeHeight_ > 0) {
         return editModeHeight_;
     }
     return std::nullopt;

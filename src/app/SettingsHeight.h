@@ -2,6 +2,8 @@
 
 #include <optional>
 
+#include "scene/Mode.h"
+
 namespace ormala {
 
 enum class WindowState { normal, minimised, maximised };
@@ -23,7 +25,7 @@ class SettingsHeight {
 
     /// `AdjustFormHeight`: the height that the window is to take on a change from `formerMode` to
     /// `mode`, nothing if it keeps its own.
-    std::optional<int> adjust(int mode, int formerMode, const Present& present);
+    std::optional<int> adjust(Mode mode, Mode formerMode, const Present& present);
 
     /// The window was sized: true if a change that came while it was minimised is due now.
     bool resized(WindowState state);
@@ -40,7 +42,7 @@ class SettingsHeight {
     int editModeHeight_ = 0;
     bool pending_ = false;
     /// The mode before the first change that waits.
-    std::optional<int> pendingFrom_;
+    std::optional<Mode> pendingFrom_;
     WindowState last_ = WindowState::normal;
 };
 

@@ -38,7 +38,7 @@ void ToolList::prepareFirst(ToolKind kind) {
     panel.setDefaultLook(colors_);
     panel.setNumber(measures ? 1 : 0);
     panel.SetDefaultProperties();
-    panel.setUnits(units_);
+    panel.setUnits(ports_.units);
     panel.CenterToScreen(measures ? NextToolSize() : 0);
     panel.finish();
     pair.listed->setVisible(true);
@@ -83,7 +83,7 @@ ToolPanel* ToolList::AddNewControl(int Kind, const std::function<void(ToolPanel&
         panel.inherit(*former);
     }
     panel.setPause(false);
-    panel.setUnits(units_);
+    panel.setUnits(ports_.units);
     panel.CenterToScreen(NextToolSize());
     panel.finish();
     listed.setVisible(true);

@@ -25,13 +25,12 @@ class ToolList {
         PanelFactory& panels;
         ToolListView& view;
         MessagePresenter& messages;
+        /// What new measurement tools measure in.
+        const MeasureUnits& units;
     };
 
     /// The ports must outlive the list.
     explicit ToolList(const Ports& ports) : ports_(ports) {}
-
-    /// What new measurement tools measure in.
-    void setUnits(const MeasureUnits& units) { units_ = units; }
 
     /// Makes the first pair of each kind, with visible panels and with tools that are hidden still.
     void prepareFirstTools();
@@ -82,7 +81,6 @@ class ToolList {
     /// From top to bottom, hidden ones too; those of a kind in the order of their making.
     std::vector<Pair> pairs_;
     ToolColors colors_;
-    MeasureUnits units_;
     ToolSizes sizes_;
 };
 

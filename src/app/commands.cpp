@@ -4,8 +4,8 @@
 
 namespace ormala {
 
-const std::array<CommandDesign, commandCount>& commandDesigns() {
-    static constexpr std::array<CommandDesign, commandCount> designs{{
+const std::array<CommandDesign, buttonCount>& commandDesigns() {
+    static constexpr std::array<CommandDesign, buttonCount> designs{{
         {Command::editMode, "btnMode(0)", Picture::modeEdit, 156, 157, roundAtLeft},
         {Command::templateMode, "btnMode(1)", Picture::modeTemplate, 162, 163, square},
         {Command::pauseMode, "btnMode(2)", Picture::modePause, 60, 161, roundAtRight},
@@ -32,12 +32,12 @@ const std::array<CommandDesign, commandCount>& commandDesigns() {
     return designs;
 }
 
-CommandState stateOfCommand(Command command, int mode, bool worksheetMaxSized) {
+CommandState stateOfCommand(Command command, Mode mode, bool worksheetMaxSized) {
     switch (command) {
         case Command::templateAndMinimise:
-            return {mode != mode::templateMode, true};
+            return {mode != Mode::templateMode, true};
         case Command::pauseAndMinimise:
-            return {mode != mode::pause, true};
+            return {mode != Mode::pause, true};
         case Command::addStencil:
         case Command::addMeasure:
         case Command::newTools:
@@ -49,7 +49,7 @@ CommandState stateOfCommand(Command command, int mode, bool worksheetMaxSized) {
         case Command::circleCompass:
         case Command::crossHair:
         case Command::referenceLines:
-            return {true, mode != mode::pause};
+            return {true, mode != Mode::pause};
         case Command::worksheetNormal:
             return {true, worksheetMaxSized};
         default:
@@ -57,40 +57,34 @@ CommandState stateOfCommand(Command command, int mode, bool worksheetMaxSized) {
     }
 }
 
-std::optional<bool> toggleOf(Command command, const ToggleStates& states) {
+std::optional<ModeChange> modeChangeOf(Command command) {
     switch (command) {
-        case Command::lens:
-            return states.lens;
-        case Command::grid:
-            return states.grid;
-        case Command::crossHair:
-            return states.crossHair;
-        case Command::referenceLines:
-            return states.referenceLines;
-        case Command::circleCompass:
-            return states.circleCompass;
+        case Command::editMode:
+            return ModeChange{Mode::edit, false};
+        case Command::templateMode:
+            return ModeChange{Mode::templateMode, false};
+        case Command::pauseMode:
+            return ModeChange{Mode::pause, false};
+        case Command::templateAndMinimise:
+            return ModeChange{Mode::templateMode, true};
+        case Command::pauseAndMinimise:
+            return ModeChange{Mode::pause, true};
         default:
             return std::nullopt;
     }
 }
 
-int modeOfCommand(Command command) {
+std::optional<int> optionsPageOf(Command command) {
     switch (command) {
-        case Command::editMode:
-            return mode::edit;
-        case Command::templateMode:
-        case Command::templateAndMinimise:
-            return mode::templateMode;
-        case Command::pauseMode:
-        case Command::pauseAndMinimise:
-            return mode::pause;
+        case Command::options:
+            return 0;
+        case Command::worksheetOptions:
+            return 1;
+        case Command::lensOptions:
+            return 2;
         default:
-            return -1;
+            return std::nullopt;
     }
-}
-
-bool minimises(Command command) {
-    return command == Command::templateAndMinimise || command == Command::pauseAndMinimise;
 }
 
 }  // namespace ormala

@@ -4,38 +4,15 @@
 #include <cstddef>
 #include <optional>
 
-#include "app/modes.h"
 #include "pictures/pictures.h"
+#include "scene/Command.h"
+#include "scene/Mode.h"
 
 namespace ormala {
 
-/// The commands of the control window that have a button, in the order of the Tab key. The first
-/// three are the modes, in their order.
-enum class Command {
-    editMode,
-    templateMode,
-    pauseMode,
-    templateAndMinimise,
-    pauseAndMinimise,
-    addStencil,
-    addMeasure,
-    newTools,
-    load,
-    save,
-    saveAs,
-    lens,
-    grid,
-    crossHair,
-    referenceLines,
-    circleCompass,
-    screenShot,
-    worksheetNormal,
-    options,
-    help,
-};
+inline constexpr std::size_t buttonCount = static_cast<std::size_t>(Command::help) + 1;
 
-inline constexpr std::size_t commandCount = static_cast<std::size_t>(Command::help) + 1;
-
+/// A command of the control window that has a button.
 struct CommandDesign {
     Command command;
     /// Of its button.
@@ -48,7 +25,7 @@ struct CommandDesign {
     int cornerStyle;
 };
 
-const std::array<CommandDesign, commandCount>& commandDesigns();
+const std::array<CommandDesign, buttonCount>& commandDesigns();
 
 /// What a mode makes of a command's button.
 struct CommandState {
@@ -59,26 +36,20 @@ struct CommandState {
 };
 
 /// `worksheetMaxSized` says whether a full-screen worksheet can be brought back into its frame.
-CommandState stateOfCommand(Command command, int mode, bool worksheetMaxSized);
+CommandState stateOfCommand(Command command, Mode mode, bool worksheetMaxSized);
 
-/// What is shown or works on the worksheet besides the tools.
-struct ToggleStates {
-    bool lens = false;
-    bool grid = false;
-    bool crossHair = false;
-    bool referenceLines = false;
-    bool circleCompass = false;
+/// Where a mode's command leads.
+struct ModeChange {
+    Mode mode = Mode::edit;
+    bool minimise = false;
 
-    bool operator==(const ToggleStates&) const = default;
+    bool operator==(const ModeChange&) const = default;
 };
 
-/// Whether the command's toggle is on; nothing for a command that is no toggle.
-std::optional<bool> toggleOf(Command command, const ToggleStates& states);
+/// Nothing for a command that changes no mode.
+std::optional<ModeChange> modeChangeOf(Command command);
 
-/// The mode that the command switches to, or -1.
-int modeOfCommand(Command command);
-
-/// Whether the command minimises the control window.
-bool minimises(Command command);
+/// The page of the options dialog that the command opens, from 0.
+std::optional<int> optionsPageOf(Command command);
 
 }  // namespace ormala

@@ -1,25 +1,29 @@
 #include "app/modes.h"
 
+#include <array>
+#include <cstddef>
+
+#include "app/version.h"
 #include "language/MlStringModule.h"
 
 namespace ormala {
 
 namespace {
 
-constexpr int captionIds[] = {303, 304, 305};
-constexpr int nameIds[] = {156, 162, 60};
+constexpr std::array captionIds{303, 304, 305};
+constexpr std::array nameIds{156, 162, 60};
 
-std::string textOf(const int (&ids)[mode::count], int mode) {
-    return mode >= 0 && mode < mode::count ? MlString(ids[mode], {}) : std::string{};
+std::string textOf(const std::array<int, allModes.size()>& ids, Mode mode) {
+    return isMode(mode) ? MlString(ids[static_cast<std::size_t>(mode)], {}) : std::string{};
 }
 
 }  // namespace
 
-std::string captionOfMode(int mode) {
+std::string captionOfMode(Mode mode) {
     return applicationTitle + textOf(captionIds, mode);
 }
 
-std::string nameOfMode(int mode) {
+std::string nameOfMode(Mode mode) {
     return textOf(nameIds, mode);
 }
 
@@ -27,15 +31,25 @@ Color colorOfToggle(bool on) {
     return on ? rgb(187, 168, 0) : rgb(112, 112, 112);
 }
 
-ModeWindows windowsOfMode(int mode, bool maxSized, bool withBorder) {
+ModeWindows windowsOfMode(Mode mode, bool maxSized, bool withBorder) {
     switch (mode) {
-        case mode::edit:
+        case Mode::edit:
             return {true, true, !maxSized, maxSized};
-        case mode::templateMode:
+        case Mode::templateMode:
             return {true, false, !maxSized && withBorder, maxSized && withBorder};
         default:
             return {};
     }
+}
+
+std::optional<Command> commandOfSystemMenu(int number) {
+    constexpr std::array commands{Command::editMode, Command::templateMode, Command::pauseMode};
+    for (const Mode mode : allModes) {
+        if (number == menuCommandOfMode(mode)) {
+            return commands[static_cast<std::size_t>(mode)];
+        }
+    }
+    return std::nullopt;
 }
 
 }  // namespace ormala

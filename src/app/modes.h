@@ -1,26 +1,19 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "modAPI/colors.h"
+#include "scene/Command.h"
+#include "scene/Mode.h"
 
 namespace ormala {
 
-/// The title in front of the window captions and in the names of the program's files.
-inline constexpr const char* applicationTitle = "Ormala";
-
-namespace mode {
-constexpr int edit = 0;
-constexpr int templateMode = 1;
-constexpr int pause = 2;
-constexpr int count = 3;
-}  // namespace mode
-
 /// The caption of the control window: the title and the mode.
-std::string captionOfMode(int mode);
+std::string captionOfMode(Mode mode);
 
 /// What a mode's entry in the system menu says.
-std::string nameOfMode(int mode);
+std::string nameOfMode(Mode mode);
 
 /// The colour of the button of a mode, or of anything else, that is on or off.
 Color colorOfToggle(bool on);
@@ -38,12 +31,15 @@ struct ModeWindows {
 };
 
 /// `maxSized` says whether the worksheet fills its screen, `withBorder` whether template mode keeps
-/// its frame. A number that is no mode shows nothing.
-ModeWindows windowsOfMode(int mode, bool maxSized, bool withBorder);
+/// its frame. What is no mode shows nothing.
+ModeWindows windowsOfMode(Mode mode, bool maxSized, bool withBorder);
 
 /// The number of a mode's entry in the system menu.
-constexpr int menuCommandOfMode(int mode) {
-    return 1010 + mode;
+constexpr int menuCommandOfMode(Mode mode) {
+    return 1010 + numberOf(mode);
 }
+
+/// What the entry of that number asks for; nothing for one that is no mode's.
+std::optional<Command> commandOfSystemMenu(int number);
 
 }  // namespace ormala

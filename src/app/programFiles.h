@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/modes.h"
+#include "app/version.h"
 
 namespace ormala {
 

@@ -16,7 +16,7 @@ struct SettingsLayout {
     }
 
     /// In the order of the commands.
-    std::array<PixelRect, commandCount> buttons;
+    std::array<PixelRect, buttonCount> buttons;
     /// The ground of the buttons.
     PixelRect gradToolbar;
     /// What belongs to the look of the worksheet: a label for both sliders, the sliders, and the

@@ -9,10 +9,8 @@ class LensCommands {
   public:
     virtual ~LensCommands() = default;
 
-    /// 0 edit, 1 template, 2 pause.
-    virtual void SetMode(int mode, bool minimise) = 0;
-    virtual void ShowHelp() = 0;
-    virtual void ShowOptions(int page) = 0;
+    /// A key was pressed: true if it was that of a command, which has been obeyed.
+    virtual bool takeKey(int key, int modifiers) = 0;
     /// Pops up the menu `mnuLens` at a place of the screen.
     virtual void showLensMenu(PixelPoint screen) = 0;
     /// The bounds of all screens together, as they are now.

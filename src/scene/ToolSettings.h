@@ -5,10 +5,11 @@
 
 namespace ormala {
 
-/// What all tools share and the user sets. One object, owned by the application; the tools read it.
+/// What all tools share and the user sets. One object, owned by the application, which also owns
+/// the options that it refers to; the tools read it.
 struct ToolSettings {
-    Grid grid;
-    bool showReferenceLines = true;
+    const Grid& grid;
+    const bool& showReferenceLines;
     TextForm textForm;
 };
 

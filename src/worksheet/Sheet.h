@@ -72,6 +72,9 @@ class Sheet {
     /// Meanwhile the tools learn of neither; at the end they learn who has it then.
     void setFocusHeld(bool held, bool windowHasFocus);
     [[nodiscard]] OverlayItem* focused() const { return focused_; }
+    /// The tool that commands of the keyboard mean: the one with the focus while the window has it,
+    /// else the selected one; null without one.
+    [[nodiscard]] OverlayItem* toolOfKeys() const { return windowFocused_ ? focused_ : selected(); }
 
     /// Tells every tool whether the worksheet takes the mouse.
     void setEditMode(bool editMode);

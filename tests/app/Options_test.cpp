@@ -29,7 +29,7 @@ const KeyCase keyCases[] = {
     {"ShowReferenceLines", " 0", [](Options& o) { o.showReferenceLines = false; }},
     {"TemplateWithBorder", "-1", [](Options& o) { o.templateWithBorder = true; }},
     {"CircleCompass", " 0", [](Options& o) { o.aids.circleCompass = false; }},
-    {"Mode", " 2", [](Options& o) { o.mode = 2; }},
+    {"Mode", " 2", [](Options& o) { o.mode = Mode::pause; }},
     {"TransparencyEditMode", " 30", [](Options& o) { o.transparencyEditMode = 30; }},
     {"TransparencyTemplateMode", " 100", [](Options& o) { o.transparencyTemplateMode = 100; }},
     {"Language", " 1031", [](Options& o) { o.language = 1031; }},
@@ -192,10 +192,10 @@ TEST_F(OptionsTest, ANumberOutsideTheRangeGivesTheDefaultAndLeavesAMessage) {
 }
 
 TEST_F(OptionsTest, AModeThatThereIsNotBecomesEditMode) {
-    EXPECT_EQ(readOne("Mode", " 7").mode, 0);
-    EXPECT_EQ(readOne("Mode", "-1").mode, 0);
-    EXPECT_EQ(readOne("Mode", " 3").mode, 0);
-    EXPECT_EQ(readOne("Mode", " 1").mode, 1);
+    EXPECT_EQ(readOne("Mode", " 7").mode, Mode::edit);
+    EXPECT_EQ(readOne("Mode", "-1").mode, Mode::edit);
+    EXPECT_EQ(readOne("Mode", " 3").mode, Mode::edit);
+    EXPECT_EQ(readOne("Mode", " 1").mode, Mode::templateMode);
 }
 
 TEST_F(OptionsTest, ATransparencyStaysAPercentage) {

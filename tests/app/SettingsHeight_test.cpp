@@ -4,8 +4,6 @@
 
 #include <limits>
 
-#include "app/modes.h"
-
 namespace ormala {
 namespace {
 
@@ -21,9 +19,9 @@ SettingsHeight::Present in(WindowState state) {
 }
 
 TEST(SettingsHeight, LeavingEditModeKeepsTheHeightAndShrinks) {
-    for (const int mode : {mode::templateMode, mode::pause}) {
+    for (const Mode mode : {Mode::templateMode, Mode::pause}) {
         SettingsHeight height;
-        EXPECT_EQ(height.adjust(mode, mode::edit, standing(editHeight)), shortHeight);
+        EXPECT_EQ(height.adjust(mode, Mode::edit, standing(editHeight)), shortHeight);
         EXPECT_EQ(height.editModeHeight(), editHeight);
     }
 }
@@ -31,83 +29,84 @@ TEST(SettingsHeight, LeavingEditModeKeepsTheHeightAndShrinks) {
 TEST(SettingsHeight, ChangingBetweenTheShortModesKeepsTheFormerEditHeight) {
     SettingsHeight height;
     height.setEditModeHeight(editHeight);
-    EXPECT_EQ(height.adjust(mode::pause, mode::templateMode, standing(shortHeight)), shortHeight);
-    EXPECT_EQ(height.adjust(mode::templateMode, mode::pause, standing(300)), shortHeight);
+    EXPECT_EQ(height.adjust(Mode::pause, Mode::templateMode, standing(shortHeight)), shortHeight);
+    EXPECT_EQ(height.adjust(Mode::templateMode, Mode::pause, standing(300)), shortHeight);
     EXPECT_EQ(height.editModeHeight(), editHeight);
 }
 
 TEST(SettingsHeight, EditModeBringsTheHeightBack) {
     SettingsHeight height;
-    height.adjust(mode::pause, mode::edit, standing(editHeight));
-    EXPECT_EQ(height.adjust(mode::edit, mode::pause, standing(shortHeight)), editHeight);
+    height.adjust(Mode::pause, Mode::edit, standing(editHeight));
+    EXPECT_EQ(height.adjust(Mode::edit, Mode::pause, standing(shortHeight)), editHeight);
 }
 
 TEST(SettingsHeight, AWindowPulledToAnotherHeightKeepsItInEditMode) {
     SettingsHeight height;
     height.setEditModeHeight(editHeight);
-    EXPECT_EQ(height.adjust(mode::edit, mode::pause, standing(shortHeight + 1)), std::nullopt);
-    EXPECT_EQ(height.adjust(mode::edit, mode::pause, standing(300)), std::nullopt);
+    EXPECT_EQ(height.adjust(Mode::edit, Mode::pause, standing(shortHeight + 1)), std::nullopt);
+    EXPECT_EQ(height.adjust(Mode::edit, Mode::pause, standing(300)), std::nullopt);
 }
 
 TEST(SettingsHeight, WithoutAKeptHeightEditModeLeavesTheWindowAlone) {
     SettingsHeight height;
-    EXPECT_EQ(height.adjust(mode::edit, mode::templateMode, standing(shortHeight)), std::nullopt);
+    EXPECT_EQ(height.adjust(Mode::edit, Mode::templateMode, standing(shortHeight)), std::nullopt);
     height.setEditModeHeight(-5);
-    EXPECT_EQ(height.adjust(mode::edit, mode::templateMode, standing(shortHeight)), std::nullopt);
+    EXPECT_EQ(height.adjust(Mode::edit, Mode::templateMode, standing(shortHeight)), std::nullopt);
 }
 
 TEST(SettingsHeight, RepeatingEditModeChangesNothing) {
     SettingsHeight height;
-    EXPECT_EQ(height.adjust(mode::edit, mode::edit, standing(editHeight)), std::nullopt);
+    EXPECT_EQ(height.adjust(Mode::edit, Mode::edit, standing(editHeight)), std::nullopt);
     EXPECT_EQ(height.editModeHeight(), 0);
 }
 
 TEST(SettingsHeight, RepeatingAShortModeShrinksAWindowThatWasPulledAndKeepsNothing) {
     SettingsHeight height;
     height.setEditModeHeight(editHeight);
-    EXPECT_EQ(height.adjust(mode::pause, mode::pause, standing(350)), shortHeight);
+    EXPECT_EQ(height.adjust(Mode::pause, Mode::pause, standing(350)), shortHeight);
     EXPECT_EQ(height.editModeHeight(), editHeight);
 }
 
 TEST(SettingsHeight, AnUnknownModeLeavesTheWindowAlone) {
     SettingsHeight height;
     height.setEditModeHeight(editHeight);
-    EXPECT_EQ(height.adjust(7, mode::pause, standing(shortHeight)), std::nullopt);
+    EXPECT_EQ(height.adjust(static_cast<Mode>(7), Mode::pause, standing(shortHeight)),
+              std::nullopt);
     EXPECT_EQ(height.editModeHeight(), editHeight);
 }
 
 TEST(SettingsHeight, AMinimisedWindowOnlyNotesThatARestoreIsPending) {
     SettingsHeight height;
-    EXPECT_EQ(height.adjust(mode::pause, mode::edit, in(WindowState::minimised)), std::nullopt);
+    EXPECT_EQ(height.adjust(Mode::pause, Mode::edit, in(WindowState::minimised)), std::nullopt);
     EXPECT_TRUE(height.RestoreHeightPending());
 }
 
 TEST(SettingsHeight, LeavingEditModeWhileMinimisedKeepsTheHeightForTheNextStart) {
     SettingsHeight height;
-    height.adjust(mode::templateMode, mode::edit, in(WindowState::minimised));
+    height.adjust(Mode::templateMode, Mode::edit, in(WindowState::minimised));
     EXPECT_EQ(height.editModeHeight(), editHeight);
     SettingsHeight unknown;
-    unknown.adjust(mode::templateMode, mode::edit, {WindowState::minimised, 0, shortHeight});
+    unknown.adjust(Mode::templateMode, Mode::edit, {WindowState::minimised, 0, shortHeight});
     EXPECT_EQ(unknown.editModeHeight(), 0);
 }
 
 TEST(SettingsHeight, LeavingEditModeWhileMinimisedGivesTheHeightBackAfterTheRestore) {
-    for (const int last : {mode::templateMode, mode::pause}) {
+    for (const Mode last : {Mode::templateMode, Mode::pause}) {
         SettingsHeight height;
         height.resized(WindowState::minimised);
-        height.adjust(mode::templateMode, mode::edit, {WindowState::minimised, 0, shortHeight});
-        height.adjust(last, mode::templateMode, {WindowState::minimised, 0, shortHeight});
+        height.adjust(Mode::templateMode, Mode::edit, {WindowState::minimised, 0, shortHeight});
+        height.adjust(last, Mode::templateMode, {WindowState::minimised, 0, shortHeight});
         ASSERT_TRUE(height.resized(WindowState::normal));
         EXPECT_EQ(height.adjust(last, last, standing(editHeight)), shortHeight);
-        EXPECT_EQ(height.adjust(mode::edit, last, standing(shortHeight)), editHeight);
+        EXPECT_EQ(height.adjust(Mode::edit, last, standing(shortHeight)), editHeight);
     }
 }
 
 TEST(SettingsHeight, LeavingAShortModeWhileMinimisedKeepsNothingOfTheShortWindow) {
     SettingsHeight height;
     height.setEditModeHeight(editHeight);
-    height.adjust(mode::pause, mode::templateMode, {WindowState::minimised, 300, shortHeight});
-    EXPECT_EQ(height.adjust(mode::pause, mode::pause, standing(300)), shortHeight);
+    height.adjust(Mode::pause, Mode::templateMode, {WindowState::minimised, 300, shortHeight});
+    EXPECT_EQ(height.adjust(Mode::pause, Mode::pause, standing(300)), shortHeight);
     EXPECT_EQ(height.editModeHeight(), editHeight);
 }
 
@@ -119,7 +118,7 @@ TEST(SettingsHeight, AShortWindowIsShortAtItsNewResolutionAndGrowsAgain) {
     EXPECT_EQ(height.movedToDpi(96, 192, standing(shortHeight), 2 * shortHeight, doubleShort),
               doubleShort);
     EXPECT_EQ(
-        height.adjust(mode::edit, mode::pause, {WindowState::normal, doubleShort, doubleShort}),
+        height.adjust(Mode::edit, Mode::pause, {WindowState::normal, doubleShort, doubleShort}),
         2 * editHeight);
 }
 
@@ -134,30 +133,30 @@ TEST(SettingsHeight, AMinimisedWindowIsSizedForItsNewResolutionWhenItComesBack) 
     height.resized(WindowState::minimised);
     EXPECT_EQ(height.movedToDpi(96, 192, in(WindowState::minimised), 990, 117), std::nullopt);
     ASSERT_TRUE(height.resized(WindowState::normal));
-    EXPECT_EQ(height.adjust(mode::pause, mode::pause, {WindowState::normal, 62, 117}), 117);
+    EXPECT_EQ(height.adjust(Mode::pause, Mode::pause, {WindowState::normal, 62, 117}), 117);
 }
 
 TEST(SettingsHeight, AMaximisedWindowKeepsItsHeightAndNothingIsPending) {
     SettingsHeight height;
-    EXPECT_EQ(height.adjust(mode::pause, mode::edit, in(WindowState::maximised)), std::nullopt);
+    EXPECT_EQ(height.adjust(Mode::pause, Mode::edit, in(WindowState::maximised)), std::nullopt);
     EXPECT_FALSE(height.RestoreHeightPending());
     EXPECT_EQ(height.editModeHeight(), 0);
 }
 
 TEST(SettingsHeight, TheNextChangeInNormalStateEndsThePendingOne) {
     SettingsHeight height;
-    height.adjust(mode::pause, mode::edit, in(WindowState::minimised));
-    height.adjust(mode::pause, mode::pause, standing(editHeight));
+    height.adjust(Mode::pause, Mode::edit, in(WindowState::minimised));
+    height.adjust(Mode::pause, Mode::pause, standing(editHeight));
     EXPECT_FALSE(height.RestoreHeightPending());
 }
 
 TEST(SettingsHeight, AChangeWhileMinimisedIsDueWhenTheWindowComesBack) {
     SettingsHeight height;
     EXPECT_FALSE(height.resized(WindowState::minimised));
-    height.adjust(mode::pause, mode::edit, in(WindowState::minimised));
+    height.adjust(Mode::pause, Mode::edit, in(WindowState::minimised));
     EXPECT_FALSE(height.resized(WindowState::minimised));
     EXPECT_TRUE(height.resized(WindowState::normal));
-    EXPECT_EQ(height.adjust(mode::pause, mode::pause, standing(editHeight)), shortHeight);
+    EXPECT_EQ(height.adjust(Mode::pause, Mode::pause, standing(editHeight)), shortHeight);
     EXPECT_FALSE(height.resized(WindowState::normal));
 }
 
@@ -169,20 +168,20 @@ TEST(SettingsHeight, ComingBackWithoutAChangeOfModeIsNotDue) {
 
 TEST(SettingsHeight, TemplateModeThatMinimisesShrinksFirstAndEditModeGivesTheHeightBack) {
     SettingsHeight height;
-    EXPECT_EQ(height.adjust(mode::templateMode, mode::edit, standing(editHeight)), shortHeight);
+    EXPECT_EQ(height.adjust(Mode::templateMode, Mode::edit, standing(editHeight)), shortHeight);
     EXPECT_FALSE(height.resized(WindowState::normal));
     EXPECT_FALSE(height.resized(WindowState::minimised));
     EXPECT_FALSE(height.resized(WindowState::normal));
-    EXPECT_EQ(height.adjust(mode::edit, mode::templateMode, standing(shortHeight)), editHeight);
+    EXPECT_EQ(height.adjust(Mode::edit, Mode::templateMode, standing(shortHeight)), editHeight);
 }
 
 TEST(SettingsHeight, EditModeChosenWhileMinimisedGivesTheHeightBackOnRestore) {
     SettingsHeight height;
-    height.adjust(mode::templateMode, mode::edit, standing(editHeight));
+    height.adjust(Mode::templateMode, Mode::edit, standing(editHeight));
     height.resized(WindowState::minimised);
-    height.adjust(mode::edit, mode::templateMode, in(WindowState::minimised));
+    height.adjust(Mode::edit, Mode::templateMode, in(WindowState::minimised));
     ASSERT_TRUE(height.resized(WindowState::normal));
-    EXPECT_EQ(height.adjust(mode::edit, mode::edit, standing(shortHeight)), editHeight);
+    EXPECT_EQ(height.adjust(Mode::edit, Mode::edit, standing(shortHeight)), editHeight);
 }
 
 TEST(Twips, AreFifteenInAPixelAt96Dpi) {

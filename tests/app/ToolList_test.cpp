@@ -223,7 +223,7 @@ TEST_F(ToolListTest, AReusedMeasurementBeginsWithItsDefaults) {
 }
 
 TEST_F(ToolListTest, ANewMeasurementMeasuresInTheDefaultUnits) {
-    list_.setUnits({1, 2, 2.5, "cm"});
+    stage_.units = {1, 2, 2.5, "cm"};
     const ctlMeasure& added = stage_.addMeasure().RefControl();
     EXPECT_EQ(added.AngleMode(), 1);
     EXPECT_EQ(added.LengthMode(), 2);

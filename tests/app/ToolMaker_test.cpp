@@ -5,6 +5,7 @@
 #include "measure/ctlMeasure.h"
 #include "stencil/ctlRatioGrid.h"
 #include "support/FakeSheetPort.h"
+#include "support/OwnToolSettings.h"
 #include "support/QuietToolHost.h"
 
 namespace ormala {
@@ -13,7 +14,7 @@ namespace {
 class ToolMakerTest : public testing::Test {
   protected:
     QuietToolHost host_;
-    ToolSettings settings_;
+    OwnToolSettings settings_;
     SpecialRatios ratios_{[](int, std::string_view text) { return std::string(text); }, {}};
     ToolMaker maker_{settings_, ratios_};
 };

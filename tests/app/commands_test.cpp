@@ -10,13 +10,13 @@ namespace {
 
 TEST(Commands, EachHasARowOfItsOwnInItsPlace) {
     std::set<std::string> names;
-    for (std::size_t i = 0; i < commandCount; ++i) {
+    for (std::size_t i = 0; i < buttonCount; ++i) {
         const CommandDesign& design = commandDesigns()[i];
         EXPECT_EQ(static_cast<std::size_t>(design.command), i);
         EXPECT_NE(design.tip, 0);
         names.insert(design.name);
     }
-    EXPECT_EQ(names.size(), commandCount);
+    EXPECT_EQ(names.size(), buttonCount);
 }
 
 TEST(Commands, PauseDisablesWhatWorksOnTools) {
@@ -25,61 +25,49 @@ TEST(Commands, PauseDisablesWhatWorksOnTools) {
          {Command::addStencil, Command::addMeasure, Command::newTools, Command::load, Command::save,
           Command::saveAs, Command::screenShot, Command::grid, Command::circleCompass,
           Command::crossHair, Command::referenceLines}) {
-        EXPECT_TRUE(stateOfCommand(command, mode::edit, false).enabled);
-        EXPECT_TRUE(stateOfCommand(command, mode::templateMode, false).enabled);
-        EXPECT_FALSE(stateOfCommand(command, mode::pause, false).enabled);
+        EXPECT_TRUE(stateOfCommand(command, Mode::edit, false).enabled);
+        EXPECT_TRUE(stateOfCommand(command, Mode::templateMode, false).enabled);
+        EXPECT_FALSE(stateOfCommand(command, Mode::pause, false).enabled);
     }
     for (const Command command : {Command::editMode, Command::templateMode, Command::pauseMode,
                                   Command::lens, Command::options, Command::help}) {
-        EXPECT_TRUE(stateOfCommand(command, mode::pause, false).enabled);
+        EXPECT_TRUE(stateOfCommand(command, Mode::pause, false).enabled);
     }
 }
 
 TEST(Commands, TheMinimisingTwinOfTheCurrentModeIsHidden) {
-    const auto shown = [](Command command, int mode) {
+    const auto shown = [](Command command, Mode mode) {
         return stateOfCommand(command, mode, false).visible;
     };
-    EXPECT_TRUE(shown(Command::pauseAndMinimise, mode::edit));
-    EXPECT_TRUE(shown(Command::templateAndMinimise, mode::edit));
-    EXPECT_TRUE(shown(Command::pauseAndMinimise, mode::templateMode));
-    EXPECT_FALSE(shown(Command::templateAndMinimise, mode::templateMode));
-    EXPECT_FALSE(shown(Command::pauseAndMinimise, mode::pause));
-    EXPECT_TRUE(shown(Command::templateAndMinimise, mode::pause));
+    EXPECT_TRUE(shown(Command::pauseAndMinimise, Mode::edit));
+    EXPECT_TRUE(shown(Command::templateAndMinimise, Mode::edit));
+    EXPECT_TRUE(shown(Command::pauseAndMinimise, Mode::templateMode));
+    EXPECT_FALSE(shown(Command::templateAndMinimise, Mode::templateMode));
+    EXPECT_FALSE(shown(Command::pauseAndMinimise, Mode::pause));
+    EXPECT_TRUE(shown(Command::templateAndMinimise, Mode::pause));
 }
 
 TEST(Commands, TheWorksheetComesBackIntoItsFrameOnlyFromTheFullScreen) {
-    for (int mode = 0; mode < mode::count; ++mode) {
+    for (const Mode mode : allModes) {
         EXPECT_TRUE(stateOfCommand(Command::worksheetNormal, mode, true).enabled);
         EXPECT_FALSE(stateOfCommand(Command::worksheetNormal, mode, false).enabled);
     }
 }
 
-TEST(Commands, EachToggleShowsTheStateOfItsOwn) {
-    EXPECT_EQ(toggleOf(Command::lens, {.lens = true}), true);
-    EXPECT_EQ(toggleOf(Command::grid, {.grid = true}), true);
-    EXPECT_EQ(toggleOf(Command::crossHair, {.crossHair = true}), true);
-    EXPECT_EQ(toggleOf(Command::referenceLines, {.referenceLines = true}), true);
-    EXPECT_EQ(toggleOf(Command::circleCompass, {.circleCompass = true}), true);
-    int toggles = 0;
-    for (const CommandDesign& design : commandDesigns()) {
-        if (const auto on = toggleOf(design.command, {})) {
-            EXPECT_FALSE(*on);
-            ++toggles;
-        }
-    }
-    EXPECT_EQ(toggles, 5);
+TEST(Commands, ModesAndTheirMinimisingTwinsLeadToTheirMode) {
+    EXPECT_EQ(modeChangeOf(Command::editMode), (ModeChange{Mode::edit, false}));
+    EXPECT_EQ(modeChangeOf(Command::templateMode), (ModeChange{Mode::templateMode, false}));
+    EXPECT_EQ(modeChangeOf(Command::pauseMode), (ModeChange{Mode::pause, false}));
+    EXPECT_EQ(modeChangeOf(Command::templateAndMinimise), (ModeChange{Mode::templateMode, true}));
+    EXPECT_EQ(modeChangeOf(Command::pauseAndMinimise), (ModeChange{Mode::pause, true}));
+    EXPECT_EQ(modeChangeOf(Command::save), std::nullopt);
 }
 
-TEST(Commands, ModesAndTheirMinimisingTwinsKnowTheirMode) {
-    EXPECT_EQ(modeOfCommand(Command::editMode), mode::edit);
-    EXPECT_EQ(modeOfCommand(Command::templateMode), mode::templateMode);
-    EXPECT_EQ(modeOfCommand(Command::pauseMode), mode::pause);
-    EXPECT_EQ(modeOfCommand(Command::templateAndMinimise), mode::templateMode);
-    EXPECT_EQ(modeOfCommand(Command::pauseAndMinimise), mode::pause);
-    EXPECT_EQ(modeOfCommand(Command::save), -1);
-    EXPECT_TRUE(minimises(Command::templateAndMinimise));
-    EXPECT_TRUE(minimises(Command::pauseAndMinimise));
-    EXPECT_FALSE(minimises(Command::pauseMode));
+TEST(Commands, EachWindowOpensItsPageOfTheOptions) {
+    EXPECT_EQ(optionsPageOf(Command::options), 0);
+    EXPECT_EQ(optionsPageOf(Command::worksheetOptions), 1);
+    EXPECT_EQ(optionsPageOf(Command::lensOptions), 2);
+    EXPECT_EQ(optionsPageOf(Command::help), std::nullopt);
 }
 
 }  // namespace

@@ -76,7 +76,7 @@ TEST_P(SettingsLayoutTest, TheToolbarReadsModesToolsDocumentsViewOptionsAndHelp)
         const PixelRect& b = layout_.boxOf(second);
         return b.top >= a.bottom || (b.top == a.top && b.left >= a.right);
     };
-    for (std::size_t i = 0; i + 1 < commandCount; ++i) {
+    for (std::size_t i = 0; i + 1 < buttonCount; ++i) {
         EXPECT_TRUE(after(static_cast<Command>(i), static_cast<Command>(i + 1))) << i;
     }
 }

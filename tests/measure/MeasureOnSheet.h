@@ -3,6 +3,7 @@
 #include "measure/ManualMeasures.h"
 #include "measure/ctlMeasure.h"
 #include "support/FakeToolHost.h"
+#include "support/OwnToolSettings.h"
 #include "support/ToolPlayer.h"
 
 namespace ormala {
@@ -31,7 +32,7 @@ struct MeasureOnSheet : ToolPlayer {
     void drag(MeasureGrip grip, const Point& by, int shift = 0) { dragBy(gripAt(grip), by, shift); }
 
     FakeToolHost host;
-    ToolSettings settings;
+    OwnToolSettings settings;
     ManualMeasures others;
     ctlMeasure tool{host, settings, others};
 };

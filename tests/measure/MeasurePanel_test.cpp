@@ -7,6 +7,7 @@
 #include "support/FakePanelView.h"
 #include "support/FakeToolHost.h"
 #include "support/ManualLanguage.h"
+#include "support/OwnToolSettings.h"
 #include "support/ToolPlayer.h"
 
 namespace ormala {
@@ -31,7 +32,7 @@ class MeasurePanelTest : public testing::Test {
 
     ManualLanguage language_{languageEnglish};
     FakeToolHost host_;
-    ToolSettings settings_;
+    OwnToolSettings settings_;
     ManualMeasures others_;
     ctlMeasure tool_{host_, settings_, others_};
     FakePanelView view_;

@@ -6,6 +6,7 @@
 
 #include "measure/MeasureOnSheet.h"
 #include "modAPI/constants.h"
+#include "support/OwnToolSettings.h"
 #include "support/RecordingCanvas.h"
 
 namespace ormala {
@@ -22,7 +23,7 @@ RecordingCanvas drawn(const ctlMeasure& tool) {
 
 TEST(CtlMeasure, StartsWithItsDefaults) {
     FakeToolHost host;
-    const ToolSettings settings;
+    const OwnToolSettings settings;
     const ManualMeasures others;
     const ctlMeasure tool(host, settings, others);
     EXPECT_TRUE(tool.Connected());

@@ -6,6 +6,7 @@
 #include "stencil/ctlRatioGrid.h"
 #include "support/FakeToolHost.h"
 #include "support/ManualLanguage.h"
+#include "support/OwnToolSettings.h"
 #include "support/ToolPlayer.h"
 
 namespace ormala {
@@ -40,7 +41,7 @@ struct StencilOnSheet : ToolPlayer {
 
     ManualLanguage english{languageEnglish};
     FakeToolHost host;
-    ToolSettings settings;
+    OwnToolSettings settings;
     SpecialRatios ratios{[](int id, std::string_view text) { return MlString(id, text); }, {}};
     ctlRatioGrid tool{host, settings, ratios};
 };

@@ -9,6 +9,7 @@
 #include "support/FakePanelView.h"
 #include "support/FakeToolHost.h"
 #include "support/ManualLanguage.h"
+#include "support/OwnToolSettings.h"
 
 namespace ormala {
 
@@ -50,7 +51,7 @@ class StencilPanelFixture : public testing::Test {
 
     ManualLanguage language_{languageEnglish};
     FakeToolHost host_;
-    ToolSettings settings_;
+    OwnToolSettings settings_;
     SpecialRatios ratios_{[](int, std::string_view text) { return std::string(text); }, {}};
     ctlRatioGrid tool_{host_, settings_, ratios_};
     FakePanelView view_;

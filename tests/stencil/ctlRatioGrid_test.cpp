@@ -9,6 +9,7 @@
 #include "modAPI/constants.h"
 #include "modAPI/rectangles.h"
 #include "stencil/StencilOnSheet.h"
+#include "support/OwnToolSettings.h"
 #include "support/RecordingCanvas.h"
 
 namespace ormala {
@@ -259,7 +260,7 @@ TEST(CtlRatioGrid, EndOfThePreviewLeavesARunningActionAlone) {
 
 TEST(CtlRatioGrid, RemovedToolStopsItsTimer) {
     FakeToolHost host;
-    const ToolSettings settings;
+    const OwnToolSettings settings;
     const SpecialRatios ratios([](int, std::string_view text) { return std::string(text); }, {});
     {
         ctlRatioGrid tool(host, settings, ratios);

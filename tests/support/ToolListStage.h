@@ -14,6 +14,7 @@
 #include "support/FakePanelView.h"
 #include "support/FakeSheetPort.h"
 #include "support/MemoryMessagePresenter.h"
+#include "support/OwnToolSettings.h"
 #include "support/QuietToolHost.h"
 
 namespace ormala {
@@ -67,9 +68,10 @@ class ToolListStage : private PanelFactory, private ToolVisibility {
     }
 
     ManualDayClock clock;
-    ToolSettings settings;
+    OwnToolSettings settings;
     StageView view;
     MemoryMessagePresenter messages;
+    MeasureUnits units;
 
   private:
     FakeSheetPort port_;
@@ -82,7 +84,7 @@ class ToolListStage : private PanelFactory, private ToolVisibility {
 
   public:
     Sheet sheet{port_, host_, maker_};
-    ToolList list{{sheet, *this, view, messages}};
+    ToolList list{{sheet, *this, view, messages, units}};
 
     /// The panels from top to bottom.
     [[nodiscard]] std::vector<StagePanel*> panels() const {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "app/shotNotes.h"
-#include "app/win/frmSettings.h"
+#include "app/win/shell/Program.h"
 #include "dialogs/win/frmAbout.h"
 #include "dialogs/win/frmColor.h"
 #include "dialogs/win/frmLineStyle.h"
@@ -20,6 +20,7 @@
 #include "stencil/win/frmPatternSelect.h"
 #include "stencil/win/frmRatio.h"
 #include "support/MemoryCodePage.h"
+#include "support/OwnToolSettings.h"
 #include "support/QuietToolHost.h"
 #include "widgets/win/Label.h"
 #include "win/EnglishTexts.h"
@@ -64,12 +65,13 @@ class AllTextsOfTheProgram : public AllTexts {
         test::SettingsFile options;
         options.set("Options", "Language", std::to_string(GetParam().language));
         options.write(folder_.optionsFile());
-        settings_ = std::make_unique<frmSettings>(false);
+        program_ = std::make_unique<Program>(false);
+        settings_ = &program_->settings();
         scale(settings_->handle());
     }
     template <typename Core>
     [[nodiscard]] Core& panel(ToolKind kind) {
-        return dynamic_cast<Core&>(*settings_->tools().tools().LastVisiblePanel(kind));
+        return dynamic_cast<Core&>(*program_->tools().tools().LastVisiblePanel(kind));
     }
     [[nodiscard]] HWND settings() const { return settings_->handle(); }
     void expectRoomForStencil(const Rect& bounds, double angle, const std::string& state) {
@@ -93,13 +95,14 @@ class AllTextsOfTheProgram : public AllTexts {
     }
 
     test::AppDataFolder folder_;
-    std::unique_ptr<frmSettings> settings_;
+    std::unique_ptr<Program> program_;
+    frmSettings* settings_ = nullptr;
 };
 
 TEST_P(AllTextsOfTheProgram, HaveRoomInEveryMode) {
-    for (const int mode : {0, 1, 2}) {
-        settings_->SetMode(mode, false);
-        expectRoom(settings(), std::to_string(mode));
+    for (const Mode mode : allModes) {
+        program_->modes().SetMode(mode, false);
+        expectRoom(settings(), std::to_string(numberOf(mode)));
     }
 }
 
@@ -160,13 +163,15 @@ TEST_P(AllTextsOfTheProgram, HaveRoomOnTheLinesOfPathAndInformation) {
 }
 
 TEST_P(AllTextsOfTheProgram, HaveRoomInTheWorksheetsFrameAndTheMagnifier) {
-    expectRoom(settings_->resizer().handle());
-    settings_->view().SetLens(true);
-    frmLens& lens = settings_->view().lens().lens();
-    lens.setSticked(false);
+    expectRoom(program_->resizer().handle());
+    program_->state().set([](Options& options) {
+        options.lensVisible = true;
+        options.lens.sticked = false;
+    });
+    const frmLens& lens = program_->view().lens().lens();
     scale(lens.handle());
     for (const int factor : {1, 10}) {
-        lens.setFactor(factor);
+        program_->execute(commandOfLensFactor(factor));
         expectRoom(lens.handle(), std::to_string(factor));
     }
 }
@@ -197,7 +202,7 @@ class AllTextsOfDialogs : public AllTexts {
     }
 
     TestWindow owner_;
-    ToolSettings settings_;
+    OwnToolSettings settings_;
     ModalPlayer player_;
 };
 

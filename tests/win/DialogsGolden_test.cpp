@@ -12,6 +12,7 @@
 #include "stencil/win/frmPatternSelect.h"
 #include "stencil/win/frmRatio.h"
 #include "support/MemoryCodePage.h"
+#include "support/OwnToolSettings.h"
 #include "support/QuietToolHost.h"
 #include "support/win/Golden.h"
 #include "win/EnglishTexts.h"
@@ -43,7 +44,7 @@ class DialogsGolden : public testing::TestWithParam<LanguageAndDpi> {
 
     EnglishTexts english_;
     TestWindow owner_;
-    ToolSettings settings_;
+    OwnToolSettings settings_;
     ModalPlayer player_;
 
   private:

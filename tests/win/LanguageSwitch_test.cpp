@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/win/frmSettings.h"
+#include "app/win/shell/Program.h"
 #include "e2e/support/AppDataFolder.h"
 #include "e2e/support/SettingsFile.h"
 #include "language/TextTable.h"
@@ -29,9 +29,12 @@ class LanguageSwitch : public testing::Test {
         test::SettingsFile options;
         options.set("Options", "Language", std::to_string(languageEnglish));
         options.write(folder_.optionsFile());
-        settings_ = std::make_unique<frmSettings>(false);
-        settings_->view().SetLens(true);
-        settings_->view().lens().lens().setSticked(false);
+        program_ = std::make_unique<Program>(false);
+        settings_ = &program_->settings();
+        program_->state().set([](Options& shown) {
+            shown.lensVisible = true;
+            shown.lens.sticked = false;
+        });
         loadDialogs();
     }
 
@@ -64,7 +67,7 @@ class LanguageSwitch : public testing::Test {
         player_.untilActive("frmOptions").then([] { clickHere("cmdHotSpotDrawColor"); });
         leave("frmColor");
         leave("frmOptions");
-        settings_->view().ShowOptions(2);
+        program_->view().ShowOptions(2);
     }
     /// As the user does it.
     void chooseLanguage(int language) {
@@ -73,13 +76,14 @@ class LanguageSwitch : public testing::Test {
         player_.untilActive("frmOptions")
             .then([option] { click(GetActiveWindow(), option); })
             .then([] { clickHere("cmdOK"); });
-        settings_->view().ShowOptions(0);
+        program_->view().ShowOptions(0);
     }
 
     test::AppDataFolder folder_;
     EnglishTexts english_;
     ModalPlayer player_;
-    std::unique_ptr<frmSettings> settings_;
+    std::unique_ptr<Program> program_;
+    frmSettings* settings_ = nullptr;
 };
 
 /// The row of the current language, or the English one where that language has none.
@@ -192,7 +196,7 @@ TEST_F(LanguageSwitch, ReachesEveryTextOfEveryWindowAndBack) {
         chooseLanguage(language);
         ASSERT_EQ(CurrentLanguage(), language);
         check.expectAll();
-        expectMenus(*settings_, settings_->view().menu());
+        expectMenus(*settings_, program_->view().menu());
         expectRatios();
         expectRotations();
     }
@@ -201,9 +205,9 @@ TEST_F(LanguageSwitch, ReachesEveryTextOfEveryWindowAndBack) {
 TEST_F(LanguageSwitch, ReachesTheCaptionOfEveryMode) {
     chooseLanguage(languageGerman);
     constexpr int captions[] = {303, 304, 305};
-    for (const int mode : {2, 1, 0}) {
-        settings_->SetMode(mode, false);
-        EXPECT_EQ(textOf(settings_->handle()), "Ormala" + rowText(captions[mode]));
+    for (const Mode mode : {Mode::pause, Mode::templateMode, Mode::edit}) {
+        program_->modes().SetMode(mode, false);
+        EXPECT_EQ(textOf(settings_->handle()), "Ormala" + rowText(captions[numberOf(mode)]));
     }
 }
 
@@ -212,7 +216,7 @@ TEST_F(LanguageSwitch, CancelLeavesEverythingAsItWas) {
     player_.untilActive("frmOptions")
         .then([] { click(GetActiveWindow(), "optLanguage(1)"); })
         .then([] { clickHere("cmdCancel"); });
-    settings_->view().ShowOptions(0);
+    program_->view().ShowOptions(0);
     EXPECT_EQ(CurrentLanguage(), languageEnglish);
     check.expectAll();
 }

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/keyTables.h"
 #include "magnifier/win/frmLens.h"
 #include "platform/win/pixels.h"
 #include "scene/pixelImages.h"
@@ -93,19 +94,21 @@ class LensBackdrop : public Window {
 /// Notes what a magnifier asks for.
 class NotedLensCommands : public LensCommands {
   public:
-    void SetMode(int mode, bool minimise) override { modes.emplace_back(mode, minimise); }
-    void ShowHelp() override { ++helps; }
-    void ShowOptions(int page) override { pages.push_back(page); }
+    bool takeKey(int key, int modifiers) override {
+        const auto command = commandOfKey(key, modifiers, KeyWindow::magnifier);
+        if (command) {
+            executed.push_back(*command);
+        }
+        return command.has_value();
+    }
     void showLensMenu(PixelPoint screen) override { menus.push_back(screen); }
     PixelRect RefreshScreenBounds() override {
         ++refreshes;
         return bounds;
     }
 
-    std::vector<std::pair<int, bool>> modes;
-    std::vector<int> pages;
+    std::vector<Command> executed;
     std::vector<PixelPoint> menus;
-    int helps = 0;
     int refreshes = 0;
     PixelRect bounds{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
 };

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string_view>
 
-#include "app/win/frmSettings.h"
+#include "app/win/shell/Program.h"
 #include "e2e/support/AppDataFolder.h"
 #include "e2e/support/SettingsFile.h"
 #include "platform/win/regions.h"
@@ -49,38 +49,39 @@ class ModesStage : public testing::Test {
         file_.set(section, key, value);
     }
 
-    frmSettings& start(bool anotherRuns = false) {
+    Program& start(bool anotherRuns = false) {
         file_.write(folder_.optionsFile());
-        settings_.emplace(anotherRuns);
-        return *settings_;
+        program_.emplace(anotherRuns);
+        settings_ = &program_->settings();
+        return *program_;
     }
 
     test::SettingsFile end() {
         SendMessageW(settings_->handle(), WM_ENDSESSION, TRUE, 0);
-        settings_.reset();
+        program_.reset();
         return test::SettingsFile::read(folder_.optionsFile());
     }
 
     /// As the options dialog does.
     void keepBorder() {
-        OptionValues values = settings_->view().optionValues();
+        OptionValues values = program_->view().optionValues();
         values.templateWithBorder = true;
-        settings_->view().applyOptions(values);
+        program_->view().applyOptions(values);
     }
 
     bool worksheetFillsScreen() {
         RECT work{};
         SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
         return test::waitUntil(
-            [&] { return fromRect(settings_->worksheet().rectangle()) == fromRect(work); });
+            [&] { return fromRect(program_->worksheet().rectangle()) == fromRect(work); });
     }
 
     bool worksheetLiesInTheFrame() {
         return test::waitUntil([&] {
-            const RECT client = settings_->resizer().clientRectangle();
+            const RECT client = program_->resizer().clientRectangle();
             POINT corner{5, 5};
-            ClientToScreen(settings_->resizer().handle(), &corner);
-            const RECT place = settings_->worksheet().rectangle();
+            ClientToScreen(program_->resizer().handle(), &corner);
+            const RECT place = program_->worksheet().rectangle();
             return place.left == corner.x && place.top == corner.y &&
                    widthOf(place) == client.right - 10 && heightOf(place) == client.bottom - 10;
         });
@@ -88,8 +89,8 @@ class ModesStage : public testing::Test {
 
     /// What is shown: worksheet, frame, and whether the worksheet takes the mouse.
     std::array<bool, 3> shown() {
-        return {settings_->worksheet().isVisible(), settings_->resizer().isVisible(),
-                settings_->worksheet().Clickable()};
+        return {program_->worksheet().isVisible(), program_->resizer().isVisible(),
+                program_->worksheet().Clickable()};
     }
 
     int height() { return heightOf(settings_->rectangle()); }
@@ -105,12 +106,13 @@ class ModesStage : public testing::Test {
         message.hwnd = settings_->handle();
         message.message = WM_KEYDOWN;
         message.wParam = static_cast<WPARAM>(key);
-        EXPECT_TRUE(settings_->preview(message));
+        EXPECT_TRUE(program_->preview(message));
     }
 
     test::AppDataFolder folder_;
     test::SettingsFile file_;
-    std::optional<frmSettings> settings_;
+    std::optional<Program> program_;
+    frmSettings* settings_ = nullptr;
 };
 
 }  // namespace ormala

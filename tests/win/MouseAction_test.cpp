@@ -1,4 +1,4 @@
-#include "app/win/MouseAction.h"
+#include "app/win/tools/MouseAction.h"
 
 #include <gtest/gtest.h>
 #include <windowsx.h>

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "app/win/ToolsPane.h"
-#include "app/win/frmSettings.h"
+#include "app/win/shell/Program.h"
+#include "app/win/tools/ToolsPane.h"
 #include "e2e/support/AppDataFolder.h"
 #include "measure/ctlMeasure.h"
 #include "stencil/ctlRatioGrid.h"
@@ -25,7 +25,7 @@ class PanelDialogsTest : public testing::Test {
     [[nodiscard]] HWND stencilPanel() const { return panel(L"ctlSetRatioGrid"); }
     [[nodiscard]] HWND measurePanel() const { return panel(L"ctlSetMeasure"); }
     [[nodiscard]] OverlayItem* tool(int kind) {
-        return settings_.worksheet().sheet().GetFirstControl(kind);
+        return program_.worksheet().sheet().GetFirstControl(kind);
     }
     [[nodiscard]] ctlRatioGrid& stencil() { return dynamic_cast<ctlRatioGrid&>(*tool(0)); }
     [[nodiscard]] ctlMeasure& measure() { return dynamic_cast<ctlMeasure&>(*tool(1)); }
@@ -51,7 +51,8 @@ class PanelDialogsTest : public testing::Test {
 
     test::AppDataFolder folder_;
     EnglishTexts english_;
-    frmSettings settings_{false};
+    Program program_{false};
+    frmSettings& settings_ = program_.settings();
     ModalPlayer player_;
 };
 
@@ -87,12 +88,11 @@ TEST_F(PanelDialogsTest, TheLineStyleOfEitherToolIsChosen) {
 
 TEST_F(PanelDialogsTest, OtherWindowsAreAsideDuringTheMouseAction) {
     std::vector<bool> asides;
-    MeasureUnits units;
-    const TextForm form;
+    ViewState state;
     const MemoryCodePage codePage;
-    const SpecialRatios ratios([](int, std::string_view text) { return std::string(text); }, form);
-    PanelDialogs dialogs({settings_.handle(), settings_.worksheet().handle(), ratios, form,
-                          codePage, units, [&](bool aside) { asides.push_back(aside); }});
+    const SpecialRatios ratios([](int, std::string_view text) { return std::string(text); }, {});
+    PanelDialogs dialogs({settings_.handle(), program_.worksheet().handle(), ratios, state,
+                          codePage, [&](bool aside) { asides.push_back(aside); }});
     StencilCommands& commands = dialogs;
     commands.applyMouseAction(stencil());
     EXPECT_EQ(asides, (std::vector<bool>{true, false}));
@@ -100,11 +100,10 @@ TEST_F(PanelDialogsTest, OtherWindowsAreAsideDuringTheMouseAction) {
 
 TEST_F(PanelDialogsTest, FrameAndMagnifierComeBackAfterTheMouseAction) {
     const auto shown = [&] {
-        return std::pair(settings_.resizer().isVisible(),
-                         settings_.view().lens().lens().isVisible());
+        return std::pair(program_.resizer().isVisible(), program_.view().lens().lens().isVisible());
     };
     for (const bool lens : {false, true}) {
-        settings_.view().SetLens(lens);
+        program_.state().set([lens](Options& options) { options.lensVisible = lens; });
         ASSERT_EQ(shown(), std::pair(true, lens));
         SendMessageW(namedChild(stencilPanel(), "cmdSendMouseInput"), BM_CLICK, 0, 0);
         EXPECT_EQ(shown(), std::pair(true, lens));

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "app/win/frmSettings.h"
+#include "app/win/shell/Program.h"
+#include "app/win/shell/settingsIds.h"
 #include "e2e/support/AppDataFolder.h"
 #include "platform/win/controlName.h"
 #include "platform/win/regions.h"
@@ -37,7 +38,7 @@ class PanelKeys : public testing::Test {
         message.hwnd = GetFocus();
         message.message = WM_KEYDOWN;
         message.wParam = static_cast<WPARAM>(virtualKey);
-        return settings_.preview(message);
+        return program_.preview(message);
     }
     /// Where the Tab key goes from a control.
     std::string afterTab(HWND from, bool backwards = false) {
@@ -49,11 +50,12 @@ class PanelKeys : public testing::Test {
         return controlName(GetParent(focus)) + "/" + controlName(focus);
     }
     [[nodiscard]] ctlRatioGrid& tool() {
-        return dynamic_cast<ctlRatioGrid&>(*settings_.worksheet().sheet().GetFirstControl(0));
+        return dynamic_cast<ctlRatioGrid&>(*program_.worksheet().sheet().GetFirstControl(0));
     }
 
     test::AppDataFolder folder_;
-    frmSettings settings_{false};
+    Program program_{false};
+    frmSettings& settings_ = program_.settings();
 };
 
 TEST_F(PanelKeys, TabFromTheGroundOfAPanelGoesIntoIt) {
@@ -89,7 +91,7 @@ TEST_F(PanelKeys, TabGoesThroughTheToolbarPastAButtonThatHasGrown) {
 }
 
 TEST_F(PanelKeys, TheFocusedButtonOfAHalfHiddenPanelIsScrolledIntoView) {
-    ToolList& tools = settings_.tools().tools();
+    ToolList& tools = program_.tools().tools();
     for (int i = 0; i < 6; ++i) {
         tools.AddNewControl(0);
     }
@@ -106,7 +108,7 @@ TEST_F(PanelKeys, TheFocusedButtonOfAHalfHiddenPanelIsScrolledIntoView) {
         SetFocus(panel);
         SetFocus(namedChild(panel, "cmdPause"));
         for (int notch = 0; notch < 20; ++notch) {
-            settings_.tools().Scroll(panel != last);
+            program_.tools().Scroll(panel != last);
         }
         ASSERT_FALSE(isInView(GetFocus()));
         ASSERT_TRUE(press(VK_TAB));
@@ -116,7 +118,7 @@ TEST_F(PanelKeys, TheFocusedButtonOfAHalfHiddenPanelIsScrolledIntoView) {
 }
 
 TEST_F(PanelKeys, CtrlZAndCtrlYWorkOnTheSelectedToolAndKeepWhatTheKeysMoved) {
-    settings_.worksheet().sheet().SelectControl(tool());
+    program_.worksheet().sheet().SelectControl(tool());
     const double left = tool().RectBound().left;
     // As an arrow key moves it on the worksheet: in no record yet.
     tool().keyDown(VK_RIGHT, 0);
@@ -137,7 +139,7 @@ TEST_F(PanelKeys, OnlyTheReleaseOfWhatStartedItEndsAHeldButton) {
         const double now = tool().RectBound().left;
         // The longest wait of a held button.
         for (int tick = 0; tick < 11; ++tick) {
-            settings_.tools().tick();
+            SendMessageW(settings_.handle(), WM_TIMER, tmrFast, 0);
         }
         return tool().RectBound().left > now;
     };
@@ -158,7 +160,7 @@ TEST_F(PanelKeys, OnlyTheReleaseOfWhatStartedItEndsAHeldButton) {
     EXPECT_EQ(GetCapture(), nullptr);
     const double end = tool().RectBound().left;
     for (int tick = 0; tick < 20; ++tick) {
-        settings_.tools().tick();
+        SendMessageW(settings_.handle(), WM_TIMER, tmrFast, 0);
     }
     EXPECT_EQ(tool().RectBound().left, end);
     SendMessageW(namedChild(stencil(), "cmdUndo"), BM_CLICK, 0, 0);
@@ -171,7 +173,7 @@ TEST_F(PanelKeys, ALostCaptureEndsAHeldButton) {
     ReleaseCapture();
     const double end = tool().RectBound().left;
     for (int tick = 0; tick < 20; ++tick) {
-        settings_.tools().tick();
+        SendMessageW(settings_.handle(), WM_TIMER, tmrFast, 0);
     }
     EXPECT_EQ(tool().RectBound().left, end);
 }
@@ -211,7 +213,7 @@ TEST_F(PanelKeys, AClickOnTheSwatchLeavesTheKeysToThoseWhoHadThem) {
     SetFocus(help);
     click();
     EXPECT_EQ(GetFocus(), help);
-    const HWND sheet = settings_.worksheet().handle();
+    const HWND sheet = program_.worksheet().handle();
     SetFocus(sheet);
     ASSERT_EQ(GetFocus(), sheet);
     click();

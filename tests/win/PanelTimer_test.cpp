@@ -12,6 +12,7 @@
 #include "stencil/win/ctlSetRatioGrid.h"
 #include "support/FakePanelCommands.h"
 #include "support/FakePanelView.h"
+#include "support/OwnToolSettings.h"
 #include "support/QuietToolHost.h"
 #include "win/EnglishTexts.h"
 #include "win/ModalPlayer.h"
@@ -75,7 +76,7 @@ class PanelTimer : public testing::Test {
     EnglishTexts english_;
     TestWindow owner_;
     QuietToolHost toolHost_;
-    ToolSettings settings_;
+    OwnToolSettings settings_;
     QuietPanelHost host_;
     FakeToolVisibility visibility_;
     ManualDayClock clock_;

@@ -14,6 +14,7 @@
 #include "stencil/win/ctlSetRatioGrid.h"
 #include "support/FakePanelCommands.h"
 #include "support/FakePanelView.h"
+#include "support/OwnToolSettings.h"
 #include "support/QuietToolHost.h"
 #include "support/win/Golden.h"
 #include "win/ControlPanel.h"
@@ -66,7 +67,7 @@ class PanelsGolden : public testing::TestWithParam<LanguageAndDpi> {
 
     EnglishTexts english_;
     QuietToolHost toolHost_;
-    ToolSettings settings_;
+    OwnToolSettings settings_;
     QuietPanelHost host_;
     FakeToolVisibility visibility_;
     ManualDayClock clock_;

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/win/frmSettings.h"
+#include "app/win/shell/Program.h"
 #include "dialogs/win/frmAbout.h"
 #include "dialogs/win/frmColor.h"
 #include "dialogs/win/frmOptions.h"
@@ -17,6 +17,7 @@
 #include "stencil/win/frmPatternSelect.h"
 #include "stencil/win/frmRatio.h"
 #include "support/MemoryCodePage.h"
+#include "support/OwnToolSettings.h"
 #include "support/QuietToolHost.h"
 #include "win/AccessibleReader.h"
 #include "win/EnglishTexts.h"
@@ -102,7 +103,8 @@ class ScreenReader : public testing::Test {
 
 TEST_F(ScreenReader, NamesAllOfTheControlWindowAndItsPanels) {
     const test::AppDataFolder folder;
-    const frmSettings settings(false);
+    Program program(false);
+    const frmSettings& settings = program.settings();
     read(settings.handle());
     EXPECT_GT(list_.size(), 90U);
     expectSpoken("lblTitle", "Stencil Tool", ROLE_SYSTEM_STATICTEXT);
@@ -120,8 +122,9 @@ TEST_F(ScreenReader, NamesAllOfTheControlWindowAndItsPanels) {
 
 TEST_F(ScreenReader, NamesAllOfTheControlWindowWith33ToolsWhereverTheListStands) {
     const test::AppDataFolder folder;
-    frmSettings settings(false);
-    ToolList& tools = settings.tools().tools();
+    Program program(false);
+    frmSettings& settings = program.settings();
+    ToolList& tools = program.tools().tools();
     // A first start has two.
     constexpr int more = 31;
     for (int made = 0; made < more; ++made) {
@@ -132,7 +135,7 @@ TEST_F(ScreenReader, NamesAllOfTheControlWindowWith33ToolsWhereverTheListStands)
         expectSpoken("cmdTL", "Up", ROLE_SYSTEM_PUSHBUTTON);
         expectSpoken("cmdMove", "Scroll position", ROLE_SYSTEM_INDICATOR);
         expectSpoken("cmdBR", "Down", ROLE_SYSTEM_PUSHBUTTON);
-        settings.tools().Scroll(true);
+        program.tools().Scroll(true);
     }
 }
 
@@ -173,7 +176,7 @@ TEST_F(ScreenReader, NamesAllOfTheDialogOfRatios) {
 
 TEST_F(ScreenReader, NamesAllOfTheDialogOfUnits) {
     QuietToolHost host;
-    const ToolSettings settings;
+    const OwnToolSettings settings;
     const ManualMeasures others;
     ctlMeasure tool(host, settings, others);
     MeasureUnits defaults;

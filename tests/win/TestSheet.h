@@ -4,9 +4,10 @@
 #include <vector>
 
 #include "app/ToolMaker.h"
+#include "app/keyTables.h"
 #include "platform/win/BackBuffer.h"
-#include "scene/ToolSettings.h"
 #include "stencil/ctlRatioGrid.h"
+#include "support/OwnToolSettings.h"
 #include "worksheet/win/frmWorksheet.h"
 
 namespace ormala {
@@ -30,27 +31,28 @@ PixelMap readClient(HWND window);
 /// Notes what a worksheet asks for.
 class NotedCommands : public WorksheetCommands {
   public:
-    void SetMode(int mode, bool minimise) override { modes.emplace_back(mode, minimise); }
-    void ShowHelp() override { ++helps; }
-    void stepHistory(OverlayItem& item, bool back) override { steps.emplace_back(&item, back); }
+    void execute(Command command) override { executed.push_back(command); }
+    bool takeKey(int key, int modifiers) override {
+        const auto command = commandOfKey(key, modifiers, KeyWindow::worksheet);
+        if (command) {
+            executed.push_back(*command);
+        }
+        return command.has_value();
+    }
     void raiseControlWindowAt(POINT screen) override { raisedAt.push_back(screen); }
     bool raiseLens(bool onlySticked) override {
         lensRaises.push_back(onlySticked);
         return lensShown;
     }
     void ShowContextMenu(POINT screen) override { menusAt.push_back(screen); }
-    void ShowOptions(int page) override { optionPages.push_back(page); }
     void closeProgram() override { ++closes; }
 
-    std::vector<std::pair<int, bool>> modes;
-    std::vector<std::pair<OverlayItem*, bool>> steps;
+    std::vector<Command> executed;
     std::vector<POINT> raisedAt;
     std::vector<POINT> menusAt;
-    std::vector<int> optionPages;
     /// The magnifier, asked to be raised.
     bool lensShown = false;
     std::vector<bool> lensRaises;
-    int helps = 0;
     int closes = 0;
 };
 
@@ -70,7 +72,7 @@ class TestSheet {
     void paintAnew();
 
     NotedCommands commands;
-    ToolSettings settings;
+    OwnToolSettings settings;
     AidOptions aids{{}, false, false};
 
   private:

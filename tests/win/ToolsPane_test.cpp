@@ -1,8 +1,8 @@
-#include "app/win/ToolsPane.h"
+#include "app/win/tools/ToolsPane.h"
 
 #include <gtest/gtest.h>
 
-#include "app/win/frmSettings.h"
+#include "app/win/shell/Program.h"
 #include "e2e/support/AppDataFolder.h"
 #include "language/MlStringModule.h"
 #include "platform/win/controlName.h"
@@ -32,10 +32,11 @@ class ToolsPaneTest : public testing::Test {
     static void click(HWND panel, std::string_view name) {
         SendMessageW(namedChild(panel, name), BM_CLICK, 0, 0);
     }
-    [[nodiscard]] Sheet& sheet() { return settings_.worksheet().sheet(); }
+    [[nodiscard]] Sheet& sheet() { return program_.worksheet().sheet(); }
 
     test::AppDataFolder folder_;
-    frmSettings settings_{false};
+    Program program_{false};
+    frmSettings& settings_ = program_.settings();
 };
 
 TEST_F(ToolsPaneTest, AFirstStartShowsAPanelOfEachKind) {
@@ -81,15 +82,15 @@ TEST_F(ToolsPaneTest, ThePressesOfADoubleClickOnRemoveEndThere) {
     click(stencil(), "cmdDelete");
     MSG press{next, WM_LBUTTONDOWN, MK_LBUTTON, 0, GetTickCount(), {}};
     GetCursorPos(&press.pt);
-    EXPECT_TRUE(settings_.preview(press));
+    EXPECT_TRUE(program_.preview(press));
     MSG onToolbar = press;
     onToolbar.hwnd = namedChild(settings_.handle(), "cmdAddGrid");
-    EXPECT_FALSE(settings_.preview(onToolbar));
+    EXPECT_FALSE(program_.preview(onToolbar));
     MSG away = press;
     away.message = WM_MOUSEMOVE;
     away.pt.x += GetSystemMetrics(SM_CXDOUBLECLK) + 1;
-    EXPECT_FALSE(settings_.preview(away));
-    EXPECT_FALSE(settings_.preview(press));
+    EXPECT_FALSE(program_.preview(away));
+    EXPECT_FALSE(program_.preview(press));
 }
 
 TEST_F(ToolsPaneTest, ARemovalByKeyKeepsNoPressBack) {
@@ -99,7 +100,7 @@ TEST_F(ToolsPaneTest, ARemovalByKeyKeepsNoPressBack) {
     MSG press{
         namedChild(measure(), "cmdDelete"), WM_LBUTTONDOWN, MK_LBUTTON, 0, GetTickCount(), {}};
     GetCursorPos(&press.pt);
-    EXPECT_FALSE(settings_.preview(press));
+    EXPECT_FALSE(program_.preview(press));
 }
 
 TEST_F(ToolsPaneTest, UndoOfADisconnectShowsTheLinesConnectedAgain) {
@@ -160,7 +161,7 @@ std::vector<std::string> waitingForPainting(HWND panel) {
 }
 
 TEST_F(ToolsPaneTest, ARefreshRepaintsOnlyTheReadOutThatHasChanged) {
-    ToolList& tools = settings_.tools().tools();
+    ToolList& tools = program_.tools().tools();
     auto& core = dynamic_cast<PanelCore&>(*tools.LastVisiblePanel(ToolKind::stencil));
     auto& tool = dynamic_cast<ctlRatioGrid&>(core.RefControlControl());
     tool.setRotationAngle(0);
@@ -178,7 +179,7 @@ TEST_F(ToolsPaneTest, ARefreshRepaintsOnlyTheReadOutThatHasChanged) {
 }
 
 TEST_F(ToolsPaneTest, ARefreshOfAMeasuringToolThatStandsStillRepaintsNothing) {
-    ToolList& tools = settings_.tools().tools();
+    ToolList& tools = program_.tools().tools();
     auto& core = dynamic_cast<PanelCore&>(*tools.LastVisiblePanel(ToolKind::measurement));
     core.ShowAllProps(true);
     RedrawWindow(measure(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
@@ -198,12 +199,12 @@ TEST_F(ToolsPaneTest, DeleteRemovesTheFirstPairFromSight) {
 }
 
 TEST_F(ToolsPaneTest, WithoutPanelsTheListIsEmptyAndTheWheelDoesNothing) {
-    settings_.tools().tools().RemoveAllTools();
+    program_.tools().tools().RemoveAllTools();
     RECT inner{};
     GetClientRect(namedChild(settings_.handle(), "picInner"), &inner);
     EXPECT_EQ(inner.bottom, 0);
     EXPECT_FALSE(IsWindowEnabled(namedChild(settings_.handle(), "scrInner")));
-    settings_.tools().Scroll(true);
+    program_.tools().Scroll(true);
     GetClientRect(namedChild(settings_.handle(), "picInner"), &inner);
     EXPECT_EQ(inner.bottom, 0);
 }

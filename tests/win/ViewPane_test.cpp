@@ -1,10 +1,10 @@
-#include "app/win/ViewPane.h"
+#include "app/win/view/ViewPane.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 
-#include "app/win/frmSettings.h"
+#include "app/win/shell/Program.h"
 #include "e2e/support/AppDataFolder.h"
 #include "language/LanguageSupport.h"
 #include "platform/win/text.h"
@@ -43,34 +43,32 @@ class ViewPaneTest : public testing::Test {
     void click(const wchar_t* name) const { SendMessageW(control(name), BM_CLICK, 0, 0); }
 
     test::AppDataFolder folder_;
-    frmSettings settings_{false};
-    ViewPane& view_ = settings_.view();
+    Program program_{false};
+    frmSettings& settings_ = program_.settings();
+    ViewPane& view_ = program_.view();
 };
 
 struct ToggleCase {
     const wchar_t* button;
-    MenuEntry entry;
-    void (ViewPane::*set)(bool);
+    Command command;
     bool atFirst;
 };
 
 constexpr std::array toggleCases{
-    ToggleCase{L"chkGrid", MenuEntry::mnuGridVisible, &ViewPane::SetGrid, false},
-    ToggleCase{L"chkLens", MenuEntry::mnuLensVisible, &ViewPane::SetLens, false},
-    ToggleCase{L"chkCircleCompass", MenuEntry::mnuCircleCompassEnabled, &ViewPane::SetCircleCompass,
-               true},
-    ToggleCase{L"chkReferenceLines", MenuEntry::mnuReferenceLinesEnabled,
-               &ViewPane::SetReferenceLines, true},
-    ToggleCase{L"chkCrossHair", MenuEntry::mnuCrossHairVisible, &ViewPane::SetCrossHair, false},
+    ToggleCase{L"chkGrid", Command::grid, false},
+    ToggleCase{L"chkLens", Command::lens, false},
+    ToggleCase{L"chkCircleCompass", Command::circleCompass, true},
+    ToggleCase{L"chkReferenceLines", Command::referenceLines, true},
+    ToggleCase{L"chkCrossHair", Command::crossHair, false},
 };
 
 TEST_F(ViewPaneTest, ButtonsAndMenuNeverDisagree) {
     for (const ToggleCase& toggle : toggleCases) {
         const auto bothShow = [&](bool on) {
-            return isOn(toggle.button) == on && view_.menu().isChecked(toggle.entry) == on;
+            return isOn(toggle.button) == on && view_.menu().isChecked(toggle.command) == on;
         };
         EXPECT_TRUE(bothShow(toggle.atFirst)) << narrow(toggle.button);
-        (view_.*toggle.set)(!toggle.atFirst);
+        program_.execute(toggle.command);
         EXPECT_TRUE(bothShow(!toggle.atFirst)) << narrow(toggle.button);
         click(toggle.button);
         EXPECT_TRUE(bothShow(toggle.atFirst)) << narrow(toggle.button);
@@ -88,56 +86,58 @@ int crossHairsShown(HWND worksheet) {
 }
 
 TEST_F(ViewPaneTest, TogglesReachTheirOwners) {
-    const HWND worksheet = settings_.worksheet().handle();
+    const HWND worksheet = program_.worksheet().handle();
     int paints = 0;
-    const Subscription painted = settings_.worksheet().painted.subscribe([&] { ++paints; });
-    view_.SetGrid(true);
+    const Subscription painted = program_.worksheet().painted.subscribe([&] { ++paints; });
+    program_.execute(Command::grid);
     EXPECT_TRUE(view_.optionValues().grid.enabled);
     EXPECT_EQ(paints, 1);
-    const RECT place = settings_.worksheet().rectangle();
+    const RECT place = program_.worksheet().rectangle();
+    const auto showCrossHair = [&](bool shown) {
+        program_.state().set([shown](Options& options) { options.aids.crossHair = shown; });
+    };
     EXPECT_TRUE(test::waitUntil([&] {
         SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
-        view_.SetCrossHair(true);
+        showCrossHair(true);
         return crossHairsShown(worksheet) == 2;
     }));
-    view_.SetCrossHair(false);
+    showCrossHair(false);
     EXPECT_EQ(crossHairsShown(worksheet), 0);
-    view_.SetLens(true);
+    program_.execute(Command::lens);
     EXPECT_TRUE(view_.lens().lens().isVisible());
     EXPECT_EQ(GetWindow(view_.lens().lens().handle(), GW_OWNER), worksheet);
-    view_.SetLens(false);
+    program_.execute(Command::lens);
     EXPECT_FALSE(view_.lens().lens().isVisible());
 }
 
 TEST_F(ViewPaneTest, ClosingTheMagnifierTurnsItsToggleOff) {
-    view_.SetLens(true);
+    program_.execute(Command::lens);
     ASSERT_TRUE(isOn(L"chkLens"));
     SendMessageW(view_.lens().lens().handle(), WM_CLOSE, 0, 0);
     EXPECT_FALSE(view_.lens().lens().isVisible());
     EXPECT_FALSE(isOn(L"chkLens"));
-    EXPECT_FALSE(view_.menu().isChecked(MenuEntry::mnuLensVisible));
+    EXPECT_FALSE(view_.menu().isChecked(Command::lens));
 }
 
 TEST_F(ViewPaneTest, TheMenuOfTheMagnifierShowsItsState) {
-    frmLens& lens = view_.lens().lens();
+    const frmLens& lens = view_.lens().lens();
     const frmMenu& menu = view_.menu();
-    lens.setFactor(7);
+    program_.execute(commandOfLensFactor(7));
+    EXPECT_EQ(lens.Factor(), 7);
     for (int factor = 1; factor <= 10; ++factor) {
-        EXPECT_EQ(menu.isChecked(entryOfLensFactor(factor)), factor == 7) << factor;
+        EXPECT_EQ(menu.isChecked(commandOfLensFactor(factor)), factor == 7) << factor;
     }
-    EXPECT_TRUE(menu.isEnabled(MenuEntry::mnuLensGrid));
-    lens.setFactor(1);
-    EXPECT_FALSE(menu.isEnabled(MenuEntry::mnuLensGrid));
-    EXPECT_FALSE(menu.isChecked(MenuEntry::mnuLensStick));
-    lens.setSticked(true);
-    EXPECT_TRUE(menu.isChecked(MenuEntry::mnuLensStick));
-    lens.mnuLensCursor_Click();
-    EXPECT_FALSE(menu.isChecked(MenuEntry::mnuLensCursor));
-    lens.mnuLensHotSpot_Click();
-    EXPECT_FALSE(menu.isChecked(MenuEntry::mnuLensHotSpot));
-    lens.mnuLensTopLeftScales_Click();
-    EXPECT_FALSE(menu.isChecked(MenuEntry::mnuLensTopLeftScales));
-    EXPECT_TRUE(menu.isChecked(MenuEntry::mnuLensBottomRightScales));
+    EXPECT_TRUE(menu.isEnabled(Command::lensGrid));
+    program_.execute(commandOfLensFactor(1));
+    EXPECT_FALSE(menu.isEnabled(Command::lensGrid));
+    for (const Command command :
+         {Command::lensStick, Command::lensCursor, Command::lensHotSpot, Command::lensGrid,
+          Command::lensTopLeftScales, Command::lensBottomRightScales}) {
+        const bool was = menu.isChecked(command);
+        program_.execute(command);
+        EXPECT_NE(menu.isChecked(command), was);
+        EXPECT_EQ(lens.options(), program_.state().options().lens);
+    }
 }
 
 TEST_F(ViewPaneTest, TheMenuOffersEachStateOfTheWorksheetOnlyFromTheOther) {
@@ -148,12 +148,12 @@ TEST_F(ViewPaneTest, TheMenuOffersEachStateOfTheWorksheetOnlyFromTheOther) {
         EXPECT_NE(PeekMessageW(&asked, settings_.handle(), WM_APP, WM_APP + 9, PM_REMOVE), FALSE);
     };
     askForMenu();
-    EXPECT_TRUE(view_.menu().isEnabled(MenuEntry::mnuWindowMaximized));
-    EXPECT_FALSE(view_.menu().isEnabled(MenuEntry::mnuWindowNormal));
-    settings_.resizer().maximise();
+    EXPECT_TRUE(view_.menu().isEnabled(Command::worksheetMaximised));
+    EXPECT_FALSE(view_.menu().isEnabled(Command::worksheetNormal));
+    program_.resizer().maximise();
     askForMenu();
-    EXPECT_FALSE(view_.menu().isEnabled(MenuEntry::mnuWindowMaximized));
-    EXPECT_TRUE(view_.menu().isEnabled(MenuEntry::mnuWindowNormal));
+    EXPECT_FALSE(view_.menu().isEnabled(Command::worksheetMaximised));
+    EXPECT_TRUE(view_.menu().isEnabled(Command::worksheetNormal));
 }
 
 TEST_F(ViewPaneTest, OptionsThatAreAsTheyWereChangeNoLanguageAndOnlyAnotherGridIsDrawn) {
@@ -162,8 +162,8 @@ TEST_F(ViewPaneTest, OptionsThatAreAsTheyWereChangeNoLanguageAndOnlyAnotherGridI
     const Subscription listening =
         GetLanguageSupport().LanguageChange.subscribe([&changes] { ++changes; });
     int paints = 0;
-    const Subscription painting = settings_.worksheet().painted.subscribe([&paints] { ++paints; });
-    UpdateWindow(settings_.worksheet().handle());
+    const Subscription painting = program_.worksheet().painted.subscribe([&paints] { ++paints; });
+    UpdateWindow(program_.worksheet().handle());
     paints = 0;
     OptionValues values = port.optionValues();
     port.applyOptions(values);

@@ -129,7 +129,7 @@ TEST_F(frmLensTest, StaysOpaqueInEditModeWhileItFollowsTheMouse) {
     const auto layered = [this] {
         return (GetWindowLongPtrW(lens_.handle(), GWL_EXSTYLE) & WS_EX_LAYERED) != 0;
     };
-    lens_.SetMode(0);
+    lens_.SetMode(Mode::edit);
     EXPECT_FALSE(layered());
     lens_.setSticked(true);
     EXPECT_TRUE(layered());
@@ -138,9 +138,9 @@ TEST_F(frmLensTest, StaysOpaqueInEditModeWhileItFollowsTheMouse) {
     ASSERT_TRUE(GetLayeredWindowAttributes(lens_.handle(), nullptr, &alpha, &flags));
     EXPECT_EQ(alpha, 255);
     EXPECT_EQ(flags, static_cast<DWORD>(LWA_ALPHA));
-    lens_.SetMode(1);
+    lens_.SetMode(Mode::templateMode);
     EXPECT_FALSE(layered());
-    lens_.SetMode(0);
+    lens_.SetMode(Mode::edit);
     EXPECT_TRUE(layered());
     lens_.setSticked(false);
     EXPECT_FALSE(layered());
@@ -163,10 +163,10 @@ TEST_F(frmLensTest, KeysAskTheApplication) {
     for (const WPARAM key : {VK_F2, VK_F3, VK_F4, VK_F1, VK_F12, VK_APPS}) {
         SendMessageW(lens_.handle(), WM_KEYDOWN, key, 0);
     }
-    const std::vector<std::pair<int, bool>> modes{{0, false}, {2, false}, {1, false}};
-    EXPECT_EQ(commands_.modes, modes);
-    EXPECT_EQ(commands_.helps, 1);
-    EXPECT_EQ(commands_.pages, std::vector<int>{2});
+    const std::vector<Command> asked{Command::editMode, Command::pauseMode,   Command::templateMode,
+                                     Command::help,     Command::lensOptions, Command::lensMenu};
+    EXPECT_EQ(commands_.executed, asked);
+    lens_.showMenuAtOrigin();
     POINT origin{0, 0};
     ClientToScreen(lens_.handle(), &origin);
     ASSERT_EQ(commands_.menus.size(), 1U);

@@ -246,8 +246,7 @@ TEST_F(frmResizerTest, StoredAsMaximisedItBringsAFullScreenWorksheet) {
 
 TEST_F(frmResizerTest, CloseBoxMeansPauseAndUnloadsNothing) {
     SendMessageW(frame_.handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
-    const std::vector<std::pair<int, bool>> asked{{2, false}};
-    EXPECT_EQ(sheet_.commands.modes, asked);
+    EXPECT_EQ(sheet_.commands.executed, std::vector{Command::pauseMode});
     EXPECT_EQ(sheet_.commands.closes, 0);
     EXPECT_TRUE(IsWindow(frame_.handle()));
     EXPECT_TRUE(IsWindow(sheet_.window().handle()));
@@ -257,15 +256,15 @@ TEST_F(frmResizerTest, ModeKeysWorkInTheFrame) {
     for (const WPARAM key : {VK_F2, VK_F3, VK_F4, VK_F1}) {
         SendMessageW(frame_.handle(), WM_KEYDOWN, key, 0);
     }
-    const std::vector<std::pair<int, bool>> asked{{0, false}, {2, false}, {1, false}};
-    EXPECT_EQ(sheet_.commands.modes, asked);
-    EXPECT_EQ(sheet_.commands.helps, 1);
+    const std::vector<Command> asked{Command::editMode, Command::pauseMode, Command::templateMode,
+                                     Command::help};
+    EXPECT_EQ(sheet_.commands.executed, asked);
 }
 
 TEST_F(frmResizerTest, KeysDoNothingWhileTheWorksheetTakesNoMouse) {
     sheet_.window().setClickable(false);
     SendMessageW(frame_.handle(), WM_KEYDOWN, VK_F2, 0);
-    EXPECT_TRUE(sheet_.commands.modes.empty());
+    EXPECT_TRUE(sheet_.commands.executed.empty());
 }
 
 TEST_F(frmResizerTest, RepaintsItselfOnceTheSizeRests) {

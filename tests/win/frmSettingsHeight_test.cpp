@@ -26,9 +26,9 @@ TEST_F(ControlHeight, ShiftF4ShrinksTheWindowAndMinimisesIt) {
         const HeldKeys held{VK_SHIFT};
         press(VK_F4);
     }
-    EXPECT_EQ(settings_->GetMode(), 1);
+    EXPECT_EQ(program_->modes().GetMode(), Mode::templateMode);
     EXPECT_TRUE(IsIconic(settings_->handle()));
-    EXPECT_TRUE(settings_->worksheet().isVisible()) << "the tools stay";
+    EXPECT_TRUE(program_->worksheet().isVisible()) << "the tools stay";
     ShowWindow(settings_->handle(), SW_RESTORE);
     EXPECT_TRUE(test::waitUntil([&] { return height() == shortHeight(); }));
     press(VK_F2);
@@ -40,7 +40,7 @@ TEST_F(ControlHeight, ChangeBySystemMenuWhileMinimisedTakesEffectWhenTheWindowCo
     const int before = height();
     ShowWindow(settings_->handle(), SW_MINIMIZE);
     SendMessageW(settings_->handle(), WM_SYSCOMMAND, 1012, 0);
-    EXPECT_EQ(settings_->GetMode(), 2);
+    EXPECT_EQ(program_->modes().GetMode(), Mode::pause);
     EXPECT_TRUE(IsIconic(settings_->handle()));
     ShowWindow(settings_->handle(), SW_RESTORE);
     EXPECT_TRUE(test::waitUntil([&] { return height() == shortHeight(); }));
@@ -68,7 +68,7 @@ TEST_F(ControlHeight, AProgramThatEndsMinimisedAndShortKnowsItsHeight) {
 TEST_F(ControlHeight, AControlWindowStoredAtHalfTheResolutionIsWhollyOnTheScreen) {
     start();
     const int width = widthOf(settings_->rectangle());
-    settings_.reset();
+    program_.reset();
     const int right = GetSystemMetrics(SM_CXSCREEN);
     option("FormSettings", "Left", std::to_string(right - width / 2));
     option("FormSettings", "Top", "100");

@@ -25,7 +25,7 @@ TEST_F(Modes, FirstStartShowsTheFrameOfTheGoldenSectionCentred) {
     start();
     EXPECT_EQ(shown(), allShown);
     EXPECT_TRUE(worksheetLiesInTheFrame());
-    const RECT place = settings_->resizer().rectangle();
+    const RECT place = program_->resizer().rectangle();
     const int width = GetSystemMetrics(SM_CXSCREEN);
     const int height = GetSystemMetrics(SM_CYSCREEN);
     EXPECT_NEAR(widthOf(place), 0.618 * width, 3);
@@ -36,20 +36,20 @@ TEST_F(Modes, FirstStartShowsTheFrameOfTheGoldenSectionCentred) {
 
 TEST_F(Modes, EachMakesItsOwnOfTheFramedWindows) {
     start();
-    settings_->SetMode(1, false);
+    program_->modes().SetMode(Mode::templateMode, false);
     EXPECT_EQ(shown(), templateAlone);
-    settings_->SetMode(2, false);
+    program_->modes().SetMode(Mode::pause, false);
     EXPECT_EQ(shown(), nothing);
-    settings_->SetMode(0, false);
+    program_->modes().SetMode(Mode::edit, false);
     EXPECT_EQ(shown(), allShown);
     keepBorder();
-    settings_->SetMode(1, false);
+    program_->modes().SetMode(Mode::templateMode, false);
     EXPECT_EQ(shown(), templateInFrame);
-    settings_->SetMode(2, false);
+    program_->modes().SetMode(Mode::pause, false);
     EXPECT_EQ(shown(), nothing);
-    settings_->SetMode(1, false);
+    program_->modes().SetMode(Mode::templateMode, false);
     EXPECT_EQ(shown(), templateInFrame);
-    EXPECT_FALSE(settings_->WorksheetMaxSized());
+    EXPECT_FALSE(program_->modes().WorksheetMaxSized());
     EXPECT_TRUE(worksheetLiesInTheFrame());
 }
 
@@ -60,39 +60,39 @@ TEST_F(Modes, AStartInTemplateModeKeysOutTheUsersColour) {
     COLORREF key = 0;
     BYTE alpha = 0;
     DWORD flags = 0;
-    GetLayeredWindowAttributes(settings_->worksheet().handle(), &key, &alpha, &flags);
+    GetLayeredWindowAttributes(program_->worksheet().handle(), &key, &alpha, &flags);
     EXPECT_EQ(key, RGB(255, 0, 0));
     EXPECT_EQ(end().number("Options", "WorksheetColor"), 255);
 }
 
 TEST_F(Modes, EachMakesItsOwnOfTheFullScreenWindows) {
     start();
-    settings_->resizer().maximise();
+    program_->resizer().maximise();
     EXPECT_EQ(shown(), veilAlone);
     keepBorder();
-    settings_->SetMode(1, false);
+    program_->modes().SetMode(Mode::templateMode, false);
     EXPECT_EQ(shown(), templateAlone);
-    settings_->SetMode(2, false);
+    program_->modes().SetMode(Mode::pause, false);
     EXPECT_EQ(shown(), nothing);
-    settings_->SetMode(0, false);
+    program_->modes().SetMode(Mode::edit, false);
     EXPECT_EQ(shown(), veilAlone);
     EXPECT_TRUE(worksheetFillsScreen());
 }
 
 TEST_F(Modes, OneOfNoKnownNumberChangesNoWindow) {
     start();
-    settings_->SetMode(7, false);
+    program_->modes().SetMode(static_cast<Mode>(7), false);
     EXPECT_EQ(shown(), allShown);
-    EXPECT_EQ(settings_->GetMode(), 7);
+    EXPECT_EQ(program_->modes().GetMode(), static_cast<Mode>(7));
 }
 
 TEST_F(Modes, FrameGoesInTemplateModeAndTheWorksheetStaysInPlace) {
     start();
     ASSERT_TRUE(worksheetLiesInTheFrame());
-    const RECT before = settings_->worksheet().rectangle();
-    settings_->SetMode(1, false);
-    EXPECT_FALSE(settings_->resizer().isVisible());
-    const RECT after = settings_->worksheet().rectangle();
+    const RECT before = program_->worksheet().rectangle();
+    program_->modes().SetMode(Mode::templateMode, false);
+    EXPECT_FALSE(program_->resizer().isVisible());
+    const RECT after = program_->worksheet().rectangle();
     EXPECT_NE(EqualRect(&after, &before), FALSE);
 }
 
@@ -101,48 +101,48 @@ TEST_F(Modes, FrameWithBorderCanBeMovedInTemplateModeAndTheToolsMoveAlong) {
     option("Options", "Mode", "1");
     start();
     ASSERT_EQ(shown(), templateInFrame);
-    SetWindowPos(settings_->resizer().handle(), nullptr, 60, 50, 0, 0,
+    SetWindowPos(program_->resizer().handle(), nullptr, 60, 50, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     EXPECT_TRUE(worksheetLiesInTheFrame());
-    EXPECT_TRUE(settings_->worksheet().isVisible());
-    EXPECT_EQ(settings_->GetMode(), 1);
+    EXPECT_TRUE(program_->worksheet().isVisible());
+    EXPECT_EQ(program_->modes().GetMode(), Mode::templateMode);
 }
 
 TEST_F(Modes, FullScreenWorksheetComesBackIntoAFrameOfTheOldSize) {
     start();
-    const RECT before = settings_->resizer().rectangle();
-    SendMessageW(settings_->resizer().handle(), WM_SYSCOMMAND, SC_MAXIMIZE, 0);
+    const RECT before = program_->resizer().rectangle();
+    SendMessageW(program_->resizer().handle(), WM_SYSCOMMAND, SC_MAXIMIZE, 0);
     EXPECT_TRUE(worksheetFillsScreen());
-    EXPECT_TRUE(settings_->WorksheetMaxSized());
+    EXPECT_TRUE(program_->modes().WorksheetMaxSized());
     EXPECT_EQ(shown(), veilAlone);
-    settings_->worksheetWindowNormal();
-    EXPECT_FALSE(settings_->WorksheetMaxSized());
+    program_->execute(Command::worksheetNormal);
+    EXPECT_FALSE(program_->modes().WorksheetMaxSized());
     EXPECT_EQ(shown(), allShown);
-    const RECT after = settings_->resizer().rectangle();
+    const RECT after = program_->resizer().rectangle();
     EXPECT_NE(EqualRect(&after, &before), FALSE);
     EXPECT_TRUE(worksheetLiesInTheFrame());
 }
 
 TEST_F(Modes, FullScreenWorksheetCanComeBackInTemplateModeOnlyWithTheBorder) {
     start();
-    settings_->resizer().maximise();
-    settings_->SetMode(1, false);
-    EXPECT_FALSE(settings_->WorksheetMaxSized());
+    program_->resizer().maximise();
+    program_->modes().SetMode(Mode::templateMode, false);
+    EXPECT_FALSE(program_->modes().WorksheetMaxSized());
     keepBorder();
-    settings_->SetMode(1, false);
-    EXPECT_TRUE(settings_->WorksheetMaxSized());
-    settings_->SetMode(2, false);
-    EXPECT_FALSE(settings_->WorksheetMaxSized());
+    program_->modes().SetMode(Mode::templateMode, false);
+    EXPECT_TRUE(program_->modes().WorksheetMaxSized());
+    program_->modes().SetMode(Mode::pause, false);
+    EXPECT_FALSE(program_->modes().WorksheetMaxSized());
 }
 
 TEST_F(Modes, CloseBoxOfTheFrameIsAPauseAndNoEnd) {
     start();
-    SendMessageW(settings_->resizer().handle(), WM_CLOSE, 0, 0);
-    EXPECT_EQ(settings_->GetMode(), 2);
+    SendMessageW(program_->resizer().handle(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(program_->modes().GetMode(), Mode::pause);
     EXPECT_EQ(shown(), nothing);
     MSG message{};
     EXPECT_FALSE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE));
-    settings_->SetMode(0, false);
+    program_->modes().SetMode(Mode::edit, false);
     EXPECT_EQ(shown(), allShown);
 }
 
@@ -150,7 +150,7 @@ TEST_F(Modes, F3WithCtrlAndShiftLeavesTheControlWindowUp) {
     start();
     const HeldKeys held{VK_CONTROL, VK_SHIFT};
     press(VK_F3);
-    EXPECT_EQ(settings_->GetMode(), 2);
+    EXPECT_EQ(program_->modes().GetMode(), Mode::pause);
     EXPECT_FALSE(IsIconic(settings_->handle()));
 }
 
@@ -159,17 +159,17 @@ TEST_F(Modes, PauseLeavesTheKeysOfTheOtherModes) {
     start();
     EXPECT_EQ(height(), shortHeight());
     press(VK_F4);
-    EXPECT_EQ(settings_->GetMode(), 1);
+    EXPECT_EQ(program_->modes().GetMode(), Mode::templateMode);
     press(VK_F3);
-    EXPECT_EQ(settings_->GetMode(), 2);
+    EXPECT_EQ(program_->modes().GetMode(), Mode::pause);
     press(VK_F2);
-    EXPECT_EQ(settings_->GetMode(), 0);
+    EXPECT_EQ(program_->modes().GetMode(), Mode::edit);
     EXPECT_EQ(shown(), allShown);
 }
 
 TEST_F(Modes, VeilIsWholeAgainAfterTemplateModeAndPause) {
     start();
-    const RECT place = settings_->worksheet().rectangle();
+    const RECT place = program_->worksheet().rectangle();
     const test::ScreenPoint beside{static_cast<int>(place.left) + 20,
                                    static_cast<int>(place.top) + 20};
     const auto now = [&] {
@@ -177,12 +177,12 @@ TEST_F(Modes, VeilIsWholeAgainAfterTemplateModeAndPause) {
             .at(beside);
     };
     const test::Color veil = now();
-    settings_->SetMode(1, false);
+    program_->modes().SetMode(Mode::templateMode, false);
     const test::Color ground = now();
     EXPECT_NE(veil, ground);
-    settings_->SetMode(2, false);
+    program_->modes().SetMode(Mode::pause, false);
     EXPECT_EQ(now(), ground);
-    settings_->SetMode(0, false);
+    program_->modes().SetMode(Mode::edit, false);
     EXPECT_TRUE(test::waitUntil([&] { return test::screen::pixel(beside) == veil; }));
 }
 
@@ -190,7 +190,7 @@ TEST_F(Modes, StartInPauseShowsNoWorksheet) {
     option("Options", "Mode", "2");
     start();
     EXPECT_EQ(shown(), nothing);
-    settings_->SetMode(0, false);
+    program_->modes().SetMode(Mode::edit, false);
     EXPECT_TRUE(worksheetLiesInTheFrame());
 }
 
@@ -203,24 +203,24 @@ TEST_F(Modes, StartWithAFrameStoredAsMaximisedIsFullScreen) {
     start();
     EXPECT_EQ(shown(), veilAlone);
     EXPECT_TRUE(worksheetFillsScreen());
-    EXPECT_TRUE(settings_->WorksheetMaxSized());
-    settings_->worksheetWindowNormal();
-    const RECT place = settings_->resizer().rectangle();
+    EXPECT_TRUE(program_->modes().WorksheetMaxSized());
+    program_->execute(Command::worksheetNormal);
+    const RECT place = program_->resizer().rectangle();
     EXPECT_EQ(widthOf(place), 700);
     EXPECT_EQ(heightOf(place), 500);
 }
 
 TEST_F(Modes, PlaceOfTheFrameComesBackAtTheNextStart) {
     start();
-    SetWindowPos(settings_->resizer().handle(), nullptr, 90, 80, 640, 480,
+    SetWindowPos(program_->resizer().handle(), nullptr, 90, 80, 640, 480,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-    const PixelRect place = fromRect(settings_->resizer().rectangle());
+    const PixelRect place = fromRect(program_->resizer().rectangle());
     file_ = end();
     EXPECT_EQ(file_.number("FormResizer", "WindowState"), 1);
     EXPECT_EQ(file_.number("FormResizer", "Left"), place.left);
     EXPECT_EQ(file_.number("FormResizer", "Bottom"), place.bottom);
     start();
-    EXPECT_EQ(fromRect(settings_->resizer().rectangle()), place);
+    EXPECT_EQ(fromRect(program_->resizer().rectangle()), place);
     EXPECT_TRUE(worksheetLiesInTheFrame());
 }
 
@@ -232,8 +232,8 @@ TEST_F(Modes, SecondCopyShiftsTheControlWindowAndNotTheFrame) {
         option(section, "Bottom", "600");
     }
     start(true);
-    EXPECT_EQ(settings_->resizer().rectangle().left, 100);
-    EXPECT_EQ(settings_->resizer().rectangle().top, 90);
+    EXPECT_EQ(program_->resizer().rectangle().left, 100);
+    EXPECT_EQ(program_->resizer().rectangle().top, 90);
     EXPECT_EQ(settings_->rectangle().left, 120);
     EXPECT_EQ(settings_->rectangle().top, 110);
 }
@@ -246,10 +246,10 @@ TEST_F(Modes, WindowsOfAMonitorThatIsGoneComeBackAtTheStart) {
         option(section, "Bottom", "7500");
     }
     start();
-    for (const HWND window : {settings_->handle(), settings_->resizer().handle()}) {
+    for (const HWND window : {settings_->handle(), program_->resizer().handle()}) {
         EXPECT_NE(MonitorFromWindow(window, MONITOR_DEFAULTTONULL), nullptr);
     }
-    const RECT place = settings_->resizer().rectangle();
+    const RECT place = program_->resizer().rectangle();
     EXPECT_EQ(place.right,
               GetSystemMetrics(SM_XVIRTUALSCREEN) + GetSystemMetrics(SM_CXVIRTUALSCREEN));
     EXPECT_EQ(widthOf(place), 700);
@@ -257,26 +257,26 @@ TEST_F(Modes, WindowsOfAMonitorThatIsGoneComeBackAtTheStart) {
 
 TEST_F(Modes, WindowsComeBackWhenTheirMonitorGoesWhileTheProgramRuns) {
     start();
-    settings_->SetMode(1, false);
-    SetWindowPos(settings_->resizer().handle(), nullptr, 9000, 7000, 0, 0,
+    program_->modes().SetMode(Mode::templateMode, false);
+    SetWindowPos(program_->resizer().handle(), nullptr, 9000, 7000, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     SendMessageW(settings_->handle(), WM_DISPLAYCHANGE, 32, 0);
-    EXPECT_NE(MonitorFromWindow(settings_->resizer().handle(), MONITOR_DEFAULTTONULL), nullptr);
-    EXPECT_FALSE(settings_->resizer().isVisible()) << "still hidden by the mode";
+    EXPECT_NE(MonitorFromWindow(program_->resizer().handle(), MONITOR_DEFAULTTONULL), nullptr);
+    EXPECT_FALSE(program_->resizer().isVisible()) << "still hidden by the mode";
     EXPECT_TRUE(worksheetLiesInTheFrame());
 }
 
 TEST_F(Modes, FullScreenWorksheetFitsTheScreenAgainAfterItsChange) {
     start();
-    settings_->resizer().maximise();
+    program_->resizer().maximise();
     ASSERT_TRUE(worksheetFillsScreen());
-    SetWindowPos(settings_->worksheet().handle(), nullptr, 0, 0, 800, 600,
+    SetWindowPos(program_->worksheet().handle(), nullptr, 0, 0, 800, 600,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-    SendMessageW(settings_->worksheet().handle(), WM_DISPLAYCHANGE, 32, 0);
+    SendMessageW(program_->worksheet().handle(), WM_DISPLAYCHANGE, 32, 0);
     SendMessageW(settings_->handle(), WM_DISPLAYCHANGE, 32, 0);
     EXPECT_TRUE(worksheetFillsScreen());
-    EXPECT_TRUE(settings_->worksheet().MaxSized());
-    EXPECT_FALSE(settings_->resizer().isVisible());
+    EXPECT_TRUE(program_->worksheet().MaxSized());
+    EXPECT_FALSE(program_->resizer().isVisible());
 }
 
 TEST_F(Modes, MinimisedControlWindowStaysSoWhenTheScreensChange) {
@@ -290,9 +290,9 @@ TEST_F(Modes, GermanFrameSaysArbeitsblatt) {
     option("Options", "Language", "1031");
     start();
     wchar_t text[100]{};
-    GetWindowTextW(settings_->resizer().handle(), text, 100);
+    GetWindowTextW(program_->resizer().handle(), text, 100);
     EXPECT_STREQ(text, L"Ormala Arbeitsblatt");
-    settings_.reset();
+    program_.reset();
     MlSetLanguage(languageEnglish, {});
 }
 

@@ -1,4 +1,4 @@
-#include "app/win/frmSettings.h"
+#include "app/win/shell/Program.h"
 
 #include <gtest/gtest.h>
 
@@ -39,24 +39,25 @@ class frmSettingsTest : public testing::Test {
     }
 
     test::AppDataFolder folder_;
-    frmSettings settings_{false};
+    Program program_{false};
+    frmSettings& settings_ = program_.settings();
 };
 
 TEST_F(frmSettingsTest, IsReadyInEditModeWithItsCaption) {
     EXPECT_NE(GetPropW(settings_.handle(), L"Ready"), nullptr);
-    EXPECT_EQ(settings_.GetMode(), 0);
+    EXPECT_EQ(program_.modes().GetMode(), Mode::edit);
     EXPECT_EQ(captionOf(settings_.handle()), "Ormala - Edit");
-    EXPECT_TRUE(settings_.worksheet().isVisible());
-    EXPECT_TRUE(settings_.worksheet().Clickable());
-    EXPECT_EQ(settings_.worksheet().ClickAlpha(), 191);
-    EXPECT_EQ(settings_.worksheet().Alpha(), 128);
+    EXPECT_TRUE(program_.worksheet().isVisible());
+    EXPECT_TRUE(program_.worksheet().Clickable());
+    EXPECT_EQ(program_.worksheet().ClickAlpha(), 191);
+    EXPECT_EQ(program_.worksheet().Alpha(), 128);
 }
 
 TEST_F(frmSettingsTest, OneStencilStandsCentredWithItsDefaultSize) {
-    auto* stencil = dynamic_cast<ctlRatioGrid*>(settings_.worksheet().sheet().GetFirstControl(0));
+    auto* stencil = dynamic_cast<ctlRatioGrid*>(program_.worksheet().sheet().GetFirstControl(0));
     ASSERT_NE(stencil, nullptr);
-    EXPECT_TRUE(settings_.worksheet().sheet().isVisible(*stencil));
-    const RECT client = settings_.worksheet().clientRectangle();
+    EXPECT_TRUE(program_.worksheet().sheet().isVisible(*stencil));
+    const RECT client = program_.worksheet().clientRectangle();
     const double height = 0.3819660112501051 * client.bottom;
     EXPECT_NEAR(stencil->RectBound().bottom - stencil->RectBound().top, height - 1, 1e-9);
     EXPECT_NEAR((stencil->RectBound().left + stencil->RectBound().right) / 2,
@@ -66,16 +67,16 @@ TEST_F(frmSettingsTest, OneStencilStandsCentredWithItsDefaultSize) {
 }
 
 TEST_F(frmSettingsTest, ModesSwitchTheWorksheetAndTheCaption) {
-    settings_.SetMode(1, false);
+    program_.modes().SetMode(Mode::templateMode, false);
     EXPECT_EQ(captionOf(settings_.handle()), "Ormala - Template");
-    EXPECT_FALSE(settings_.worksheet().Clickable());
-    EXPECT_TRUE(settings_.worksheet().isVisible());
-    settings_.SetMode(2, false);
+    EXPECT_FALSE(program_.worksheet().Clickable());
+    EXPECT_TRUE(program_.worksheet().isVisible());
+    program_.modes().SetMode(Mode::pause, false);
     EXPECT_EQ(captionOf(settings_.handle()), "Ormala - Pause");
-    EXPECT_FALSE(settings_.worksheet().isVisible());
-    settings_.SetMode(0, false);
-    EXPECT_TRUE(settings_.worksheet().isVisible());
-    EXPECT_TRUE(settings_.worksheet().Clickable());
+    EXPECT_FALSE(program_.worksheet().isVisible());
+    program_.modes().SetMode(Mode::edit, false);
+    EXPECT_TRUE(program_.worksheet().isVisible());
+    EXPECT_TRUE(program_.worksheet().Clickable());
 }
 
 TEST_F(frmSettingsTest, SystemMenuOffersTheModesAndGreysTheCurrentOne) {
@@ -90,7 +91,7 @@ TEST_F(frmSettingsTest, SystemMenuOffersTheModesAndGreysTheCurrentOne) {
     };
     EXPECT_TRUE(greyed(1010));
     SendMessageW(settings_.handle(), WM_SYSCOMMAND, 1012, 0);
-    EXPECT_EQ(settings_.GetMode(), 2);
+    EXPECT_EQ(program_.modes().GetMode(), Mode::pause);
     EXPECT_TRUE(greyed(1012));
     EXPECT_FALSE(greyed(1010));
     wchar_t text[40]{};
@@ -104,7 +105,7 @@ TEST_F(frmSettingsTest, WidthIsFixedAndHeightHasItsLeast) {
     const RECT place = settings_.rectangle();
     EXPECT_EQ(limits.ptMinTrackSize.x, place.right - place.left);
     EXPECT_EQ(limits.ptMaxTrackSize.x, place.right - place.left);
-    settings_.SetMode(1, false);
+    program_.modes().SetMode(Mode::templateMode, false);
     const RECT shortPlace = settings_.rectangle();
     EXPECT_EQ(limits.ptMinTrackSize.y, shortPlace.bottom - shortPlace.top);
     EXPECT_LT(limits.ptMinTrackSize.y, place.bottom - place.top);
@@ -115,10 +116,10 @@ TEST_F(frmSettingsTest, HeightOfEditModeComesBack) {
     const int pulled = 333;
     SetWindowPos(settings_.handle(), nullptr, 0, 0, place.right - place.left, pulled,
                  SWP_NOMOVE | SWP_NOZORDER);
-    settings_.SetMode(1, false);
+    program_.modes().SetMode(Mode::templateMode, false);
     EXPECT_NE(settings_.rectangle().bottom - settings_.rectangle().top, pulled);
-    settings_.SetMode(2, false);
-    settings_.SetMode(0, false);
+    program_.modes().SetMode(Mode::pause, false);
+    program_.modes().SetMode(Mode::edit, false);
     EXPECT_EQ(settings_.rectangle().bottom - settings_.rectangle().top, pulled);
 }
 
@@ -132,10 +133,10 @@ TEST_F(frmSettingsTest, FollowsTheResolutionOfItsMonitor) {
 
 TEST_F(frmSettingsTest, ShortWindowGrowsAgainAfterAChangeOfResolution) {
     const int before = heightOf(settings_.rectangle());
-    settings_.SetMode(2, false);
+    program_.modes().SetMode(Mode::pause, false);
     const MINMAXINFO limits = doubleTheResolution();
     EXPECT_EQ(heightOf(settings_.rectangle()), limits.ptMinTrackSize.y);
-    settings_.SetMode(0, false);
+    program_.modes().SetMode(Mode::edit, false);
     EXPECT_NEAR(heightOf(settings_.rectangle()), 2 * before, 2);
 }
 
@@ -144,27 +145,26 @@ TEST_F(frmSettingsTest, ButtonsOfTheModesChangeThem) {
         const HWND button = namedChild(settings_.handle(), "btnMode(" + std::to_string(mode) + ")");
         ASSERT_NE(button, nullptr);
         SendMessageW(button, BM_CLICK, 0, 0);
-        EXPECT_EQ(settings_.GetMode(), mode);
+        EXPECT_EQ(numberOf(program_.modes().GetMode()), mode);
         EXPECT_EQ(SendMessageW(button, BM_GETCHECK, 0, 0), BST_CHECKED);
     }
 }
 
 TEST_F(frmSettingsTest, UndoBringsBackWhatTheKeysMoved) {
-    auto& stencil = dynamic_cast<ctlRatioGrid&>(*settings_.worksheet().sheet().GetFirstControl(0));
+    auto& stencil = dynamic_cast<ctlRatioGrid&>(*program_.worksheet().sheet().GetFirstControl(0));
     const Rect before = stencil.RectBound();
-    settings_.worksheet().sheet().giveFocus(stencil);
-    SendMessageW(settings_.worksheet().handle(), WM_KEYDOWN, VK_LEFT, 0);
+    program_.worksheet().sheet().giveFocus(stencil);
+    SendMessageW(program_.worksheet().handle(), WM_KEYDOWN, VK_LEFT, 0);
     const Rect moved = stencil.RectBound();
-    WorksheetCommands& commands = settings_;
     EXPECT_NE(moved, before);
-    commands.stepHistory(stencil, true);
+    program_.execute(Command::undo);
     EXPECT_EQ(stencil.RectBound(), before);
-    commands.stepHistory(stencil, false);
+    program_.execute(Command::redo);
     EXPECT_EQ(stencil.RectBound(), moved);
 }
 
 TEST_F(frmSettingsTest, OptionsAreWrittenAtTheEndOfTheSession) {
-    settings_.SetMode(2, false);
+    program_.modes().SetMode(Mode::pause, false);
     SendMessageW(settings_.handle(), WM_ENDSESSION, TRUE, 0);
     WindowsFileStore store;
     const ReadResult read = store.read(narrow(folder_.optionsFile().wstring()));
@@ -181,7 +181,7 @@ bool quitIsPosted() {
 
 TEST_F(frmSettingsTest, AProgramThatOutlivesItsSessionSavesAgainAtItsEnd) {
     SendMessageW(settings_.handle(), WM_ENDSESSION, TRUE, 0);
-    settings_.SetMode(2, false);
+    program_.modes().SetMode(Mode::pause, false);
     SendMessageW(settings_.handle(), WM_CLOSE, 0, 0);
     EXPECT_TRUE(quitIsPosted());
     const ReadResult read = WindowsFileStore().read(narrow(folder_.optionsFile().wstring()));
@@ -189,8 +189,8 @@ TEST_F(frmSettingsTest, AProgramThatOutlivesItsSessionSavesAgainAtItsEnd) {
 }
 
 TEST_F(frmSettingsTest, TheEndOfTheSessionLeavesTheOpenDocument) {
-    settings_.tools().documents().New();
-    ASSERT_FALSE(settings_.tools().documents().NoFileYet());
+    program_.tools().documents().New();
+    ASSERT_FALSE(program_.tools().documents().NoFileYet());
     SendMessageW(settings_.handle(), WM_ENDSESSION, TRUE, 0);
     ModalPlayer player;
     std::string question;
@@ -205,14 +205,14 @@ TEST_F(frmSettingsTest, TheEndOfTheSessionLeavesTheOpenDocument) {
 }
 
 TEST_F(frmSettingsTest, TheEndOfTheSessionAsksNothingOverAnOpenDialog) {
-    settings_.tools().documents().New();
+    program_.tools().documents().New();
     EnableWindow(settings_.handle(), FALSE);
     EXPECT_EQ(SendMessageW(settings_.handle(), WM_QUERYENDSESSION, 0, 0), FALSE);
     EnableWindow(settings_.handle(), TRUE);
 }
 
 TEST_F(frmSettingsTest, ACriticalEndOfTheSessionAsksNothingAndFindsTheToolsSaved) {
-    settings_.tools().documents().New();
+    program_.tools().documents().New();
     EXPECT_EQ(SendMessageW(settings_.handle(), WM_QUERYENDSESSION, 0,
                            static_cast<LPARAM>(ENDSESSION_CRITICAL)),
               TRUE);
@@ -222,10 +222,10 @@ TEST_F(frmSettingsTest, ACriticalEndOfTheSessionAsksNothingAndFindsTheToolsSaved
 TEST_F(frmSettingsTest, AClosedProgramWaitsForItsMessageLoopsBeforeItsWindowsGo) {
     SendMessageW(settings_.handle(), WM_CLOSE, 0, 0);
     EXPECT_TRUE(quitIsPosted());
-    EXPECT_NE(IsWindow(settings_.worksheet().handle()), FALSE);
+    EXPECT_NE(IsWindow(program_.worksheet().handle()), FALSE);
     // Such as a menu that was open: what was chosen in it comes behind the close.
     SendMessageW(settings_.handle(), WM_SYSCOMMAND, 1012, 0);
-    EXPECT_EQ(settings_.GetMode(), 2);
+    EXPECT_EQ(program_.modes().GetMode(), Mode::pause);
 }
 
 }  // namespace

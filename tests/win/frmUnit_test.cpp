@@ -5,6 +5,7 @@
 #include "language/MlStringModule.h"
 #include "measure/ManualMeasures.h"
 #include "support/MemoryCodePage.h"
+#include "support/OwnToolSettings.h"
 #include "support/QuietToolHost.h"
 #include "win/EnglishTexts.h"
 #include "win/ModalPlayer.h"
@@ -61,7 +62,7 @@ class frmUnitTest : public testing::Test {
     EnglishTexts english_;
     TestWindow owner_;
     QuietToolHost host_;
-    ToolSettings settings_;
+    OwnToolSettings settings_;
     ManualMeasures others_;
     ctlMeasure tool_{host_, settings_, others_};
     MeasureUnits defaults_;

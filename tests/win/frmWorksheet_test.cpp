@@ -161,9 +161,9 @@ TEST(frmWorksheet, ModeKeysAskForTheirModes) {
     for (const WPARAM key : {VK_F2, VK_F3, VK_F4, VK_F1}) {
         SendMessageW(window, WM_KEYDOWN, key, 0);
     }
-    const std::vector<std::pair<int, bool>> asked{{0, false}, {2, false}, {1, false}};
-    EXPECT_EQ(sheet.commands.modes, asked);
-    EXPECT_EQ(sheet.commands.helps, 1);
+    const std::vector<Command> asked{Command::editMode, Command::pauseMode, Command::templateMode,
+                                     Command::help};
+    EXPECT_EQ(sheet.commands.executed, asked);
 }
 
 TEST(frmWorksheet, KeysDoNothingInTemplateMode) {
@@ -173,7 +173,7 @@ TEST(frmWorksheet, KeysDoNothingInTemplateMode) {
     sheet.window().setClickable(false);
     SendMessageW(sheet.window().handle(), WM_KEYDOWN, VK_F2, 0);
     SendMessageW(sheet.window().handle(), WM_KEYDOWN, VK_LEFT, 0);
-    EXPECT_TRUE(sheet.commands.modes.empty());
+    EXPECT_TRUE(sheet.commands.executed.empty());
     EXPECT_EQ(stencil.RectBound(), (Rect{100, 100, 300, 250}));
 }
 

@@ -124,10 +124,9 @@ void frmLens::setRulerOn(LensScale scale, bool on) {
     LayoutLens();
 }
 
-void frmLens::SetMode(int Mode) {
-    constexpr int edit = 0;
-    LensMode_ = Mode;
-    setLayered(Sticked() && Mode == edit);
+void frmLens::SetMode(Mode mode) {
+    LensMode_ = mode;
+    setLayered(Sticked() && mode == Mode::edit);
 }
 
 void frmLens::setLayered(bool layered) {

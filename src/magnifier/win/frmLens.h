@@ -7,11 +7,11 @@
 #include "magnifier/LensCommands.h"
 #include "magnifier/LensMenuState.h"
 #include "magnifier/LensOptions.h"
-#include "magnifier/lensKeys.h"
 #include "magnifier/win/LensImage.h"
 #include "magnifier/win/LensRuler.h"
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/Window.h"
+#include "scene/Mode.h"
 #include "widgets/ctlFrame.h"
 
 namespace ormala {
@@ -55,10 +55,12 @@ class frmLens : public Window {
     void setRulLOn(bool on) { setRulerOn(LensScale::left, on); }
     void setRulROn(bool on) { setRulerOn(LensScale::right, on); }
 
-    /// Told of each change: 0 edit, 1 template, 2 pause.
-    void SetMode(int Mode);
+    /// Told of each change.
+    void SetMode(Mode mode);
     /// `WorksheetLeft` and `WorksheetTop`, in pixels of the virtual screen.
     void setWorksheetOrigin(PixelPoint origin) { worksheet_ = origin; }
+    /// What the menu key does: pops up the menu at the corner of the image.
+    void showMenuAtOrigin();
     /// Puts a window that follows the mouse beside it.
     void UpdatePosition();
     /// A frame at once, if the window is visible.
@@ -118,9 +120,7 @@ class frmLens : public Window {
     LRESULT onDpiChanged(WPARAM wParam, LPARAM lParam);
     void onActivate() const;
     LRESULT onRightRelease();
-    void showMenuAtOrigin();
     std::optional<LRESULT> onKey(int key);
-    void obey(LensKey key);
     LRESULT onAccessibleFacts(LPARAM lParam) const;
 
     LensCommands& commands_;
@@ -130,7 +130,7 @@ class frmLens : public Window {
     PixelPoint CursorPoint_;
     /// `SourceLeft` and `SourceTop`.
     PixelPoint source_;
-    int LensMode_ = 0;
+    Mode LensMode_ = Mode::edit;
     LONG_PTR OriginalExStyle_ = 0;
     int tickCount_ = 0;
 

@@ -114,37 +114,7 @@ LRESULT frmLens::onRightRelease() {
 }
 
 std::optional<LRESULT> frmLens::onKey(int key) {
-    const LensKey asked = lensKeyOf(key, heldModifiers());
-    if (asked == LensKey::none) {
-        return std::nullopt;
-    }
-    obey(asked);
-    return 0;
-}
-
-void frmLens::obey(LensKey key) {
-    constexpr int edit = 0;
-    constexpr int templateMode = 1;
-    constexpr int pause = 2;
-    constexpr int optionsPage = 2;
-    switch (key) {
-        case LensKey::none:
-            break;
-        case LensKey::menu:
-            return showMenuAtOrigin();
-        case LensKey::help:
-            return commands_.ShowHelp();
-        case LensKey::options:
-            return commands_.ShowOptions(optionsPage);
-        case LensKey::editMode:
-            return commands_.SetMode(edit, false);
-        case LensKey::pauseMode:
-        case LensKey::pauseAndMinimise:
-            return commands_.SetMode(pause, key == LensKey::pauseAndMinimise);
-        case LensKey::templateMode:
-        case LensKey::templateAndMinimise:
-            return commands_.SetMode(templateMode, key == LensKey::templateAndMinimise);
-    }
+    return commands_.takeKey(key, heldModifiers()) ? std::optional<LRESULT>(0) : std::nullopt;
 }
 
 void frmLens::showMenuAtOrigin() {

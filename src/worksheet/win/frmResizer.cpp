@@ -260,11 +260,9 @@ std::optional<LRESULT> frmResizer::onMessage(UINT message, WPARAM wParam, LPARAM
             return onTimer(wParam);
         case WM_DPICHANGED:
             return onDpiChanged(lParam);
-        case WM_CLOSE: {
-            constexpr int pause = 2;
-            commands_.SetMode(pause, false);
+        case WM_CLOSE:
+            commands_.execute(Command::pauseMode);
             return 0;
-        }
         default:
             return std::nullopt;
     }

@@ -30,6 +30,7 @@ class frmResizer : public Window {
     /// Does not activate it.
     void show();
     void hide();
+    void setShown(bool shown) { shown ? show() : hide(); }
     /// The worksheet fills its screen, and the frame is hidden and keeps its size.
     void maximise();
     /// The way back from full screen.

@@ -158,6 +158,14 @@ void frmWorksheet::show() {
     }
 }
 
+void frmWorksheet::setShown(bool shown) {
+    if (!shown) {
+        hide();
+    } else if (!isVisible()) {
+        show();
+    }
+}
+
 void frmWorksheet::hide() {
     ShowWindow(handle(), SW_HIDE);
 }

@@ -7,13 +7,13 @@
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/TipWindow.h"
 #include "platform/win/Window.h"
+#include "scene/Command.h"
 #include "worksheet/AidOptions.h"
 #include "worksheet/Aids.h"
 #include "worksheet/ForegroundMemory.h"
 #include "worksheet/Sheet.h"
 #include "worksheet/SheetMouse.h"
 #include "worksheet/SheetTip.h"
-#include "worksheet/sheetKeys.h"
 #include "worksheet/transparency.h"
 #include "worksheet/win/SheetPainter.h"
 #include "worksheet/win/frmCrossHair.h"
@@ -25,10 +25,9 @@ class WorksheetCommands {
   public:
     virtual ~WorksheetCommands() = default;
 
-    virtual void SetMode(int mode, bool minimise) = 0;
-    virtual void ShowHelp() = 0;
-    /// Takes back the last step of a tool or brings it again.
-    virtual void stepHistory(OverlayItem& item, bool back) = 0;
+    virtual void execute(Command command) = 0;
+    /// A key was pressed: true if it was that of a command, which has been obeyed.
+    virtual bool takeKey(int key, int modifiers) = 0;
     /// A click on the sheet may have been meant for a control window beneath it.
     virtual void raiseControlWindowAt(POINT screen) = 0;
     /// Brings the magnifier to the top without activating it, if it is shown and, with
@@ -36,8 +35,6 @@ class WorksheetCommands {
     virtual bool raiseLens(bool onlySticked) = 0;
     /// At a place of the screen.
     virtual void ShowContextMenu(POINT screen) = 0;
-    /// The pages are numbered from 0.
-    virtual void ShowOptions(int page) = 0;
     virtual void closeProgram() = 0;
 };
 
@@ -77,8 +74,12 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     /// Meanwhile the tools do not learn that the window gets or loses the keyboard; at the end they
     /// learn who has it then.
     void setFocusHeld(bool held);
+    /// What the menu key does: asks for the context menu.
+    void ShowContextMenu() override;
     void show();
     void hide();
+    /// The one or the other, unless it is so already.
+    void setShown(bool shown);
     /// Lets the window lay itself out and repaint after it was hidden.
     void narrowAndWiden();
 
@@ -107,7 +108,6 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     bool raiseLens(bool onlySticked) override { return commands_.raiseLens(onlySticked); }
     void raiseWorksheet(bool crossHair) override;
     void raiseControlWindow() override;
-    void ShowContextMenu() override;
 
     void repaint(const OverlayItem& item, const DirtyRegion& region) override;
     void showTip(const OverlayItem& item, TipId tip) override;
@@ -125,7 +125,6 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     LRESULT onResize();
     std::optional<LRESULT> onKey(WPARAM key);
     [[nodiscard]] bool takesKey(int key, int shift) const;
-    bool obey(SheetCommand command);
     LRESULT paintNow();
 
     GdiFonts fonts_;

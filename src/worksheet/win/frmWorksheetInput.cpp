@@ -150,47 +150,7 @@ bool frmWorksheet::takesKey(int key, int shift) const {
 }
 
 bool frmWorksheet::KeyDown(int key, int shift) {
-    return takesKey(key, shift) && obey(sheetCommandOf(key, shift));
-}
-
-bool frmWorksheet::obey(SheetCommand command) {
-    switch (command) {
-        case SheetCommand::none:
-            return false;
-        case SheetCommand::contextMenu:
-            ShowContextMenu();
-            break;
-        case SheetCommand::options: {
-            constexpr int worksheetPage = 1;
-            commands_.ShowOptions(worksheetPage);
-            break;
-        }
-        case SheetCommand::help:
-            commands_.ShowHelp();
-            break;
-        case SheetCommand::editMode:
-            commands_.SetMode(0, false);
-            break;
-        case SheetCommand::pauseMode:
-        case SheetCommand::pauseAndMinimise:
-            commands_.SetMode(2, command == SheetCommand::pauseAndMinimise);
-            break;
-        case SheetCommand::templateMode:
-        case SheetCommand::templateAndMinimise:
-            commands_.SetMode(1, command == SheetCommand::templateAndMinimise);
-            break;
-        case SheetCommand::nextTool:
-        case SheetCommand::previousTool:
-            sheet_.focusNext(command == SheetCommand::previousTool);
-            break;
-        case SheetCommand::undo:
-        case SheetCommand::redo:
-            if (OverlayItem* item = sheet_.focused()) {
-                commands_.stepHistory(*item, command == SheetCommand::undo);
-            }
-            break;
-    }
-    return true;
+    return takesKey(key, shift) && commands_.takeKey(key, shift);
 }
 
 }  // namespace ormala

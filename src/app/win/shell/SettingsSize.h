@@ -1,0 +1,53 @@
+#pragma once
+
+#include <windows.h>
+
+#include "app/PanelLayout.h"
+#include "app/SettingsHeight.h"
+#include "app/settingsLayout.h"
+#include "platform/win/Window.h"
+
+namespace ormala {
+
+/// The size of the control window: its fixed width, its least height, and the height that a mode
+/// gives it. Pixels of its monitor.
+class SettingsSize {
+  public:
+    /// Of a window that must outlive it and has no handle yet.
+    explicit SettingsSize(const Window& window) : window_(window) {}
+
+    [[nodiscard]] int dpi() const { return dpi_; }
+    [[nodiscard]] SettingsLayout layout() const { return SettingsLayout(dpi_); }
+
+    /// The size and the place of a first start.
+    void placeFirst();
+    /// The height of edit mode that the last run has kept, in twips, as far as the screen has room
+    /// for it below the window's top.
+    void restoreEditModeHeight(int twips);
+    [[nodiscard]] int editModeFormHeight() const;
+
+    void AdjustFormHeight(Mode mode, Mode former);
+    /// The window was sized, as WM_SIZE tells: true if a change of mode that came while it was
+    /// minimised is due now.
+    bool resized(WPARAM kind);
+    void limit(MINMAXINFO& limits) const;
+    /// The window has come to another resolution, for which the system suggests an outer height:
+    /// the one that it takes there, nothing while it is minimised.
+    std::optional<int> changeDpi(int dpi, int suggested);
+    /// With its own width.
+    void takePlace(const RECT& leftTop, int height) const;
+
+    /// For the list of panels, which may want another height of the window.
+    [[nodiscard]] PanelLayout::Window forPanels(Mode mode) const;
+    void takeHeight(int height) const;
+
+  private:
+    [[nodiscard]] SIZE frame() const;
+    [[nodiscard]] SettingsHeight::Present present() const;
+
+    const Window& window_;
+    int dpi_ = USER_DEFAULT_SCREEN_DPI;
+    SettingsHeight height_;
+};
+
+}  // namespace ormala

@@ -1,0 +1,254 @@
+#include "app/win/shell/frmSettings.h"
+// Needs the system's basic types, which come with the window.
+#include <windowsx.h>
+
+#include <algorithm>
+#include <array>
+
+#include "app/keyTables.h"
+#include "app/modes.h"
+#include "app/win/shell/settingsIds.h"
+#include "platform/win/windowOrder.h"
+#include "scene/Input.h"
+#include "widgets/win/tabStops.h"
+
+namespace ormala {
+
+namespace {
+
+constexpr UINT tmrButtonBigInterval = 44;
+
+WindowDesign settingsDesign() {
+    WindowDesign design;
+    design.className = L"frmSettings";
+    design.style =
+        WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
+    design.extendedStyle = WS_EX_CONTROLPARENT;
+    return design;
+}
+
+bool isOfThisThread(HWND window) {
+    return window != nullptr && GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();
+}
+
+}  // namespace
+
+frmSettings::Parts::Parts(const frmSettings& window, clsGlobalEvents& globalEvents)
+    : bar(window), look(window.handle()), fontSizeBox(window.handle(), globalEvents) {}
+
+frmSettings::frmSettings(const Ports& ports) : ports_(ports) {
+    create(settingsDesign());
+    size_.placeFirst();
+    parts_ = std::make_unique<Parts>(*this, ports_.globalEvents);
+    buttonPressed_ =
+        parts_->bar.chosen.subscribe([this](Command command) { chosen.raise(command); });
+    layOutControls();
+    modeMenu_.addTo(handle());
+    SetTimer(handle(), tmrButtonBig, tmrButtonBigInterval, nullptr);
+}
+
+void frmSettings::RefreshRuntimeStrings() {
+    parts_->bar.ApplyLanguage();
+    parts_->look.ApplyLanguage();
+    modeMenu_.RefreshRuntimeStrings(ports_.view.options().mode);
+    showMode();
+}
+
+void frmSettings::showMode() {
+    const Mode mode = ports_.view.options().mode;
+    setCaption(captionOfMode(mode));
+    modeMenu_.SyncSystemMenu(mode);
+}
+
+void frmSettings::layOutControls() {
+    parts_->bar.layOut(size_.layout(), size_.dpi());
+    parts_->look.layOut(size_.layout(), size_.dpi());
+}
+
+PixelRect frmSettings::listPlace() const {
+    PixelRect list = size_.layout().picOuter;
+    // The margin below it is that at its left.
+    list.bottom = std::max(static_cast<int>(clientRectangle().bottom) - list.left, list.top);
+    return list;
+}
+
+void frmSettings::raise() const {
+    // Even without being moved, a minimised window could forget where it stood.
+    if (IsIconic(handle()) == FALSE) {
+        raiseWithoutActivating(handle(), HWND_TOPMOST);
+        raiseWithoutActivating(handle());
+    }
+}
+
+std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    using Result = std::optional<LRESULT>;
+    using Handler = Result (*)(frmSettings&, WPARAM, LPARAM);
+    static constexpr std::array<std::pair<UINT, Handler>, 17> handlers{{
+        {WM_ERASEBKGND, [](frmSettings& self, WPARAM w, LPARAM) { return self.onErase(w); }},
+        {WM_SIZE, [](frmSettings& self, WPARAM w, LPARAM) { return self.onSize(w); }},
+        {WM_GETMINMAXINFO,
+         [](frmSettings& self, WPARAM, LPARAM l) { return self.onGetMinMaxInfo(l); }},
+        {WM_DPICHANGED,
+         [](frmSettings& self, WPARAM w, LPARAM l) { return self.onDpiChanged(w, l); }},
+        {WM_ACTIVATE, [](frmSettings& self, WPARAM w, LPARAM l) { return self.onActivate(w, l); }},
+        {WM_MOUSEACTIVATE,
+         [](frmSettings& self, WPARAM, LPARAM) { return self.onMouseActivate(); }},
+        {WM_SYSCOMMAND,
+         [](frmSettings& self, WPARAM w, LPARAM l) { return self.onSysCommand(w, l); }},
+        {WM_COMMAND, [](frmSettings& self, WPARAM w, LPARAM) { return self.onCommand(w); }},
+        {WM_WINDOWPOSCHANGED, [](frmSettings& self, WPARAM, LPARAM l) { return self.onPlaced(l); }},
+        {WM_ACTIVATEAPP,
+         [](frmSettings& self, WPARAM w, LPARAM) {
+             self.ports_.focus.programActivated(w != FALSE);
+             return Result();
+         }},
+        {WM_SETFOCUS,
+         [](frmSettings& self, WPARAM, LPARAM) {
+             self.keyboardArrived.raise();
+             return Result(0);
+         }},
+        {WM_DISPLAYCHANGE,
+         [](frmSettings& self, WPARAM, LPARAM) {
+             self.displayChanged.raise();
+             return Result(0);
+         }},
+        {WM_TIMER,
+         [](frmSettings& self, WPARAM w, LPARAM) {
+             self.onTimer(w);
+             return Result(0);
+         }},
+        {DeferredCalls::message,
+         [](frmSettings& self, WPARAM, LPARAM) {
+             self.calls_.runNext();
+             return Result(0);
+         }},
+        {WM_CLOSE,
+         [](frmSettings& self, WPARAM, LPARAM) {
+             self.ports_.life.close();
+             return Result(0);
+         }},
+        {WM_QUERYENDSESSION,
+         [](frmSettings& self, WPARAM, LPARAM l) {
+             return Result(self.ports_.life.queryEndOfSession((l & ENDSESSION_CRITICAL) != 0));
+         }},
+        {WM_ENDSESSION,
+         [](frmSettings& self, WPARAM w, LPARAM) {
+             // The windows stay, since a message of one of them may be in hand at this moment.
+             self.ports_.life.endOfSession(w != FALSE);
+             return Result(0);
+         }},
+    }};
+    const auto* const found =
+        std::ranges::find(handlers, message, &std::pair<UINT, Handler>::first);
+    return found != handlers.end() ? found->second(*this, wParam, lParam) : std::nullopt;
+}
+
+std::optional<LRESULT> frmSettings::onErase(WPARAM context) const {
+    constexpr COLORREF ground = 0x606060;
+    const auto paper = reinterpret_cast<HDC>(context);
+    const RECT client = clientRectangle();
+    SetDCBrushColor(paper, ground);
+    FillRect(paper, &client, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    return 1;
+}
+
+std::optional<LRESULT> frmSettings::onSize(WPARAM kind) {
+    const Mode mode = ports_.view.options().mode;
+    if (size_.resized(kind)) {
+        size_.AdjustFormHeight(mode, mode);
+    }
+    if (kind != SIZE_MINIMIZED) {
+        listPlaced.raise();
+    }
+    return 0;
+}
+
+std::optional<LRESULT> frmSettings::onGetMinMaxInfo(LPARAM limits) const {
+    size_.limit(*reinterpret_cast<MINMAXINFO*>(limits));
+    return DefWindowProcW(handle(), WM_GETMINMAXINFO, 0, limits);
+}
+
+std::optional<LRESULT> frmSettings::onDpiChanged(WPARAM dpi, LPARAM suggested) {
+    const RECT& place = *reinterpret_cast<const RECT*>(suggested);
+    const auto height =
+        size_.changeDpi(static_cast<int>(HIWORD(dpi)), static_cast<int>(place.bottom - place.top));
+    layOutControls();
+    dpiChanged.raise();
+    if (height) {
+        size_.takePlace(place, *height);
+    }
+    InvalidateRect(handle(), nullptr, FALSE);
+    return 0;
+}
+
+std::optional<LRESULT> frmSettings::onActivate(WPARAM kind, LPARAM otherWindow) {
+    const HWND other = reinterpret_cast<HWND>(otherWindow);
+    if (LOWORD(kind) == WA_INACTIVE) {
+        ports_.focus.controlDeactivated();
+        deactivated.raise(other);
+    } else {
+        ports_.focus.controlActivated(handle(), isOfThisThread(other));
+    }
+    return std::nullopt;
+}
+
+std::optional<LRESULT> frmSettings::onMouseActivate() {
+    const DWORD place = GetMessagePos();
+    pressed.raise({GET_X_LPARAM(place), GET_Y_LPARAM(place)});
+    return std::nullopt;
+}
+
+std::optional<LRESULT> frmSettings::onPlaced(LPARAM place) {
+    if ((reinterpret_cast<const WINDOWPOS*>(place)->flags & SWP_NOZORDER) == 0) {
+        orderChanged.raise();
+    }
+    return std::nullopt;
+}
+
+std::optional<LRESULT> frmSettings::onSysCommand(WPARAM entry, LPARAM place) {
+    const LRESULT result = DefWindowProcW(handle(), WM_SYSCOMMAND, entry, place);
+    if (const auto command = commandOfSystemMenu(static_cast<int>(entry))) {
+        chosen.raise(*command);
+    }
+    return result;
+}
+
+void frmSettings::onTimer(UINT_PTR timer) {
+    if (timer == tmrButtonBig) {
+        parts_->bar.growButtons(size_.dpi());
+    } else {
+        ticked.raise(timer);
+    }
+}
+
+std::optional<LRESULT> frmSettings::onCommand(WPARAM notification) {
+    if (parts_ != nullptr) {
+        parts_->fontSizeBox.onCommand(notification);
+    }
+    return 0;
+}
+
+bool frmSettings::preview(const MSG& message) {
+    const bool own = message.hwnd == handle() || IsChild(handle(), message.hwnd) != FALSE;
+    if (!own || message.message != WM_KEYDOWN) {
+        return false;
+    }
+    const int key = static_cast<int>(message.wParam);
+    const int held = heldModifiers();
+    return obeyKey(key, held, KeyWindow::control,
+                   [this](Command command) { chosen.raise(command); }) ||
+           (key == key::tab && focusNextControl(held));
+}
+
+bool frmSettings::focusNextControl(int held) {
+    if ((held & ~modifier::shift) != 0) {
+        return false;
+    }
+    if (const HWND next = nextTabStop(handle(), GetFocus(), held == modifier::shift)) {
+        SetFocus(next);
+        tabbed.raise(next);
+    }
+    return true;
+}
+
+}  // namespace ormala

@@ -1,0 +1,105 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+#include "app/FocusMemory.h"
+#include "app/ProgramLife.h"
+#include "app/ViewState.h"
+#include "app/win/shell/CommandBar.h"
+#include "app/win/shell/DeferredCalls.h"
+#include "app/win/shell/FontSizeBox.h"
+#include "app/win/shell/ModeMenu.h"
+#include "app/win/shell/SettingsSize.h"
+#include "app/win/shell/WorksheetControls.h"
+#include "base/Event.h"
+#include "platform/win/Window.h"
+
+namespace ormala {
+
+/// The control window and main window of the program: its buttons and their layout, the system
+/// menu, and its messages. What they mean is up to those who listen.
+class frmSettings : public Window {
+  public:
+    struct Ports {
+        ProgramLife& life;
+        FocusMemory& focus;
+        const ViewState& view;
+        clsGlobalEvents& globalEvents;
+    };
+
+    /// Stays hidden. All must outlive it.
+    explicit frmSettings(const Ports& ports);
+    ~frmSettings() override { destroy(); }
+
+    [[nodiscard]] CommandBar& bar() { return parts_->bar; }
+    [[nodiscard]] WorksheetControls& look() { return parts_->look; }
+    [[nodiscard]] SettingsSize& size() { return size_; }
+
+    void RefreshRuntimeStrings();
+    /// Caption and system menu say the present mode.
+    void showMode();
+    void layOutControls();
+    /// The place of the list in the client area.
+    [[nodiscard]] PixelRect listPlace() const;
+    /// In front of the worksheet, without activating it.
+    void raise() const;
+    /// Once the present event is over.
+    void later(std::function<void()> call) { calls_.add(handle(), std::move(call)); }
+    /// Sees a message before the control that it is for: true if it was a key of the window.
+    bool preview(const MSG& message);
+
+    /// By a button, a key or the system menu.
+    Event<Command> chosen;
+    /// A timer of the window has come that is not its own.
+    Event<UINT_PTR> ticked;
+    /// The list has another place.
+    Event<> listPlaced;
+    /// The window has come to another resolution.
+    Event<> dpiChanged;
+    Event<> displayChanged;
+    /// A mouse button goes down at a place of the screen while the window is inactive. Before the
+    /// activation that it brings.
+    Event<POINT> pressed;
+    /// The window itself has got the keyboard and does not keep it.
+    Event<> keyboardArrived;
+    /// The Tab key has given it to a control.
+    Event<HWND> tabbed;
+    /// Another window, perhaps of another program, has become the active one.
+    Event<HWND> deactivated;
+    /// Its place among the other windows may be another one.
+    Event<> orderChanged;
+
+  private:
+    std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    /// The child windows.
+    struct Parts {
+        Parts(const frmSettings& window, clsGlobalEvents& globalEvents);
+        CommandBar bar;
+        WorksheetControls look;
+        FontSizeBox fontSizeBox;
+    };
+
+    std::optional<LRESULT> onErase(WPARAM context) const;
+    std::optional<LRESULT> onSize(WPARAM kind);
+    std::optional<LRESULT> onGetMinMaxInfo(LPARAM limits) const;
+    std::optional<LRESULT> onDpiChanged(WPARAM dpi, LPARAM suggested);
+    std::optional<LRESULT> onActivate(WPARAM kind, LPARAM otherWindow);
+    std::optional<LRESULT> onMouseActivate();
+    std::optional<LRESULT> onPlaced(LPARAM place);
+    std::optional<LRESULT> onSysCommand(WPARAM entry, LPARAM place);
+    void onTimer(UINT_PTR timer);
+    std::optional<LRESULT> onCommand(WPARAM notification);
+    bool focusNextControl(int held);
+
+    Ports ports_;
+    SettingsSize size_{*this};
+    std::unique_ptr<Parts> parts_;
+    ModeMenu modeMenu_;
+    DeferredCalls calls_;
+    Subscription buttonPressed_;
+};
+
+}  // namespace ormala

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <memory>
+
+#include "app/ViewState.h"
+#include "measure/MeasureCommands.h"
+#include "stencil/SpecialRatios.h"
+#include "stencil/StencilCommands.h"
+#include "storage/CodePage.h"
+
+namespace ormala {
+
+class frmColor;
+class frmLineStyle;
+class frmPatternSelect;
+class frmRatio;
+class frmUnit;
+
+/// The dialogs that the panels open, each made when it is first wanted and kept.
+class PanelDialogs : public StencilCommands, public MeasureCommands {
+  public:
+    /// What the dialogs work with. All must outlive them.
+    struct Ports {
+        /// The window that the dialogs belong to, and the one that the tools lie on.
+        HWND owner;
+        HWND worksheet;
+        const SpecialRatios& ratios;
+        /// With what new measuring tools measure in, which the dialog of units can change.
+        ViewState& state;
+        /// Of the settings files.
+        const CodePage& codePage;
+        /// Hides the windows that would lie under a drag on the screen, or shows them again.
+        std::function<void(bool aside)> putWindowsAside;
+    };
+
+    explicit PanelDialogs(const Ports& ports);
+    ~PanelDialogs() override;
+
+  private:
+    Color SelectColor(Color present) override;
+    int SelectLineStyle(int present) override;
+    bool SelectPattern(PatternList& patterns, int& tab) override;
+    std::optional<double> EditRatio(double present) override;
+    void applyMouseAction(ctlRatioGrid& stencil) override;
+    bool SelectUnits(ctlMeasure& tool) override;
+
+    [[nodiscard]] const TextForm& textForm() const { return ports_.state.toolSettings().textForm; }
+
+    Ports ports_;
+    std::unique_ptr<frmColor> frmColor_;
+    std::unique_ptr<frmLineStyle> frmLineStyle_;
+    std::unique_ptr<frmPatternSelect> frmPatternSelect_;
+    std::unique_ptr<frmRatio> frmRatio_;
+    std::unique_ptr<frmUnit> frmUnit_;
+};
+
+}  // namespace ormala

@@ -1,0 +1,159 @@
+#include "app/win/tools/PanelFocus.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ormala {
+
+namespace {
+
+PressGuard::DoubleClick doubleClickOfSystem() {
+    return {{GetSystemMetrics(SM_CXDOUBLECLK), GetSystemMetrics(SM_CYDOUBLECLK)},
+            static_cast<std::int32_t>(GetDoubleClickTime())};
+}
+
+bool isPress(UINT message) {
+    constexpr std::array presses{WM_LBUTTONDOWN,   WM_LBUTTONDBLCLK, WM_RBUTTONDOWN,
+                                 WM_RBUTTONDBLCLK, WM_MBUTTONDOWN,   WM_MBUTTONDBLCLK};
+    return std::ranges::find(presses, message) != presses.end();
+}
+
+bool holdsFocus(HWND window) {
+    const HWND focus = GetFocus();
+    return focus != nullptr && (focus == window || IsChild(window, focus) != FALSE);
+}
+
+}  // namespace
+
+PanelFocus::PanelFocus(const Ports& ports)
+    : ports_(ports),
+      pressGuard_(doubleClickOfSystem()),
+      subscriptions_{
+          ports.window.pressed.subscribe(
+              [this](POINT screen) { ports_.focus.pressed(hasPanelAt(screen)); }),
+          ports.window.keyboardArrived.subscribe([this] { giveFocusToPanel(); }),
+          ports.window.tabbed.subscribe([this](HWND control) { ensureControlVisible(control); }),
+      } {}
+
+void PanelFocus::keepInList() {
+    if (holdsFocus(ports_.list.handle())) {
+        SetFocus(ports_.list.handle());
+    }
+}
+
+void PanelFocus::panelSelected(PanelWindow& panel) {
+    focused_ = panel.handle();
+    if (GetActiveWindow() != ports_.window.handle()) {
+        // The keyboard stays with the tool, and what its panel shows stays in sight.
+        ports_.view.raiseAboveAll();
+    } else if (IsChild(focused_, GetFocus()) == FALSE) {
+        SetFocus(focused_);
+    }
+    EnsurePanelVisible(panel);
+}
+
+void PanelFocus::panelGotFocus(PanelWindow& panel) {
+    if (restoringFocus_) {
+        return;
+    }
+    if (ports_.focus.panelIsChosen(ports_.window.handle())) {
+        focused_ = panel.handle();
+        ports_.sheet.SelectControl(panel.core().RefControlControl());
+    } else {
+        SetFocusToSelectedControl();
+    }
+}
+
+void PanelFocus::SetFocusToSelectedControl() {
+    const auto& panels = ports_.panels.panels();
+    const auto at = std::ranges::find_if(
+        panels, [](PanelWindow* panel) { return panel->core().Selected() && panel->isVisible(); });
+    if (at != panels.end()) {
+        focused_ = (*at)->handle();
+        focusWithoutSelecting(ports_.list.handle());
+        focusWithoutSelecting(focused_);
+    }
+}
+
+bool PanelFocus::hasPanelAt(POINT screen) const {
+    return std::ranges::any_of(ports_.panels.panels(), [screen](const PanelWindow* panel) {
+        const RECT place = panel->rectangle();
+        return panel->isVisible() && PtInRect(&place, screen) != FALSE;
+    });
+}
+
+void PanelFocus::giveFocusToPanel() {
+    if (!ports_.focus.passesKeyboardOn()) {
+        return;
+    }
+    // A focus that comes back is no choice of the user's.
+    const PanelWindow* panel = ports_.panels.panelOf(focused_);
+    focusWithoutSelecting(panel != nullptr && panel->isVisible() ? panel->handle()
+                                                                 : ports_.list.handle());
+}
+
+void PanelFocus::focusWithoutSelecting(HWND window) {
+    const bool former = std::exchange(restoringFocus_, true);
+    SetFocus(window);
+    restoringFocus_ = former;
+}
+
+void PanelFocus::EnsurePanelVisible(const PanelWindow& panel) {
+    const PixelRect box = ports_.list.placeInContent(panel.handle());
+    ports_.list.EnsurePanelVisible(box.top, box.height());
+}
+
+void PanelFocus::ensureControlVisible(HWND control) {
+    const HWND panel = GetParent(control);
+    if (ports_.panels.panelOf(panel) != nullptr) {
+        constexpr int room = 4;
+        // Not beyond the panel, and so not beyond the content.
+        const PixelRect box = ports_.list.placeInContent(control).grown(room).intersected(
+            ports_.list.placeInContent(panel));
+        ports_.list.EnsurePanelVisible(box.top, box.height());
+    }
+}
+
+void PanelFocus::removePanel(PanelWindow& panel, bool byMouse) {
+    if (byMouse) {
+        POINT mouse{};
+        GetCursorPos(&mouse);
+        pressGuard_.removed({mouse.x, mouse.y}, GetTickCount());
+    }
+    ports_.window.later([this, window = panel.handle()] { removeNow(window); });
+}
+
+/// The keyboard goes on to a neighbour, whose tool stays as it is.
+void PanelFocus::removeNow(HWND window) {
+    PanelWindow* const panel = ports_.panels.panelOf(window);
+    if (panel == nullptr || panel->core().Hidden()) {
+        return;
+    }
+    const HWND follower = followerOf(*panel);
+    if (focused_ == window) {
+        focused_ = follower;
+    }
+    if (holdsFocus(window)) {
+        focusWithoutSelecting(follower);
+    }
+    ports_.tools.RemovePanel(panel->core());
+}
+
+HWND PanelFocus::followerOf(PanelWindow& panel) const {
+    const auto* const next = ports_.tools.successorOf(panel.core());
+    const auto& panels = ports_.panels.panels();
+    const auto at = std::ranges::find_if(
+        panels, [next](PanelWindow* window) { return &window->core() == next; });
+    return at != panels.end() ? (*at)->handle() : ports_.list.handle();
+}
+
+bool PanelFocus::swallows(const MSG& message) {
+    const PixelPoint mouse{message.pt.x, message.pt.y};
+    if (message.message == WM_MOUSEMOVE || message.message == WM_NCMOUSEMOVE) {
+        pressGuard_.mouseMoved(mouse);
+    }
+    return isPress(message.message) && IsChild(ports_.list.picInner(), message.hwnd) != FALSE &&
+           !pressGuard_.takesPress(mouse, message.time);
+}
+
+}  // namespace ormala

@@ -1,0 +1,90 @@
+#include "app/win/tools/PanelMaker.h"
+
+#include <algorithm>
+
+#include "measure/win/ctlSetMeasure.h"
+#include "platform/win/dayTime.h"
+#include "stencil/win/ctlSetRatioGrid.h"
+
+namespace ormala {
+
+/// A panel's window in the list. It is visible as long as it is in use, also where nothing of the
+/// list shows.
+class PanelMaker::Listed : public ListedPanel {
+  public:
+    Listed(PanelMaker& maker, std::unique_ptr<PanelWindow> window)
+        : maker_(maker), window_(std::move(window)) {
+        maker_.panels_.push_back(window_.get());
+    }
+    ~Listed() override { std::erase(maker_.panels_, window_.get()); }
+
+    [[nodiscard]] ToolPanel& panel() override { return window_->core(); }
+    [[nodiscard]] int top() const override { return top_; }
+    void setTop(int top) override {
+        top_ = top;
+        const PixelSize size = window_->size();
+        const PixelRect place{0, top, size.width, top + size.height};
+        if (place_ != place) {
+            place_ = place;
+            window_->place(place);
+        }
+    }
+    [[nodiscard]] int height() const override { return window_->size().height; }
+    [[nodiscard]] bool visible() const override { return visible_; }
+    void setVisible(bool visible) override {
+        visible_ = visible;
+        window_->setVisible(visible);
+    }
+
+  private:
+    PanelMaker& maker_;
+    std::unique_ptr<PanelWindow> window_;
+    int top_ = 0;
+    PixelRect place_;
+    bool visible_ = false;
+};
+
+std::unique_ptr<ListedPanel> PanelMaker::makePanel(ToolKind kind, OverlayItem& tool) {
+    auto window = makeWindow(kind, tool);
+    window->setDpi(dpi_);
+    return std::make_unique<Listed>(*this, std::move(window));
+}
+
+std::unique_ptr<PanelWindow> PanelMaker::makeWindow(ToolKind kind, OverlayItem& tool) {
+    const PanelWindow::Ports ports{ports_.list.picInner(),
+                                   ++made_,
+                                   ports_.host,
+                                   *this,
+                                   *this,
+                                   tmrFast,
+                                   ports_.globalEvents.FontSizeChange};
+    if (kind == ToolKind::stencil) {
+        return std::make_unique<ctlSetRatioGrid>(dynamic_cast<ctlRatioGrid&>(tool), ports,
+                                                 ports_.dialogs, ports_.settings, ports_.ratios);
+    }
+    return std::make_unique<ctlSetMeasure>(dynamic_cast<ctlMeasure&>(tool), ports, ports_.dialogs,
+                                           ports_.settings);
+}
+
+void PanelMaker::setDpi(int dpi) {
+    dpi_ = dpi;
+    for (PanelWindow* panel : panels_) {
+        panel->setDpi(dpi);
+    }
+}
+
+PanelWindow* PanelMaker::panelOf(HWND window) const {
+    const auto at = std::ranges::find_if(
+        panels_, [window](const PanelWindow* panel) { return panel->handle() == window; });
+    return at == panels_.end() ? nullptr : *at;
+}
+
+void PanelMaker::setVisible(const OverlayItem& tool, bool visible) {
+    ports_.sheet.setVisible(tool, visible);
+}
+
+float PanelMaker::secondsSinceMidnight() const {
+    return ormala::secondsSinceMidnight();
+}
+
+}  // namespace ormala

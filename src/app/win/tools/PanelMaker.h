@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app/ListedPanel.h"
+#include "app/win/tools/PanelDialogs.h"
+#include "app/win/tools/PanelList.h"
+#include "language/clsGlobalEvents.h"
+#include "scene/ToolSettings.h"
+#include "stencil/SpecialRatios.h"
+#include "toolkit/win/PanelWindow.h"
+#include "worksheet/Sheet.h"
+
+namespace ormala {
+
+/// Makes the panels of the kinds of tools that the program has, and knows those that there are.
+class PanelMaker : public PanelFactory, private ToolVisibility, private DayClock {
+  public:
+    /// What panels show their tools by, and the dialogs that they open.
+    struct Ports {
+        const PanelList& list;
+        Sheet& sheet;
+        PanelHost& host;
+        PanelDialogs& dialogs;
+        const ToolSettings& settings;
+        const SpecialRatios& ratios;
+        clsGlobalEvents& globalEvents;
+    };
+
+    /// All must outlive the panels, and so must the maker.
+    explicit PanelMaker(const Ports& ports) : ports_(ports) {}
+
+    std::unique_ptr<ListedPanel> makePanel(ToolKind kind, OverlayItem& tool) override;
+    void setDpi(int dpi);
+
+    /// The shared clock of held buttons, 40 ms.
+    Event<> tmrFast;
+
+    /// All panels, in the order of their making.
+    [[nodiscard]] const std::vector<PanelWindow*>& panels() const { return panels_; }
+    /// Null for a window that is none of them.
+    [[nodiscard]] PanelWindow* panelOf(HWND window) const;
+
+  private:
+    class Listed;
+
+    std::unique_ptr<PanelWindow> makeWindow(ToolKind kind, OverlayItem& tool);
+    void setVisible(const OverlayItem& tool, bool visible) override;
+    [[nodiscard]] float secondsSinceMidnight() const override;
+
+    Ports ports_;
+    std::vector<PanelWindow*> panels_;
+    /// How many panels there have been.
+    int made_ = 0;
+    int dpi_ = USER_DEFAULT_SCREEN_DPI;
+};
+
+}  // namespace ormala

@@ -1,0 +1,166 @@
+#include "app/win/tools/ToolsPane.h"
+
+#include <algorithm>
+
+#include "app/CommandTable.h"
+#include "app/programFiles.h"
+#include "app/version.h"
+#include "app/win/shell/settingsIds.h"
+#include "app/win/shell/timeOfSaving.h"
+#include "storage/win/SpecialFolder.h"
+
+namespace ormala {
+
+namespace {
+
+/// The shared clock of held buttons.
+constexpr UINT tmrFastInterval = 40;
+
+std::string automaticFile() {
+    return toolsFilePath(GetSpecialFolder(folderApplicationData));
+}
+
+}  // namespace
+
+ToolsPane::ToolsPane(const Ports& ports)
+    : ports_(ports),
+      messages_(ports.window.handle()),
+      toolsFile_(ports.store, ports.codePage, fileMessages_),
+      list_(ports.window.handle(), idList),
+      panelDialogs_({ports.window.handle(), ports.worksheet.handle(), ports.ratios, ports.state,
+                     ports.codePage, [this](bool aside) { ports_.view.putWindowsAside(aside); }}),
+      focus_({ports.window, ports.view, ports.focus, list_, panelMaker_, ports.worksheet.sheet(),
+              tools_}),
+      panelMaker_({list_, ports.worksheet.sheet(), focus_, panelDialogs_,
+                   ports.state.toolSettings(), ports.ratios, ports.globalEvents}),
+      dialogs_(ports.window.handle(), ports.window.bar()),
+      tools_({ports.worksheet.sheet(), panelMaker_, *this, messages_,
+              ports.state.options().defaultUnits}),
+      toolFile_({toolsFile_, ports.store, tools_, *this}, {versionText, timeOfSaving}),
+      documents_({toolsFile_, ports.store, toolFile_, tools_, *this, dialogs_}),
+      subscriptions_{list_.viewChanged.subscribe([this] { tellPanelsWhatShows(); }),
+                     ports.window.ticked.subscribe([this](UINT_PTR timer) { onTimer(timer); }),
+                     ports.window.listPlaced.subscribe([this] { takePlace(); }),
+                     ports.window.dpiChanged.subscribe([this] { takeDpi(); })} {
+    takeDpi();
+    SetTimer(ports_.window.handle(), tmrFast, tmrFastInterval, nullptr);
+}
+
+ToolsPane::~ToolsPane() = default;
+
+void ToolsPane::load() {
+    tools_.prepareFirstTools();
+    documents_.loadAutomatic(automaticFile());
+    UpdatePanelLayout(true, true);
+}
+
+void ToolsPane::keep(bool quietly) {
+    const QuietMessages messages(fileMessages_, quietly);
+    documents_.keepAutomatic(automaticFile());
+}
+
+void ToolsPane::save() {
+    documents_.saveAutomatic(automaticFile());
+}
+
+void ToolsPane::takeDpi() {
+    const int dpi = ports_.window.size().dpi();
+    list_.setDpi(dpi);
+    panelMaker_.setDpi(dpi);
+    tools_.ArrangePanels();
+}
+
+void ToolsPane::takePlace() {
+    list_.resize(ports_.window.listPlace());
+    UpdatePanelLayout(false, false);
+}
+
+void ToolsPane::UpdatePanelLayout(bool AdjustFormHeight, bool Force) {
+    const int content = tools_.contentHeight();
+    if (AdjustFormHeight) {
+        SettingsSize& size = ports_.window.size();
+        const auto place = size.forPanels(ports_.state.options().mode);
+        if (const auto height = layout_.UpdatePanelLayout(content, Force, place)) {
+            size.takeHeight(*height);
+        }
+    }
+    list_.setContentHeight(content);
+}
+
+void ToolsPane::tellPanelsWhatShows() {
+    for (PanelWindow* panel : panelMaker_.panels()) {
+        panel->setSeen(list_.shows(panel->handle()));
+    }
+}
+
+void ToolsPane::onTimer(UINT_PTR timer) {
+    if (timer == tmrFast) {
+        list_.tick();
+        panelMaker_.tmrFast.raise();
+    }
+}
+
+bool ToolsPane::execute(Command command) {
+    static constexpr std::array<CommandAction<ToolsPane>, 10> rows{{
+        {Command::addStencil, [](ToolsPane& self) { self.addTool(ToolKind::stencil); }},
+        {Command::addMeasure, [](ToolsPane& self) { self.addTool(ToolKind::measurement); }},
+        {Command::newTools, [](ToolsPane& self) { self.documents_.New(); }},
+        {Command::load, [](ToolsPane& self) { self.documents_.Load(); }},
+        {Command::save, [](ToolsPane& self) { self.documents_.Save(); }},
+        {Command::saveAs, [](ToolsPane& self) { self.documents_.SaveAs(); }},
+        {Command::nextTool, [](ToolsPane& self) { self.sheet().focusNext(false); }},
+        {Command::previousTool, [](ToolsPane& self) { self.sheet().focusNext(true); }},
+        {Command::undo, [](ToolsPane& self) { self.stepHistory(true); }},
+        {Command::redo, [](ToolsPane& self) { self.stepHistory(false); }},
+    }};
+    return runCommand<ToolsPane>(rows, *this, command);
+}
+
+/// Of the tool that has the keyboard, or the selected one.
+void ToolsPane::stepHistory(bool back) {
+    const OverlayItem* const tool = sheet().toolOfKeys();
+    const auto& panels = panelMaker_.panels();
+    const auto at = std::ranges::find_if(
+        panels, [tool](PanelWindow* panel) { return &panel->core().RefControlControl() == tool; });
+    if (at != panels.end()) {
+        PanelCore& core = (*at)->core();
+        // Steps of the keys are in no record yet: without this they would be lost.
+        core.AddHistoryStep();
+        back ? core.Undo() : core.Redo();
+    }
+}
+
+void ToolsPane::addTool(ToolKind kind) {
+    tools_.AddNewControl(static_cast<int>(kind));
+    if (!list_.isVisible()) {
+        // A window that has come up without tools has no room for the first one's panel.
+        UpdatePanelLayout(true, true);
+    }
+}
+
+void ToolsPane::refresh() {
+    // What has changed is invalid already.
+    RedrawWindow(ports_.window.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+void ToolsPane::beginBusy(const std::string& info, bool hourglass) {
+    if (hourglass) {
+        SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+    }
+    focus_.keepInList();
+    list_.setBulkUpdate(true);
+    ports_.window.bar().showInfo(info);
+    refresh();
+}
+
+void ToolsPane::endBusy() {
+    list_.setBulkUpdate(false);
+    ports_.window.bar().showInfo({});
+    SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+}
+
+void ToolsPane::refreshWorksheet() {
+    UpdateWindow(ports_.worksheet.handle());
+}
+
+}  // namespace ormala

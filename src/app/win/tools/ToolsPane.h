@@ -1,0 +1,86 @@
+#pragma once
+
+#include <array>
+
+#include "app/Documents.h"
+#include "app/PanelLayout.h"
+#include "app/ToolFile.h"
+#include "app/ToolList.h"
+#include "app/version.h"
+#include "app/win/tools/DocumentDialogs.h"
+#include "app/win/tools/PanelFocus.h"
+#include "app/win/tools/PanelList.h"
+#include "app/win/tools/PanelMaker.h"
+#include "dialogs/win/WindowsMessagePresenter.h"
+
+namespace ormala {
+
+/// The tools of the control window: the list of their panels, and the documents they are kept in.
+class ToolsPane : private ToolListView, private BusyView {
+  public:
+    struct Ports {
+        frmSettings& window;
+        frmWorksheet& worksheet;
+        ViewPane& view;
+        ViewState& state;
+        FocusMemory& focus;
+        const SpecialRatios& ratios;
+        FileStore& store;
+        const CodePage& codePage;
+        clsGlobalEvents& globalEvents;
+    };
+
+    /// All must outlive it.
+    explicit ToolsPane(const Ports& ports);
+    ~ToolsPane() override;
+
+    [[nodiscard]] ToolList& tools() { return tools_; }
+    [[nodiscard]] Documents& documents() { return documents_; }
+
+    /// The tools of the last run, or the first ones.
+    void load();
+    /// Saves the tools to the automatic file; the open document stays what it is. `quietly` says
+    /// that the user hears nothing of a failure.
+    void keep(bool quietly);
+    /// The same at the end: the open document is left.
+    void save();
+
+    void Scroll(bool down) { list_.Scroll(down); }
+    /// A command of tools or documents; false for any other one.
+    bool execute(Command command);
+    /// Whether a message of the program ends here.
+    bool swallows(const MSG& message) { return focus_.swallows(message); }
+
+  private:
+    void UpdatePanelLayout(bool AdjustFormHeight, bool Force) override;
+    void refresh() override;
+    void beginBusy(const std::string& info, bool hourglass) override;
+    void endBusy() override;
+    void refreshWorksheet() override;
+    void refreshControlWindow() override { refresh(); }
+
+    [[nodiscard]] Sheet& sheet() { return ports_.worksheet.sheet(); }
+    void addTool(ToolKind kind);
+    void stepHistory(bool back);
+    void onTimer(UINT_PTR timer);
+    void takePlace();
+    void takeDpi();
+    void tellPanelsWhatShows();
+
+    Ports ports_;
+    WindowsMessagePresenter messages_;
+    WindowsMessagePresenter fileMessages_{applicationTitle};
+    PanelLayout layout_;
+    INIFile toolsFile_;
+    PanelList list_;
+    PanelDialogs panelDialogs_;
+    PanelFocus focus_;
+    PanelMaker panelMaker_;
+    DocumentDialogs dialogs_;
+    ToolList tools_;
+    ToolFile toolFile_;
+    Documents documents_;
+    std::array<Subscription, 4> subscriptions_;
+};
+
+}  // namespace ormala
