@@ -1,7 +1,9 @@
 #include "language/MlStringModule.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <iterator>
 
 #include "language/TextTable.h"
 
@@ -32,6 +34,17 @@ char lowerCase(char letter) {
     return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
+struct Language {
+    int number;
+    /// As the system names it in English, in small letters.
+    std::string_view englishName;
+    std::span<const TextRow> (*texts)();
+};
+
+/// The first one is that of users whose own there is not.
+constexpr std::array languages{Language{languageEnglish, "english", &englishTexts},
+                               Language{languageGerman, "german", &germanTexts}};
+
 }  // namespace
 
 int& CurrentLanguage() {
@@ -40,24 +53,19 @@ int& CurrentLanguage() {
 }
 
 std::string MlString(int Id, std::string_view DefaultText) {
-    switch (CurrentLanguage()) {
-        case languageEnglish:
-            return textOf(englishTexts(), Id, DefaultText);
-        case languageGerman:
-            return textOf(germanTexts(), Id, DefaultText);
-        default:
-            return {};
-    }
+    const auto* const current = std::ranges::find(languages, CurrentLanguage(), &Language::number);
+    return current != languages.end() ? textOf(current->texts(), Id, DefaultText) : std::string();
 }
 
 void MlSetLanguage(int LanguageId, std::string_view /*Ignored*/) {
-    const auto languages = MlLanguages();
-    const bool known = std::ranges::find(languages, LanguageId) != languages.end();
-    CurrentLanguage() = known ? LanguageId : languageEnglish;
+    const auto* const wanted = std::ranges::find(languages, LanguageId, &Language::number);
+    CurrentLanguage() = wanted != languages.end() ? LanguageId : languages.front().number;
 }
 
-std::array<int, 2> MlLanguages() {
-    return {languageEnglish, languageGerman};
+std::vector<int> MlLanguages() {
+    std::vector<int> numbers;
+    std::ranges::transform(languages, std::back_inserter(numbers), &Language::number);
+    return numbers;
 }
 
 std::string MlFormat(std::string_view Template, std::span<const std::string> Args) {
@@ -71,7 +79,10 @@ std::string MlFormat(std::string_view Template, std::span<const std::string> Arg
 int languageForLocaleName(std::string_view englishName) {
     std::string name(englishName);
     std::ranges::transform(name, name.begin(), lowerCase);
-    return name.find("german") != std::string::npos ? languageGerman : languageEnglish;
+    const auto* const own = std::ranges::find_if(languages, [&name](const Language& language) {
+        return name.find(language.englishName) != std::string::npos;
+    });
+    return own != languages.end() ? own->number : languages.front().number;
 }
 
 LanguageSupport& GetLanguageSupport() {

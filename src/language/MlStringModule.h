@@ -1,9 +1,9 @@
 #pragma once
 
-#include <array>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "language/LanguageSupport.h"
 
@@ -24,7 +24,7 @@ std::string MlString(int Id, std::string_view DefaultText);
 void MlSetLanguage(int LanguageId, std::string_view Ignored);
 
 /// The languages there are.
-std::array<int, 2> MlLanguages();
+std::vector<int> MlLanguages();
 
 /// Replaces each "%n" by a carriage return and line feed, then each "%0" by the first argument,
 /// each

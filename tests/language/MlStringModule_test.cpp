@@ -119,7 +119,7 @@ TEST(MlSetLanguage, EnglishOverwritesEveryGermanTextButNotTheReverse) {
 }
 
 TEST(MlLanguages, ListsEnglishThenGerman) {
-    EXPECT_EQ(MlLanguages(), (std::array<int, 2>{9, 1031}));
+    EXPECT_EQ(MlLanguages(), (std::vector{9, 1031}));
 }
 
 TEST(MlFormat, ExpandsLineBreaksWithoutArguments) {
