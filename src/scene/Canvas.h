@@ -26,7 +26,8 @@ struct Pen {
 
 enum class ShapeKind { rectangle, roundedRectangle, oval };
 
-/// A bordered shape that covers exactly the pixels of `box`, its border inside.
+/// A bordered shape that covers exactly the pixels of `box`, its border inside; the box is no
+/// narrower than its border.
 struct ShapeFace {
     ShapeKind kind = ShapeKind::rectangle;
     PixelRect box;
