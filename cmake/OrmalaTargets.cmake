@@ -12,13 +12,18 @@ target_compile_options(
   INTERFACE -Wall
             -Wextra
             -Wpedantic
-            -Wshadow
             -Wconversion
             -Wnon-virtual-dtor
             -Wold-style-cast
             -Wcast-qual
             -Wundef
             -Werror)
+# In a source that is compiled together with others, their names are no names of its own.
+if(CMAKE_UNITY_BUILD)
+  target_compile_options(ormala_options INTERFACE -Wshadow=local)
+else()
+  target_compile_options(ormala_options INTERFACE -Wshadow)
+endif()
 
 if(ORMALA_SANITIZE)
   target_compile_options(ormala_options INTERFACE -fsanitize=address,undefined
@@ -66,5 +71,24 @@ function(ormala_windows_library folder)
   cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LINK")
   list(TRANSFORM ARG_SOURCES PREPEND "win/")
   add_library(${folder}_win STATIC ${ARG_SOURCES})
+  # Windows have names of their own for their parts, which would meet in one source.
+  set_target_properties(${folder}_win PROPERTIES UNITY_BUILD OFF)
+  if(CMAKE_UNITY_BUILD)
+    if(TARGET base_win AND NOT folder STREQUAL "base")
+      target_precompile_headers(${folder}_win REUSE_FROM base_win)
+    else()
+      target_precompile_headers(
+        ${folder}_win
+        PRIVATE
+        <windows.h>
+        <algorithm>
+        <functional>
+        <memory>
+        <optional>
+        <span>
+        <string>
+        <vector>)
+    endif()
+  endif()
   target_link_libraries(${folder}_win PUBLIC ormala_options ${ARG_LINK})
 endfunction()

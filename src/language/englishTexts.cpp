@@ -5,7 +5,7 @@ namespace ormala {
 
 namespace {
 
-constexpr TextRow rows[] = {
+constexpr TextRow englishRows[] = {
     {3, "Worksheet background color in edit mode"},
     {6, "Select color"},
     {11, "Patterns"},
@@ -299,7 +299,7 @@ constexpr TextRow rows[] = {
 }  // namespace
 
 std::span<const TextRow> englishTexts() {
-    return rows;
+    return englishRows;
 }
 
 }  // namespace ormala

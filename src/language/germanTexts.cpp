@@ -5,7 +5,7 @@ namespace ormala {
 
 namespace {
 
-constexpr TextRow rows[] = {
+constexpr TextRow germanRows[] = {
     {3, "Hintergrundfarbe des Arbeitsblatt-Fensters im Bearbeitungsmodus"},
     {6, "Farbe auswählen"},
     {11, "Muster"},
@@ -298,7 +298,7 @@ constexpr TextRow rows[] = {
 }  // namespace
 
 std::span<const TextRow> germanTexts() {
-    return rows;
+    return germanRows;
 }
 
 }  // namespace ormala

@@ -2,11 +2,12 @@
 
 #include <algorithm>
 
+#include "scene/pixelImages.h"
+
 namespace ormala {
 
 namespace {
 
-constexpr std::uint32_t colors = 0xFFFFFFU;
 constexpr int full = 255;
 
 int channelOf(std::uint32_t pixel, unsigned shift) {
@@ -34,8 +35,8 @@ PointerPicture pointerPicture(const PixelView& onBlack, const PixelView& onWhite
     for (int y = 0; y < onBlack.size.height; ++y) {
         for (int x = 0; x < onBlack.size.width; ++x) {
             const PointerPicture::Pixel pixel{
-                {x, y}, onBlack.row(y)[x] & colors, onWhite.row(y)[x] & colors};
-            const bool leavesGround = pixel.onBlack == 0 && pixel.onWhite == colors;
+                {x, y}, onBlack.row(y)[x] & colorBits, onWhite.row(y)[x] & colorBits};
+            const bool leavesGround = pixel.onBlack == 0 && pixel.onWhite == colorBits;
             if (!leavesGround) {
                 picture.pixels.push_back(pixel);
             }
@@ -45,7 +46,7 @@ PointerPicture pointerPicture(const PixelView& onBlack, const PixelView& onWhite
 }
 
 std::uint32_t pixelUnder(const PointerPicture::Pixel& pointer, std::uint32_t ground) {
-    std::uint32_t result = ground & ~colors;
+    std::uint32_t result = ground & ~colorBits;
     for (const unsigned shift : {0U, 8U, 16U}) {
         const int black = channelOf(pointer.onBlack, shift);
         const int white = channelOf(pointer.onWhite, shift);

@@ -3,22 +3,11 @@
 #include <cstdlib>
 #include <numeric>
 
+#include "scene/pixelImages.h"
+
 namespace ormala {
 
 namespace {
-
-constexpr std::uint32_t full = 255;
-
-/// `pixel` over `ground` with that opacity, 0 to 255.
-std::uint32_t blended(std::uint32_t ground, std::uint32_t pixel, std::uint32_t opacity) {
-    std::uint32_t result = full << 24U;
-    for (const unsigned shift : {0U, 8U, 16U}) {
-        const std::uint32_t sum =
-            ((pixel >> shift) & full) * opacity + ((ground >> shift) & full) * (full - opacity);
-        result |= ((sum + full / 2) / full) << shift;
-    }
-    return result;
-}
 
 void drawGlyph(const PixelView& picture, const ScaleGlyphs& glyphs, PixelPoint place,
                const ScaleGlyphs::Glyph& glyph, std::uint32_t pixel) {

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "scene/pixelImages.h"
+
 namespace ormala {
 
 namespace {
-
-constexpr std::uint32_t colors = 0xFFFFFFU;
 
 int signOf(int value) {
     return (value > 0 ? 1 : 0) - (value < 0 ? 1 : 0);
@@ -20,7 +20,7 @@ std::uint32_t onPlain(std::uint32_t pixel, int mode, bool set) {
     const auto where = [table](std::uint32_t bit, std::uint32_t state) {
         return (table & bit) != 0 ? state : 0U;
     };
-    return (where(1U, ~pixel) | where(4U, pixel)) & colors;
+    return (where(1U, ~pixel) | where(4U, pixel)) & colorBits;
 }
 
 /// The steps of a walk from `from` by `step` that stay below `end` and are not negative.
@@ -47,7 +47,7 @@ RasterPen::RasterPen(std::uint32_t pixel, int mode) {
     constexpr int modes = 16;
     if (mode >= 1 && mode <= modes) {
         flipped_ = onPlain(pixel, mode, false);
-        kept_ = ~colors | (flipped_ ^ onPlain(pixel, mode, true));
+        kept_ = ~colorBits | (flipped_ ^ onPlain(pixel, mode, true));
     }
 }
 

@@ -32,6 +32,10 @@ double RoundHalfAway(double value, int digits) {
     return std::isfinite(rounded) ? rounded : value;
 }
 
+int RoundToInt(double value) {
+    return static_cast<int>(RoundHalfAway(value));
+}
+
 double RoundSignificant(double value, int digits, bool keepIntegerDigits) {
     const bool isOrdinary = std::abs(value) < infinite;
     if (value == 0 || !isOrdinary) {

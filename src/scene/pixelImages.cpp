@@ -18,18 +18,17 @@ std::size_t indexOf(const PixelImage& image, int x, int y) {
            static_cast<std::size_t>(x);
 }
 
-std::uint32_t blended(std::uint32_t ground, std::uint32_t pixel) {
-    const std::uint32_t alpha = channel(pixel, 24);
+}  // namespace
+
+std::uint32_t blended(std::uint32_t ground, std::uint32_t pixel, std::uint32_t opacity) {
     std::uint32_t result = full << 24U;
     for (const unsigned shift : {0U, 8U, 16U}) {
         const std::uint32_t sum =
-            channel(pixel, shift) * alpha + channel(ground, shift) * (full - alpha);
+            channel(pixel, shift) * opacity + channel(ground, shift) * (full - opacity);
         result |= ((sum + full / 2) / full) << shift;
     }
     return result;
 }
-
-}  // namespace
 
 std::uint32_t opaquePixel(Color color) {
     const ColorParts parts = ColorComponents(color, nullptr);
@@ -62,7 +61,8 @@ void blendOnto(PixelImage& ground, const PixelImage& picture, PixelPoint place) 
     for (int y = area.top; y < area.bottom; ++y) {
         for (int x = area.left; x < area.right; ++x) {
             std::uint32_t& pixel = ground.argb[indexOf(ground, x, y)];
-            pixel = blended(pixel, picture.argb[indexOf(picture, x - place.x, y - place.y)]);
+            const std::uint32_t laid = pixelAt(picture, {x - place.x, y - place.y});
+            pixel = blended(pixel, laid, channel(laid, 24));
         }
     }
 }

@@ -5,6 +5,12 @@
 
 namespace ormala {
 
+/// The part of a pixel that is its colour.
+constexpr std::uint32_t colorBits = 0xFFFFFFU;
+
+/// `pixel` with that opacity, 0 to 255, over the opaque `ground`.
+std::uint32_t blended(std::uint32_t ground, std::uint32_t pixel, std::uint32_t opacity);
+
 /// The plain colour as an opaque pixel.
 std::uint32_t opaquePixel(Color color);
 

@@ -32,8 +32,7 @@ bool inside(const Rect& area, const Point& point) {
 }
 
 PixelPoint toPixel(const Point& point) {
-    return {static_cast<int>(RoundHalfAway(point.x, 0)),
-            static_cast<int>(RoundHalfAway(point.y, 0))};
+    return {RoundToInt(point.x), RoundToInt(point.y)};
 }
 
 bool isFinite(const Point& point) {

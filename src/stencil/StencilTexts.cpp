@@ -8,7 +8,7 @@ namespace ormala {
 
 namespace {
 
-std::string whole(double value) {
+std::string wholeNumber(double value) {
     return formatNumber(value, "0", {});
 }
 
@@ -26,8 +26,8 @@ std::string rotationText(double angle, const TextForm& form) {
 
 std::string sizeText(const Rect& rectBound, const SpecialRatios& ratios, const TextForm& form) {
     const double ratio = PixelRatio(rectBound, false);
-    std::string text = whole(countedPixels(rectBound.left, rectBound.right)) + " x " +
-                       whole(countedPixels(rectBound.top, rectBound.bottom)) +
+    std::string text = wholeNumber(countedPixels(rectBound.left, rectBound.right)) + " x " +
+                       wholeNumber(countedPixels(rectBound.top, rectBound.bottom)) +
                        MlString(324, "  ratio = ") + FormatRatio(ratio, form);
     bool inverted = false;
     const int nearest = NearestSpecialRatio(ratio, inverted);

@@ -18,10 +18,6 @@ constexpr int jitter = 12;
 constexpr Color brightGreen = rgb(0, 255, 0);
 constexpr Color darkGreen = rgb(0, 127, 0);
 
-int rounded(double value) {
-    return static_cast<int>(RoundHalfAway(value));
-}
-
 }  // namespace
 
 void CircleCompass::press(const MouseInput& input, Color background) {
@@ -30,7 +26,7 @@ void CircleCompass::press(const MouseInput& input, Color background) {
         return;
     }
     pressed_ = true;
-    center_ = {rounded(input.x), rounded(input.y)};
+    center_ = {RoundToInt(input.x), RoundToInt(input.y)};
     const bool onBright = Luminance(background) > 0.5F;
     circleColor_ = onBright ? darkGreen : brightGreen;
     centerColor_ = onBright ? brightGreen : darkGreen;
@@ -62,8 +58,8 @@ CircleCompass::Radii CircleCompass::radiiTo(const MouseInput& input) const {
     const double x = input.x;
     const double y = input.y;
     const double distance = std::hypot(x - center_.x, y - center_.y);
-    return {std::max(rounded(distance), leastRadius),
-            std::max(rounded(G * distance), rounded(G * leastRadius))};
+    return {std::max(RoundToInt(distance), leastRadius),
+            std::max(RoundToInt(G * distance), RoundToInt(G * leastRadius))};
 }
 
 PixelRect CircleCompass::circle(int radius) const {

@@ -13,16 +13,12 @@ constexpr int margin = 5;
 /// At 96 DPI.
 constexpr PixelSize leastSize{200, 124};
 
-int rounded(double value) {
-    return static_cast<int>(RoundHalfAway(value));
-}
-
 }  // namespace
 
 PixelRect defaultFramePlace(PixelSize screen) {
-    const int left = rounded((1 - G) * screen.width / 2);
-    const int top = rounded((1 - G) * screen.height / 2);
-    return {left, top, left + rounded(G * screen.width), top + rounded(G * screen.height)};
+    const int left = RoundToInt((1 - G) * screen.width / 2);
+    const int top = RoundToInt((1 - G) * screen.height / 2);
+    return {left, top, left + RoundToInt(G * screen.width), top + RoundToInt(G * screen.height)};
 }
 
 PixelRect worksheetInFrame(PixelSize client) {
@@ -38,7 +34,7 @@ PixelRect fullScreenPlace(const PixelRect& monitor, const PixelRect& free) {
 }
 
 PixelSize leastFrameSize(int dpi) {
-    return {rounded(leastSize.width * dpi / 96.0), rounded(leastSize.height * dpi / 96.0)};
+    return {RoundToInt(leastSize.width * dpi / 96.0), RoundToInt(leastSize.height * dpi / 96.0)};
 }
 
 bool FrameSizeMemory::changedTo(PixelSize outer) {

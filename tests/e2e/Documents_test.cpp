@@ -1,10 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-
 #include "e2e/PanelScene.h"
 #include "support/exampleToolFile.h"
+#include "support/win/fileBytes.h"
 
 namespace ormala::test {
 namespace {
@@ -14,15 +12,6 @@ constexpr const char* newDocument = "(New tool settings file)";
 constexpr const char* question = "Do you want to save the changes?";
 constexpr const char* saveTitle = "Save Tools As";
 constexpr const char* loadTitle = "Load Tools";
-
-std::string bytesOf(const std::filesystem::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-void writeBytes(const std::filesystem::path& path, std::string_view bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
 
 /// Without the line that tells the time of saving.
 std::string withoutTime(std::string text) {

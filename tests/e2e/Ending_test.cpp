@@ -1,26 +1,19 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-
 #include "e2e/PanelScene.h"
+#include "support/win/fileBytes.h"
 
 // The end of the program at moments that nobody has waited for.
 
 namespace ormala::test {
 namespace {
 
-std::string bytesOf(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 /// A start on prepared files, which shows messages.
 class Ending : public testing::Test {
   protected:
     void write(const std::filesystem::path& file, const std::string& bytes) {
         std::filesystem::create_directories(file.parent_path());
-        std::ofstream(file, std::ios::binary) << bytes;
+        writeBytes(file, bytes);
     }
     /// A close while a message of the start stands there ends the program, and the files stay.
     void expectToEndAt(std::string_view titleOfMessage) {

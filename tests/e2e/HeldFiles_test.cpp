@@ -2,27 +2,17 @@
 #include <windows.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <memory>
 
 #include "e2e/PanelScene.h"
 #include "support/win/HeldFile.h"
 #include "support/win/WideText.h"
+#include "support/win/fileBytes.h"
 
 // Files that another program holds, changes or keeps from being written.
 
 namespace ormala::test {
 namespace {
-
-std::string bytesOf(const std::filesystem::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-void writeBytes(const std::filesystem::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
 
 /// The files "<name> (kept ...).ini" beside one.
 std::vector<std::filesystem::path> keptBeside(const std::filesystem::path& path) {

@@ -5,19 +5,12 @@
 
 #include "e2e/LensScales.h"
 #include "e2e/LensScene.h"
+#include "e2e/withKeys.h"
 
 // The magnifier as a window: its place, its menu and keys, and what it keeps.
 
 namespace ormala::test {
 namespace {
-
-SettingsFile withKeys(SettingsFile options,
-                      std::initializer_list<std::pair<const char*, const char*>> keys) {
-    for (const auto& [key, value] : keys) {
-        options.set("Options", key, value);
-    }
-    return options;
-}
 
 bool toggleIs(const LensScene& scene, WPARAM state) {
     return waitUntil([&] {
@@ -225,10 +218,8 @@ TEST(Magnifier, FillsItsWindowAtEachSizeAndComesBackThere) {
     EXPECT_TRUE(scene.lens.showsScreen(LensScene::spot + ScreenPoint{1, 1}, 4));
 }
 
-using Place = std::initializer_list<std::pair<const char*, const char*>>;
-
 /// Starts with a magnifier that was left at a place that no screen has.
-void expectOnScreen(const Place& place) {
+void expectOnScreen(const Keys& place) {
     SettingsFile options = withKeys(bareLens(), {{"Mode", " 2"}});
     for (const auto& [key, value] : place) {
         options.set("FormLens", key, value);

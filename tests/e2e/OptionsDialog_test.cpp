@@ -5,19 +5,12 @@
 #include "e2e/Dialog.h"
 #include "e2e/LensScene.h"
 #include "e2e/ToolPanel.h"
+#include "e2e/withKeys.h"
 
 // What leaving the options dialog does, or does not do, to the running program.
 
 namespace ormala::test {
 namespace {
-
-SettingsFile withKeys(std::initializer_list<std::pair<const char*, const char*>> keys) {
-    SettingsFile options;
-    for (const auto& [key, value] : keys) {
-        options.set("Options", key, value);
-    }
-    return options;
-}
 
 class OptionsScene {
   public:

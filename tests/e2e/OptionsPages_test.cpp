@@ -5,6 +5,7 @@
 #include "e2e/Dialog.h"
 #include "e2e/LensScene.h"
 #include "e2e/ToolPanel.h"
+#include "e2e/withKeys.h"
 
 // The pages of the options dialog: what their controls do to the worksheet and to the magnifier.
 
@@ -12,14 +13,6 @@ namespace ormala::test {
 namespace {
 
 constexpr Color dark = 0x4F4F4F;
-
-SettingsFile withKeys(std::initializer_list<std::pair<const char*, const char*>> keys) {
-    SettingsFile options;
-    for (const auto& [key, value] : keys) {
-        options.set("Options", key, value);
-    }
-    return options;
-}
 
 /// An opaque worksheet with a grid.
 SettingsFile shownGrid() {

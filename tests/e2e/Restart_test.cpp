@@ -1,17 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-
 #include "e2e/SheetScene.h"
+#include "support/win/fileBytes.h"
 
 namespace ormala::test {
 namespace {
-
-std::string bytesOf(const std::filesystem::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 TEST(Restart, BringsBackModeAndLanguage) {
     SheetScene scene([](SettingsFile& file) { file.set("Options", "Language", " 1031"); });
@@ -41,7 +34,7 @@ TEST(Restart, KeepsEveryOptionAndWhatItDoesNotKnow) {
         "LensRulTOrigin= 2\r\nLensRulBOrigin= 3\r\nKeyOfANewerVersion=something\r\n";
     SheetScene scene;
     EXPECT_EQ(scene.program().close(), 0U);
-    std::ofstream(scene.data().optionsFile(), std::ios::binary) << options;
+    writeBytes(scene.data().optionsFile(), options);
     Program again(scene.data());
     again.waitUntilReady();
     EXPECT_EQ(again.close(), 0U);

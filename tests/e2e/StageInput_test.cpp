@@ -2,13 +2,11 @@
 #include <windows.h>
 
 #include "e2e/OwnWindow.h"
+#include "e2e/stagePlaces.h"
 #include "e2e/support/Desktop.h"
 
 namespace ormala::test {
 namespace {
-
-constexpr BackdropLook plain{BackdropPattern::Solid, 0x00C08040};
-constexpr ScreenRect place{300, 200, 500, 300};
 
 TEST(Stage, ClickIsCountedAtItsExactPlace) {
     const Backdrop backdrop(plain);
@@ -141,25 +139,26 @@ TEST(Stage, TypedTextArrivesAsCharacters) {
 
 TEST(Stage, ClickFallsThroughATransparentWindow) {
     const Backdrop backdrop(plain);
-    OwnWindow front(place, WS_EX_LAYERED | WS_EX_TRANSPARENT | WS_EX_TOPMOST | WS_EX_TOOLWINDOW,
+    OwnWindow front(windowPlace,
+                    WS_EX_LAYERED | WS_EX_TRANSPARENT | WS_EX_TOPMOST | WS_EX_TOOLWINDOW,
                     0x0020E0A0);
     SetLayeredWindowAttributes(front.handle(), 0, 128, LWA_ALPHA);
     front.show();
     Mouse mouse;
-    mouse.click(place.center());
+    mouse.click(windowPlace.center());
     const BackdropReport report =
         backdrop.waitFor("click", [](const auto& now) { return now.leftUp == 1; });
-    EXPECT_EQ(report.lastUp(), place.center());
+    EXPECT_EQ(report.lastUp(), windowPlace.center());
     EXPECT_EQ(front.presses(), 0);
 }
 
 TEST(Stage, ClickIsTakenByAWindowThatIsNotTransparent) {
     const Backdrop backdrop(plain);
-    OwnWindow front(place, WS_EX_LAYERED | WS_EX_TOPMOST | WS_EX_TOOLWINDOW, 0x0020E0A0);
+    OwnWindow front(windowPlace, WS_EX_LAYERED | WS_EX_TOPMOST | WS_EX_TOOLWINDOW, 0x0020E0A0);
     SetLayeredWindowAttributes(front.handle(), 0, 128, LWA_ALPHA);
     front.show();
     Mouse mouse;
-    mouse.click(place.center());
+    mouse.click(windowPlace.center());
     EXPECT_TRUE(waitUntil([&] { return front.presses() == 1; }));
     EXPECT_EQ(backdrop.report().leftDown, 0);
 }

@@ -2,14 +2,13 @@
 #include <windows.h>
 
 #include "e2e/OwnWindow.h"
+#include "e2e/stagePlaces.h"
 #include "e2e/support/Desktop.h"
 
 namespace ormala::test {
 namespace {
 
 constexpr BackdropLook points{BackdropPattern::Points, 0};
-constexpr BackdropLook plain{BackdropPattern::Solid, 0x00C08040};
-constexpr ScreenRect place{300, 200, 500, 300};
 constexpr ScreenRect leftHalf{300, 200, 400, 300};
 constexpr ScreenRect rightHalf{400, 200, 500, 300};
 constexpr Color keyColor = 0x00010203;
@@ -51,16 +50,17 @@ TEST(Stage, PointsPatternGivesNeighbouringPixelsDifferentColours) {
 
 TEST(Stage, HalfSeeThroughWindowIsBlendedWithTheBackdrop) {
     const Backdrop backdrop(plain);
-    OwnWindow front(place, WS_EX_LAYERED | WS_EX_TOPMOST | WS_EX_TOOLWINDOW, frontColor);
+    OwnWindow front(windowPlace, WS_EX_LAYERED | WS_EX_TOPMOST | WS_EX_TOOLWINDOW, frontColor);
     SetLayeredWindowAttributes(front.handle(), 0, half, LWA_ALPHA);
     front.show();
-    EXPECT_EQ(front.window().rect(), place);
-    EXPECT_LE(largestDifference(place, blended(frontColor, plain.color, half)), 2);
+    EXPECT_EQ(front.window().rect(), windowPlace);
+    EXPECT_LE(largestDifference(windowPlace, blended(frontColor, plain.color, half)), 2);
 }
 
 TEST(Stage, KeyedColourShowsTheBackdropExactly) {
     const Backdrop backdrop(points);
-    OwnWindow front(place, WS_EX_LAYERED | WS_EX_TRANSPARENT | WS_EX_TOPMOST | WS_EX_TOOLWINDOW,
+    OwnWindow front(windowPlace,
+                    WS_EX_LAYERED | WS_EX_TRANSPARENT | WS_EX_TOPMOST | WS_EX_TOOLWINDOW,
                     frontColor, keyColor);
     SetLayeredWindowAttributes(front.handle(), keyColor, 255, LWA_COLORKEY | LWA_ALPHA);
     front.show();
@@ -70,7 +70,8 @@ TEST(Stage, KeyedColourShowsTheBackdropExactly) {
 
 TEST(Stage, KeyAndAlphaWorkTogether) {
     const Backdrop backdrop(plain);
-    OwnWindow front(place, WS_EX_LAYERED | WS_EX_TRANSPARENT | WS_EX_TOPMOST | WS_EX_TOOLWINDOW,
+    OwnWindow front(windowPlace,
+                    WS_EX_LAYERED | WS_EX_TRANSPARENT | WS_EX_TOPMOST | WS_EX_TOOLWINDOW,
                     frontColor, keyColor);
     SetLayeredWindowAttributes(front.handle(), keyColor, half, LWA_COLORKEY | LWA_ALPHA);
     front.show();
@@ -80,7 +81,7 @@ TEST(Stage, KeyAndAlphaWorkTogether) {
 
 TEST(Stage, TopmostWindowStaysOverTheActiveBackdrop) {
     const Backdrop backdrop(plain);
-    OwnWindow front(place, WS_EX_TOPMOST | WS_EX_TOOLWINDOW, frontColor);
+    OwnWindow front(windowPlace, WS_EX_TOPMOST | WS_EX_TOOLWINDOW, frontColor);
     // With a system menu it is the window manager that decides what lies in front.
     SetWindowLongPtrW(front.handle(), GWL_STYLE, WS_POPUP | WS_SYSMENU);
     front.show();
@@ -89,15 +90,15 @@ TEST(Stage, TopmostWindowStaysOverTheActiveBackdrop) {
     mouse.click({900, 700});
     backdrop.window().activate();
     screen::waitUntilStill(screen::primaryMonitor());
-    EXPECT_EQ(largestDifference(place, frontColor), 0);
+    EXPECT_EQ(largestDifference(windowPlace, frontColor), 0);
 }
 
 TEST(Stage, StillScreenIsTheLastPictureOfAMovingOne) {
     const Backdrop backdrop(plain);
-    OwnWindow front(place, WS_EX_TOPMOST | WS_EX_TOOLWINDOW, frontColor);
+    OwnWindow front(windowPlace, WS_EX_TOPMOST | WS_EX_TOOLWINDOW, frontColor);
     int moves = 0;
     const auto move = [&moves, &front] {
-        SetWindowPos(front.handle(), nullptr, place.left, place.top + ++moves, 0, 0,
+        SetWindowPos(front.handle(), nullptr, windowPlace.left, windowPlace.top + ++moves, 0, 0,
                      SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
     };
     while (moves < 20) {
@@ -105,7 +106,8 @@ TEST(Stage, StillScreenIsTheLastPictureOfAMovingOne) {
         pause(milliseconds(5));
     }
     const Picture still = screen::waitUntilStill(screen::primaryMonitor());
-    const ScreenRect last{place.left, place.top + 20, place.right, place.bottom + 20};
+    const ScreenRect last{windowPlace.left, windowPlace.top + 20, windowPlace.right,
+                          windowPlace.bottom + 20};
     EXPECT_EQ(boundingBox(still.find(frontColor)), last);
 }
 

@@ -2,13 +2,11 @@
 #include <windows.h>
 
 #include "e2e/OwnWindow.h"
+#include "e2e/stagePlaces.h"
 #include "e2e/support/Desktop.h"
 
 namespace ormala::test {
 namespace {
-
-constexpr BackdropLook plain{BackdropPattern::Solid, 0x00C08040};
-constexpr ScreenRect place{300, 200, 500, 300};
 
 DesktopWindow addChild(HWND parent, const wchar_t* className, const wchar_t* text,
                        const wchar_t* name) {
@@ -30,7 +28,7 @@ TEST(Stage, WindowsOfAProgramAreFoundByClass) {
 }
 
 TEST(Stage, ControlsAreFoundByClassAndName) {
-    const OwnWindow parent(place, WS_EX_TOOLWINDOW, 0);
+    const OwnWindow parent(windowPlace, WS_EX_TOOLWINDOW, 0);
     const DesktopWindow first = addChild(parent.handle(), L"Static", L"one", L"lblOne");
     const DesktopWindow second = addChild(parent.handle(), L"Static", L"two", L"lblTwo");
     const DesktopWindow edit = addChild(first.handle(), L"Edit", L"12,5 \u00b5", L"txnInner");
@@ -59,7 +57,7 @@ TEST(Stage, StateOfAWindowIsSeenFromOutside) {
 }
 
 TEST(Stage, LayeringOfAWindowIsRead) {
-    OwnWindow front(place, WS_EX_LAYERED | WS_EX_TOPMOST | WS_EX_TOOLWINDOW, 0);
+    OwnWindow front(windowPlace, WS_EX_LAYERED | WS_EX_TOPMOST | WS_EX_TOOLWINDOW, 0);
     SetLayeredWindowAttributes(front.handle(), 0x00010203, 200, LWA_COLORKEY | LWA_ALPHA);
     EXPECT_EQ(front.window().layering(), (Layering{0x00010203, 200}));
     SetLayeredWindowAttributes(front.handle(), 0x00010203, 200, LWA_ALPHA);
@@ -101,7 +99,7 @@ TEST(Stage, ButtonOfAMessageBoxIsClickedWithTheMouse) {
 }
 
 TEST(Stage, WaitingInVainFails) {
-    const OwnWindow hidden(place, WS_EX_TOOLWINDOW, 0);
+    const OwnWindow hidden(windowPlace, WS_EX_TOOLWINDOW, 0);
     constexpr milliseconds shortly{30};
     EXPECT_THROW(hidden.window().waitUntilVisible(shortly), StageFailure);
     EXPECT_THROW(hidden.window().waitForText("else", shortly), StageFailure);

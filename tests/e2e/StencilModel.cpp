@@ -7,7 +7,7 @@ namespace ormala::test {
 
 namespace {
 
-constexpr double section = 0.6180339887498949;
+constexpr double goldenSection = 0.6180339887498949;
 constexpr double leastHalf = 11;
 
 double rounded(double value) {
@@ -18,10 +18,10 @@ double rounded(double value) {
 
 StencilModel StencilModel::ofFirstStart(int width, int height) {
     StencilModel model;
-    const double high = (1 - section) * height;
+    const double high = (1 - goldenSection) * height;
     model.center = {std::floor(width / 2.0), std::floor(height / 2.0)};
     model.halfHeight = (high - 1) / 2;
-    model.halfWidth = (high / section - 1) / 2;
+    model.halfWidth = (high / goldenSection - 1) / 2;
     return model;
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 using enum MeasureGrip;
 
-constexpr MeasureState lines{false, {100, 100, 300, 100}, {100, 300, 300, 500}};
+constexpr MeasureState twoLines{false, {100, 100, 300, 100}, {100, 300, 300, 500}};
 
 const Grip& gripIn(const GripSet& set, MeasureGrip grip) {
     return set[static_cast<int>(grip)];
@@ -20,7 +20,7 @@ GripSet placed() {
     GripSet set = makeMeasureGrips();
     for (int i = 0; i < measureGripCount; ++i) {
         const auto grip = static_cast<MeasureGrip>(i);
-        set.place(i, measureGripPoint(grip, lines));
+        set.place(i, measureGripPoint(grip, twoLines));
         set.setTag(i, measureGripTag(grip, false));
     }
     return set;
@@ -30,7 +30,7 @@ GripSet placed() {
 std::vector<int> broughtForward(MeasureGrip grip) {
     GripSet set = placed();
     DirtyRegion changed;
-    const Point at = measureGripPoint(grip, lines);
+    const Point at = measureGripPoint(grip, twoLines);
     set.update({at.x, at.y}, changed);
     RecordingCanvas canvas;
     std::vector<int> order;
@@ -81,13 +81,13 @@ TEST(MeasureGrips, AreNinePixelsWideInTheirColors) {
 }
 
 TEST(MeasureGrips, LieOnEndsMiddlesAndTheCommonPoint) {
-    EXPECT_EQ(measureGripPoint(endA1, lines), (Point{100, 100}));
-    EXPECT_EQ(measureGripPoint(endA2, lines), (Point{300, 100}));
-    EXPECT_EQ(measureGripPoint(endB1, lines), (Point{100, 300}));
-    EXPECT_EQ(measureGripPoint(endB2, lines), (Point{300, 500}));
-    EXPECT_EQ(measureGripPoint(centerA, lines), (Point{200, 100}));
-    EXPECT_EQ(measureGripPoint(centerB, lines), (Point{200, 400}));
-    EXPECT_EQ(measureGripPoint(intersect, lines), (Point{300, 100}));
+    EXPECT_EQ(measureGripPoint(endA1, twoLines), (Point{100, 100}));
+    EXPECT_EQ(measureGripPoint(endA2, twoLines), (Point{300, 100}));
+    EXPECT_EQ(measureGripPoint(endB1, twoLines), (Point{100, 300}));
+    EXPECT_EQ(measureGripPoint(endB2, twoLines), (Point{300, 500}));
+    EXPECT_EQ(measureGripPoint(centerA, twoLines), (Point{200, 100}));
+    EXPECT_EQ(measureGripPoint(centerB, twoLines), (Point{200, 400}));
+    EXPECT_EQ(measureGripPoint(intersect, twoLines), (Point{300, 100}));
 }
 
 TEST(MeasureGrips, TagsFollowTheConnection) {
@@ -120,7 +120,7 @@ TEST(MeasureGrips, CommonPointLeavesTheOrder) {
     GripSet set = makeMeasureGrips();
     for (int i = 0; i < measureGripCount; ++i) {
         set.setTag(i, measureGripTag(static_cast<MeasureGrip>(i), true));
-        set.place(i, measureGripPoint(static_cast<MeasureGrip>(i), {true, lines.LineA, {}}));
+        set.place(i, measureGripPoint(static_cast<MeasureGrip>(i), {true, twoLines.LineA, {}}));
     }
     DirtyRegion changed;
     EXPECT_EQ(set.update({300, 100}, changed), static_cast<int>(intersect));

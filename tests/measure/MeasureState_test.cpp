@@ -9,18 +9,18 @@
 namespace ormala {
 namespace {
 
-MeasureState separate(const Line& a, const Line& b) {
+MeasureState separateLines(const Line& a, const Line& b) {
     return {false, a, b};
 }
 
 TEST(PixelLength, CountsBothEndPixels) {
-    const MeasureState state = separate({0, 0, 3, 4}, {10, 5, 19, 5});
+    const MeasureState state = separateLines({0, 0, 3, 4}, {10, 5, 19, 5});
     EXPECT_EQ(PixelLengthA(state), 6);
     EXPECT_EQ(PixelLengthB(state), 10);
 }
 
 TEST(PixelLength, OfAPointIsOnePixel) {
-    const MeasureState state = separate({7, 7, 7, 7}, {0, 0, 0, 0});
+    const MeasureState state = separateLines({7, 7, 7, 7}, {0, 0, 0, 0});
     EXPECT_EQ(PixelLengthA(state), 1);
     EXPECT_EQ(RatioAToB(state), 1);
     EXPECT_EQ(AngleAToB(state), 0);
@@ -28,14 +28,14 @@ TEST(PixelLength, OfAPointIsOnePixel) {
 }
 
 TEST(MeasureRatio, OfTwoEqualLinesIsOneInBothDirections) {
-    const MeasureState state = separate({0, 0, 30, 40}, {5, 9, 35, 49});
+    const MeasureState state = separateLines({0, 0, 30, 40}, {5, 9, 35, 49});
     EXPECT_EQ(RatioAToB(state), 1);
     EXPECT_EQ(RatioBToA(state), 1);
     EXPECT_EQ(FormatRatio(RatioAToB(state), {}), "1.000");
 }
 
 TEST(MeasureAngle, OfARightAngle) {
-    const MeasureState state = separate({0, 0, 10, 0}, {0, 0, 0, -10});
+    const MeasureState state = separateLines({0, 0, 10, 0}, {0, 0, 0, -10});
     EXPECT_EQ(AngleAToB(state), halfPi);
     EXPECT_NEAR(AngleBToA(state), threeHalvesPi, 1e-14);
     EXPECT_NEAR(AngleVertA(state), halfPi, 1e-13);
@@ -43,16 +43,16 @@ TEST(MeasureAngle, OfARightAngle) {
 }
 
 TEST(MeasureAngle, BothAnglesMakeAFullTurn) {
-    const MeasureState same = separate({0, 0, 10, 0}, {0, 5, 10, 5});
+    const MeasureState same = separateLines({0, 0, 10, 0}, {0, 5, 10, 5});
     EXPECT_EQ(AngleAToB(same), 0);
     EXPECT_EQ(AngleBToA(same), twoPi);
-    const MeasureState opposite = separate({0, 0, 10, 0}, {10, 5, 0, 5});
+    const MeasureState opposite = separateLines({0, 0, 10, 0}, {10, 5, 0, 5});
     EXPECT_EQ(AngleAToB(opposite), pi);
     EXPECT_EQ(AngleBToA(opposite), pi);
 }
 
 TEST(MeasureAngle, SwappedEndsTurnTheDirectionAndNotTheLength) {
-    const MeasureState state = separate({0, 0, 30, -10}, {0, 0, -4, -50});
+    const MeasureState state = separateLines({0, 0, 30, -10}, {0, 0, -4, -50});
     MeasureState swapped = state;
     swapped.LineA = {30, -10, 0, 0};
     EXPECT_EQ(PixelLengthA(swapped), PixelLengthA(state));
@@ -63,7 +63,7 @@ TEST(MeasureAngle, SwappedEndsTurnTheDirectionAndNotTheLength) {
 }
 
 TEST(MeasureState, ConnectingMovesTheSecondEndOfLineBOnly) {
-    MeasureState state = separate({1, 2, 3, 4}, {5, 6, 7, 8});
+    MeasureState state = separateLines({1, 2, 3, 4}, {5, 6, 7, 8});
     connectLines(state, true);
     EXPECT_EQ(state, (MeasureState{true, {1, 2, 3, 4}, {5, 6, 3, 4}}));
     connectLines(state, false);
@@ -80,13 +80,13 @@ TEST(MeasureState, NewLinesMeetWhereTheyAreConnected) {
 }
 
 TEST(MeasureState, EndsComeInTheirOrder) {
-    const MeasureState state = separate({1, 2, 3, 4}, {5, 6, 7, 8});
+    const MeasureState state = separateLines({1, 2, 3, 4}, {5, 6, 7, 8});
     EXPECT_EQ(lineEnds(state), (std::array<Point, 4>{{{1, 2}, {3, 4}, {5, 6}, {7, 8}}}));
     EXPECT_EQ(IntersectPoint(state), (Point{3, 4}));
 }
 
 TEST(MeasureState, EachNumberCountsInAComparison) {
-    const MeasureState state = separate({1, 2, 3, 4}, {5, 6, 7, 8});
+    const MeasureState state = separateLines({1, 2, 3, 4}, {5, 6, 7, 8});
     for (double Line::*number : {&Line::x1, &Line::y1, &Line::x2, &Line::y2}) {
         for (Line MeasureState::*line : {&MeasureState::LineA, &MeasureState::LineB}) {
             MeasureState other = state;

@@ -11,15 +11,15 @@
 namespace ormala {
 namespace {
 
-constexpr PixelSize sheet{400, 300};
+constexpr PixelSize smallSheet{400, 300};
 
 struct Dice {
     std::mt19937 random{43};
 
     int whole(int from, int to) { return std::uniform_int_distribution<int>(from, to)(random); }
     Point place() {
-        return {static_cast<double>(whole(-40, sheet.width + 40)),
-                static_cast<double>(whole(-40, sheet.height + 40))};
+        return {static_cast<double>(whole(-40, smallSheet.width + 40)),
+                static_cast<double>(whole(-40, smallSheet.height + 40))};
     }
     Line line() {
         const Point from = place();
@@ -41,9 +41,9 @@ void dress(MeasureOnSheet& stage, Dice& dice) {
 TEST(CtlMeasureRepaint, CoversEveryPixelThatADragChanges) {
     Dice dice;
     for (int i = 0; i < 60; ++i) {
-        MeasureOnSheet stage(sheet);
+        MeasureOnSheet stage(smallSheet);
         dress(stage, dice);
-        RepaintWatch watch(stage.tool, stage.host, sheet);
+        RepaintWatch watch(stage.tool, stage.host, smallSheet);
         const auto grip = static_cast<MeasureGrip>(i % measureGripCount);
         if (!stage.grip(grip).inUse()) {
             stage.tool.setConnected(!stage.tool.Connected());
@@ -71,9 +71,9 @@ TEST(CtlMeasureRepaint, SeveralChangesAtOnceAreLaidOutAtTheirEndAndLookAsOneByOn
     Dice dice;
     Dice sameDice;
     for (int i = 0; i < 30; ++i) {
-        MeasureOnSheet stage(sheet);
-        MeasureOnSheet oneByOne(sheet);
-        RepaintWatch watch(stage.tool, stage.host, sheet);
+        MeasureOnSheet stage(smallSheet);
+        MeasureOnSheet oneByOne(smallSheet);
+        RepaintWatch watch(stage.tool, stage.host, smallSheet);
         {
             const ToolChanges changes(stage.tool);
             const ToolChanges more(stage.tool);
@@ -84,28 +84,22 @@ TEST(CtlMeasureRepaint, SeveralChangesAtOnceAreLaidOutAtTheirEndAndLookAsOneByOn
         EXPECT_EQ(watch.missed(), 0) << i;
         EXPECT_EQ(watch.beyondFootprint(), 0) << i;
         dress(oneByOne, sameDice);
-        RasterCanvas atOnce(sheet);
-        RasterCanvas inSteps(sheet);
+        RasterCanvas atOnce(smallSheet);
+        RasterCanvas inSteps(smallSheet);
         stage.tool.draw(atOnce);
         oneByOne.tool.draw(inSteps);
-        int different = 0;
-        for (int pixel = 0; pixel < sheet.width * sheet.height; ++pixel) {
-            const int x = pixel % sheet.width;
-            const int y = pixel / sheet.width;
-            different += atOnce.at(x, y) == inSteps.at(x, y) ? 0 : 1;
-        }
-        EXPECT_EQ(different, 0) << i;
+        EXPECT_EQ(atOnce.differences(inSteps, {0, 0, smallSheet.width, smallSheet.height}), 0) << i;
     }
 }
 
 TEST(CtlMeasureRepaint, CoversLinesThatComeForwardOverEachOther) {
-    MeasureOnSheet stage(sheet, false);
+    MeasureOnSheet stage(smallSheet, false);
     stage.tool.setLineA({50, 50, 350, 250});
     stage.tool.setLineB({50, 250, 350, 50});
     stage.tool.setColorA(1);
     stage.tool.setColorB(2);
     stage.tool.setLineWidth(9);
-    RepaintWatch watch(stage.tool, stage.host, sheet);
+    RepaintWatch watch(stage.tool, stage.host, smallSheet);
     for (const MeasureGrip grip : {MeasureGrip::endA1, MeasureGrip::endB1, MeasureGrip::endA2}) {
         stage.hover(stage.gripAt(grip));
         EXPECT_EQ(watch.missed(), 0);
@@ -120,9 +114,9 @@ TEST(CtlMeasureRepaint, GrowthRepaintsTheGripAlone) {
 
 TEST(CtlMeasureRepaint, CoversEveryPixelThatASettingChanges) {
     Dice dice;
-    MeasureOnSheet stage(sheet);
+    MeasureOnSheet stage(smallSheet);
     ctlMeasure& tool = stage.tool;
-    RepaintWatch watch(tool, stage.host, sheet);
+    RepaintWatch watch(tool, stage.host, smallSheet);
     const std::vector<std::function<void()>> changes = {
         [&] { dress(stage, dice); },
         [&] { tool.setSelected(!tool.Selected()); },

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "modAPI/constants.h"
+#include "scene/pixelImages.h"
 
 namespace ormala {
 namespace {
@@ -13,14 +14,8 @@ namespace {
 constexpr std::uint32_t red = 0xFFFF0000;
 constexpr std::uint32_t blue = 0xFF0000FF;
 
-const GridFit unscaled(24, 2);
-
 std::vector<Contour> outlines(std::string_view path) {
-    return readOutlines(path, Turn::none, unscaled);
-}
-
-std::uint32_t pixelAt(const PixelImage& image, int x, int y) {
-    return image.argb[static_cast<std::size_t>(y * image.size.width + x)];
+    return readOutlines(path, Turn::none, GridFit(24, 2));
 }
 
 /// In pixels.
@@ -62,10 +57,10 @@ TEST(PictureRaster, ASideBelowOneGivesNoPixels) {
 TEST(PictureRaster, ARectangleOnPixelBordersIsSharp) {
     const PixelImage image = filled("R 4 5 9 8");
     EXPECT_DOUBLE_EQ(coverage(image), 15);
-    EXPECT_EQ(pixelAt(image, 4, 5), red);
-    EXPECT_EQ(pixelAt(image, 8, 7), red);
-    EXPECT_EQ(pixelAt(image, 9, 7), 0U);
-    EXPECT_EQ(pixelAt(image, 8, 8), 0U);
+    EXPECT_EQ(pixelAt(image, {4, 5}), red);
+    EXPECT_EQ(pixelAt(image, {8, 7}), red);
+    EXPECT_EQ(pixelAt(image, {9, 7}), 0U);
+    EXPECT_EQ(pixelAt(image, {8, 8}), 0U);
 }
 
 TEST(PictureRaster, ATriangleCoversHalfItsBox) {
@@ -88,9 +83,9 @@ TEST(PictureRaster, ALineHasItsWidthAndRoundEnds) {
 
 TEST(PictureRaster, AClosedLineComesBackToItsStart) {
     const PixelImage closed = stroked("R 4 4 20 20", 2);
-    EXPECT_EQ(pixelAt(closed, 3, 12), red);
+    EXPECT_EQ(pixelAt(closed, {3, 12}), red);
     const PixelImage open = stroked("M4 4L20 4L20 20L4 20", 2);
-    EXPECT_EQ(pixelAt(open, 3, 12), 0U);
+    EXPECT_EQ(pixelAt(open, {3, 12}), 0U);
 }
 
 TEST(PictureRaster, WhatIsDrawnReplacesWhatWasThere) {
@@ -99,16 +94,16 @@ TEST(PictureRaster, WhatIsDrawnReplacesWhatWasThere) {
     raster.fill(outlines("R 4 4 20 20"), blue);
     raster.fill(outlines("R 8 8 16 16"), 0);
     const PixelImage image = raster.reduced();
-    EXPECT_EQ(pixelAt(image, 0, 0), red);
-    EXPECT_EQ(pixelAt(image, 5, 5), blue);
-    EXPECT_EQ(pixelAt(image, 10, 10), 0U);
+    EXPECT_EQ(pixelAt(image, {0, 0}), red);
+    EXPECT_EQ(pixelAt(image, {5, 5}), blue);
+    EXPECT_EQ(pixelAt(image, {10, 10}), 0U);
 }
 
 TEST(PictureRaster, AnEdgeKeepsItsColorAndLosesOpacity) {
     PictureRaster raster({24, 24});
     const Contour half{{{0, 0}, {4.5, 0}, {4.5, 24}, {0, 24}}, true};
     raster.fill(std::span(&half, 1), red);
-    EXPECT_EQ(pixelAt(raster.reduced(), 4, 12), 0x80FF0000U);
+    EXPECT_EQ(pixelAt(raster.reduced(), {4, 12}), 0x80FF0000U);
 }
 
 TEST(PictureRaster, WhatReachesOutIsCutOff) {

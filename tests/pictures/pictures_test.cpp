@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include "scene/pixelImages.h"
+
 namespace ormala {
 namespace {
 
@@ -25,10 +27,6 @@ std::vector<Picture> allPictures() {
     return pictures;
 }
 
-std::uint32_t pixelAt(const PixelImage& image, int x, int y) {
-    return image.argb[static_cast<std::size_t>(y * image.size.width + x)];
-}
-
 /// Each pixel of `image` taken from its mirror image.
 PixelImage mirrored(PixelImage image) {
     for (int y = 0; y < image.size.height; ++y) {
@@ -43,7 +41,7 @@ PixelImage turnedClockwise(const PixelImage& image) {
     const int side = image.size.width;
     for (int y = 0; y < side; ++y) {
         for (int x = 0; x < side; ++x) {
-            turned.argb[static_cast<std::size_t>(y * side + x)] = pixelAt(image, y, side - 1 - x);
+            turned.argb[static_cast<std::size_t>(y * side + x)] = pixelAt(image, {y, side - 1 - x});
         }
     }
     return turned;
@@ -65,7 +63,7 @@ bool reddish(std::uint32_t argb) {
 int softPixelsOfRow(const PixelImage& image, int y) {
     int soft = 0;
     for (int x = 0; x < image.size.width; ++x) {
-        const int alpha = part(pixelAt(image, x, y), 24);
+        const int alpha = part(pixelAt(image, {x, y}), 24);
         soft += alpha > 0 && alpha < 255 ? 1 : 0;
     }
     return soft;
@@ -102,7 +100,7 @@ TEST(Pictures, APictureLiesInTheMiddleOfItsRoom) {
     for (int y = 0; y < 16; ++y) {
         for (int x = 0; x < 30; ++x) {
             const bool within = x >= 7 && x < 23;
-            EXPECT_EQ(pixelAt(image, x, y), within ? pixelAt(alone, x - 7, y) : 0U);
+            EXPECT_EQ(pixelAt(image, {x, y}), within ? pixelAt(alone, {x - 7, y}) : 0U);
         }
     }
 }
@@ -188,16 +186,16 @@ TEST(Pictures, TheArrowsAreOneArrowTurned) {
 
 TEST(Pictures, TheArrowToTheLeftPointsThere) {
     const PixelImage image = square(Picture::moveLeft, 24);
-    EXPECT_EQ(part(pixelAt(image, 4, 11), 24), 255);
-    EXPECT_EQ(part(pixelAt(image, 4, 6), 24), 0);
-    EXPECT_EQ(part(pixelAt(image, 10, 6), 24), 255);
-    EXPECT_EQ(part(pixelAt(image, 20, 6), 24), 0);
+    EXPECT_EQ(part(pixelAt(image, {4, 11}), 24), 255);
+    EXPECT_EQ(part(pixelAt(image, {4, 6}), 24), 0);
+    EXPECT_EQ(part(pixelAt(image, {10, 6}), 24), 255);
+    EXPECT_EQ(part(pixelAt(image, {20, 6}), 24), 0);
 }
 
 TEST(Pictures, ABorderThatMovesOutHasItsArrowOutside) {
     const PixelImage image = square(Picture::leftBorderLeft, 24);
-    EXPECT_GT(brightness(pixelAt(image, 5, 12)), 200);
-    EXPECT_EQ(pixelAt(image, 19, 12), 0U);
+    EXPECT_GT(brightness(pixelAt(image, {5, 12})), 200);
+    EXPECT_EQ(pixelAt(image, {19, 12}), 0U);
 }
 
 }  // namespace

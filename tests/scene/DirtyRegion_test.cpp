@@ -14,18 +14,6 @@ namespace {
 constexpr PixelSize sheet{500, 400};
 constexpr PixelRect area{0, 0, sheet.width, sheet.height};
 
-int paintedOutside(const RasterCanvas& canvas, const DirtyRegion& region) {
-    int outside = 0;
-    for (int y = 0; y < canvas.size().height; ++y) {
-        for (int x = 0; x < canvas.size().width; ++x) {
-            if (canvas.at(x, y) != RasterCanvas::empty && !region.meets({x, y, x + 1, y + 1})) {
-                ++outside;
-            }
-        }
-    }
-    return outside;
-}
-
 TEST(DirtyRegion, KeepsNoEmptyRectangles) {
     DirtyRegion region;
     region.add(PixelRect{5, 5, 5, 9});
@@ -72,7 +60,7 @@ TEST(DirtyRegion, StrokeCoversWhatItsPenPaints) {
         DrawSegment(canvas, pen, p1, p2);
         DirtyRegion region;
         region.addStroke(pen, p1, p2, area);
-        EXPECT_EQ(paintedOutside(canvas, region), 0)
+        EXPECT_EQ(canvas.paintedOutside(region), 0)
             << p1.x << ' ' << p1.y << ' ' << p2.x << ' ' << p2.y << " code " << pen.lineCode;
         EXPECT_LE(region.rects().size(), 10U);
     }
@@ -92,7 +80,7 @@ TEST(DirtyRegion, OutlineCoversTheOvalAndNotItsInside) {
         canvas.shape({ShapeKind::oval, box, 1, 1, std::nullopt});
         DirtyRegion region;
         region.addOutline(box, 1);
-        EXPECT_EQ(paintedOutside(canvas, region), 0) << box.width();
+        EXPECT_EQ(canvas.paintedOutside(region), 0) << box.width();
     }
     DirtyRegion region;
     region.addOutline({50, 40, 350, 340}, 1);
@@ -112,7 +100,7 @@ TEST(DirtyRegion, CloseOutlineCoversTheOvalInSmallPieces) {
             canvas.shape({ShapeKind::oval, box, 1, width, std::nullopt});
             DirtyRegion region;
             region.addOutlineClosely(box, width);
-            EXPECT_EQ(paintedOutside(canvas, region), 0) << box.width() << ", " << width;
+            EXPECT_EQ(canvas.paintedOutside(region), 0) << box.width() << ", " << width;
         }
     }
     DirtyRegion region;

@@ -25,7 +25,7 @@ GripSet gripsWithLine() {
     return GripSet(twoGrips(), {{1, 0, lineItem}, {}}, 1);
 }
 
-std::optional<int> hover(GripSet& grips, double x, double y) {
+std::optional<int> hoverOver(GripSet& grips, double x, double y) {
     DirtyRegion changed;
     return grips.update({x, y}, changed);
 }
@@ -54,14 +54,14 @@ TEST(GripSetOrder, OtherItemsLieBeneathTheGripsAtFirst) {
 
 TEST(GripSetOrder, GrowingGripBringsItsItemsForwardInTheirOrder) {
     GripSet grips = gripsWithLine();
-    hover(grips, 100, 100);
+    hoverOver(grips, 100, 100);
     EXPECT_EQ(order(grips), (std::vector<int>{1, 0, -1}));
     EXPECT_EQ(grips.restackings(), 1U);
 }
 
 TEST(GripSetOrder, GripWithoutItemsLeavesTheOrder) {
     GripSet grips = gripsWithLine();
-    hover(grips, 300, 100);
+    hoverOver(grips, 300, 100);
     EXPECT_TRUE(grips[1].grown());
     EXPECT_EQ(order(grips), (std::vector<int>{-1, 0, 1}));
     EXPECT_EQ(grips.restackings(), 0U);
@@ -69,9 +69,9 @@ TEST(GripSetOrder, GripWithoutItemsLeavesTheOrder) {
 
 TEST(GripSetOrder, WhatIsInFrontAlreadyIsNotMovedAgain) {
     GripSet grips = gripsWithLine();
-    hover(grips, 100, 100);
-    hover(grips, 700, 700);
-    hover(grips, 100, 100);
+    hoverOver(grips, 100, 100);
+    hoverOver(grips, 700, 700);
+    hoverOver(grips, 100, 100);
     EXPECT_EQ(grips.restackings(), 1U);
     EXPECT_EQ(order(grips), (std::vector<int>{1, 0, -1}));
 }
@@ -80,14 +80,14 @@ TEST(GripTags, HiddenGripIsOutOfEveryLoop) {
     GripSet grips(twoGrips());
     grips.setTag(0, GripTag::hidden);
     EXPECT_FALSE(grips.HitTest(100, 100));
-    EXPECT_FALSE(hover(grips, 100, 100));
+    EXPECT_FALSE(hoverOver(grips, 100, 100));
     RecordingCanvas canvas;
     grips.draw(canvas);
     EXPECT_EQ(canvas.calls.size(), 1U);
     DirtyRegion region;
     grips.addTo(region);
     EXPECT_EQ(region.rects().size(), 1U);
-    EXPECT_TRUE(hover(grips, 300, 100));
+    EXPECT_TRUE(hoverOver(grips, 300, 100));
 }
 
 TEST(GripTags, EditModeBringsNoHiddenGripBack) {

@@ -9,17 +9,10 @@
 
 #include "modAPI/rounding.h"
 #include "reference/ReferenceTable.h"
+#include "stencil/EnglishRatios.h"
 
 namespace ormala {
 namespace {
-
-std::string english(int, std::string_view defaultText) {
-    return std::string(defaultText);
-}
-
-SpecialRatios englishRatios() {
-    return {english, TextForm{}};
-}
 
 int nearest(double ratio) {
     bool inverted = false;
@@ -99,7 +92,7 @@ TEST(SnapToSpecialRatio, ComparesWithTheReference) {
 }
 
 TEST(SpecialRatios, ValuesFallFromOneToAFifth) {
-    const SpecialRatios ratios = englishRatios();
+    const SpecialRatios& ratios = englishRatios();
     EXPECT_EQ(ratios[0], 1);
     EXPECT_EQ(ratios[17], 0.2);
     for (int row = 1; row < specialRatioCount; ++row) {
@@ -108,7 +101,7 @@ TEST(SpecialRatios, ValuesFallFromOneToAFifth) {
 }
 
 TEST(SpecialRatioCaption, PutsTheUsageInBracketsIfWanted) {
-    const SpecialRatios ratios = englishRatios();
+    const SpecialRatios& ratios = englishRatios();
     EXPECT_EQ(ratios.SpecialRatioCaption(3, false, "  ", true),
               "3:4  (digital photo, TV, monitor)");
     EXPECT_EQ(ratios.SpecialRatioCaption(3, true, "\t", false), "4:3\tdigital photo, TV, monitor");
@@ -125,7 +118,7 @@ TEST(SpecialRatioCaption, IndexOutsideTheTableIsEmpty) {
 }
 
 TEST(SpecialRatioCaption, EveryRowIsThatOfTheTable) {
-    const SpecialRatios ratios = englishRatios();
+    const SpecialRatios& ratios = englishRatios();
     const std::vector<std::string> expected = {"1:1|square",
                                                "4:5",
                                                "8.5:11|letter",
@@ -153,7 +146,7 @@ TEST(SpecialRatioCaption, EveryRowIsThatOfTheTable) {
 }
 
 TEST(SpecialRatioCaption, InverseSwapsThePlainRatios) {
-    const SpecialRatios ratios = englishRatios();
+    const SpecialRatios& ratios = englishRatios();
     for (int row = 0; row < specialRatioCount; ++row) {
         if (row == 5 || row == 8) {
             continue;

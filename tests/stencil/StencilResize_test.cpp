@@ -12,6 +12,7 @@
 #include "modAPI/rectangles.h"
 #include "scene/Input.h"
 #include "stencil/DragTable.h"
+#include "stencil/EnglishRatios.h"
 #include "stencil/StencilTexts.h"
 #include "support/ManualLanguage.h"
 
@@ -20,12 +21,6 @@ namespace {
 
 using modifier::ctrl;
 using modifier::shift;
-
-const SpecialRatios& englishRatios() {
-    static const SpecialRatios ratios(
-        [](int, std::string_view defaultText) { return std::string(defaultText); }, TextForm{});
-    return ratios;
-}
 
 StencilState stencilAt(const Rect& rect, double angle = 0) {
     StencilState state;

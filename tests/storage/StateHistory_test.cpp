@@ -5,7 +5,7 @@
 namespace ormala {
 namespace {
 
-struct NumberTool {
+struct LoadCounter {
     int state = 0;
     int loads = 0;
     StateHistory<int> history{state, [this](const int& record) {
@@ -13,11 +13,11 @@ struct NumberTool {
                                   ++loads;
                               }};
 
-    NumberTool() { history.helper().Add(true); }
+    LoadCounter() { history.helper().Add(true); }
 };
 
 TEST(StateHistory, UndoAndRedoLoadTheRecords) {
-    NumberTool tool;
+    LoadCounter tool;
     tool.state = 5;
     EXPECT_TRUE(tool.history.helper().Add(false));
     tool.history.helper().Undo();
@@ -28,7 +28,7 @@ TEST(StateHistory, UndoAndRedoLoadTheRecords) {
 }
 
 TEST(StateHistory, EqualStateIsNoStep) {
-    NumberTool tool;
+    LoadCounter tool;
     EXPECT_FALSE(tool.history.helper().Add(false));
     tool.state = 5;
     tool.history.helper().Add(false);
@@ -37,7 +37,7 @@ TEST(StateHistory, EqualStateIsNoStep) {
 }
 
 TEST(StateHistory, KeepsAThousandStates) {
-    NumberTool tool;
+    LoadCounter tool;
     for (tool.state = 1; tool.state <= 1500; ++tool.state) {
         tool.history.helper().Add(false);
     }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "support/FakeToolHost.h"
 #include "support/RasterCanvas.h"
 
@@ -11,46 +9,15 @@ namespace ormala {
 class RepaintWatch {
   public:
     /// The tool lies on a sheet of that size.
-    RepaintWatch(const OverlayItem& tool, FakeToolHost& host, PixelSize sheet)
-        : tool_(tool), host_(host), sheet_(sheet), before_(picture()) {
-        host_.forget();
-    }
+    RepaintWatch(const OverlayItem& tool, FakeToolHost& host, PixelSize sheet);
 
     /// Pixels that differ since the last call and were not reported.
-    int missed() {
-        const RasterCanvas now = picture();
-        const int count = pixelsWhere([&](int x, int y, const PixelRect& pixel) {
-            return now.at(x, y) != before_.at(x, y) && !host_.repainted.meets(pixel);
-        });
-        before_ = now;
-        host_.forget();
-        return count;
-    }
-
+    int missed();
     /// Painted pixels beyond the footprint.
-    int beyondFootprint() {
-        const RasterCanvas now = picture();
-        return pixelsWhere([&](int x, int y, const PixelRect& pixel) {
-            return now.at(x, y) != RasterCanvas::empty && !tool_.footprint().meets(pixel);
-        });
-    }
+    [[nodiscard]] int beyondFootprint() const;
 
   private:
-    int pixelsWhere(const std::function<bool(int, int, const PixelRect&)>& wanted) const {
-        int count = 0;
-        for (int y = 0; y < sheet_.height; ++y) {
-            for (int x = 0; x < sheet_.width; ++x) {
-                count += wanted(x, y, {x, y, x + 1, y + 1}) ? 1 : 0;
-            }
-        }
-        return count;
-    }
-
-    [[nodiscard]] RasterCanvas picture() const {
-        RasterCanvas canvas(sheet_);
-        tool_.draw(canvas);
-        return canvas;
-    }
+    [[nodiscard]] RasterCanvas picture() const;
 
     const OverlayItem& tool_;
     FakeToolHost& host_;

@@ -7,7 +7,7 @@
 namespace ormala {
 namespace {
 
-Color sampleSystemColor(int index) {
+Color greyOfIndex(int index) {
     return rgb(index, index, index);
 }
 
@@ -16,7 +16,7 @@ PixelImage drawn(PixelSize size, int orientation = 1) {
     design.ColorTopLeft = rgb(10, 0, 0);
     design.ColorBottomRight = rgb(50, 0, 200);
     design.Orientation = orientation;
-    return gradientImage(design, size, &sampleSystemColor);
+    return gradientImage(design, size, &greyOfIndex);
 }
 
 TEST(gradientImage, PanelOneLineHighShowsColorTopLeftAlone) {
@@ -42,7 +42,7 @@ TEST(gradientImage, AnyOtherOrientationRunsFromLeftToRight) {
 }
 
 TEST(gradientImage, StartsWithHighlightAndShadowOfTheSystem) {
-    const PixelImage image = gradientImage({}, {1, 2}, &sampleSystemColor);
+    const PixelImage image = gradientImage({}, {1, 2}, &greyOfIndex);
     EXPECT_EQ(image.argb, (std::vector<std::uint32_t>{0xFF141414U, 0xFF101010U}));
 }
 
@@ -51,7 +51,7 @@ TEST(gradientImage, ReduceStrengthensTheFirstColour) {
     design.ColorTopLeft = rgb(100, 100, 100);
     design.ColorBottomRight = rgb(200, 200, 200);
     design.Reduce = 50;
-    EXPECT_EQ(gradientImage(design, {1, 2}, &sampleSystemColor).argb,
+    EXPECT_EQ(gradientImage(design, {1, 2}, &greyOfIndex).argb,
               (std::vector<std::uint32_t>{0xFFC8C8C8U, 0xFF646464U}));
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "support/RasterCanvas.h"
+#include "support/mouseInput.h"
 
 namespace ormala {
 namespace {
@@ -17,10 +18,6 @@ constexpr Color white = 0xFFFFFF;
 constexpr Color brightGreen = rgb(0, 255, 0);
 constexpr Color darkGreen = rgb(0, 127, 0);
 constexpr PixelSize sheet{700, 700};
-
-MouseInput at(int button, float x, float y) {
-    return {button, 0, x, y};
-}
 
 RasterCanvas drawing(const CircleCompass& compass) {
     RasterCanvas canvas(sheet);

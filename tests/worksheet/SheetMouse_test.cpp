@@ -1,13 +1,10 @@
 #include "worksheet/SheetMouse.h"
 
+#include "support/mouseInput.h"
 #include "worksheet/SheetFixture.h"
 
 namespace ormala {
 namespace {
-
-MouseInput at(int button, float x, float y) {
-    return {button, 0, x, y};
-}
 
 /// A stencil at the left, a measurement over its right half, and free background from x = 200 on.
 class SheetMouseTest : public SheetMouseFixture {

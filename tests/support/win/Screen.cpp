@@ -95,20 +95,21 @@ Color pixel(ScreenPoint point) {
 
 Picture waitUntilStill(const ScreenRect& rect, milliseconds quiet, milliseconds deadline) {
     using Clock = std::chrono::steady_clock;
+    // Often enough to see a movement; each look at the screen is work for the display.
+    constexpr milliseconds interval{25};
     Picture last = capture(rect);
     auto changed = Clock::now();
-    const bool still = waitUntil(
-        [&] {
-            Picture now = capture(rect);
-            if (now != last) {
-                last = std::move(now);
-                changed = Clock::now();
-            }
-            return Clock::now() - changed >= quiet;
-        },
-        deadline);
-    if (!still) {
-        throw std::runtime_error("the screen does not come to rest");
+    const auto end = changed + deadline;
+    while (Clock::now() - changed < quiet) {
+        if (Clock::now() >= end) {
+            throw std::runtime_error("the screen does not come to rest");
+        }
+        pause(interval);
+        Picture now = capture(rect);
+        if (now != last) {
+            last = std::move(now);
+            changed = Clock::now();
+        }
     }
     return last;
 }
