@@ -10,8 +10,8 @@ namespace ormala {
 
 namespace {
 
-constexpr Color documentColor = 0xC0FFFF;
-constexpr Color noDocumentColor = 0;
+constexpr Color documentColor = dark::quietText;
+constexpr Color noDocumentColor = plain::black;
 
 constexpr char upperCase(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;

@@ -5,7 +5,7 @@
 #include "app/BusyView.h"
 #include "app/ToolFile.h"
 #include "app/ToolList.h"
-#include "modAPI/colors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
@@ -23,9 +23,7 @@ struct PathLine {
 
 /// A ground on which a path line of that colour can be read.
 constexpr Color groundOfPathLine(Color text) {
-    constexpr Color lit = rgb(128, 128, 128);
-    constexpr Color window = 0x606060;
-    return text == 0 ? lit : window;
+    return text == plain::black ? dark::litPathLine : dark::ground;
 }
 
 /// What the documents ask and show.

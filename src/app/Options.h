@@ -3,7 +3,7 @@
 #include <string>
 
 #include "magnifier/LensOptions.h"
-#include "modAPI/colors.h"
+#include "modAPI/drawingColors.h"
 #include "scene/Mode.h"
 #include "storage/INIFile.h"
 #include "toolkit/MeasureUnits.h"
@@ -25,7 +25,7 @@ struct Options {
     int editModeFormHeight = 0;
     /// Of new measuring tools. The file holds the factor as a whole number.
     MeasureUnits defaultUnits;
-    Color worksheetColor = 0x4F4F4F;
+    Color worksheetColor = firstColor::worksheet;
     AidOptions aids;
     bool lensVisible = false;
     LensOptions lens;

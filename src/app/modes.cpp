@@ -5,6 +5,7 @@
 
 #include "app/version.h"
 #include "language/MlStringModule.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
@@ -28,7 +29,7 @@ std::string nameOfMode(Mode mode) {
 }
 
 Color colorOfToggle(bool on) {
-    return on ? rgb(187, 168, 0) : rgb(112, 112, 112);
+    return on ? dark::on : dark::off;
 }
 
 ModeWindows windowsOfMode(Mode mode, bool maxSized, bool withBorder) {

@@ -47,7 +47,7 @@ char32_t nextPoint(std::string_view text, std::size_t& at) {
         }
         point = (point << 6U) | (static_cast<unsigned char>(text[at++]) & 0x3FU);
     }
-    const bool valid = point >= smallest[length] && point <= 0x10FFFF && !isSurrogate(point);
+    const bool valid = point >= smallest[length] && point <= 0x10FFFFU && !isSurrogate(point);
     return valid ? point : replacement;
 }
 

@@ -4,14 +4,13 @@
 #include <cstddef>
 #include <string_view>
 
+#include "modAPI/drawingColors.h"
 #include "scene/Input.h"
 
 namespace ormala {
 
 namespace {
 
-constexpr Color black = rgb(0, 0, 0);
-constexpr Color white = rgb(255, 255, 255);
 constexpr int largestFactor = 100;
 constexpr float dimmest = 0.5F;
 
@@ -43,11 +42,11 @@ int fieldAtPlace(int place, int fields, int length) {
 }  // namespace
 
 ColorPicModel::ColorPicModel() : blinkColors_(blinkTable()) {
-    setRGBColor(black);
+    setRGBColor(plain::black);
 }
 
 void ColorPicModel::setRGBColor(Color color) {
-    rgbColor_ = std::clamp(color, black, white);
+    rgbColor_ = std::clamp(color, plain::black, plain::white);
     field_ = palette().nearest(rgbColor_);
 }
 
@@ -103,7 +102,7 @@ Color ColorPicModel::markColor() const {
     if (hasFocus_) {
         return blinkColors_[blinkIndex_];
     }
-    return Luminance(palette().at(field_)) < dimmest ? white : black;
+    return Luminance(palette().at(field_)) < dimmest ? plain::white : plain::black;
 }
 
 void ColorPicModel::press(PixelPoint point) {

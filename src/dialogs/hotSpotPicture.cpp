@@ -4,14 +4,12 @@
 #include <cstdlib>
 #include <optional>
 
+#include "modAPI/drawingColors.h"
 #include "scene/pixelImages.h"
 
 namespace ormala {
 
 namespace {
-
-constexpr Color ink = rgb(40, 40, 40);
-constexpr Color paper = rgb(235, 235, 235);
 
 constexpr int sideOfOneLine = 16;
 
@@ -93,7 +91,7 @@ void drawMark(PixelImage& image, const PixelRect& field, const Parts& parts,
             const int fromMiddleX = std::abs(2 * x + 1 - field.left - field.right);
             const int fromMiddleY = std::abs(2 * y + 1 - field.top - field.bottom);
             if (isMarked(parts, fromMiddleX, fromMiddleY, measures)) {
-                fillBox(image, {x, y, x + 1, y + 1}, opaquePixel(ink));
+                fillBox(image, {x, y, x + 1, y + 1}, opaquePixel(pictureInk::ink));
             }
         }
     }
@@ -110,7 +108,7 @@ PixelImage drawHotSpotPicture(int style, PixelSize size) {
     const int left = (size.width - measures.side) / 2;
     const int top = (size.height - measures.side) / 2;
     const PixelRect field{left, top, left + measures.side, top + measures.side};
-    fillBox(image, field, opaquePixel(paper));
+    fillBox(image, field, opaquePixel(pictureInk::paper));
     if (const auto parts = partsOf(style)) {
         drawMark(image, field, *parts, measures);
     }

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstddef>
 
+#include "modAPI/drawingColors.h"
 #include "scene/pixelImages.h"
 
 namespace ormala {
@@ -64,11 +65,11 @@ struct FirstColor {
 };
 
 constexpr std::array firstColors{
-    FirstColor{{3, 6}, rgb(255, 159, 0)},    FirstColor{{12, 8}, rgb(0, 191, 191)},
-    FirstColor{{8, 8}, rgb(0, 191, 0)},      FirstColor{{4, 9}, rgb(127, 127, 0)},
-    FirstColor{{19, 6}, rgb(180, 0, 255)},   FirstColor{{0, 2}, rgb(255, 127, 127)},
-    FirstColor{{15, 2}, rgb(127, 176, 255)}, FirstColor{{24, 6}, rgb(125, 125, 125)},
-    FirstColor{{24, 3}, rgb(191, 191, 191)},
+    FirstColor{{3, 6}, firstColor::tools[0]},  FirstColor{{12, 8}, firstColor::tools[1]},
+    FirstColor{{8, 8}, firstColor::tools[3]},  FirstColor{{4, 9}, firstColor::tools[6]},
+    FirstColor{{19, 6}, firstColor::tools[7]}, FirstColor{{0, 2}, firstColor::tools[8]},
+    FirstColor{{15, 2}, firstColor::tools[9]}, FirstColor{{24, 6}, firstColor::backgroundGrid},
+    FirstColor{{24, 3}, firstColor::lensGrid},
 };
 
 Palette huesByLightness() {

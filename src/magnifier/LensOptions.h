@@ -1,6 +1,6 @@
 #pragma once
 
-#include "modAPI/colors.h"
+#include "modAPI/drawingColors.h"
 
 namespace ormala {
 
@@ -15,13 +15,13 @@ struct LensOptions {
     bool sticked = false;
     bool cursorOn = true;
     bool hotSpotOn = true;
-    Color hotSpotColor = rgb(0, 0, 255);
+    Color hotSpotColor = firstColor::lensMark;
     /// 0 to 7; any other value draws no shape.
     int hotSpotStyle = 2;
     /// Raster operations of the pen on the picture, as the system numbers them.
     int hotSpotDrawMode = 9;
     bool gridOn = true;
-    Color gridColor = rgb(191, 191, 191);
+    Color gridColor = firstColor::lensGrid;
     int gridDrawMode = 9;
     /// The scales at the top and at the left, and those at the bottom and at the right.
     bool topScales = true;

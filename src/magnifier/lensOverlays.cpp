@@ -77,11 +77,11 @@ void addOpenDiagonals(MarkShape& shape, const MarkPlace& p) {
 std::optional<Color> fixedPen(LensOverlay overlay, int mode) {
     switch (mode) {
         case drawMode::exclusive:
-            return rgb(31, 31, 31);
+            return lensPen::exclusive;
         case drawMode::restrained:
-            return overlay == LensOverlay::mark ? rgb(192, 192, 192) : rgb(239, 239, 239);
+            return overlay == LensOverlay::mark ? lensPen::restrainedMark : lensPen::restrainedGrid;
         case drawMode::brightened:
-            return rgb(63, 63, 63);
+            return lensPen::brightened;
         default:
             return std::nullopt;
     }

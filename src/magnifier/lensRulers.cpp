@@ -3,17 +3,16 @@
 #include <algorithm>
 
 #include "scene/pixelImages.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
 namespace {
 
-constexpr Color lightEnd = rgb(104, 104, 104);
+constexpr Color lightEnd = dark::liftedGround;
 /// The scale at the left begins darker.
-constexpr Color lightEndAtLeft = rgb(96, 96, 96);
-constexpr Color darkEnd = rgb(74, 74, 74);
-constexpr Color ink = rgb(255, 230, 0);
-constexpr Color quietInk = rgb(128, 119, 38);
+constexpr Color lightEndAtLeft = dark::ground;
+constexpr Color darkEnd = dark::fieldGround;
 
 constexpr int ten = 10;
 
@@ -28,9 +27,9 @@ Color stepColor(int step, int steps, Color from, Color to) {
 
 /// The pens of all scales, made once for a drawing.
 struct RulerPens {
-    std::uint32_t inkPixel = opaquePixel(ink);
+    std::uint32_t inkPixel = opaquePixel(dark::text);
     RasterPen tick{inkPixel};
-    RasterPen toEdge{opaquePixel(quietInk)};
+    RasterPen toEdge{opaquePixel(dark::quietScaleInk)};
     RasterPen shadow{opaquePixel(darkEnd)};
 };
 

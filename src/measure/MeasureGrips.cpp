@@ -1,5 +1,6 @@
 #include "measure/MeasureGrips.h"
 
+#include "modAPI/drawingColors.h"
 #include "modAPI/transforms.h"
 
 namespace ormala {
@@ -16,31 +17,27 @@ constexpr int item(MeasureStroke stroke) {
 
 struct GripLook {
     ShapeKind kind;
-    /// The border with the focus, and the colour of the reference line.
-    Color strong;
-    Color pale;
+    /// The strong one is the border with the focus, and the colour of the reference line.
+    GripColors colors;
 };
 
 GripLook lookOf(MeasureGrip grip) {
-    constexpr Color blue = rgb(0, 15, 255);
-    constexpr Color paleBlue = rgb(128, 128, 255);
-    constexpr Color red = rgb(255, 0, 0);
-    constexpr Color paleRed = rgb(255, 128, 128);
+    using namespace sheetColor;
     switch (grip) {
         case MeasureGrip::endA1:
         case MeasureGrip::endA2:
-            return {ShapeKind::oval, blue, paleBlue};
+            return {ShapeKind::oval, lineAGrip};
         case MeasureGrip::endB1:
         case MeasureGrip::endB2:
-            return {ShapeKind::oval, red, paleRed};
+            return {ShapeKind::oval, lineBGrip};
         case MeasureGrip::centerA:
-            return {ShapeKind::rectangle, blue, paleBlue};
+            return {ShapeKind::rectangle, lineAGrip};
         case MeasureGrip::centerB:
-            return {ShapeKind::rectangle, red, paleRed};
+            return {ShapeKind::rectangle, lineBGrip};
         case MeasureGrip::intersect:
             break;
     }
-    return {ShapeKind::rectangle, rgb(191, 0, 255), rgb(225, 136, 255)};
+    return {ShapeKind::rectangle, crossingGrip};
 }
 
 Grip makeGrip(MeasureGrip which) {
@@ -49,10 +46,10 @@ Grip makeGrip(MeasureGrip which) {
     const auto side = static_cast<float>(grip.size);
     grip.box = {0, 0, side, side, look.kind == ShapeKind::oval};
     grip.kind = look.kind;
-    grip.color = look.pale;
-    grip.pressedColor = look.pale;
-    grip.focusBorder = look.strong;
-    grip.selectedBorder = look.pale;
+    grip.color = look.colors.pale;
+    grip.pressedColor = look.colors.pale;
+    grip.focusBorder = look.colors.strong;
+    grip.selectedBorder = look.colors.pale;
     return grip;
 }
 

@@ -7,6 +7,7 @@
 #include "measure/LabelAnchors.h"
 #include "modAPI/angles.h"
 #include "modAPI/constants.h"
+#include "modAPI/drawingColors.h"
 #include "modAPI/transforms.h"
 #include "scene/Grip.h"
 
@@ -26,12 +27,12 @@ namespace {
 
 /// The circle's diameter at 96 DPI.
 constexpr int circleSize = 61;
-constexpr Pen circlePen{rgb(225, 136, 255), 0};
+constexpr Pen circlePen{sheetColor::crossingGrip.pale, 0};
 
 /// A light colour is unreadable on the white halo.
 Color readable(Color line) {
     constexpr float light = 0.6F;
-    return line >= 0 && Luminance(line) >= light ? rgb(0, 0, 0) : line;
+    return line >= 0 && Luminance(line) >= light ? plain::black : line;
 }
 
 void write(ctlLabel& label, std::string text, bool visible, const TextMeter& meter) {

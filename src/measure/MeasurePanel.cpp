@@ -4,7 +4,7 @@
 
 #include "language/MlStringModule.h"
 #include "measure/MeasureReadOuts.h"
-#include "widgets/captionColors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
@@ -15,8 +15,6 @@ constexpr int solidOnePixel = 2;
 // Of a measuring tool whose keys are missing in its file.
 constexpr Line fileLineA{50, 10, 50, 50};
 constexpr Line fileLineB{10, 50, 50, 60};
-constexpr Color fileColorA = 0xFF0000;
-constexpr Color fileColorB = 0x0000FF;
 
 /// The keys of a line's ends begin with its letter.
 using LineKeys = std::array<const char*, 4>;
@@ -38,7 +36,7 @@ bool visitLine(ToolKeys& visitor, const LineKeys& keys, const Line& line) {
 }
 
 constexpr ButtonLook switchLook(bool on) {
-    return {on ? onColor : offColor, on, std::nullopt};
+    return {on ? dark::on : dark::off, on, std::nullopt};
 }
 
 }  // namespace
@@ -119,8 +117,8 @@ void MeasurePanel::LoadFromFile(INIFile& file) {
     const ToolChanges changes(tool_);
     loadLines(file);
     setLineWidth(file.LongValue("LineWidth", solidOnePixel));
-    setColorA(file.LongValue("ColorA", fileColorA));
-    setColorB(file.LongValue("ColorB", fileColorB));
+    setColorA(file.LongValue("ColorA", missingColor::lineA));
+    setColorB(file.LongValue("ColorB", missingColor::lineB));
     const MeasureUnits missing;
     tool_.setAngleMode(file.LongValue("AngleMode", missing.AngleMode));
     tool_.setLengthMode(file.LongValue("LengthMode", missing.LengthMode));

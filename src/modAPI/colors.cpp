@@ -3,15 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "modAPI/drawingColors.h"
+
 namespace ormala {
 
 namespace {
-
-constexpr std::array<Color, 12> toolColors = {
-    rgb(255, 159, 0),   rgb(0, 191, 191),   rgb(255, 0, 255),   rgb(0, 191, 0),
-    rgb(0, 0, 255),     rgb(255, 0, 0),     rgb(127, 127, 0),   rgb(180, 0, 255),
-    rgb(255, 127, 127), rgb(127, 176, 255), rgb(125, 125, 125), rgb(212, 212, 212),
-};
 
 constexpr int lastColorHandedOut = 9;
 constexpr int firstColorOfMeasures = 4;
@@ -69,7 +65,7 @@ Color ToolColors::NextDefaultToolColor(int kind, bool reset) {
     const int first = kind == 1 ? firstColorOfMeasures : 0;
     const int index = counter + first;
     counter = index + 1 > lastColorHandedOut ? -first : counter + 1;
-    return toolColors.at(static_cast<std::size_t>(index));
+    return firstColor::tools.at(static_cast<std::size_t>(index));
 }
 
 }  // namespace ormala

@@ -1,16 +1,14 @@
 #include "pictures/linePicture.h"
 
 #include <algorithm>
-#include <cstddef>
 
+#include "modAPI/drawingColors.h"
 #include "scene/Canvas.h"
+#include "scene/pixelImages.h"
 
 namespace ormala {
 
 namespace {
-
-constexpr std::uint32_t white = 0xFFFFFFFF;
-constexpr std::uint32_t black = 0xFF000000;
 
 /// Pixels drawn and pixels left out, short enough to be told apart in a narrow picture.
 struct Rhythm {
@@ -31,8 +29,7 @@ PixelImage drawLinePicture(int lineCode, PixelSize size) {
     if (size.width < 1 || size.height < 1) {
         return {};
     }
-    const auto width = static_cast<std::size_t>(size.width);
-    PixelImage image{size, std::vector(width * static_cast<std::size_t>(size.height), white)};
+    PixelImage image = filledImage(size, opaquePixel(plain::white));
     const int lineWidth = std::min(Pen{0, lineCode}.width(), size.height);
     const int top = (size.height - lineWidth) / 2;
     const int margin = size.width / 8;
@@ -40,8 +37,7 @@ PixelImage drawLinePicture(int lineCode, PixelSize size) {
     for (int y = top; y < top + lineWidth; ++y) {
         for (int x = margin; x < size.width - margin; ++x) {
             if ((x - margin) % (rhythm.on + rhythm.off) < rhythm.on) {
-                image.argb[static_cast<std::size_t>(y) * width + static_cast<std::size_t>(x)] =
-                    black;
+                fillBox(image, {x, y, x + 1, y + 1}, opaquePixel(plain::black));
             }
         }
     }

@@ -4,33 +4,40 @@
 #include <cmath>
 #include <cstddef>
 
+#include "modAPI/drawingColors.h"
 #include "pictures/PictureRaster.h"
 #include "pictures/pictureTable.h"
+#include "scene/pixelImages.h"
 
 namespace ormala {
 
 namespace {
 
+std::uint32_t halfOpaque(Color color) {
+    constexpr std::uint32_t upperHalf = 0x7F000000U;
+    return opaquePixel(color) & ~upperHalf;
+}
+
 std::uint32_t argbOf(Ink ink) {
     switch (ink) {
         case Ink::ink:
-            return 0xFF282828;
+            return opaquePixel(pictureInk::ink);
         case Ink::paper:
-            return 0xFFEBEBEB;
+            return opaquePixel(pictureInk::paper);
         case Ink::shade:
-            return 0xFFA8A8A8;
+            return opaquePixel(pictureInk::shade);
         case Ink::veil:
-            return 0x80EBEBEB;
+            return halfOpaque(pictureInk::paper);
         case Ink::accent:
-            return 0xFFFFE600;
+            return opaquePixel(pictureInk::accent);
         case Ink::red:
-            return 0xFFC83C28;
+            return opaquePixel(pictureInk::red);
         case Ink::plate:
-            return 0xFF585858;
+            return opaquePixel(pictureInk::plate);
         case Ink::frame:
-            return 0xFFBBA800;
+            return opaquePixel(pictureInk::frame);
         case Ink::quiet:
-            return 0xFF877A14;
+            return opaquePixel(pictureInk::quiet);
         case Ink::hole:
             break;
     }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "modAPI/angles.h"
+#include "modAPI/drawingColors.h"
 
 namespace ormala {
 
@@ -13,7 +14,6 @@ namespace {
 constexpr int pressedBorder = 3;
 constexpr int restingBorder = 1;
 constexpr double farAway = 9999;
-constexpr Color unselectedBorder = rgb(191, 191, 191);
 
 }  // namespace
 
@@ -148,7 +148,7 @@ void GripSet::setTag(int index, GripTag tag) {
 
 void GripSet::setBorderColors(bool focus, bool selected) {
     for (Grip& grip : grips_) {
-        const Color unfocused = selected ? grip.selectedBorder : unselectedBorder;
+        const Color unfocused = selected ? grip.selectedBorder : sheetColor::quietGripEdge;
         grip.borderColor = focus ? grip.focusBorder : unfocused;
     }
 }

@@ -2,6 +2,7 @@
 
 #include "modAPI/angles.h"
 #include "modAPI/constants.h"
+#include "modAPI/drawingColors.h"
 #include "modAPI/rectangles.h"
 #include "modAPI/transforms.h"
 #include "scene/strokes.h"
@@ -24,9 +25,8 @@ constexpr int endAt = 33;
 /// The divisor of the first move; it falls by one at each, so that the picture speeds up.
 constexpr double slowest = 18.5;
 
-constexpr Color ink = rgb(40, 40, 40);
-constexpr Color paper = rgb(235, 235, 235);
-constexpr Color pressedButton = rgb(255, 128, 0);
+using pictureInk::ink;
+using pictureInk::paper;
 
 void drawMouse(Canvas& canvas, PixelPoint at, bool buttonDown) {
     const PixelRect body{at.x + 2, at.y + 2, at.x + 32, at.y + 42};
@@ -38,7 +38,7 @@ void drawMouse(Canvas& canvas, PixelPoint at, bool buttonDown) {
                       {body.left, body.top, middle + 1, split + 1},
                       ink,
                       2,
-                      pressedButton});
+                      sheetColor::pressedMouseButton});
     }
     const Pen pen{ink, arrowLineCode};
     canvas.line(pen, {body.left + 2, split}, {body.right - 2, split});

@@ -1,5 +1,6 @@
 #include "stencil/StencilGrips.h"
 
+#include "modAPI/drawingColors.h"
 #include "modAPI/transforms.h"
 
 namespace ormala {
@@ -10,19 +11,17 @@ namespace {
 /// share of half the diagonal which is left.
 constexpr double rotateGripShare = 0.14644660940672624;
 
-constexpr Color designBorder = rgb(200, 200, 200);
-
-Grip makeGrip(int size, ShapeKind kind, Color color, Color pressed) {
+Grip makeGrip(int size, ShapeKind kind, const GripColors& colors) {
     Grip grip;
     const auto side = static_cast<float>(size);
     grip.box = {0, 0, side, side, kind == ShapeKind::oval};
     grip.size = size;
     grip.kind = kind;
-    grip.color = color;
-    grip.pressedColor = pressed;
-    grip.borderColor = designBorder;
-    grip.focusBorder = rgb(0, 0, 0);
-    grip.selectedBorder = pressed;
+    grip.color = colors.pale;
+    grip.pressedColor = colors.strong;
+    grip.borderColor = sheetColor::stencilGripEdge;
+    grip.focusBorder = plain::black;
+    grip.selectedBorder = colors.strong;
     return grip;
 }
 
@@ -85,20 +84,17 @@ std::vector<Grip> makeStencilGrips() {
     constexpr int sideSize = 9;
     std::vector<Grip> grips;
     grips.reserve(stencilGripCount);
-    grips.push_back(
-        makeGrip(moveSize, ShapeKind::roundedRectangle, rgb(255, 224, 192), rgb(255, 128, 0)));
+    using namespace sheetColor;
+    grips.push_back(makeGrip(moveSize, ShapeKind::roundedRectangle, moveGrip));
     for (int side = 0; side < 4; ++side) {
         const bool right = side == 1;
-        grips.push_back(makeGrip(sideSize, ShapeKind::rectangle,
-                                 right ? rgb(255, 192, 192) : rgb(255, 255, 128),
-                                 right ? rgb(255, 128, 128) : rgb(221, 221, 0)));
+        grips.push_back(makeGrip(sideSize, ShapeKind::rectangle, right ? rightGrip : sideGrip));
     }
     for (int corner = 0; corner < 4; ++corner) {
-        grips.push_back(
-            makeGrip(sideSize, ShapeKind::rectangle, rgb(192, 255, 192), rgb(0, 225, 0)));
+        grips.push_back(makeGrip(sideSize, ShapeKind::rectangle, cornerGrip));
     }
     for (int corner = 0; corner < 4; ++corner) {
-        grips.push_back(makeGrip(sideSize, ShapeKind::oval, rgb(192, 255, 255), rgb(0, 192, 192)));
+        grips.push_back(makeGrip(sideSize, ShapeKind::oval, rotateGrip));
     }
     return grips;
 }

@@ -7,7 +7,7 @@
 #include "stencil/PatternTable.h"
 #include "stencil/StencilReadOuts.h"
 #include "stencil/StencilSteps.h"
-#include "widgets/captionColors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
@@ -17,12 +17,8 @@ constexpr int solidOnePixel = 2;
 
 // Of a stencil whose keys are missing in its file.
 constexpr Rect fileRect{10, 10, 80, 60};
-constexpr Color fileColor = 0xFFFF00;
 constexpr int fileFirstPattern = 6;
 constexpr int noPattern = -1;
-
-constexpr Color pictureBack = rgb(104, 104, 104);
-constexpr Color pictureInk = rgb(0, 0, 0);
 
 /// The keys of a pattern slot, counted from 1.
 std::string patternKey(std::size_t slot) {
@@ -183,14 +179,15 @@ void StencilPanel::changed() {
 }
 
 PixelImage StencilPanel::patternPicture(PixelSize size, int lineWidth) const {
-    return GetPatternPicture(tool_.PatternList(), size, pictureBack, pictureInk, lineWidth);
+    return GetPatternPicture(tool_.PatternList(), size, dark::liftedGround, plain::black,
+                             lineWidth);
 }
 
 void StencilPanel::LoadFromFile(INIFile& file) {
     const ToolChanges changes(tool_);
     tool_.setRectBound(rectValue(file));
     tool_.setRotationAngle(finiteValue(file, "RotationAngle", 0));
-    setColor(file.LongValue("Color", fileColor));
+    setColor(file.LongValue("Color", missingColor::stencil));
     setLineWidth(file.LongValue("LineWidth", solidOnePixel));
     PatternList patterns = tool_.PatternList();
     for (std::size_t slot = 0; slot < patterns.size(); ++slot) {
@@ -251,7 +248,7 @@ std::vector<ControlText> StencilPanel::texts() const {
 }
 
 ButtonLook StencilPanel::pauseLook() const {
-    return {Pause() ? offColor : onColor, Pause()};
+    return {Pause() ? dark::off : dark::on, Pause()};
 }
 
 std::string StencilPanel::removeText() const {

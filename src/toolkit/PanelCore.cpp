@@ -3,8 +3,8 @@
 namespace ormala {
 
 ButtonLook colorButtonLook(Color color) {
-    constexpr float dark = 0.2F;
-    return {color, false, Luminance(color) >= dark ? rgb(0, 0, 0) : rgb(255, 255, 255)};
+    constexpr float dim = 0.2F;
+    return {color, false, Luminance(color) >= dim ? plain::black : plain::white};
 }
 
 PanelCore::PanelCore(OverlayItem& item, ToolEvents& events, HistoryHelper& history,

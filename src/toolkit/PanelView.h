@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "modAPI/colors.h"
 #include "pictures/pictures.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
@@ -32,9 +32,10 @@ struct PanelLook {
     bool operator==(const PanelLook&) const = default;
 };
 
-inline constexpr PanelLook unselectedLook{0x606060, rgb(255, 255, 192), rgb(31, 31, 31), 0x606060,
-                                          0x606060};
-inline constexpr PanelLook selectedLook{0x4A4A4A, rgb(255, 230, 0), 0x4A4A4A, 0x4A4A4A, 0x4A4A4A};
+inline constexpr PanelLook unselectedLook{dark::ground, dark::quietText, dark::deepestEdge,
+                                          dark::ground, dark::ground};
+inline constexpr PanelLook selectedLook{dark::selectedGround, dark::text, dark::selectedGround,
+                                        dark::selectedGround, dark::selectedGround};
 
 /// A button that shows a colour or a state.
 struct ButtonLook {

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "modAPI/drawingColors.h"
 #include "modAPI/placing.h"
 #include "modAPI/points.h"
 #include "scene/Canvas.h"
@@ -47,7 +48,7 @@ class ctlLabel {
     int fontSize_ = 8;
     ormala::Alignment alignment_ = ormala::Alignment::left;
     Color foreColor_ = 0;
-    Color backColor_ = 0xFFFFFF;
+    Color backColor_ = plain::white;
     bool visible_ = false;
     PixelRect box_;
     /// Letters may be drawn a little beyond the width that they are measured with.

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "widgets/systemColors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
@@ -24,8 +24,8 @@ struct ButtonDesign {
     /// Only style 1 has a focus rectangle; style 2 marks the focus on its face.
     bool ShowFocusRect = true;
     /// The marks of focus and hover, for a button without `XPDefaultColors`.
-    Color XPColor_Pressed = 0x808080;
-    Color XPColor_Hover = 0xC0C0C0;
+    Color XPColor_Pressed = plainPressMark;
+    Color XPColor_Hover = plainHoverMark;
     bool XPDefaultColors = true;
     Color BackColor = systemButtonFace;
     Color ForeColor = systemButtonText;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 
 namespace ormala {
 
@@ -17,12 +18,23 @@ class ListChoice {
     }
     /// The user goes on typing above the open list.
     void typed() { row_.reset(); }
-    /// The user has gone to a row or clicked it.
-    void reached(int row) { row_ = row; }
+    /// The user has gone to a row or clicked it. False if that was without the list.
+    bool reached(int row) {
+        const bool ofList = open_ || settling_;
+        if (ofList) {
+            row_ = row;
+        }
+        return ofList;
+    }
     /// The user has taken the row, or has left the list without.
     void ended(bool taken) { taken_ = taken; }
-    /// The list is gone. A row may still be told of after that.
-    void closed() { open_ = false; }
+    /// The list is gone. A row may still be told of until all has settled.
+    void closed() {
+        open_ = false;
+        settling_ = true;
+    }
+    /// Once all has been told. False if another list has come up since, or none has closed.
+    bool settle() { return std::exchange(settling_, false); }
 
     /// The row that the user has taken, nothing if all stays as it was.
     [[nodiscard]] std::optional<int> chosen() const { return taken_ ? row_ : std::nullopt; }
@@ -30,6 +42,7 @@ class ListChoice {
   private:
     bool open_ = false;
     bool taken_ = false;
+    bool settling_ = false;
     std::optional<int> row_;
 };
 

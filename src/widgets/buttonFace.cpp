@@ -16,10 +16,6 @@ namespace {
 constexpr int flatStyle = 1;
 constexpr int shadedStyle = 2;
 
-constexpr Color outlineColor = rgb(64, 64, 64);
-constexpr Color hoverMark = rgb(225, 153, 71);
-constexpr Color focusMark = rgb(140, 170, 230);
-
 /// What is added to the back colour at the two ends of the face.
 constexpr int raisedTop = 48;
 constexpr int raisedBottom = -24;
@@ -78,10 +74,10 @@ FaceColors shadedColors(const ButtonDesign& design, const ButtonState& state,
 
 std::optional<Color> markColor(const ButtonDesign& design, const ButtonState& state) {
     if (state.enabled && state.hover) {
-        return design.XPDefaultColors ? hoverMark : design.XPColor_Hover;
+        return design.XPDefaultColors ? dark::hoverMark : design.XPColor_Hover;
     }
     if (state.enabled && state.focused) {
-        return design.XPDefaultColors ? focusMark : design.XPColor_Pressed;
+        return design.XPDefaultColors ? dark::focusMark : design.XPColor_Pressed;
     }
     return std::nullopt;
 }
@@ -90,7 +86,7 @@ void paintShaded(PixelImage& image, const ButtonDesign& design, const ButtonStat
                  SystemColorLookup systemColor) {
     const int line = lineWidthAt(dpi);
     const RoundedBox outer = buttonShape(design, image.size, dpi);
-    const Color edge = OffsetColor(outlineColor, state.enabled ? 0 : disabledOffset, systemColor);
+    const Color edge = OffsetColor(dark::outline, state.enabled ? 0 : disabledOffset, systemColor);
     const FaceColors face = shadedColors(design, state, systemColor);
     fillShape(image, outer, {edge, edge}, systemColor);
     const RoundedBox inner = outer.shrunk(line);
@@ -189,7 +185,7 @@ void paintSign(PixelImage& face, const PixelRect& place, const ButtonDesign& des
     const double side = place.width();
     const double line = 2 * lineWidthAt(dpi) / side;
     const Color ink = state.enabled ? OffsetColor(design.ForeColor, 0, systemColor)
-                                    : OffsetColor(outlineColor, 0, systemColor);
+                                    : OffsetColor(dark::outline, 0, systemColor);
     PixelImage drawn = filledImage({place.width(), place.height()}, 0);
     for (int y = 0; y < place.height(); ++y) {
         for (int x = 0; x < place.width(); ++x) {

@@ -1,16 +1,10 @@
 #include "widgets/ctlFrame.h"
 
+#include "widgets/lookColors.h"
+
 namespace ormala {
 
 namespace {
-
-constexpr Color deepestEdge = rgb(31, 31, 31);
-constexpr Color ground = 0x606060;
-constexpr Color quietBright = rgb(144, 144, 144);
-constexpr Color quietDark = rgb(64, 64, 64);
-constexpr Color brown = 8747;
-constexpr Color goldBright = rgb(255, 234, 32);
-constexpr Color goldDark = rgb(144, 115, 0);
 
 /// The code of a solid line of one pixel.
 constexpr int onePixel = 2;
@@ -30,12 +24,12 @@ void ctlFrame::arrange() {
     const bool borderAlone = frameStyle_ == 1 || frameStyle_ == 2;
     const bool golden = frameStyle_ == 2;
     const bool full = frameStyle_ == 3;
-    shpBorderOuter_ = {!borderAlone, 0, 1, deepestEdge};
-    shpBorder_ = {true, 2, borderAlone ? 2 : 1, golden ? brown : ground};
-    shpBorderInner_ = {full, 4, 1, deepestEdge};
+    shpBorderOuter_ = {!borderAlone, 0, 1, dark::deepestEdge};
+    shpBorder_ = {true, 2, borderAlone ? 2 : 1, golden ? dark::goldenFrame : dark::ground};
+    shpBorderInner_ = {full, 4, 1, dark::deepestEdge};
     bevels_ = {Bevel{frameStyle_ != 1, 1, true}, Bevel{full, 3, false}};
-    lineBorderBright_ = golden ? goldBright : quietBright;
-    lineBorderDark_ = golden ? goldDark : quietDark;
+    lineBorderBright_ = golden ? dark::goldenFrameBright : dark::frameBright;
+    lineBorderDark_ = golden ? dark::goldenFrameDark : dark::outline;
 }
 
 void ctlFrame::draw(Canvas& canvas) const {

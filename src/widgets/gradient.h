@@ -1,7 +1,7 @@
 #pragma once
 
 #include "scene/PixelImage.h"
-#include "widgets/systemColors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "modAPI/colors.h"
+#include "modAPI/drawingColors.h"
 #include "modAPI/transforms.h"
 
 namespace ormala {
@@ -13,7 +13,7 @@ struct BackgroundGrid {
     int style = 2;
     /// 0 dotted, 1 dashed, n >= 2 solid and n - 1 pixels wide.
     int lineWidth = 2;
-    Color color = 0x7D7D7D;
+    Color color = firstColor::backgroundGrid;
     Grid steps;
 
     bool operator==(const BackgroundGrid&) const = default;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "modAPI/constants.h"
+#include "modAPI/drawingColors.h"
 #include "modAPI/rounding.h"
 
 namespace ormala {
@@ -14,9 +15,6 @@ namespace {
 constexpr int leastRadius = 4;
 /// A trembling hand gets no further.
 constexpr int jitter = 12;
-
-constexpr Color brightGreen = rgb(0, 255, 0);
-constexpr Color darkGreen = rgb(0, 127, 0);
 
 }  // namespace
 
@@ -28,8 +26,9 @@ void CircleCompass::press(const MouseInput& input, Color background) {
     pressed_ = true;
     center_ = {RoundToInt(input.x), RoundToInt(input.y)};
     const bool onBright = Luminance(background) > 0.5F;
-    circleColor_ = onBright ? darkGreen : brightGreen;
-    centerColor_ = onBright ? brightGreen : darkGreen;
+    using namespace sheetColor;
+    circleColor_ = onBright ? compassOnBright : compassOnDark;
+    centerColor_ = onBright ? compassOnDark : compassOnBright;
 }
 
 void CircleCompass::move(const MouseInput& input, bool enabled) {

@@ -1,12 +1,8 @@
 #pragma once
 
-#include "modAPI/colors.h"
 #include "scene/PixelRect.h"
 
 namespace ormala {
-
-/// What is keyed out of the worksheet's frame: the hole in which the worksheet lies.
-inline constexpr Color frameKeyColor = 0xC0C0C0;
 
 /// Where the frame stands on a first start: centred, with the golden section of the screen's size.
 PixelRect defaultFramePlace(PixelSize screen);

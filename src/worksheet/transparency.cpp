@@ -12,9 +12,9 @@ namespace {
 constexpr std::uint32_t topmost = 0x8;
 constexpr std::uint32_t passesMouse = 0x20;
 constexpr std::uint32_t layered = 0x80000;
-constexpr std::uint32_t takesNoKeyboard = 0x08000000;
+constexpr std::uint32_t takesNoKeyboard = 0x08000000U;
 
-constexpr std::uint32_t noKey = 0xFFFFFFFF;
+constexpr std::uint32_t noKey = 0xFFFFFFFFU;
 constexpr std::uint32_t byKey = 1;
 constexpr std::uint32_t byAlpha = 2;
 

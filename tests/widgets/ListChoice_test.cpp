@@ -58,6 +58,21 @@ TEST_F(ListChoiceTest, TypingForgetsTheRowGoneTo) {
     EXPECT_EQ(choice_.chosen(), 6);
 }
 
+TEST_F(ListChoiceTest, ARowIsTheListsUntilItsEndHasSettledOnce) {
+    EXPECT_FALSE(choice_.settle());
+    choice_.closed();
+    EXPECT_TRUE(choice_.reached(2));
+    EXPECT_TRUE(choice_.settle());
+    EXPECT_FALSE(choice_.settle());
+    EXPECT_FALSE(choice_.reached(3));
+}
+
+TEST_F(ListChoiceTest, AnotherOpeningEndsTheSettling) {
+    choice_.closed();
+    choice_.opened();
+    EXPECT_FALSE(choice_.settle());
+}
+
 TEST_F(ListChoiceTest, EachOpeningBeginsAnew) {
     choice_.reached(3);
     choice_.ended(true);

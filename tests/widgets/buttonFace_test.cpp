@@ -4,8 +4,8 @@
 
 #include "scene/pixelImages.h"
 #include "support/Contrast.h"
-#include "widgets/captionColors.h"
 #include "widgets/dpi.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 namespace {

@@ -7,8 +7,8 @@
 
 #include "platform/win/Accessible.h"
 #include "platform/win/controlName.h"
+#include "platform/win/fills.h"
 #include "platform/win/regions.h"
-#include "widgets/win/darkColors.h"
 
 namespace ormala {
 

@@ -1,9 +1,10 @@
 #include "dialogs/win/GridPage.h"
 
 #include "language/MlStringModule.h"
+#include "platform/win/fills.h"
 #include "platform/win/regions.h"
 #include "scene/dpi.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/lookColors.h"
 #include "widgets/win/labeling.h"
 
 namespace ormala {

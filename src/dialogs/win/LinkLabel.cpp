@@ -7,10 +7,11 @@
 #include "platform/win/BackBuffer.h"
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/controlName.h"
+#include "platform/win/fills.h"
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
 #include "scene/dpi.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 

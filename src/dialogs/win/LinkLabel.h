@@ -5,9 +5,9 @@
 #include <string_view>
 
 #include "base/Event.h"
-#include "modAPI/colors.h"
 #include "platform/win/Window.h"
 #include "platform/win/fonts.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
@@ -40,7 +40,7 @@ class LinkLabel : public Window {
     void refresh();
 
     std::string text_;
-    Color backColor_ = 0x606060;
+    Color backColor_ = dark::ground;
     int dpi_ = 0;
     FontHandle font_;
     bool pressed_ = false;

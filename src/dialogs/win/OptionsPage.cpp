@@ -7,8 +7,10 @@
 
 #include "dialogs/optionsLayout.h"
 #include "platform/win/controlName.h"
+#include "platform/win/fills.h"
 #include "widgets/dpi.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/lookColors.h"
+#include "widgets/win/fieldLook.h"
 
 namespace ormala {
 

@@ -9,16 +9,15 @@
 #include "platform/win/BackBuffer.h"
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/controlName.h"
+#include "platform/win/fills.h"
 #include "platform/win/text.h"
 #include "scene/dpi.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
 namespace {
 
-constexpr Color titleColor = rgb(255, 230, 0);
-constexpr Color shadowColor = rgb(64, 64, 64);
 /// Right of the title and below it, in pixels at 96 DPI.
 constexpr int shadowDistance = 2;
 
@@ -81,8 +80,8 @@ void TitleLabel::draw(HDC context, const RECT& area) const {
         SetTextColor(context, colorRef(color));
         DrawTextW(context, text.c_str(), -1, &place, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
     };
-    write(shadowColor, scaledLength(shadowDistance, dpi_));
-    write(titleColor, 0);
+    write(dark::outline, scaledLength(shadowDistance, dpi_));
+    write(dark::text, 0);
 }
 
 LRESULT TitleLabel::onPaint() {

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "modAPI/colors.h"
 #include "platform/win/Window.h"
 #include "platform/win/fonts.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
@@ -28,7 +28,7 @@ class TitleLabel : public Window {
     LRESULT onAccessibleFacts(LPARAM lParam) const;
 
     std::string text_;
-    Color backColor_ = 0x606060;
+    Color backColor_ = dark::ground;
     int dpi_ = 0;
     FontHandle font_;
 };

@@ -6,10 +6,11 @@
 #include "platform/win/Accessible.h"
 #include "platform/win/OriginScope.h"
 #include "platform/win/controlName.h"
+#include "platform/win/fills.h"
 #include "platform/win/pixels.h"
 #include "platform/win/regions.h"
 #include "scene/dpi.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 

@@ -5,11 +5,12 @@
 #include "language/MlStringModule.h"
 #include "pictures/pictures.h"
 #include "platform/win/OriginScope.h"
+#include "platform/win/fills.h"
 #include "platform/win/pixels.h"
 #include "platform/win/regions.h"
 #include "scene/pixelImages.h"
 #include "widgets/dpi.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
@@ -17,7 +18,7 @@ namespace {
 
 enum Id { idTitle = 11, idVersion, idVersionInfo, idHomepage, idLink, idMail, idMailLink };
 
-constexpr Color ground = rgb(104, 104, 104);
+constexpr Color ground = dark::liftedGround;
 
 // In pixels at 96 DPI.
 constexpr int clientWidth = 400;

@@ -4,10 +4,11 @@
 #include <array>
 
 #include "language/MlStringModule.h"
+#include "platform/win/fills.h"
 #include "platform/win/regions.h"
 #include "scene/Input.h"
 #include "widgets/dpi.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 

@@ -9,9 +9,10 @@
 #include "dialogs/win/frmAbout.h"
 #include "dialogs/win/frmColor.h"
 #include "language/MlStringModule.h"
+#include "platform/win/fills.h"
 #include "platform/win/regions.h"
 #include "widgets/dpi.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/lookColors.h"
 #include "widgets/win/labeling.h"
 
 namespace ormala {

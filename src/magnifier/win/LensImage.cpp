@@ -5,6 +5,7 @@
 
 #include "magnifier/win/pointers.h"
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/fills.h"
 
 namespace ormala {
 
@@ -66,12 +67,12 @@ void LensImage::capture(const LensLayout& layout, PixelPoint source, const Pixel
                          source.y + layout.SourceHeight};
     // Screens of different sizes leave gaps.
     if (area.intersected(bounds) != area || GetSystemMetrics(SM_CMONITORS) > 1) {
-        fillPlain(picInter_.context(), {0, 0, layout.SourceWidth, layout.SourceHeight}, lensGround);
+        fillRect(picInter_.context(), {0, 0, layout.SourceWidth, layout.SourceHeight}, lensGround);
     }
     if (BitBlt(picInter_.context(), 0, 0, layout.SourceWidth, layout.SourceHeight, screen.get(),
                source.x, source.y, SRCCOPY | CAPTUREBLT) == FALSE) {
         // The screen is locked, and what it showed before is no news.
-        fillPlain(picInter_.context(), {0, 0, layout.SourceWidth, layout.SourceHeight}, lensGround);
+        fillRect(picInter_.context(), {0, 0, layout.SourceWidth, layout.SourceHeight}, lensGround);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "magnifier/win/LensPicture.h"
 
 #include "platform/win/controlName.h"
+#include "platform/win/fills.h"
 #include "platform/win/mousePassing.h"
 
 namespace ormala {
@@ -47,10 +48,10 @@ LRESULT LensPicture::onPaint() {
     copyTo(scope.context(), {0, 0});
     if (rim_ > 0) {
         const RECT client = clientRectangle();
-        fillPlain(scope.context(), {client.right - rim_, 0, client.right, client.bottom},
-                  lensGround);
-        fillPlain(scope.context(), {0, client.bottom - rim_, client.right, client.bottom},
-                  lensGround);
+        fillRect(scope.context(), {client.right - rim_, 0, client.right, client.bottom},
+                 lensGround);
+        fillRect(scope.context(), {0, client.bottom - rim_, client.right, client.bottom},
+                 lensGround);
     }
     return 0;
 }
@@ -67,11 +68,6 @@ std::optional<LRESULT> LensPicture::onMessage(UINT message, WPARAM wParam, LPARA
             }
             return std::nullopt;
     }
-}
-
-void fillPlain(HDC context, const RECT& area, COLORREF color) {
-    SetDCBrushColor(context, color);
-    FillRect(context, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
 }  // namespace ormala

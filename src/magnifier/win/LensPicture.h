@@ -5,6 +5,7 @@
 #include "base/Event.h"
 #include "platform/win/BackBuffer.h"
 #include "platform/win/Window.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
@@ -42,9 +43,6 @@ class LensPicture : public Window {
 };
 
 /// The ground of the window where it shows nothing.
-constexpr COLORREF lensGround = RGB(74, 74, 74);
-
-/// Fills with that colour, without a brush of its own.
-void fillPlain(HDC context, const RECT& area, COLORREF color);
+inline constexpr Color lensGround = dark::fieldGround;
 
 }  // namespace ormala

@@ -3,6 +3,7 @@
 #include "magnifier/lensTexts.h"
 #include "magnifier/win/frmLens.h"
 #include "platform/win/Accessible.h"
+#include "platform/win/fills.h"
 #include "platform/win/regions.h"
 
 // The messages of the magnifier.
@@ -59,7 +60,7 @@ LRESULT frmLens::onPaint() {
     if (!ground_.resize({client.width(), client.height()})) {
         return 0;
     }
-    fillPlain(ground_.context(), toRect(client), lensGround);
+    fillRect(ground_.context(), toRect(client), lensGround);
     GdiCanvas canvas(ground_.context(), client, fonts_);
     FormFrame_.draw(canvas);
     BitBlt(scope.context(), 0, 0, client.width(), client.height(), ground_.context(), 0, 0,

@@ -1,7 +1,8 @@
 #include "magnifier/win/pointers.h"
 
-#include "magnifier/win/LensPicture.h"
+#include "modAPI/drawingColors.h"
 #include "platform/win/BackBuffer.h"
+#include "platform/win/fills.h"
 #include "platform/win/handles.h"
 
 namespace ormala {
@@ -31,11 +32,11 @@ struct PointerFacts {
     BitmapHandle color;
 };
 
-bool drawOn(BackBuffer& ground, COLORREF color, HCURSOR pointer, int side) {
+bool drawOn(BackBuffer& ground, Color color, HCURSOR pointer, int side) {
     if (!ground.resize({side, side})) {
         return false;
     }
-    fillPlain(ground.context(), {0, 0, side, side}, color);
+    fillRect(ground.context(), {0, 0, side, side}, color);
     return DrawIconEx(ground.context(), 0, 0, pointer, side, side, 0, nullptr, DI_NORMAL) != FALSE;
 }
 
@@ -53,8 +54,8 @@ PointerPicture pictureOfPointer(HCURSOR pointer) {
     const int side = facts.side();
     BackBuffer black;
     BackBuffer white;
-    if (side == 0 || !drawOn(black, RGB(0, 0, 0), pointer, side) ||
-        !drawOn(white, RGB(255, 255, 255), pointer, side)) {
+    if (side == 0 || !drawOn(black, plain::black, pointer, side) ||
+        !drawOn(white, plain::white, pointer, side)) {
         return {};
     }
     return pointerPicture(black.view(), white.view(), facts.hotSpot);

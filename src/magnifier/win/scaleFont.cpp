@@ -2,8 +2,9 @@
 
 #include <string_view>
 
-#include "magnifier/win/LensPicture.h"
+#include "modAPI/drawingColors.h"
 #include "platform/win/BackBuffer.h"
+#include "platform/win/fills.h"
 #include "platform/win/fonts.h"
 #include "scene/dpi.h"
 
@@ -23,7 +24,7 @@ SIZE extentOf(HDC context, std::wstring_view text) {
 ScaleGlyphs::Glyph glyphOf(BackBuffer& sheet, std::wstring_view sign, const SIZE& extent) {
     const PixelSize size{static_cast<int>(extent.cx), static_cast<int>(extent.cy)};
     const RECT cell{0, 0, extent.cx, extent.cy};
-    fillPlain(sheet.context(), cell, RGB(0, 0, 0));
+    fillRect(sheet.context(), cell, plain::black);
     ExtTextOutW(sheet.context(), 0, 0, ETO_CLIPPED, &cell, sign.data(), 1, nullptr);
     ScaleGlyphs::Glyph glyph{size.width, {}};
     const PixelView view = sheet.view();
@@ -49,7 +50,7 @@ ScaleGlyphs scaleGlyphs(int dpi) {
     }
     const Selected selected(sheet.context(), font.get());
     SetBkMode(sheet.context(), TRANSPARENT);
-    SetTextColor(sheet.context(), RGB(255, 255, 255));
+    SetTextColor(sheet.context(), plain::white);
     for (std::size_t i = 0; i < ScaleGlyphs::count; ++i) {
         const std::wstring_view sign = signs.substr(i, 1);
         glyphs.glyphs.at(i) = glyphOf(sheet, sign, extentOf(sheet.context(), sign));

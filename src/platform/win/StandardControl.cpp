@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "platform/win/Accessible.h"
+#include "platform/win/Window.h"
 #include "platform/win/callbackGuard.h"
 #include "platform/win/controlName.h"
 #include "platform/win/text.h"
@@ -63,7 +64,7 @@ LRESULT CALLBACK StandardControl::dispatch(HWND handle, UINT message, WPARAM wPa
 }
 
 std::optional<LRESULT> StandardControl::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (tip_ && message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+    if (tip_ && isMouseMessage(message)) {
         tip_->relay(message, wParam, lParam);
     }
     if (const auto answer = accessibleMessage(message, wParam, lParam)) {

@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include "platform/win/Window.h"
 #include "platform/win/text.h"
 
 namespace ormala {
@@ -71,7 +72,7 @@ void HoverTip::relay(HWND owner, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_SIZE && window_) {
         window_->setText(text_);
     }
-    if (message < WM_MOUSEFIRST || message > WM_MOUSELAST) {
+    if (!isMouseMessage(message)) {
         return;
     }
     if (!window_ && !text_.empty()) {

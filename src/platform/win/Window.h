@@ -61,6 +61,10 @@ class Window {
     HWND handle_ = nullptr;
 };
 
+constexpr bool isMouseMessage(UINT message) {
+    return message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;
+}
+
 /// The modifier bits of the keys that are down in the key message being handled.
 int heldModifiers();
 

@@ -2,11 +2,12 @@
 
 #include <windowsx.h>
 
+#include "platform/win/Window.h"
+
 namespace ormala {
 
 bool passMouseToParent(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
-    const bool ofMouse = message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;
-    if (!ofMouse || message == WM_MOUSEWHEEL || message == WM_MOUSEHWHEEL) {
+    if (!isMouseMessage(message) || message == WM_MOUSEWHEEL || message == WM_MOUSEHWHEEL) {
         return false;
     }
     const HWND parent = GetParent(control);

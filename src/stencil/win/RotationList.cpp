@@ -2,38 +2,22 @@
 
 #include <commctrl.h>
 
-#include <utility>
-
-#include "modAPI/colors.h"
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/fills.h"
 #include "platform/win/handles.h"
 #include "platform/win/text.h"
-#include "toolkit/PanelView.h"
-#include "widgets/captionColors.h"
 #include "widgets/dpi.h"
+#include "widgets/lookColors.h"
+#include "widgets/win/fieldLook.h"
 
 namespace ormala {
 
 namespace {
 
-constexpr Color fieldGround = rgb(74, 74, 74);
-constexpr Color textColor = rgb(255, 230, 0);
-constexpr Color quietColor = rgb(112, 112, 112);
-constexpr Color edge = rgb(64, 64, 64);
-constexpr Color focusMark = rgb(140, 170, 230);
-
-/// Once the system has told all about the end of the list.
-constexpr UINT wmSettle = WM_APP + 1;
-
 constexpr int rowHeight = 17;
 constexpr int textMargin = 5;
 constexpr int arrowWidth = 18;
 constexpr int arrowHeight = 4;
-
-void fill(HDC context, const RECT& box, Color color) {
-    SetDCBrushColor(context, colorRef(color));
-    FillRect(context, &box, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-}
 
 }  // namespace
 
@@ -50,11 +34,6 @@ void RotationList::setRows(const std::vector<std::string>& texts) {
     }
     // The whole list is seen at once.
     SendMessageW(handle(), CB_SETMINVISIBLE, texts.size(), 0);
-}
-
-void RotationList::setEnabled(bool enabled) {
-    EnableWindow(handle(), enabled ? TRUE : FALSE);
-    InvalidateRect(handle(), nullptr, FALSE);
 }
 
 void RotationList::place(const PixelRect& box, int dpi) {
@@ -77,45 +56,23 @@ void RotationList::select(std::optional<int> row) {
     InvalidateRect(handle(), nullptr, FALSE);
 }
 
-void RotationList::notified(int notification) {
-    switch (notification) {
-        case CBN_DROPDOWN:
-            settling_ = false;
-            choice_.opened();
-            break;
-        case CBN_SELCHANGE:
-            if (choice_.isOpen() || settling_) {
-                choice_.reached(selected());
-            } else {
-                row_ = selected();
-                Change.raise();
-            }
-            break;
-        case CBN_SELENDOK:
-        case CBN_SELENDCANCEL:
-            choice_.ended(notification == CBN_SELENDOK);
-            break;
-        case CBN_CLOSEUP:
-            // The system may tell of the row only after this.
-            choice_.closed();
-            settling_ = true;
-            PostMessageW(handle(), wmSettle, 0, 0);
-            break;
-        default:
-            break;
+void RotationList::otherNotification(int notification) {
+    if (notification == CBN_DROPDOWN) {
+        choice().opened();
     }
 }
 
-void RotationList::settle() {
+void RotationList::rowReached(int row) {
+    row_ = row;
+    Change.raise();
+}
+
+void RotationList::settled() {
     const int former = row_;
-    select(choice_.chosen().value_or(former));
+    select(choice().chosen().value_or(former));
     if (row_ != former) {
         Change.raise();
     }
-}
-
-int RotationList::selected() const {
-    return static_cast<int>(SendMessageW(handle(), CB_GETCURSEL, 0, 0));
 }
 
 /// The closed field is drawn by `paint`, whatever part of it the system asks for.
@@ -125,49 +82,34 @@ void RotationList::drawRow(const DRAWITEMSTRUCT& item) const {
         return;
     }
     const bool selected = (item.itemState & ODS_SELECTED) != 0;
-    fill(item.hDC, item.rcItem, selected ? onColor : fieldGround);
+    fillRect(item.hDC, item.rcItem, selected ? dark::on : dark::fieldGround);
     RECT box = item.rcItem;
     box.left += scaledLength(textMargin, dpi_);
-    drawText(item.hDC, static_cast<int>(item.itemID), box,
-             colorRef(selected ? rgb(0, 0, 0) : textColor));
+    drawText(item.hDC, static_cast<int>(item.itemID), box, selected ? plain::black : dark::text);
 }
 
-void RotationList::drawText(HDC context, int row, RECT box, COLORREF color) const {
+void RotationList::drawText(HDC context, int row, RECT box, Color color) const {
     if (row < 0) {
         return;
     }
-    const LRESULT length = SendMessageW(handle(), CB_GETLBTEXTLEN, static_cast<WPARAM>(row), 0);
-    std::wstring text(length > 0 ? static_cast<std::size_t>(length) : 0, L'\0');
-    SendMessageW(handle(), CB_GETLBTEXT, static_cast<WPARAM>(row),
-                 reinterpret_cast<LPARAM>(text.data()));
     SetBkMode(context, TRANSPARENT);
-    SetTextColor(context, color);
-    DrawTextW(context, text.c_str(), -1, &box, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+    SetTextColor(context, colorRef(color));
+    DrawTextW(context, wide(rowText(row)).c_str(), -1, &box,
+              DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
 }
 
 void RotationList::drawField(HDC context) const {
     RECT box{};
     GetClientRect(handle(), &box);
-    const bool enabled = IsWindowEnabled(handle()) != FALSE;
-    const COLORREF color = colorRef(enabled ? textColor : quietColor);
-    fill(context, box, GetFocus() == handle() ? focusMark : edge);
-    InflateRect(&box, -scaledLength(1, dpi_), -scaledLength(1, dpi_));
-    fill(context, box, fieldGround);
-    drawArrow(context, box, color);
-    box.left += scaledLength(textMargin - 1, dpi_);
-    drawText(context, selected(), box, color);
-}
-
-void RotationList::drawArrow(HDC context, const RECT& client, COLORREF color) const {
+    paintField(context, box, true, GetFocus() == handle(), dpi_);
+    const Color color = isEnabled() ? dark::text : dark::off;
     const int height = scaledLength(arrowHeight, dpi_);
-    const int middle = static_cast<int>(client.right) - scaledLength(arrowWidth, dpi_) / 2;
-    const int top = static_cast<int>(client.top + client.bottom - height) / 2;
-    SetDCBrushColor(context, color);
-    for (int row = 0; row < height; ++row) {
-        const int half = height - row;
-        const RECT line{middle - half, top + row, middle + half, top + row + 1};
-        FillRect(context, &line, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-    }
+    const int line = lineWidthAt(dpi_);
+    const PixelPoint arrow{static_cast<int>(box.right) - line - scaledLength(arrowWidth, dpi_) / 2,
+                           static_cast<int>(box.bottom - height) / 2};
+    paintListArrow(context, arrow, height, color);
+    box.left += scaledLength(textMargin, dpi_);
+    drawText(context, selected(), box, color);
 }
 
 LRESULT RotationList::paint() {
@@ -184,11 +126,6 @@ std::optional<LRESULT> RotationList::onMessage(UINT message, WPARAM wParam, LPAR
             return paint();
         case WM_ERASEBKGND:
             return 1;
-        case wmSettle:
-            if (std::exchange(settling_, false)) {
-                settle();
-            }
-            return 0;
         case WM_LBUTTONDOWN:
         case WM_LBUTTONUP:
         case WM_SETFOCUS:
@@ -198,7 +135,7 @@ std::optional<LRESULT> RotationList::onMessage(UINT message, WPARAM wParam, LPAR
             return result;
         }
         default:
-            return std::nullopt;
+            return DropList::onMessage(message, wParam, lParam);
     }
 }
 

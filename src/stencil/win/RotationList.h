@@ -5,27 +5,24 @@
 #include <vector>
 
 #include "base/Event.h"
-#include "platform/win/StandardControl.h"
+#include "modAPI/colors.h"
 #include "scene/PixelRect.h"
-#include "widgets/ListChoice.h"
+#include "widgets/win/DropList.h"
 
 namespace ormala {
 
-/// A list that drops down, in the program's own look. While it is open it only proposes: leaving it
-/// keeps the row. Its parent hands it the WM_DRAWITEM messages and the notifications.
-class RotationList : public StandardControl {
+/// A list that drops down, in the program's own look. Its parent hands it the WM_DRAWITEM messages
+/// and the notifications.
+class RotationList : public DropList {
   public:
     ~RotationList() override { destroy(); }
 
     void create(HWND parent, int id, std::string_view name);
     void setRows(const std::vector<std::string>& texts);
-    void setEnabled(bool enabled);
     /// The place of the closed list, in the parent's pixels. All rows have room when it is open.
     void place(const PixelRect& box, int dpi);
     /// Nothing selects no row.
     void select(std::optional<int> row);
-    [[nodiscard]] int selected() const;
-    void notified(int notification);
     /// The user has chosen another row.
     Event<> Change;
 
@@ -33,18 +30,16 @@ class RotationList : public StandardControl {
 
   private:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    void settle();
+    void rowReached(int row) override;
+    void otherNotification(int notification) override;
+    void settled() override;
     LRESULT paint();
     void drawField(HDC context) const;
-    void drawArrow(HDC context, const RECT& client, COLORREF color) const;
-    void drawText(HDC context, int row, RECT box, COLORREF color) const;
+    void drawText(HDC context, int row, RECT box, Color color) const;
 
     int dpi_ = 96;
-    ListChoice choice_;
     /// The row that counts, -1 for none.
     int row_ = -1;
-    /// The list has gone, but perhaps not all of its notifications have come.
-    bool settling_ = false;
 };
 
 }  // namespace ormala

@@ -8,17 +8,17 @@
 #include <utility>
 
 #include "language/MlStringModule.h"
-#include "platform/win/GdiCanvas.h"
+#include "platform/win/fills.h"
 #include "platform/win/regions.h"
 #include "stencil/PatternPicture.h"
 #include "stencil/PatternRotations.h"
 #include "stencil/PatternSelectLayout.h"
 #include "toolkit/PanelView.h"
-#include "widgets/captionColors.h"
 #include "widgets/dpi.h"
+#include "widgets/lookColors.h"
 #include "widgets/win/ModalDialog.h"
 #include "widgets/win/OptionGroup.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/win/fieldLook.h"
 
 namespace ormala {
 
@@ -36,15 +36,7 @@ constexpr std::array<int, 3> groupTextIds{121, 120, 119};
 constexpr int textRotation = 116;
 constexpr int textNoPattern = 117;
 
-constexpr Color ground = 0x606060;
-constexpr Color ink = rgb(0, 0, 0);
-
 constexpr int pictureSide = 48;
-
-void fill(HDC context, const RECT& box, Color color) {
-    SetDCBrushColor(context, colorRef(color));
-    FillRect(context, &box, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-}
 
 void makeText(StandardControl& label, HWND parent, DWORD style, int id, const std::string& name) {
     label.create(parent, {WC_STATICW, style | SS_NOPREFIX, id, name, {}});
@@ -52,14 +44,14 @@ void makeText(StandardControl& label, HWND parent, DWORD style, int id, const st
 
 void setOn(ZelvikButtonXP& button, bool on) {
     button.setValue(on);
-    button.setBackColor(on ? onColor : offColor);
+    button.setBackColor(on ? dark::on : dark::off);
 }
 
 PictureMaker pictureOf(int pattern) {
     return [pattern](PixelSize size) {
         PatternList patterns;
         patterns[0].Pattern = pattern;
-        return patternLines(patterns, size, ink, std::max(1, size.width / pictureSide));
+        return patternLines(patterns, size, plain::black, std::max(1, size.width / pictureSide));
     };
 }
 
@@ -211,7 +203,7 @@ HWND ctlPatternSelect::chosen() const {
 }
 
 void ctlPatternSelect::eraseGround(HDC context) const {
-    fill(context, clientRectangle(), ground);
+    fillRect(context, clientRectangle(), dark::ground);
 }
 
 std::optional<LRESULT> ctlPatternSelect::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {

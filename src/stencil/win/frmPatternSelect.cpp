@@ -5,15 +5,15 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "platform/win/GdiCanvas.h"
 #include "platform/win/controlName.h"
+#include "platform/win/fills.h"
 #include "platform/win/pixels.h"
 #include "platform/win/regions.h"
 #include "stencil/PatternPicture.h"
 #include "stencil/PatternSelectLayout.h"
 #include "toolkit/PanelView.h"
-#include "widgets/captionColors.h"
 #include "widgets/dpi.h"
+#include "widgets/lookColors.h"
 #include "widgets/win/OptionGroup.h"
 
 namespace ormala {
@@ -30,12 +30,6 @@ constexpr int textPreview = 123;
 constexpr int textOK = 210;
 constexpr int textCancel = 227;
 constexpr int textFirstTab = 230;
-
-constexpr Color ground = 0x606060;
-constexpr Color buttonColor = 0x808080;
-constexpr Color ink = rgb(0, 0, 0);
-constexpr Color lines = rgb(255, 230, 0);
-constexpr Color edge = rgb(64, 64, 64);
 
 // The design, in pixels at 96 DPI.
 constexpr int margin = 12;
@@ -114,32 +108,25 @@ void frmPatternSelect::makeTab(int tab) {
 }
 
 void frmPatternSelect::makeButtons() {
-    cmdOK_ = std::make_unique<ZelvikButtonXP>(handle(), IDOK, "cmdOK");
-    cmdCancel_ = std::make_unique<ZelvikButtonXP>(handle(), IDCANCEL, "cmdCancel");
+    cmdOK_ = makeButton(IDOK, "cmdOK", {});
+    cmdCancel_ = makeButton(IDCANCEL, "cmdCancel", {});
     for (ZelvikButtonXP* button : {cmdOK_.get(), cmdCancel_.get()}) {
-        button->setBackColor(buttonColor);
-        button->setForeColor(lines);
+        button->setBackColor(dark::patternDialogButton);
     }
     startGroup(cmdOK_->handle());
-    ok_ = cmdOK_->Click.subscribe([this] { accept(); });
-    cancel_ = cmdCancel_->Click.subscribe([this] { cancel(); });
 }
 
 void frmPatternSelect::layOut() {
     const Places at = places();
-    const auto placeButton = [this](ZelvikButtonXP& button, const PixelRect& designed) {
-        button.setDpi(dpi());
-        button.place(scaledToDpi(designed, dpi()));
-    };
     for (int tab = 0; tab < patternSlots; ++tab) {
-        placeButton(*btnTab_.at(static_cast<std::size_t>(tab)).button, tabPlace(tab));
+        place(*btnTab_.at(static_cast<std::size_t>(tab)).button, tabPlace(tab));
     }
     PatternSelect_->place({scaledLength(at.select.x, dpi()), scaledLength(at.select.y, dpi())},
                           dpi());
     place(lblPreview_.handle(), {at.preview.left, pageTop, at.preview.right, pageTop + textHeight});
     place(picPreview_.handle(), at.preview);
-    placeButton(*cmdOK_, commandPlace(1));
-    placeButton(*cmdCancel_, commandPlace(0));
+    place(*cmdOK_, commandPlace(1));
+    place(*cmdCancel_, commandPlace(0));
 }
 
 void frmPatternSelect::ApplyLanguage() {
@@ -181,9 +168,9 @@ void frmPatternSelect::openTab(int tab) {
 void frmPatternSelect::showTab(int tab) {
     ZelvikButtonXP& button = *btnTab_.at(static_cast<std::size_t>(tab)).button;
     const bool open = tab == choice_->tab();
-    const Color color = open ? ink : lines;
+    const Color color = open ? plain::black : dark::text;
     button.setValue(open);
-    button.setBackColor(open ? onColor : offColor);
+    button.setBackColor(open ? dark::on : dark::off);
     button.setForeColor(color);
     button.setPicture([patterns = choice_->patternsOfTab(tab), color](PixelSize size) {
         return patternLines(patterns, size, color, std::max(1, size.width / tabPicture));
@@ -196,29 +183,27 @@ void frmPatternSelect::showChange() {
 }
 
 void frmPatternSelect::fillBox(HDC context, const PixelRect& designed, Color color) const {
-    const RECT box = toRect(scaledToDpi(designed, dpi()));
-    SetDCBrushColor(context, colorRef(color));
-    FillRect(context, &box, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    fillRect(context, toRect(scaledToDpi(designed, dpi())), color);
 }
 
 /// The frame of the page with the line under the tabs, to which the open tab reaches down.
 void frmPatternSelect::paint(HDC context) {
     const Places at = places();
     const PixelRect tab = tabPlace(choice_->tab());
-    fillBox(context, at.page, edge);
-    fillBox(context, at.page.grown(-1), ground);
-    fillBox(context, {at.page.left, lineTop, at.page.right, pageTop}, onColor);
-    fillBox(context, {tab.left, tab.bottom - 4, tab.right, lineTop}, onColor);
-    fillBox(context, at.preview.grown(1), edge);
+    fillBox(context, at.page, dark::outline);
+    fillBox(context, at.page.grown(-1), dark::ground);
+    fillBox(context, {at.page.left, lineTop, at.page.right, pageTop}, dark::on);
+    fillBox(context, {tab.left, tab.bottom - 4, tab.right, lineTop}, dark::on);
+    fillBox(context, at.preview.grown(1), dark::outline);
 }
 
 void frmPatternSelect::drawPreview(const DRAWITEMSTRUCT& item) const {
     const PixelRect box = fromRect(item.rcItem);
     const int inset = scaledLength(8, dpi());
-    fillBox(item.hDC, {0, 0, previewSide, previewSide}, ground);
+    fillBox(item.hDC, {0, 0, previewSide, previewSide}, dark::ground);
     const PixelSize size{box.width() - 2 * inset, box.height() - 2 * inset};
     SetViewportOrgEx(item.hDC, inset, inset, nullptr);
-    copyPixels(item.hDC, GetPatternPicture(choice_->patterns(), size, ground, lines,
+    copyPixels(item.hDC, GetPatternPicture(choice_->patterns(), size, dark::ground, dark::text,
                                            std::max(1, dpi() / designDpi)));
     SetViewportOrgEx(item.hDC, 0, 0, nullptr);
 }

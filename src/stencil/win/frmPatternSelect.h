@@ -50,8 +50,6 @@ class frmPatternSelect : public ModalDialog {
     StandardControl picPreview_;
     std::unique_ptr<ZelvikButtonXP> cmdOK_;
     std::unique_ptr<ZelvikButtonXP> cmdCancel_;
-    Subscription ok_;
-    Subscription cancel_;
 };
 
 }  // namespace ormala

@@ -2,18 +2,18 @@
 
 #include <commctrl.h>
 
+#include "platform/win/fills.h"
+#include "platform/win/handles.h"
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
 #include "widgets/dpi.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
 namespace {
 
 enum Id { idList = 11, idInvert = 21, idOld = 31, idNew };
-
-constexpr Color newFace = rgb(255, 255, 192);
 
 // In pixels at 96 DPI.
 constexpr PixelSize clientSize{632, 344};
@@ -30,14 +30,6 @@ int widthInFont(HFONT font, const std::string& text) {
     SIZE size{};
     GetTextExtentPoint32W(context.get(), shown.c_str(), static_cast<int>(shown.size()), &size);
     return static_cast<int>(size.cx);
-}
-
-void outlineRect(HDC context, const PixelRect& box, int line) {
-    const RECT area = toRect(box);
-    SelectObject(context, GetStockObject(NULL_BRUSH));
-    const PenHandle pen(CreatePen(PS_INSIDEFRAME, line, RGB(0, 0, 0)));
-    const Selected selected(context, pen.get());
-    Rectangle(context, area.left, area.top, area.right, area.bottom);
 }
 
 }  // namespace
@@ -118,11 +110,11 @@ void frmRatio::paint(HDC context) {
     const PixelRect inner = place.grown(-2 * line);
     IntersectClipRect(context, inner.left, inner.top, inner.right, inner.bottom);
     const PixelRect old = preview(choice_.current());
-    outlineRect(context, old, line);
+    frameRect(context, old, line, plain::black);
     if (const auto ratio = choice_.newRatio()) {
-        fillRect(context, toRect(preview(*ratio)), newFace);
+        fillRect(context, toRect(preview(*ratio)), dark::quietText);
     }
-    outlineRect(context, old, line);
+    frameRect(context, old, line, plain::black);
     SelectClipRgn(context, nullptr);
 }
 

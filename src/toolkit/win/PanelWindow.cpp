@@ -4,10 +4,11 @@
 #include "language/MlStringModule.h"
 #include "pictures/linePicture.h"
 #include "platform/win/controlName.h"
+#include "platform/win/fills.h"
 #include "platform/win/text.h"
 #include "scene/Input.h"
-#include "widgets/captionColors.h"
 #include "widgets/dpi.h"
+#include "widgets/lookColors.h"
 #include "widgets/win/controlFontSize.h"
 
 namespace ormala {
@@ -23,12 +24,7 @@ constexpr UINT_PTR tmrButtonBig = 2;
 constexpr UINT wmPopUpMenu = WM_APP + 1;
 constexpr UINT_PTR mnuDelete = 1;
 
-constexpr Color valueColor = rgb(255, 230, 0);
-constexpr Color headerColor = rgb(255, 255, 192);
-constexpr Color deepestEdge = rgb(31, 31, 31);
-
-/// Of a picture that isn't pressed, and what its edges take of its size.
-constexpr Color imageGround = rgb(104, 104, 104);
+/// What the edges of a picture take of its size.
 constexpr int imageEdges = 8;
 
 constexpr int stepPicture = 14;
@@ -103,27 +99,27 @@ void PanelWindow::makeControl(const PanelControl& control, int id) {
 void PanelWindow::makeBand(const PanelControl& control, int id) {
     auto band = std::make_unique<GradShape>(handle(), id, control.name);
     band->setColorBottomRight(control.part == PanelPart::titleBand ? look_.titleBottomRight
-                                                                   : deepestEdge);
+                                                                   : dark::deepestEdge);
     bands_.emplace(control.name, std::move(band));
 }
 
 void PanelWindow::makeLabel(const PanelControl& control, int id) {
     auto label = std::make_unique<Label>(handle(), id, control.name);
-    label->setTextColor(control.part == PanelPart::value ? valueColor : headerColor);
+    label->setTextColor(control.part == PanelPart::value ? dark::text : dark::quietText);
     label->setBold(control.part == PanelPart::title);
     labels_.emplace(control.name, std::move(label));
 }
 
 void PanelWindow::makeButton(const PanelControl& control, int id) {
     auto made = std::make_unique<ZelvikButtonXP>(handle(), id, control.name);
-    made->setBackColor(offColor);
+    made->setBackColor(dark::off);
     if (control.picture) {
         made->setPicture(pictureMaker(*control.picture));
         const int side = control.box.height() < commandHeight ? stepPicture : commandPicture;
         made->setPictureSize(side, side);
     }
     if (control.part == PanelPart::image) {
-        made->setBackColor(imageGround);
+        made->setBackColor(dark::liftedGround);
         made->setPlaneFace(true);
         made->setPictureSize(control.box.width() - imageEdges, control.box.height() - imageEdges);
         // A picture is no stop of the Tab key.
@@ -342,8 +338,7 @@ void PanelWindow::popUpMenu() {
 
 LRESULT PanelWindow::onPaint() {
     const PaintScope scope(handle());
-    SetDCBrushColor(scope.context(), static_cast<COLORREF>(look_.background));
-    FillRect(scope.context(), &scope.area(), static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    fillRect(scope.context(), scope.area(), look_.background);
     return 0;
 }
 

@@ -5,10 +5,11 @@
 #include <algorithm>
 
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/fills.h"
 #include "platform/win/handles.h"
 #include "platform/win/text.h"
 #include "scene/dpi.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 

@@ -6,9 +6,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/win/fills.h"
 #include "platform/win/handles.h"
 #include "platform/win/text.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/lookColors.h"
+#include "widgets/win/fieldLook.h"
 
 namespace ormala {
 
@@ -17,10 +19,7 @@ namespace {
 /// What a combo box adds to the height of its text, in pixels.
 constexpr int heightOfEdges = 6;
 
-/// Once the system has told all about the end of the list.
-constexpr UINT wmSettle = WM_APP + 1;
-
-constexpr DWORD allOfText = 0xFFFF0000;
+constexpr DWORD allOfText = 0xFFFF0000U;
 
 COMBOBOXINFO partsOf(HWND combo) {
     COMBOBOXINFO parts{};
@@ -59,11 +58,6 @@ void ComboField::centreText(int height) const {
                  item.right - item.left, metrics.tmHeight, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void ComboField::setEnabled(bool enabled) {
-    EnableWindow(handle(), enabled ? TRUE : FALSE);
-    InvalidateRect(handle(), nullptr, FALSE);
-}
-
 void ComboField::SetTooltip(const std::string& text) {
     StandardControl::SetTooltip(text);
     field_.SetTooltip(text);
@@ -76,14 +70,6 @@ void ComboField::setAccessibleName(const std::string& name) {
 
 bool ComboField::isDropped() const {
     return SendMessageW(handle(), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
-}
-
-std::string ComboField::rowText(int row) const {
-    const LRESULT length = SendMessageW(handle(), CB_GETLBTEXTLEN, static_cast<WPARAM>(row), 0);
-    std::wstring found(length > 0 ? static_cast<std::size_t>(length) : 0, L'\0');
-    SendMessageW(handle(), CB_GETLBTEXT, static_cast<WPARAM>(row),
-                 reinterpret_cast<LPARAM>(found.data()));
-    return narrow(found);
 }
 
 /// Marks the row of the present text. The system would mark one that only begins like it.
@@ -131,8 +117,7 @@ LRESULT ComboField::mayOpen(UINT message, WPARAM wParam, LPARAM lParam) {
     if (!wasOpen && isDropped()) {
         former_ = before;
         formerSelection_ = selection;
-        settling_ = false;
-        choice_.opened();
+        choice().opened();
     }
     if (isDropped()) {
         propose();
@@ -151,58 +136,34 @@ void ComboField::textChanged() {
         showText(wanted, MAKELONG(end, end));
     }
     formerSelection_ = static_cast<DWORD>(SendMessageW(field_.handle(), EM_GETSEL, 0, 0));
-    if (choice_.isOpen()) {
-        choice_.typed();
+    if (choice().isOpen()) {
+        choice().typed();
         propose();
     }
 }
 
 /// The system may tell of the row only after this.
-void ComboField::listEnded() {
-    choice_.closed();
-    settling_ = true;
-    settle();
-    PostMessageW(handle(), wmSettle, 0, 0);
-}
-
-void ComboField::settle() {
-    const auto row = choice_.chosen();
+void ComboField::listClosed() {
+    const auto row = choice().chosen();
     showText(row ? rowText(*row) : former_, row ? allOfText : formerSelection_);
 }
 
-void ComboField::notified(int notification) {
-    switch (notification) {
-        case CBN_EDITCHANGE:
-            if (!correcting_) {
-                textChanged();
-            }
-            break;
-        case CBN_SELCHANGE:
-            if (choice_.isOpen() || settling_) {
-                choice_.reached(static_cast<int>(SendMessageW(handle(), CB_GETCURSEL, 0, 0)));
-            }
-            break;
-        case CBN_SELENDOK:
-        case CBN_SELENDCANCEL:
-            choice_.ended(notification == CBN_SELENDOK);
-            break;
-        case CBN_CLOSEUP:
-            listEnded();
-            break;
-        default:
-            break;
+void ComboField::settled() {
+    listClosed();
+    former_ = text();
+}
+
+void ComboField::otherNotification(int notification) {
+    if (notification == CBN_EDITCHANGE && !correcting_) {
+        textChanged();
     }
 }
 
 void ComboField::paintArrow(HDC context, const RECT& area) const {
     const int height = std::max(2, static_cast<int>(area.right - area.left) / 4);
-    const int middle = static_cast<int>(area.left + area.right) / 2;
-    const int top = static_cast<int>(area.top + area.bottom - height) / 2;
-    const Color color = IsWindowEnabled(handle()) != FALSE ? dark::text : dark::dimText;
-    for (int i = 0; i < height; ++i) {
-        const int half = height - i;
-        fillRect(context, {middle - half, top + i, middle + half, top + i + 1}, color);
-    }
+    const PixelPoint top{static_cast<int>(area.left + area.right) / 2,
+                         static_cast<int>(area.top + area.bottom - height) / 2};
+    paintListArrow(context, top, height, isEnabled() ? dark::text : dark::dimText);
 }
 
 LRESULT ComboField::onPaint() {
@@ -212,7 +173,7 @@ LRESULT ComboField::onPaint() {
     const COMBOBOXINFO parts = partsOf(handle());
     const bool focused = GetFocus() == field_.handle();
     const int dpi = static_cast<int>(GetDpiForWindow(handle()));
-    paintField(scope.context(), client, IsWindowEnabled(handle()) != FALSE, focused, dpi);
+    paintField(scope.context(), client, isEnabled(), focused, dpi);
     paintArrow(scope.context(), parts.rcButton);
     return 0;
 }
@@ -233,19 +194,15 @@ std::optional<LRESULT> ComboField::onMessage(UINT message, WPARAM wParam, LPARAM
             }
             return result;
         }
-        case wmSettle:
-            if (std::exchange(settling_, false)) {
-                settle();
-                former_ = text();
-            }
-            return 0;
         case WM_PAINT:
             return onPaint();
         case WM_ERASEBKGND:
             return 1;
         default:
-            return fieldColors(message, wParam);
+            break;
     }
+    const auto answer = fieldColors(message, wParam);
+    return answer ? answer : DropList::onMessage(message, wParam, lParam);
 }
 
 /// The text that a typed character would make, in place of what is marked.

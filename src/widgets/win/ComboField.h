@@ -5,15 +5,14 @@
 #include <string>
 #include <string_view>
 
-#include "platform/win/StandardControl.h"
-#include "widgets/ListChoice.h"
+#include "widgets/win/DropList.h"
 
 namespace ormala {
 
 /// A combo box for a text that can be typed or taken from a list, in the program's look. The list
 /// only proposes: its coming up, going through it and leaving it keep the text, and keys and the
 /// wheel change the text through the open list alone.
-class ComboField : public StandardControl {
+class ComboField : public DropList {
   public:
     ~ComboField() override { destroy(); }
 
@@ -21,7 +20,6 @@ class ComboField : public StandardControl {
                 std::span<const std::string_view> proposals);
     /// In pixels; after each change of font or place.
     void setFieldHeight(int height);
-    void setEnabled(bool enabled);
     void SetTooltip(const std::string& text);
     void setAccessibleName(const std::string& name);
 
@@ -31,9 +29,6 @@ class ComboField : public StandardControl {
     std::function<bool(const std::string& text)> takesText;
     /// What becomes of a text that has changed in any other way, and what it was before.
     std::function<std::string(const std::string& former, const std::string& text)> corrected;
-
-    /// To be called with the notifications that its parent gets from it.
-    void notified(int notification);
 
   private:
     /// Where the text is typed.
@@ -54,22 +49,19 @@ class ComboField : public StandardControl {
     bool openByKey(UINT message, WPARAM key);
     LRESULT mayOpen(UINT message, WPARAM wParam, LPARAM lParam);
     void propose() const;
-    [[nodiscard]] std::string rowText(int row) const;
     void textChanged();
-    void listEnded();
-    void settle();
+    void otherNotification(int notification) override;
+    void listClosed() override;
+    void settled() override;
     void showText(const std::string& text, DWORD selection);
     LRESULT onPaint();
     void paintArrow(HDC context, const RECT& area) const;
 
     Field field_{*this};
     bool correcting_ = false;
-    ListChoice choice_;
     /// What the text and what is marked in it were before the list or the last change.
     std::string former_;
     DWORD formerSelection_ = 0;
-    /// The list has gone, but perhaps not all of its notifications have come.
-    bool settling_ = false;
 };
 
 }  // namespace ormala

@@ -5,12 +5,13 @@
 #include "platform/win/BackBuffer.h"
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/controlName.h"
+#include "platform/win/fills.h"
 #include "platform/win/mousePassing.h"
 #include "platform/win/pixels.h"
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
+#include "widgets/lookColors.h"
 #include "widgets/win/controlFontSize.h"
-#include "widgets/win/darkColors.h"
 
 namespace ormala {
 
@@ -68,7 +69,7 @@ std::string Label::tipText() const {
 
 /// What is cut is asked when the mouse comes, and not at each of the many changes of a text.
 void Label::showTip(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+    if (isMouseMessage(message)) {
         if (const std::string text = tipText(); text != tip_.text()) {
             tip_.setText(text);
         }
@@ -102,8 +103,7 @@ void Label::drawGround(HDC context, const RECT& area) const {
         copyPixels(context,
                    gradientImage(*gradient_, {place.width(), place.height()}, &systemColor));
     } else {
-        SetDCBrushColor(context, colorRef(backColor_));
-        FillRect(context, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+        fillRect(context, area, backColor_);
     }
 }
 

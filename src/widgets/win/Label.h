@@ -62,8 +62,8 @@ class Label : public Window {
     }
 
     std::string text_;
-    Color textColor_ = 0x00E6FF;
-    Color backColor_ = 0x606060;
+    Color textColor_ = dark::text;
+    Color backColor_ = dark::ground;
     std::optional<GradientDesign> gradient_;
     Alignment alignment_ = Alignment::left;
     bool bold_ = false;

@@ -5,13 +5,15 @@
 
 #include "language/MlStringModule.h"
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/fills.h"
 #include "platform/win/fonts.h"
 #include "platform/win/monitors.h"
 #include "platform/win/regions.h"
 #include "widgets/dialogPlace.h"
 #include "widgets/dpi.h"
+#include "widgets/lookColors.h"
 #include "widgets/win/OptionGroup.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/win/fieldLook.h"
 
 namespace ormala {
 

@@ -1,6 +1,6 @@
 #include "widgets/win/OptionGroup.h"
 
-#include "widgets/captionColors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 

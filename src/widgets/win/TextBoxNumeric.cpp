@@ -10,7 +10,7 @@
 #include "platform/win/controlName.h"
 #include "platform/win/regions.h"
 #include "widgets/dpi.h"
-#include "widgets/win/darkColors.h"
+#include "widgets/win/fieldLook.h"
 
 namespace ormala {
 

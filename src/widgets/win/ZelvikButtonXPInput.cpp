@@ -22,10 +22,6 @@ KeyArguments keyArguments(WPARAM wParam) {
     return {static_cast<int>(wParam), heldModifiers()};
 }
 
-bool isMouseMessage(UINT message) {
-    return message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;
-}
-
 }  // namespace
 
 void ZelvikButtonXP::watchMouse(bool on) {

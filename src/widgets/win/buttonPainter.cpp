@@ -48,8 +48,8 @@ void paintCaption(HDC context, const ButtonFaceLook& look, const PixelRect& box)
 void paintFocusRectangle(HDC context, const ButtonFaceLook& look) {
     const int inset = scaledLength(focusInset, look.dpi);
     const RECT area{inset, inset, look.size.width - inset, look.size.height - inset};
-    SetTextColor(context, RGB(0, 0, 0));
-    SetBkColor(context, RGB(255, 255, 255));
+    SetTextColor(context, plain::black);
+    SetBkColor(context, plain::white);
     DrawFocusRect(context, &area);
 }
 

@@ -8,17 +8,16 @@
 #include "platform/win/Accessible.h"
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/controlName.h"
+#include "platform/win/fills.h"
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
 #include "widgets/dpi.h"
+#include "widgets/lookColors.h"
 #include "widgets/win/controlFontSize.h"
-#include "widgets/win/darkColors.h"
 
 namespace ormala {
 
 namespace {
-
-constexpr Color faceColor = rgb(112, 112, 112);
 
 int widthOf(HDC context, const std::string& text) {
     const std::wstring shown = wide(text);
@@ -154,7 +153,7 @@ void ctlSlider::paintHandle(HDC context) const {
     const PixelRect box = model_.imgSlide();
     const int line = lineWidthAt(dpi_);
     const bool enabled = Enabled();
-    fillRect(context, toRect(box), enabled ? faceColor : dark::ground);
+    fillRect(context, toRect(box), enabled ? dark::off : dark::ground);
     frameRect(context, box, line, enabled ? dark::outline : dark::dimOutline);
     if (!enabled) {
         return;
@@ -260,7 +259,7 @@ std::optional<LRESULT> ctlSlider::mouseMessage(UINT message, LPARAM lParam) {
 }
 
 std::optional<LRESULT> ctlSlider::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (tip_ && message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+    if (tip_ && isMouseMessage(message)) {
         tip_->relay(message, wParam, lParam);
     }
     switch (message) {

@@ -2,33 +2,19 @@
 
 #include <algorithm>
 
-#include "modAPI/colors.h"
-#include "platform/win/GdiCanvas.h"
-#include "platform/win/handles.h"
+#include "platform/win/fills.h"
 #include "platform/win/regions.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
 namespace {
 
-constexpr Color ground = 0x606060;
-constexpr Color trackColor = rgb(74, 74, 74);
-constexpr Color outline = rgb(64, 64, 64);
-constexpr Color faceColor = rgb(112, 112, 112);
-constexpr Color pressedFace = rgb(84, 84, 84);
-constexpr Color glyphColor = rgb(255, 230, 0);
-constexpr Color hoverMark = rgb(225, 153, 71);
-constexpr Color focusMark = rgb(140, 170, 230);
-constexpr Color dimOutline = rgb(84, 84, 84);
-constexpr Color dimGlyph = rgb(128, 128, 128);
-
 /// The width of a mark, in lines.
 constexpr int markLines = 2;
 
 void fill(HDC context, const PixelRect& box, Color color) {
-    const RECT area = toRect(box);
-    SetDCBrushColor(context, colorRef(color));
-    FillRect(context, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    fillRect(context, toRect(box), color);
 }
 
 /// A rectangle without its four corner points, framed by lines of that width.
@@ -41,13 +27,13 @@ void fillWithin(HDC context, const PixelRect& box, int line, Color edge, Color i
 void paintButton(HDC context, const PixelRect& box, ScrollPart part, const ScrollLook& look) {
     const int line = look.lineWidth;
     if (!look.enabled) {
-        fillWithin(context, box, line, dimOutline, ground);
+        fillWithin(context, box, line, dark::dimOutline, dark::ground);
         return;
     }
-    const Color face = look.pressed == part ? pressedFace : faceColor;
-    fillWithin(context, box, line, outline, face);
+    const Color face = look.pressed == part ? dark::pressed : dark::off;
+    fillWithin(context, box, line, dark::outline, face);
     if (look.hover == part || look.focus == part) {
-        const Color mark = look.hover == part ? hoverMark : focusMark;
+        const Color mark = look.hover == part ? dark::hoverMark : dark::focusMark;
         const PixelRect inner = box.grown(-line);
         fillWithin(context, inner, line, mark, mark);
         fill(context, inner.grown(-markLines * line), face);
@@ -83,7 +69,7 @@ void paintArrowButton(HDC context, const PixelRect& box, ScrollPart part, bool l
     const int sunk = look.pressed == part ? look.lineWidth : 0;
     const PixelRect place{box.left + sunk, box.top + sunk, box.right + sunk, box.bottom + sunk};
     paintArrow(context, place, lying, part == ScrollPart::topLeft,
-               look.enabled ? glyphColor : dimGlyph);
+               look.enabled ? dark::text : dark::dimGlyph);
 }
 
 /// Three lines across the middle of the thumb, where it is long enough for them.
@@ -102,7 +88,7 @@ void paintRibs(HDC context, const PixelRect& thumb, bool lying, int line) {
                                                 thumb.left + along + line, thumb.bottom - across}
                                     : PixelRect{thumb.left + across, thumb.top + along,
                                                 thumb.right - across, thumb.top + along + line};
-        fill(context, rib, outline);
+        fill(context, rib, dark::outline);
     }
 }
 
@@ -110,10 +96,10 @@ void paintRibs(HDC context, const PixelRect& thumb, bool lying, int line) {
 
 void paintScroll(HDC context, PixelSize size, const ScrollLayout& layout, const ScrollLook& look) {
     const bool lying = layout.horizontal;
-    fill(context, {0, 0, size.width, size.height}, ground);
+    fill(context, {0, 0, size.width, size.height}, dark::ground);
     if (look.enabled) {
-        fill(context, layout.shapeMiddle, outline);
-        fill(context, layout.shapeMiddle.grown(-look.lineWidth), trackColor);
+        fill(context, layout.shapeMiddle, dark::outline);
+        fill(context, layout.shapeMiddle.grown(-look.lineWidth), dark::fieldGround);
     }
     paintArrowButton(context, layout.cmdTL, ScrollPart::topLeft, lying, look);
     paintArrowButton(context, layout.cmdBR, ScrollPart::bottomRight, lying, look);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "language/MlStringModule.h"
+#include "modAPI/drawingColors.h"
 #include "platform/win/monitors.h"
 #include "platform/win/regions.h"
 
@@ -20,7 +21,7 @@ constexpr UINT tmrSetSizeInterval = 87;
 /// Reads back where the worksheet lies, once what moved it is over.
 constexpr UINT wmCheckHole = WM_APP + 1;
 
-constexpr COLORREF keyColor = static_cast<COLORREF>(frameKeyColor);
+constexpr COLORREF keyColor = static_cast<COLORREF>(sheetColor::frameKey);
 /// Only the key applies, whatever the opacity.
 constexpr BYTE firstAlpha = 0;
 constexpr BYTE shownAlpha = 230;

@@ -118,6 +118,7 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     void invalidate(const DirtyRegion& region, bool atRest);
     /// Of the monitor that the window is on.
     void takeDpi(UINT dpi);
+    std::optional<LRESULT> onPlaceMessage(UINT message, WPARAM wParam);
     LRESULT onPress(int button, WPARAM wParam, LPARAM lParam);
     LRESULT onMove(WPARAM wParam, LPARAM lParam);
     LRESULT onRelease(int button, WPARAM wParam, LPARAM lParam);

@@ -61,6 +61,17 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
             return paintNow();
         case WM_TIMER:
             return onTimer(wParam);
+        case WM_CLOSE:
+            commands_.closeProgram();
+            return 0;
+        default:
+            return onPlaceMessage(message, wParam);
+    }
+}
+
+/// What tells of another place of the window, or of other screens.
+std::optional<LRESULT> frmWorksheet::onPlaceMessage(UINT message, WPARAM wParam) {
+    switch (message) {
         case WM_SIZE:
             return onResize();
         case WM_MOVE:
@@ -74,9 +85,6 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
             if (maxSized_ && isVisible()) {
                 setMaxSized(true);
             }
-            return 0;
-        case WM_CLOSE:
-            commands_.closeProgram();
             return 0;
         default:
             return std::nullopt;

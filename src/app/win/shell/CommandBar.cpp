@@ -2,7 +2,7 @@
 
 #include "app/modes.h"
 #include "language/MlStringModule.h"
-#include "widgets/captionColors.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
@@ -10,10 +10,6 @@ namespace {
 
 /// Above the IDs of the commands.
 enum ControlId { idGround = 100, idPath, idInfo };
-
-constexpr Color ground = 0x606060;
-constexpr Color groundAtTop = rgb(124, 124, 124);
-constexpr Color infoColor = rgb(255, 230, 0);
 
 constexpr int pictureSize = 16;
 
@@ -28,16 +24,16 @@ CommandBar::CommandBar(const Window& parent)
       growth_(parent),
       lblPath_(parent.handle(), idPath, "lblPath"),
       lblInfo_(parent.handle(), idInfo, "lblInfo") {
-    gradToolbar_.setColorTopLeft(groundAtTop);
-    gradToolbar_.setColorBottomRight(ground);
+    gradToolbar_.setColorTopLeft(dark::toolbarTop);
+    gradToolbar_.setColorBottomRight(dark::ground);
     for (const CommandDesign& design : commandDesigns()) {
         makeButton(parent.handle(), design);
     }
     // The first child of a window lies in front of the others.
     SetWindowPos(gradToolbar_.handle(), HWND_BOTTOM, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    lblInfo_.setBackColor(ground);
-    lblInfo_.setTextColor(infoColor);
+    lblInfo_.setBackColor(dark::ground);
+    lblInfo_.setTextColor(dark::text);
     lblInfo_.setVisible(false);
 }
 
@@ -47,7 +43,7 @@ void CommandBar::makeButton(HWND parent, const CommandDesign& design) {
     made->setPicture(
         [picture = design.picture](PixelSize size) { return drawPicture(picture, size); });
     made->setPictureSize(pictureSize, pictureSize);
-    made->setBackColor(offColor);
+    made->setBackColor(dark::off);
     made->setPlaneFace(toolbarCaption.plane);
     made->setForeColor(toolbarCaption.text);
     if (design.command <= Command::pauseMode) {

@@ -8,8 +8,10 @@
 #include "app/keyTables.h"
 #include "app/modes.h"
 #include "app/win/shell/settingsIds.h"
+#include "platform/win/fills.h"
 #include "platform/win/windowOrder.h"
 #include "scene/Input.h"
+#include "widgets/lookColors.h"
 #include "widgets/win/tabStops.h"
 
 namespace ormala {
@@ -122,11 +124,7 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
              self.calls_.runNext();
              return Result(0);
          }},
-        {WM_CLOSE,
-         [](frmSettings& self, WPARAM, LPARAM) {
-             self.ports_.life.close();
-             return Result(0);
-         }},
+        {WM_CLOSE, [](frmSettings& self, WPARAM, LPARAM) { return self.onClose(); }},
         {WM_QUERYENDSESSION,
          [](frmSettings& self, WPARAM, LPARAM l) {
              return Result(self.ports_.life.queryEndOfSession((l & ENDSESSION_CRITICAL) != 0));
@@ -143,12 +141,13 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
     return found != handlers.end() ? found->second(*this, wParam, lParam) : std::nullopt;
 }
 
+std::optional<LRESULT> frmSettings::onClose() {
+    ports_.life.close();
+    return 0;
+}
+
 std::optional<LRESULT> frmSettings::onErase(WPARAM context) const {
-    constexpr COLORREF ground = 0x606060;
-    const auto paper = reinterpret_cast<HDC>(context);
-    const RECT client = clientRectangle();
-    SetDCBrushColor(paper, ground);
-    FillRect(paper, &client, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    fillRect(reinterpret_cast<HDC>(context), clientRectangle(), dark::ground);
     return 1;
 }
 

@@ -82,6 +82,7 @@ class frmSettings : public Window {
         FontSizeBox fontSizeBox;
     };
 
+    std::optional<LRESULT> onClose();
     std::optional<LRESULT> onErase(WPARAM context) const;
     std::optional<LRESULT> onSize(WPARAM kind);
     std::optional<LRESULT> onGetMinMaxInfo(LPARAM limits) const;

@@ -3,16 +3,16 @@
 #include "app/PanelLayout.h"
 #include "app/settingsLayout.h"
 #include "platform/win/controlName.h"
+#include "platform/win/fills.h"
 #include "platform/win/handles.h"
 #include "platform/win/regions.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
 namespace {
 
 enum ControlId { idInner = 1, idScroll };
-
-constexpr COLORREF ground = 0x606060;
 
 }  // namespace
 
@@ -33,8 +33,7 @@ std::optional<LRESULT> PictureBox::onMessage(UINT message, WPARAM wParam, LPARAM
     }
     const auto context = reinterpret_cast<HDC>(wParam);
     const RECT client = clientRectangle();
-    SetDCBrushColor(context, ground);
-    FillRect(context, &client, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    fillRect(context, client, dark::ground);
     return 1;
 }
 

@@ -1,8 +1,9 @@
-#include "widgets/win/darkColors.h"
+#include "widgets/win/fieldLook.h"
 
 #include "platform/win/GdiCanvas.h"
-#include "platform/win/regions.h"
+#include "platform/win/fills.h"
 #include "widgets/dpi.h"
+#include "widgets/lookColors.h"
 
 namespace ormala {
 
@@ -43,18 +44,6 @@ std::optional<LRESULT> fieldColors(UINT message, WPARAM wParam) {
     }
 }
 
-void fillRect(HDC context, const RECT& area, Color color) {
-    SetDCBrushColor(context, colorRef(color));
-    FillRect(context, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-}
-
-void frameRect(HDC context, const PixelRect& box, int line, Color color) {
-    fillRect(context, toRect({box.left, box.top, box.right, box.top + line}), color);
-    fillRect(context, toRect({box.left, box.bottom - line, box.right, box.bottom}), color);
-    fillRect(context, toRect({box.left, box.top, box.left + line, box.bottom}), color);
-    fillRect(context, toRect({box.right - line, box.top, box.right, box.bottom}), color);
-}
-
 void paintField(HDC context, const RECT& area, bool enabled, bool focused, int dpi) {
     const Color edge = !enabled ? dark::dimOutline : focused ? dark::focusMark : dark::outline;
     fillRect(context, area, edge);
@@ -62,6 +51,13 @@ void paintField(HDC context, const RECT& area, bool enabled, bool focused, int d
     const int line = lineWidthAt(dpi);
     InflateRect(&inner, -line, -line);
     fillRect(context, inner, enabled ? dark::fieldGround : dark::dimField);
+}
+
+void paintListArrow(HDC context, PixelPoint top, int height, Color color) {
+    for (int row = 0; row < height; ++row) {
+        const int half = height - row;
+        fillRect(context, {top.x - half, top.y + row, top.x + half, top.y + row + 1}, color);
+    }
 }
 
 }  // namespace ormala
