@@ -3,6 +3,8 @@
 #include <oleacc.h>
 #include <windowsx.h>
 
+#include <algorithm>
+
 #include "language/MlStringModule.h"
 #include "platform/win/controlName.h"
 #include "platform/win/regions.h"
@@ -17,8 +19,6 @@ namespace {
 constexpr int textTopLeft = 101;
 constexpr int textBottomRight = 102;
 
-enum ButtonId { idTopLeft = 1, idMove, idBottomRight };
-
 PixelPoint pointOf(HWND from, HWND to, LPARAM lParam) {
     POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
     MapWindowPoints(from, to, &point, 1);
@@ -32,6 +32,25 @@ void askForLeave(HWND window) {
 
 }  // namespace
 
+Scroll::Button::Button(Scroll& bar, ScrollPart part, std::string_view name)
+    : ZelvikButtonXP(bar.handle(), static_cast<int>(part), name), bar_(bar), part_(part) {
+    constexpr int square = 3;
+    setCornerStyle(square);
+}
+
+void Scroll::Button::place(const PixelRect& box) const {
+    const UINT visibility = box.empty() ? SWP_HIDEWINDOW : SWP_SHOWWINDOW;
+    SetWindowPos(handle(), nullptr, box.left, box.top, box.width(), box.height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW | SWP_NOCOPYBITS | visibility);
+}
+
+std::optional<LRESULT> Scroll::Button::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto answer = bar_.buttonMessage(*this, message, wParam, lParam);
+    // A button of its own would answer other mouse buttons too.
+    return answer || isMouseMessage(message) ? answer
+                                             : ZelvikButtonXP::onMessage(message, wParam, lParam);
+}
+
 Scroll::Scroll(HWND parent, int id, std::string_view name) {
     WindowDesign design;
     design.className = L"Scroll";
@@ -41,9 +60,9 @@ Scroll::Scroll(HWND parent, int id, std::string_view name) {
     design.id = id;
     create(design);
     setControlName(handle(), name);
-    cmdTL_.open(handle(), idTopLeft, "cmdTL");
-    cmdMove_.open(handle(), idMove, "cmdMove");
-    cmdBR_.open(handle(), idBottomRight, "cmdBR");
+    buttons_ = {std::make_unique<Button>(*this, ScrollPart::topLeft, "cmdTL"),
+                std::make_unique<Button>(*this, ScrollPart::thumb, "cmdMove"),
+                std::make_unique<Button>(*this, ScrollPart::bottomRight, "cmdBR")};
     placing_ = model_.LayoutChange.subscribe([this] { refresh(); });
     following_ = model_.Change.subscribe([this] { Change.raise(); });
     relabeling_ = GetLanguageSupport().LanguageChange.subscribe([this] { ApplyLanguage(); });
@@ -52,8 +71,9 @@ Scroll::Scroll(HWND parent, int id, std::string_view name) {
 }
 
 void Scroll::ApplyLanguage() {
-    cmdTL_.setCaption(MlString(textTopLeft, "6"));
-    cmdBR_.setCaption(MlString(textBottomRight, "5"));
+    // Signs, which are the texts of the windows and not written on them.
+    button(ScrollPart::topLeft).Window::setCaption(MlString(textTopLeft, "6"));
+    button(ScrollPart::bottomRight).Window::setCaption(MlString(textBottomRight, "5"));
 }
 
 /// The captions of the arrows are signs, so that all parts have a word of their own to be told by.
@@ -77,11 +97,15 @@ void Scroll::setDpi(int dpi) {
     onSize();
 }
 
+Scroll::Button& Scroll::button(ScrollPart part) const {
+    return **std::ranges::find(buttons_, part, [](const auto& each) { return each->part(); });
+}
+
 ScrollPart Scroll::focusedPart() const {
     const HWND focus = GetFocus();
-    for (const ScrollButton* button : {&cmdTL_, &cmdMove_, &cmdBR_}) {
-        if (focus != nullptr && button->handle() == focus) {
-            return button->part();
+    for (const auto& each : buttons_) {
+        if (focus != nullptr && each->handle() == focus) {
+            return each->part();
         }
     }
     return ScrollPart::none;
@@ -91,11 +115,11 @@ void Scroll::placeButtons() {
     const ScrollLayout& layout = model_.layout();
     const bool hasThumb = model_.Enabled() && !layout.cmdMove.empty();
     if (!hasThumb && focusedPart() == ScrollPart::thumb) {
-        SetFocus(cmdTL_.handle());
+        SetFocus(button(ScrollPart::topLeft).handle());
     }
-    cmdTL_.place(layout.cmdTL);
-    cmdMove_.place(hasThumb ? layout.cmdMove : PixelRect{});
-    cmdBR_.place(layout.cmdBR);
+    button(ScrollPart::topLeft).place(layout.cmdTL);
+    button(ScrollPart::thumb).place(hasThumb ? layout.cmdMove : PixelRect{});
+    button(ScrollPart::bottomRight).place(layout.cmdBR);
 }
 
 void Scroll::refresh() {
@@ -145,8 +169,8 @@ LRESULT Scroll::onEnable(bool enabled) {
     }
     model_.setEnabled(enabled);
     hover_ = ScrollPart::none;
-    for (const ScrollButton* button : buttons()) {
-        EnableWindow(button->handle(), enabled ? TRUE : FALSE);
+    for (const auto& each : buttons_) {
+        EnableWindow(each->handle(), enabled ? TRUE : FALSE);
     }
     refresh();
     return 0;
@@ -170,9 +194,9 @@ void Scroll::hover(ScrollPart part) {
 
 void Scroll::press(PixelPoint point) {
     const ScrollPart part = model_.layout().partAt(point);
-    for (const ScrollButton* button : buttons()) {
-        if (button->part() == part) {
-            SetFocus(button->handle());
+    for (const auto& each : buttons_) {
+        if (each->part() == part) {
+            SetFocus(each->handle());
         }
     }
     SetCapture(handle());
@@ -228,7 +252,7 @@ std::optional<LRESULT> Scroll::onMessage(UINT message, WPARAM wParam, LPARAM lPa
         case WM_ENABLE:
             return onEnable(wParam != FALSE);
         case WM_SETFOCUS:
-            SetFocus(cmdTL_.handle());
+            SetFocus(button(ScrollPart::topLeft).handle());
             return 0;
         case WM_MOUSELEAVE:
             hover(ScrollPart::none);
@@ -243,13 +267,11 @@ std::optional<LRESULT> Scroll::onMessage(UINT message, WPARAM wParam, LPARAM lPa
     }
 }
 
-std::optional<LRESULT> Scroll::buttonMessage(ScrollButton& button, UINT message, WPARAM wParam,
+std::optional<LRESULT> Scroll::buttonMessage(const Button& button, UINT message, WPARAM wParam,
                                              LPARAM lParam) {
     switch (message) {
         case WM_PAINT:
             return paint(button.handle());
-        case WM_ERASEBKGND:
-            return 1;
         case WM_SETFOCUS:
         case WM_KILLFOCUS:
             refresh();
@@ -264,8 +286,6 @@ std::optional<LRESULT> Scroll::buttonMessage(ScrollButton& button, UINT message,
         case BM_CLICK:
             model_.stepOnce(button.part());
             return 0;
-        case WM_GETOBJECT:
-            return answerAccessible(button.handle(), wParam, lParam);
         case accessibleFactsMessage:
             return tellFacts(button.part(), wantedFacts(lParam));
         case WM_MOUSELEAVE:

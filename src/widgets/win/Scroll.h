@@ -1,19 +1,19 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <string_view>
 
-#include "platform/win/Accessible.h"
 #include "platform/win/BackBuffer.h"
 #include "widgets/ScrollModel.h"
-#include "widgets/win/ScrollButton.h"
+#include "widgets/win/ZelvikButtonXP.h"
 
 namespace ormala {
 
 /// The scroll bar in the program's own look: two arrows, a thumb and the track between them. It
 /// stands or lies by its shape. The owner keeps the time: while `wantsTicks` it calls `tick` every
 /// 40 ms.
-class Scroll : public Window, private ScrollButtonHost {
+class Scroll : public Window {
   public:
     /// A visible child of `parent` without a size. `name` is its control name.
     Scroll(HWND parent, int id, std::string_view name);
@@ -43,9 +43,24 @@ class Scroll : public Window, private ScrollButtonHost {
     Event<> Change;
 
   private:
+    /// An arrow or the thumb: a button whose mouse, keys and look are those of the whole bar.
+    class Button : public ZelvikButtonXP {
+      public:
+        Button(Scroll& bar, ScrollPart part, std::string_view name);
+        [[nodiscard]] ScrollPart part() const { return part_; }
+        /// Moves it without painting, and hides it where the place is empty.
+        void place(const PixelRect& box) const;
+
+      private:
+        std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+        Scroll& bar_;
+        ScrollPart part_;
+    };
+
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    std::optional<LRESULT> buttonMessage(ScrollButton& button, UINT message, WPARAM wParam,
-                                         LPARAM lParam) override;
+    std::optional<LRESULT> buttonMessage(const Button& button, UINT message, WPARAM wParam,
+                                         LPARAM lParam);
     std::optional<LRESULT> mouseMessage(HWND window, UINT message, LPARAM lParam);
 
     void ApplyLanguage();
@@ -61,12 +76,10 @@ class Scroll : public Window, private ScrollButtonHost {
     void release(PixelPoint point);
     void hover(ScrollPart part);
     [[nodiscard]] ScrollPart focusedPart() const;
-    [[nodiscard]] std::array<ScrollButton*, 3> buttons() { return {&cmdTL_, &cmdMove_, &cmdBR_}; }
+    [[nodiscard]] Button& button(ScrollPart part) const;
 
     ScrollModel model_;
-    ScrollButton cmdTL_{*this, ScrollPart::topLeft};
-    ScrollButton cmdMove_{*this, ScrollPart::thumb};
-    ScrollButton cmdBR_{*this, ScrollPart::bottomRight};
+    std::array<std::unique_ptr<Button>, 3> buttons_;
     BackBuffer buffer_;
     bool drawn_ = false;
     bool captured_ = false;

@@ -81,13 +81,15 @@ class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface
     /// the button is disabled.
     bool pressAccessKey(wchar_t key);
 
+  protected:
+    std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
   private:
     struct Picture {
         PictureMaker maker;
         PixelImage image;
     };
 
-    std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::optional<LRESULT> mouseMessage(UINT message, WPARAM wParam, LPARAM lParam);
     std::optional<LRESULT> keyMessage(UINT message, WPARAM wParam);
     std::optional<LRESULT> stateMessage(UINT message, WPARAM wParam);
