@@ -2,7 +2,6 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "app/BusyView.h"
@@ -22,13 +21,12 @@ class QuietPanelView : public PanelView {
   public:
     void showTexts(const std::vector<ControlText>& /*texts*/) override {}
     void showLook(const PanelLook& /*look*/) override {}
-    void showButton(std::string_view /*name*/, const ButtonLook& /*look*/) override {}
-    void showLineStyle(int /*lineCode*/) override {}
-    void showPattern() override {}
+    void showButton(ControlId /*button*/, const ButtonLook& /*look*/) override {}
+    void showPicture(ControlId /*button*/, PictureMaker /*maker*/) override {}
     void enable(const PanelEnabling& /*enabling*/) override {}
-    void runRefreshTimer(bool /*run*/) override {}
+    void runTimer(PanelTimer /*timer*/, unsigned /*interval*/) override {}
     void toolBecameSelected() override {}
-    void removeRequested() override {}
+    void removeRequested(bool /*byMouse*/) override {}
     void showMenu(const std::string& /*removeText*/) override {}
 };
 
@@ -36,9 +34,9 @@ class QuietPanelView : public PanelView {
 class QuietPanel : public ListedPanel {
   public:
     QuietPanelView view;
-    std::unique_ptr<ToolPanel> core;
+    std::unique_ptr<SettingControl> core;
 
-    [[nodiscard]] ToolPanel& panel() override { return *core; }
+    [[nodiscard]] SettingControl& panel() override { return *core; }
     [[nodiscard]] int top() const override { return top_; }
     void setTop(int top) override { top_ = top; }
     [[nodiscard]] int height() const override { return 100; }
@@ -54,10 +52,8 @@ class QuietPanel : public ListedPanel {
 /// is painted. The first tool of each kind is in use.
 class QuietToolList : public BusyView,
                       private PanelFactory,
-                      private ToolVisibility,
                       private ToolListView,
-                      private SheetPort,
-                      private DayClock {
+                      private SheetPort {
   public:
     QuietToolList() {
         maker_.setSheet(sheet_);
@@ -82,29 +78,27 @@ class QuietToolList : public BusyView,
     void endBusy() override {}
     void refreshWorksheet() override {}
     void refreshControlWindow() override {}
-    float secondsSinceMidnight() const override { return 36000; }
-    void setVisible(const OverlayItem& tool, bool visible) override {
-        sheet_.setVisible(tool, visible);
-    }
 
     std::unique_ptr<ListedPanel> makePanel(ToolKind kind, OverlayItem& tool) override {
         auto made = std::make_unique<QuietPanel>();
-        const PanelPorts ports{made->view, *this, *this};
+        const PanelPorts ports{
+            made->view, commands_, tmrFast_,
+            [this](const OverlayItem& shown, bool visible) { sheet_.setVisible(shown, visible); },
+            [] { return 36000.0F; }};
         if (kind == ToolKind::stencil) {
-            made->core = std::make_unique<StencilPanel>(
-                dynamic_cast<ctlRatioGrid&>(tool), ports,
-                StencilPorts{stencilCommands_, stencilCommands_, tmrFast_}, settings_, ratios_);
+            made->core = std::make_unique<StencilPanel>(dynamic_cast<ctlRatioGrid&>(tool), ports,
+                                                        commands_, settings_, ratios_);
         } else {
-            made->core = std::make_unique<MeasurePanel>(dynamic_cast<ctlMeasure&>(tool), ports,
-                                                        measureCommands_, settings_);
+            made->core = std::make_unique<MeasurePanel>(
+                dynamic_cast<ctlMeasure&>(tool), ports,
+                [this](ctlMeasure& measure) { return commands_.SelectUnits(measure); }, settings_);
         }
         return made;
     }
 
     OwnToolSettings settings_;
     QuietToolHost host_;
-    FakeStencilCommands stencilCommands_;
-    FakeMeasureCommands measureCommands_;
+    FakePanelCommands commands_;
     Event<> tmrFast_;
     SpecialRatios ratios_{[](int, std::string_view text) { return std::string(text); }, {}};
     ToolMaker maker_{settings_, ratios_};

@@ -28,8 +28,8 @@ class ControlWindowStage {
 
     [[nodiscard]] ToolList& list() { return program_.tools().tools(); }
     [[nodiscard]] ToolsPane& pane() { return program_.tools(); }
-    [[nodiscard]] PanelCore& lastPanel() {
-        return dynamic_cast<PanelCore&>(list().GetPanelsInVisualOrder().back().listed.panel());
+    [[nodiscard]] SettingControl& lastPanel() {
+        return list().GetPanelsInVisualOrder().back().listed.panel();
     }
     /// The lowest panel of a stencil.
     [[nodiscard]] HWND lastStencilPanel() {

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "scene/ToolControl.h"
-#include "toolkit/ToolPanel.h"
+#include "toolkit/SettingControl.h"
 
 namespace ormala {
 
@@ -13,7 +13,7 @@ class ListedPanel {
   public:
     virtual ~ListedPanel() = default;
 
-    [[nodiscard]] virtual ToolPanel& panel() = 0;
+    [[nodiscard]] virtual SettingControl& panel() = 0;
     [[nodiscard]] virtual int top() const = 0;
     virtual void setTop(int top) = 0;
     [[nodiscard]] virtual int height() const = 0;

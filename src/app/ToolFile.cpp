@@ -82,10 +82,10 @@ bool ToolFile::load() {
 
 void ToolFile::loadTools() {
     INIFile& file = ports_.file;
-    ToolPanel* first = nullptr;
+    SettingControl* first = nullptr;
     for (std::int32_t index = 0; index <= file.SectionMax(); ++index) {
         const std::string section = file.SectionName(index);
-        ToolPanel* panel = isToolSection(section) ? loadTool(section) : nullptr;
+        SettingControl* panel = isToolSection(section) ? loadTool(section) : nullptr;
         if (first == nullptr) {
             first = panel;
         }
@@ -97,11 +97,11 @@ void ToolFile::loadTools() {
 }
 
 /// Null if the section's tool is of no kind that there is, or one too many.
-ToolPanel* ToolFile::loadTool(const std::string& section) {
+SettingControl* ToolFile::loadTool(const std::string& section) {
     INIFile& file = ports_.file;
     file.setCurrentSection(section);
     const int kind = file.LongValue("Type", 0);
-    ToolPanel* panel = ports_.tools.AddNewControl(kind, [&file](ToolPanel& made) {
+    SettingControl* panel = ports_.tools.AddNewControl(kind, [&file](SettingControl& made) {
         made.LoadFromFile(file);
         made.setSelected(false);
     });

@@ -44,7 +44,7 @@ class ToolFile {
   private:
     void store();
     void loadTools();
-    ToolPanel* loadTool(const std::string& section);
+    SettingControl* loadTool(const std::string& section);
 
     Ports ports_;
     Header header_;

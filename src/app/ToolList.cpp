@@ -33,7 +33,7 @@ void ToolList::prepareFirst(ToolKind kind) {
     }
     const ToolChanges changes(tool->control());
     const Pair& pair = append(kind, true, *tool);
-    ToolPanel& panel = pair.panel();
+    SettingControl& panel = pair.panel();
     const bool measures = kind == ToolKind::measurement;
     panel.setDefaultLook(colors_);
     panel.setNumber(measures ? 1 : 0);
@@ -56,7 +56,8 @@ int ToolList::countOf(ToolKind kind) const {
     return static_cast<int>(std::ranges::count(pairs_, kind, &Pair::kind));
 }
 
-ToolPanel* ToolList::AddNewControl(int Kind, const std::function<void(ToolPanel&)>& fill) {
+SettingControl* ToolList::AddNewControl(int Kind,
+                                        const std::function<void(SettingControl&)>& fill) {
     if (pairs_.size() >= largestCount) {
         ports_.messages.showError(
             MlString(302, "The maximum number of tools (33) has been reached."));
@@ -75,12 +76,12 @@ ToolPanel* ToolList::AddNewControl(int Kind, const std::function<void(ToolPanel&
         return nullptr;
     }
     ListedPanel& listed = *pair->listed;
-    ToolPanel& panel = listed.panel();
+    SettingControl& panel = listed.panel();
     setUpLook(kind, panel);
     ports_.sheet.SelectControl(panel.RefControlControl());
     panel.SetDefaultProperties();
-    if (const ToolPanel* former = LastVisiblePanel(kind)) {
-        panel.inherit(*former);
+    if (const SettingControl* former = LastVisiblePanel(kind)) {
+        panel.inherit(former->habits());
     }
     panel.setPause(false);
     panel.setUnits(ports_.units);
@@ -117,7 +118,7 @@ ToolList::Pair* ToolList::makePair(ToolKind kind, std::optional<ToolChanges>& ch
     return tool == nullptr ? nullptr : &append(kind, false, *tool);
 }
 
-void ToolList::setUpLook(ToolKind kind, ToolPanel& panel) {
+void ToolList::setUpLook(ToolKind kind, SettingControl& panel) {
     panel.setDefaultLook(colors_);
     if (kind == ToolKind::measurement) {
         panel.setNumber(NextFreeMeasureNumber());
@@ -125,7 +126,7 @@ void ToolList::setUpLook(ToolKind kind, ToolPanel& panel) {
     ArrangePanels();
 }
 
-void ToolList::RemovePanel(const ToolPanel& panel) {
+void ToolList::RemovePanel(const SettingControl& panel) {
     const auto at =
         std::ranges::find_if(pairs_, [&](const Pair& pair) { return &pair.panel() == &panel; });
     if (at == pairs_.end()) {
@@ -171,7 +172,7 @@ std::vector<ToolList::Entry> ToolList::GetPanelsInVisualOrder() const {
     return entries;
 }
 
-ToolPanel* ToolList::successorOf(const ToolPanel& panel) const {
+SettingControl* ToolList::successorOf(const SettingControl& panel) const {
     const auto shown = GetPanelsInVisualOrder();
     const auto at = std::ranges::find_if(
         shown, [&](const Entry& entry) { return &entry.listed.panel() == &panel; });
@@ -211,7 +212,7 @@ int ToolList::NextFreeMeasureNumber() const {
     return free == taken.end() ? 0 : static_cast<int>(free - taken.begin());
 }
 
-ToolPanel* ToolList::LastVisiblePanel(ToolKind kind) const {
+SettingControl* ToolList::LastVisiblePanel(ToolKind kind) const {
     const auto at = std::find_if(pairs_.rbegin(), pairs_.rend(), [kind](const Pair& pair) {
         return pair.kind == kind && pair.listed->visible();
     });

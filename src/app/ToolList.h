@@ -38,13 +38,13 @@ class ToolList {
 
     /// The panel of a new pair, selected; null for an unknown kind, and with a message to the user
     /// if there are too many. The tool is laid out once, after `fill`, which may change it further.
-    ToolPanel* AddNewControl(int Kind, const std::function<void(ToolPanel&)>& fill = {});
+    SettingControl* AddNewControl(int Kind, const std::function<void(SettingControl&)>& fill = {});
     /// Destroys the panel, unless it is a first one.
-    void RemovePanel(const ToolPanel& panel);
+    void RemovePanel(const SettingControl& panel);
     void RemoveAllTools();
     /// The panel that is to follow when this one goes: the one that takes its place, else the last
     /// one that stays; null if none stays.
-    [[nodiscard]] ToolPanel* successorOf(const ToolPanel& panel) const;
+    [[nodiscard]] SettingControl* successorOf(const SettingControl& panel) const;
 
     struct Entry {
         ToolKind kind;
@@ -59,21 +59,21 @@ class ToolList {
     /// The least number from 1 to 1111 that no panel in use has, 0 if there is none.
     [[nodiscard]] int NextFreeMeasureNumber() const;
     /// Null if no panel of that kind is visible.
-    [[nodiscard]] ToolPanel* LastVisiblePanel(ToolKind kind) const;
+    [[nodiscard]] SettingControl* LastVisiblePanel(ToolKind kind) const;
 
   private:
     struct Pair {
         ToolKind kind = ToolKind::stencil;
         bool first = false;
         std::unique_ptr<ListedPanel> listed;
-        [[nodiscard]] ToolPanel& panel() const { return listed->panel(); }
+        [[nodiscard]] SettingControl& panel() const { return listed->panel(); }
     };
 
     void prepareFirst(ToolKind kind);
     Pair* reuseFirst(ToolKind kind, std::optional<ToolChanges>& changes);
     Pair* makePair(ToolKind kind, std::optional<ToolChanges>& changes);
     Pair& append(ToolKind kind, bool first, OverlayItem& tool);
-    void setUpLook(ToolKind kind, ToolPanel& panel);
+    void setUpLook(ToolKind kind, SettingControl& panel);
     double NextToolSize();
     [[nodiscard]] int countOf(ToolKind kind) const;
 

@@ -1,16 +1,16 @@
 #include "measure/MeasurePanel.h"
 
 #include <array>
+#include <utility>
 
 #include "language/MlStringModule.h"
 #include "measure/MeasureReadOuts.h"
-#include "widgets/lookColors.h"
+#include "measure/measurePanelDesign.h"
+#include "modAPI/drawingColors.h"
 
 namespace ormala {
 
 namespace {
-
-constexpr int solidOnePixel = 2;
 
 // Of a measuring tool whose keys are missing in its file.
 constexpr Line fileLineA{50, 10, 50, 50};
@@ -35,50 +35,38 @@ bool visitLine(ToolKeys& visitor, const LineKeys& keys, const Line& line) {
            visitor.number(keys[2], line.x2) && visitor.number(keys[3], line.y2);
 }
 
-constexpr ButtonLook switchLook(bool on) {
-    return {on ? dark::on : dark::off, on, std::nullopt};
-}
-
 }  // namespace
 
-MeasurePanel::MeasurePanel(ctlMeasure& tool, const PanelPorts& ports, MeasureCommands& commands,
+MeasurePanel::MeasurePanel(ctlMeasure& tool, const PanelPorts& ports, SelectUnits selectUnits,
                            const ToolSettings& settings)
-    : PanelCore(tool, tool.events(), tool.History(), ports),
+    : SettingControl(tool, measurePanelDesign(), ports),
       tool_(tool),
-      commands_(commands),
-      settings_(settings) {
-    ShowAllProps(false);
-}
+      selectUnits_(std::move(selectUnits)),
+      settings_(settings) {}
 
 void MeasurePanel::setColorA(Color color) {
-    view().showButton("cmdColorA", colorButtonLook(color));
+    view().showButton(MeasureControl::cmdColorA, colorButtonLook(color));
     tool_.setColorA(color);
 }
 
 void MeasurePanel::setColorB(Color color) {
-    view().showButton("cmdColorB", colorButtonLook(color));
+    view().showButton(MeasureControl::cmdColorB, colorButtonLook(color));
     tool_.setColorB(color);
 }
 
-void MeasurePanel::setLineWidth(int lineCode) {
-    tool_.setLineWidth(lineCode);
-    view().showLineStyle(lineCode);
-}
-
 void MeasurePanel::setNumber(int number) {
-    number_ = number;
+    SettingControl::setNumber(number);
     view().showTexts({title()});
     tool_.setNumber(number);
 }
 
 ControlText MeasurePanel::title() const {
-    return {"lblTitle", MlString(325, "Measurement Tool ") + std::to_string(number_)};
+    return {CommonControl::lblTitle, MlString(325, "Measurement Tool ") + std::to_string(Number())};
 }
 
-void MeasurePanel::connect(bool connected) {
+void MeasurePanel::setConnected(bool connected) {
     tool_.setConnected(connected);
-    AddHistoryStep();
-    ShowAllProps(false);
+    changed();
 }
 
 void MeasurePanel::toggleAngleLabels() {
@@ -92,31 +80,25 @@ void MeasurePanel::toggleLengthLabels() {
 }
 
 void MeasurePanel::clickColorA() {
-    setColorA(commands_.SelectColor(ColorA()));
+    setColorA(dialogs().SelectColor(ColorA()));
     AddHistoryStep();
 }
 
 void MeasurePanel::clickColorB() {
-    setColorB(commands_.SelectColor(ColorB()));
-    AddHistoryStep();
-}
-
-void MeasurePanel::clickLineStyle() {
-    setLineWidth(commands_.SelectLineStyle(LineWidth()));
+    setColorB(dialogs().SelectColor(ColorB()));
     AddHistoryStep();
 }
 
 void MeasurePanel::clickUnits() {
-    if (commands_.SelectUnits(tool_)) {
+    if (selectUnits_(tool_)) {
         tool_.PositionGrips();
         ShowAllProps(false);
     }
 }
 
-void MeasurePanel::LoadFromFile(INIFile& file) {
-    const ToolChanges changes(tool_);
+void MeasurePanel::readKeys(INIFile& file) {
     loadLines(file);
-    setLineWidth(file.LongValue("LineWidth", solidOnePixel));
+    setLineWidth(file.LongValue("LineWidth", ToolHabits{}.LineWidth));
     setColorA(file.LongValue("ColorA", missingColor::lineA));
     setColorB(file.LongValue("ColorB", missingColor::lineB));
     const MeasureUnits missing;
@@ -127,8 +109,6 @@ void MeasurePanel::LoadFromFile(INIFile& file) {
     tool_.setLabelsLengthVisible(flagValue(file, "LabelsLengthVisible", true));
     tool_.setLabelsAngleVisible(flagValue(file, "LabelsAngleVisible", true));
     setNumber(file.LongValue("Number", 0));
-    setPause(flagValue(file, "Hide", false));
-    finish();
 }
 
 /// The connection comes first, since it decides where line b ends if the file doesn't say so.
@@ -142,16 +122,6 @@ void MeasurePanel::loadLines(INIFile& file) {
     tool_.setLineB(lineValue(file, keysOfB, missing));
 }
 
-void MeasurePanel::StoreToFile(INIFile& file) const {
-    ToolKeyWriter writer(file);
-    visitKeys(writer);
-}
-
-bool MeasurePanel::EqualsFile(INIFile& file) const {
-    ToolKeyComparer comparer(file);
-    return visitKeys(comparer);
-}
-
 bool MeasurePanel::visitKeys(ToolKeys& keys) const {
     return keys.flag("Connected", tool_.Connected()) && visitLine(keys, keysOfA, tool_.LineA()) &&
            visitLine(keys, keysOfB, tool_.LineB()) && keys.integer("LineWidth", LineWidth()) &&
@@ -162,15 +132,13 @@ bool MeasurePanel::visitKeys(ToolKeys& keys) const {
            keys.text("LengthUnit", tool_.LengthUnit()) &&
            keys.flag("LabelsLengthVisible", tool_.LabelsLengthVisible()) &&
            keys.flag("LabelsAngleVisible", tool_.LabelsAngleVisible()) &&
-           keys.integer("Number", Number()) && keys.flag("Hide", Pause());
+           keys.integer("Number", Number());
 }
 
-void MeasurePanel::setDefaultLook(ToolColors& colors) {
-    const ToolChanges changes(tool_);
+void MeasurePanel::setDefaultColors(ToolColors& colors) {
     constexpr int kind = static_cast<int>(ToolKind::measurement);
     setColorA(colors.NextDefaultToolColor(kind, false));
     setColorB(colors.NextDefaultToolColor(kind, false));
-    setLineWidth(solidOnePixel);
 }
 
 void MeasurePanel::setUnits(const MeasureUnits& units) {
@@ -184,22 +152,21 @@ MeasureUnits MeasurePanel::units() const {
     return {tool_.AngleMode(), tool_.LengthMode(), tool_.LengthFactor(), tool_.LengthUnit()};
 }
 
-void MeasurePanel::inherit(const ToolPanel& former) {
-    const auto& measure = dynamic_cast<const MeasurePanel&>(former);
+ToolHabits MeasurePanel::habits() const {
+    return {LineWidth(), tool_.Connected(), tool_.LabelsAngleVisible(),
+            tool_.LabelsLengthVisible()};
+}
+
+void MeasurePanel::inherit(const ToolHabits& former) {
     const ToolChanges changes(tool_);
-    setLineWidth(measure.LineWidth());
-    tool_.setConnected(measure.tool_.Connected());
-    tool_.setLabelsAngleVisible(measure.tool_.LabelsAngleVisible());
-    tool_.setLabelsLengthVisible(measure.tool_.LabelsLengthVisible());
+    SettingControl::inherit(former);
+    tool_.setConnected(former.Connected);
+    tool_.setLabelsAngleVisible(former.LabelsAngleVisible);
+    tool_.setLabelsLengthVisible(former.LabelsLengthVisible);
 }
 
 void MeasurePanel::CenterToScreen(double offset) {
     tool_.CenterToScreen(false, offset, true);
-}
-
-void MeasurePanel::finish() {
-    InitializeFinished();
-    ShowAllProps(false);
 }
 
 std::vector<ControlText> MeasurePanel::texts() const {
@@ -209,23 +176,10 @@ std::vector<ControlText> MeasurePanel::texts() const {
 }
 
 void MeasurePanel::showState() {
-    showSwitch("optMode(0)", tool_.Connected());
-    showSwitch("optMode(1)", !tool_.Connected());
-    showSwitch("chkShowAngle", tool_.LabelsAngleVisible());
-    showSwitch("chkShowLength", tool_.LabelsLengthVisible());
-}
-
-void MeasurePanel::showSwitch(std::string_view name, bool on) {
-    view().showButton(name, switchLook(on));
-}
-
-ButtonLook MeasurePanel::pauseLook() const {
-    return switchLook(Pause());
-}
-
-std::string MeasurePanel::removeText() const {
-    const std::array<std::string, 1> arguments{std::to_string(number_)};
-    return MlFormat(MlString(326, "Remove measurement tool %0"), arguments);
+    view().showButton(MeasureControl::optConnect, switchLook(tool_.Connected()));
+    view().showButton(MeasureControl::optDisconnect, switchLook(!tool_.Connected()));
+    view().showButton(MeasureControl::chkShowAngle, switchLook(tool_.LabelsAngleVisible()));
+    view().showButton(MeasureControl::chkShowLength, switchLook(tool_.LabelsLengthVisible()));
 }
 
 void MeasurePanel::placeByDefault() {

@@ -1,18 +1,21 @@
 #pragma once
 
-#include "measure/MeasureCommands.h"
+#include <functional>
+
 #include "measure/ctlMeasure.h"
 #include "scene/ToolSettings.h"
-#include "toolkit/PanelCore.h"
-#include "toolkit/toolKeys.h"
+#include "toolkit/SettingControl.h"
 
 namespace ormala {
 
-/// The core of a measuring tool's panel.
-class MeasurePanel : public PanelCore {
+/// The panel of a measuring tool.
+class MeasurePanel : public SettingControl {
   public:
+    /// The dialog of a tool's units, which changes the tool; false if it was cancelled.
+    using SelectUnits = std::function<bool(ctlMeasure& tool)>;
+
     /// All must outlive the panel.
-    MeasurePanel(ctlMeasure& tool, const PanelPorts& ports, MeasureCommands& commands,
+    MeasurePanel(ctlMeasure& tool, const PanelPorts& ports, SelectUnits selectUnits,
                  const ToolSettings& settings);
 
     [[nodiscard]] ctlMeasure& RefControl() { return tool_; }
@@ -21,49 +24,37 @@ class MeasurePanel : public PanelCore {
     void setColorA(Color color);
     [[nodiscard]] Color ColorB() const { return tool_.ColorB(); }
     void setColorB(Color color);
-    [[nodiscard]] int LineWidth() const { return tool_.LineWidth(); }
-    void setLineWidth(int lineCode);
-    [[nodiscard]] int Number() const override { return number_; }
     void setNumber(int number) override;
 
-    /// The button "Connect" or "Disconnect" was pressed.
-    void connect(bool connected);
+    void SetDefaultProperties() override { tool_.SetDefaultProperties(); }
+    void setUnits(const MeasureUnits& units) override;
+    [[nodiscard]] ToolHabits habits() const override;
+    void inherit(const ToolHabits& former) override;
+    void CenterToScreen(double offset) override;
+
+    void connect() { setConnected(true); }
+    void disconnect() { setConnected(false); }
     void toggleAngleLabels();
     void toggleLengthLabels();
     void clickColorA();
     void clickColorB();
-    void clickLineStyle();
     void clickUnits();
 
-    void LoadFromFile(INIFile& file) override;
-    void StoreToFile(INIFile& file) const override;
-    [[nodiscard]] bool EqualsFile(INIFile& file) const override;
-
-    void setDefaultLook(ToolColors& colors) override;
-    void SetDefaultProperties() override { tool_.SetDefaultProperties(); }
-    void setUnits(const MeasureUnits& units) override;
-    void inherit(const ToolPanel& former) override;
-    void CenterToScreen(double offset) override;
-    void finish() override;
-
   private:
-    [[nodiscard]] std::vector<ControlText> texts() const override;
-    [[nodiscard]] ButtonLook pauseLook() const override;
-    [[nodiscard]] std::string removeText() const override;
-    void showState() override;
-    void stateReplaced() override {}
+    void readKeys(INIFile& file) override;
+    bool visitKeys(ToolKeys& keys) const override;
+    void setDefaultColors(ToolColors& colors) override;
     void placeByDefault() override;
-    void otherKeyDown(int /*key*/) override {}
-    void showSwitch(std::string_view name, bool on);
+    [[nodiscard]] std::vector<ControlText> texts() const override;
+    void showState() override;
+    void setConnected(bool connected);
     [[nodiscard]] ControlText title() const;
     [[nodiscard]] MeasureUnits units() const;
     void loadLines(INIFile& file);
-    bool visitKeys(ToolKeys& keys) const;
 
     ctlMeasure& tool_;
-    MeasureCommands& commands_;
+    SelectUnits selectUnits_;
     const ToolSettings& settings_;
-    int number_ = 0;
 };
 
 }  // namespace ormala

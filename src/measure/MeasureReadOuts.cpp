@@ -1,5 +1,7 @@
 #include "measure/MeasureReadOuts.h"
 
+#include "measure/measurePanelDesign.h"
+
 namespace ormala {
 
 std::vector<ControlText> measureReadOuts(const MeasureState& state, const MeasureUnits& units,
@@ -15,14 +17,14 @@ std::vector<ControlText> measureReadOuts(const MeasureState& state, const Measur
                " ";
     };
     return {
-        {"lblAngleA", "ab = " + angle(AngleAToB(state))},
-        {"lblAngleB", "ba = " + angle(AngleBToA(state))},
-        {"lblAngleVertA", angle(AngleVertA(state))},
-        {"lblAngleVertB", angle(AngleVertB(state))},
-        {"lblRatioA", "a:b = " + ratio(RatioAToB(state))},
-        {"lblRatioB", "b:a = " + ratio(RatioBToA(state))},
-        {"lblLengthA", "a = " + length(PixelLengthA(state))},
-        {"lblLengthB", "b = " + length(PixelLengthB(state))},
+        {MeasureControl::lblAngleA, "ab = " + angle(AngleAToB(state))},
+        {MeasureControl::lblAngleB, "ba = " + angle(AngleBToA(state))},
+        {MeasureControl::lblAngleVertA, angle(AngleVertA(state))},
+        {MeasureControl::lblAngleVertB, angle(AngleVertB(state))},
+        {MeasureControl::lblRatioA, "a:b = " + ratio(RatioAToB(state))},
+        {MeasureControl::lblRatioB, "b:a = " + ratio(RatioBToA(state))},
+        {MeasureControl::lblLengthA, "a = " + length(PixelLengthA(state))},
+        {MeasureControl::lblLengthB, "b = " + length(PixelLengthB(state))},
     };
 }
 

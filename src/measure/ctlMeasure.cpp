@@ -50,11 +50,6 @@ void ctlMeasure::PositionGrips() {
     refresh();
 }
 
-void ctlMeasure::setLineWidth(int lineCode) {
-    lineWidth_ = lineCode;
-    refresh();
-}
-
 void ctlMeasure::setColorA(Color color) {
     signs_.ColorA = color;
     PositionGrips();
@@ -177,7 +172,7 @@ const Line& ctlMeasure::lineOf(MeasureStroke stroke) const {
 }
 
 Pen ctlMeasure::penOf(MeasureStroke stroke) const {
-    return {stroke == MeasureStroke::lineA ? signs_.ColorA : signs_.ColorB, lineWidth_};
+    return {stroke == MeasureStroke::lineA ? signs_.ColorA : signs_.ColorB, LineWidth()};
 }
 
 void ctlMeasure::drawStroke(Canvas& canvas, MeasureStroke stroke) const {

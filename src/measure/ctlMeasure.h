@@ -42,8 +42,6 @@ class ctlMeasure : public GripTool {
     [[nodiscard]] int AngleMode() const { return signs_.units.AngleMode; }
     void setAngleMode(int mode) { signs_.units.AngleMode = mode; }
 
-    [[nodiscard]] int LineWidth() const { return lineWidth_; }
-    void setLineWidth(int lineCode);
     [[nodiscard]] Color ColorA() const { return signs_.ColorA; }
     void setColorA(Color color);
     [[nodiscard]] Color ColorB() const { return signs_.ColorB; }
@@ -99,7 +97,6 @@ class ctlMeasure : public GripTool {
 
     MeasureState state_;
     MeasureSigns signs_;
-    int lineWidth_ = 2;
 
     MeasureLabels labels_;
     MeasureAids aids_;

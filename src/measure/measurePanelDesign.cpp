@@ -1,5 +1,7 @@
 #include "measure/measurePanelDesign.h"
 
+#include "measure/MeasurePanel.h"
+
 namespace ormala {
 
 namespace {
@@ -20,52 +22,62 @@ constexpr PixelRect field(int from, int to, int top) {
     return {from, top, to, top + rowHeight};
 }
 
-struct Row {
-    const char* header;
-    int caption;
-    int tip;
-    const char* first;
-    const char* second;
-};
-
-constexpr Row rows[] = {
-    {"lblLength", 47, 48, "lblLengthA", "lblLengthB"},
-    {"lblRatio", 18, 46, "lblRatioA", "lblRatioB"},
-    {"lblAngle", 35, 53, "lblAngleA", "lblAngleB"},
-    {"lblAngleVert", 51, 52, "lblAngleVertA", "lblAngleVertB"},
-};
-
 void addValues(std::vector<PanelControl>& controls) {
+    using enum MeasureControl;
     int top = firstRow;
-    for (const Row& row : rows) {
-        controls.insert(
-            controls.end(),
-            {{row.header, PanelPart::header, field(left, firstValue, top), row.caption, row.tip},
-             {row.first, PanelPart::value, field(firstValue, secondValue, top)},
-             {row.second, PanelPart::value, field(secondValue, right, top)}});
+    const auto add = [&](const char* name, int caption, int tip, const PanelControl& first,
+                         const PanelControl& second) {
+        controls.push_back(header(name, field(left, firstValue, top), caption, tip));
+        controls.push_back(first);
+        controls.back().box = field(firstValue, secondValue, top);
+        controls.push_back(second);
+        controls.back().box = field(secondValue, right, top);
         top += rowPitch;
-    }
+    };
+    add("lblLength", 47, 48, value(lblLengthA, "lblLengthA"), value(lblLengthB, "lblLengthB"));
+    add("lblRatio", 18, 46, value(lblRatioA, "lblRatioA"), value(lblRatioB, "lblRatioB"));
+    add("lblAngle", 35, 53, value(lblAngleA, "lblAngleA"), value(lblAngleB, "lblAngleB"));
+    add("lblAngleVert", 51, 52, value(lblAngleVertA, "lblAngleVertA"),
+        value(lblAngleVertB, "lblAngleVertB"));
+}
+
+PanelControl colorButton(MeasureControl id, const char* name, const char* letter, int tip,
+                         PressAction press) {
+    return {.name = name, .id = id, .tip = tip, .letter = letter, .press = press};
+}
+
+PanelControl option(MeasureControl id, int index, int tip, Picture picture, PressAction press) {
+    PanelControl made = button(id, "optMode", tip, picture, press, PanelPart::option);
+    made.index = index;
+    return made;
 }
 
 void addCommands(std::vector<PanelControl>& controls) {
+    using enum MeasureControl;
     CommandRow row(controls, left, commandTop);
-    row.add("cmdColorA", 212, std::nullopt, roundAtLeft);
-    row.add("cmdColorB", 214, std::nullopt, square);
-    row.add("cmdLineStyle", 43, Picture::lineStyle, square);
-    row.add("cmdUnits", 221, Picture::units, roundAtRight);
-    row.endGroup();
-    row.add("optMode(0)", 217, Picture::connectLines, roundAtLeft);
-    row.add("optMode(1)", 220, Picture::disconnectLines, roundAtRight);
-    row.endGroup();
-    row.add("chkShowLength", 218, Picture::showLengths, roundAtLeft);
-    row.add("chkShowAngle", 219, Picture::showAngles, roundAtRight);
-    row.endGroup();
-    row.add("cmdDefaultPos", 216, Picture::center, 0);
+    row.addBar({colorButton(cmdColorA, "cmdColorA", "a", 212, &MeasurePanel::clickColorA),
+                colorButton(cmdColorB, "cmdColorB", "b", 214, &MeasurePanel::clickColorB),
+                button(CommonControl::cmdLineStyle, "cmdLineStyle", 43, Picture::lineStyle,
+                       &SettingControl::clickLineStyle),
+                button("cmdUnits", 221, Picture::units, &MeasurePanel::clickUnits)});
+    row.addBar(
+        {option(optConnect, 0, 217, Picture::connectLines, &MeasurePanel::connect),
+         option(optDisconnect, 1, 220, Picture::disconnectLines, &MeasurePanel::disconnect)});
+    row.addBar({button(chkShowLength, "chkShowLength", 218, Picture::showLengths,
+                       &MeasurePanel::toggleLengthLabels, PanelPart::toggle),
+                button(chkShowAngle, "chkShowAngle", 219, Picture::showAngles,
+                       &MeasurePanel::toggleAngleLabels, PanelPart::toggle)});
+    row.addBar({button("cmdDefaultPos", 216, Picture::center, &SettingControl::setDefaultPlace)});
 }
 
 PanelDesign makeDesign() {
     const int height = CommandRow::panelHeight(commandTop);
-    PanelDesign design{{panelWidth, height}, titleControls(0, 215)};
+    PanelDesign design{.className = "ctlSetMeasure",
+                       .size = {panelWidth, height},
+                       .controls = titleControls(0, 215),
+                       .removeText = 326,
+                       .growthInterval = 45,
+                       .litByPause = true};
     addValues(design.controls);
     addCommands(design.controls);
     design.controls.push_back(bottomBand(height));

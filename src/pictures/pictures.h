@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "scene/PixelImage.h"
 
 namespace ormala {
@@ -74,5 +76,8 @@ inline constexpr int pictureCount = static_cast<int>(Picture::logo) + 1;
 /// The picture in the largest square that fits in the middle of `size`, in pixels; lines are sharp
 /// at any size from 16 pixels on. Around it all is transparent. A side below 1 gives no pixels.
 PixelImage drawPicture(Picture picture, PixelSize size);
+
+/// Draws a picture in the size that it is asked for, in pixels of the screen.
+using PictureMaker = std::function<PixelImage(PixelSize)>;
 
 }  // namespace ormala

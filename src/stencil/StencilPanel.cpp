@@ -1,24 +1,26 @@
 #include "stencil/StencilPanel.h"
 
+#include <algorithm>
 #include <cstddef>
 
-#include "language/MlStringModule.h"
 #include "stencil/PatternPicture.h"
 #include "stencil/PatternTable.h"
 #include "stencil/StencilReadOuts.h"
 #include "stencil/StencilSteps.h"
+#include "stencil/stencilPanelDesign.h"
 #include "widgets/lookColors.h"
 
 namespace ormala {
 
 namespace {
 
-constexpr int solidOnePixel = 2;
-
 // Of a stencil whose keys are missing in its file.
 constexpr Rect fileRect{10, 10, 80, 60};
 constexpr int fileFirstPattern = 6;
 constexpr int noPattern = -1;
+
+/// At 96 DPI.
+constexpr int pictureWidth = 44;
 
 /// The keys of a pattern slot, counted from 1.
 std::string patternKey(std::size_t slot) {
@@ -45,64 +47,31 @@ PatternSetting patternValue(INIFile& file, std::size_t slot) {
 
 }  // namespace
 
-StencilPanel::StencilPanel(ctlRatioGrid& tool, const PanelPorts& ports,
-                           const StencilPorts& stencilPorts, const ToolSettings& settings,
-                           const SpecialRatios& ratios)
-    : PanelCore(tool, tool.events(), tool.History(), ports),
+StencilPanel::StencilPanel(ctlRatioGrid& tool, const PanelPorts& ports, StencilCommands& commands,
+                           const ToolSettings& settings, const SpecialRatios& ratios)
+    : SettingControl(tool, stencilPanelDesign(), ports),
       tool_(tool),
-      commands_(stencilPorts.commands),
-      previewTimer_(stencilPorts.previewTimer),
+      commands_(commands),
       settings_(settings),
-      ratios_(ratios),
-      repeat_(stencilPorts.tmrFast, [this] {
-          setRepeating(false);
-          AddHistoryStep();
-      }) {
-    ShowAllProps(false);
-}
+      ratios_(ratios) {}
 
 void StencilPanel::setColor(ormala::Color color) {
-    view().showButton("cmdColor", colorButtonLook(color));
+    view().showButton(StencilControl::cmdColor, colorButtonLook(color));
     tool_.setColor(color);
 }
 
-void StencilPanel::setLineWidth(int lineCode) {
-    tool_.setLineWidth(lineCode);
-    view().showLineStyle(lineCode);
-}
-
-void StencilPanel::pressMove(int index, int shift) {
-    setRepeating(true);
-    repeat_.press(shift, [this, index, shift] { moveStep(index, shift); });
-}
-
-void StencilPanel::pressAngle(int index, int shift) {
-    setRepeating(true);
-    repeat_.press(shift, [this, index, shift] { angleStep(index, shift); });
-}
-
-void StencilPanel::pressMoveKey(int index, int shift) {
-    repeat_.pressKey([this, index, shift] { moveStep(index, shift); });
-}
-
-void StencilPanel::pressAngleKey(int index, int shift) {
-    repeat_.pressKey([this, index, shift] { angleStep(index, shift); });
-}
-
-void StencilPanel::moveStep(int index, int shift) {
-    const Grid* grid = shift != 0 ? &settings_.grid : nullptr;
+void StencilPanel::stepMove(const Press& press) {
+    const Grid* grid = press.shift != 0 ? &settings_.grid : nullptr;
     const StencilState state{tool_.RectBound(), tool_.RotationAngle(), {}};
-    tool_.setRectBound(afterMoveStep(state, index, grid));
-    ShowAllProps(false);
+    tool_.setRectBound(afterMoveStep(state, press.index, grid));
 }
 
-void StencilPanel::angleStep(int index, int shift) {
-    tool_.ModifyAngle(index == 1, angleStepOf(shift));
-    ShowAllProps(false);
+void StencilPanel::stepAngle(const Press& press) {
+    tool_.ModifyAngle(press.index == 1, angleStepOf(press.shift));
 }
 
-void StencilPanel::clickAngleZero(int shift) {
-    tool_.setRotationAngle(zeroAngleOf(shift));
+void StencilPanel::clickAngleZero(const Press& press) {
+    tool_.setRotationAngle(zeroAngleOf(press.shift));
     changed();
 }
 
@@ -112,8 +81,8 @@ void StencilPanel::clickFullSize() {
     changed();
 }
 
-void StencilPanel::clickMoveCenter(int shift) {
-    tool_.CenterToScreen((shift & modifier::ctrl) != 0, 0, false, false);
+void StencilPanel::clickMoveCenter(const Press& press) {
+    tool_.CenterToScreen((press.shift & modifier::ctrl) != 0, 0, false, false);
     changed();
 }
 
@@ -130,18 +99,12 @@ void StencilPanel::clickSelectPattern() {
     PatternList patterns = tool_.PatternList();
     if (commands_.SelectPattern(patterns, patternTab_)) {
         tool_.setPatternList(patterns);
-        AddHistoryStep();
-        view().showPattern();
+        changed();
     }
 }
 
 void StencilPanel::clickColor() {
-    setColor(commands_.SelectColor(Color()));
-    AddHistoryStep();
-}
-
-void StencilPanel::clickLineStyle() {
-    setLineWidth(commands_.SelectLineStyle(LineWidth()));
+    setColor(dialogs().SelectColor(Color()));
     AddHistoryStep();
 }
 
@@ -152,60 +115,53 @@ void StencilPanel::clickSendMouseInput() {
 
 void StencilPanel::hoverSendMouseInput(bool over) {
     if (over) {
-        previewTimer_.runPreviewTimer(true);
+        view().runTimer(PanelTimer::tmrDelayMousePreview, previewMilliseconds);
     } else {
         endPreview();
     }
 }
 
-void StencilPanel::showMousePreview() {
-    previewTimer_.runPreviewTimer(false);
-    tool_.setPreviewMouseAction(true);
+void StencilPanel::timerTicked(PanelTimer timer) {
+    if (timer == PanelTimer::tmrDelayMousePreview) {
+        view().runTimer(timer, 0);
+        tool_.setPreviewMouseAction(true);
+    } else {
+        SettingControl::timerTicked(timer);
+    }
 }
 
 void StencilPanel::endPreview() {
-    previewTimer_.runPreviewTimer(false);
+    view().runTimer(PanelTimer::tmrDelayMousePreview, 0);
     tool_.setPreviewMouseAction(false);
 }
 
 void StencilPanel::letGo() {
-    repeat_.stop();
+    SettingControl::letGo();
     endPreview();
 }
 
-void StencilPanel::changed() {
-    AddHistoryStep();
-    ShowAllProps(false);
+/// All patterns of the tool together.
+void StencilPanel::showState() {
+    if (shownPatterns_ == tool_.PatternList()) {
+        return;
+    }
+    shownPatterns_ = tool_.PatternList();
+    view().showPicture(StencilControl::imgPattern, [patterns = *shownPatterns_](PixelSize size) {
+        return GetPatternPicture(patterns, size, dark::liftedGround, plain::black,
+                                 std::max(1, size.width / pictureWidth));
+    });
 }
 
-PixelImage StencilPanel::patternPicture(PixelSize size, int lineWidth) const {
-    return GetPatternPicture(tool_.PatternList(), size, dark::liftedGround, plain::black,
-                             lineWidth);
-}
-
-void StencilPanel::LoadFromFile(INIFile& file) {
-    const ToolChanges changes(tool_);
+void StencilPanel::readKeys(INIFile& file) {
     tool_.setRectBound(rectValue(file));
     tool_.setRotationAngle(finiteValue(file, "RotationAngle", 0));
     setColor(file.LongValue("Color", missingColor::stencil));
-    setLineWidth(file.LongValue("LineWidth", solidOnePixel));
+    setLineWidth(file.LongValue("LineWidth", ToolHabits{}.LineWidth));
     PatternList patterns = tool_.PatternList();
     for (std::size_t slot = 0; slot < patterns.size(); ++slot) {
         patterns[slot] = patternValue(file, slot);
     }
     tool_.setPatternList(patterns);
-    setPause(flagValue(file, "Hide", false));
-    finish();
-}
-
-void StencilPanel::StoreToFile(INIFile& file) const {
-    ToolKeyWriter writer(file);
-    visitKeys(writer);
-}
-
-bool StencilPanel::EqualsFile(INIFile& file) const {
-    ToolKeyComparer comparer(file);
-    return visitKeys(comparer);
 }
 
 bool StencilPanel::visitKeys(ToolKeys& keys) const {
@@ -221,49 +177,24 @@ bool StencilPanel::visitKeys(ToolKeys& keys) const {
                 keys.integer(patternKey(slot), PatternIdFromIndex(patterns[slot].Pattern)) &&
                 keys.number(preRotationKey(slot), patterns[slot].PreRotation);
     }
-    return going && keys.flag("Hide", Pause());
+    return going;
 }
 
-void StencilPanel::setDefaultLook(ToolColors& colors) {
+void StencilPanel::setDefaultColors(ToolColors& colors) {
     setColor(colors.NextDefaultToolColor(static_cast<int>(ToolKind::stencil), false));
-    setLineWidth(solidOnePixel);
-}
-
-void StencilPanel::inherit(const ToolPanel& former) {
-    setLineWidth(dynamic_cast<const StencilPanel&>(former).LineWidth());
 }
 
 void StencilPanel::CenterToScreen(double offset) {
     tool_.CenterToScreen(false, offset, false, true);
 }
 
-void StencilPanel::finish() {
-    ShowAllProps(false);
-    InitializeFinished();
-    view().showPattern();
-}
-
 std::vector<ControlText> StencilPanel::texts() const {
     return stencilReadOuts(tool_.RectBound(), tool_.RotationAngle(), ratios_, settings_.textForm);
-}
-
-ButtonLook StencilPanel::pauseLook() const {
-    return {Pause() ? dark::off : dark::on, Pause()};
-}
-
-std::string StencilPanel::removeText() const {
-    return MlString(328, "Remove stencil tool ");
 }
 
 void StencilPanel::placeByDefault() {
     tool_.setRotationAngle(0);
     tool_.CenterToScreen(false, 0, false, true);
-}
-
-void StencilPanel::otherKeyDown(int key) {
-    if (key == key::end) {
-        setDefaultPlace();
-    }
 }
 
 }  // namespace ormala

@@ -3,6 +3,7 @@
 #include "language/MlStringModule.h"
 #include "modAPI/constants.h"
 #include "modAPI/rounding.h"
+#include "stencil/stencilPanelDesign.h"
 
 namespace ormala {
 
@@ -42,19 +43,21 @@ std::vector<ControlText> stencilReadOuts(const Rect& rectBound, double rotationA
     const Span down(rectBound.top, rectBound.bottom);
     const auto ratio = [&form](double value) { return FormatRatio(value, form) + " "; };
     return {
-        {"lblAngle1", formatNumber(rotationAngle * 180 / pi, "0.0", form) + "\u00b0 "},
-        {"lblAngle2", formatNumber(rotationAngle, "0.000", form) + " rad "},
-        {"lblCenterX", "X = " + formatNumber(across.center(), "#0.0", form) + " "},
-        {"lblCenterY", "Y = " + formatNumber(down.center(), "#0.0", form) + " "},
-        {"lblSizeWidth", MlString(329, "W = ") + whole(across.count())},
-        {"lblSizeHeight", MlString(330, "H = ") + whole(down.count())},
-        {"lblPositionLeft", MlString(331, "left = ") + whole(across.first)},
-        {"lblPositionRight", MlString(332, "right = ") + whole(across.last)},
-        {"lblPositionTop", MlString(333, "top = ") + whole(down.first)},
-        {"lblPositionBottom", MlString(334, "bottom = ") + whole(down.last)},
-        {"lblRatioWH", MlString(335, "W:H = ") + ratio(PixelRatio(rectBound, false))},
-        {"lblRatioHW", MlString(336, "H:W = ") + ratio(PixelRatioReciprocal(rectBound))},
-        {"lblRatioDescription", description(rectBound, ratios)},
+        {StencilControl::lblAngle1,
+         formatNumber(rotationAngle * 180 / pi, "0.0", form) + "\u00b0 "},
+        {StencilControl::lblAngle2, formatNumber(rotationAngle, "0.000", form) + " rad "},
+        {StencilControl::lblCenterX, "X = " + formatNumber(across.center(), "#0.0", form) + " "},
+        {StencilControl::lblCenterY, "Y = " + formatNumber(down.center(), "#0.0", form) + " "},
+        {StencilControl::lblSizeWidth, MlString(329, "W = ") + whole(across.count())},
+        {StencilControl::lblSizeHeight, MlString(330, "H = ") + whole(down.count())},
+        {StencilControl::lblPositionLeft, MlString(331, "left = ") + whole(across.first)},
+        {StencilControl::lblPositionRight, MlString(332, "right = ") + whole(across.last)},
+        {StencilControl::lblPositionTop, MlString(333, "top = ") + whole(down.first)},
+        {StencilControl::lblPositionBottom, MlString(334, "bottom = ") + whole(down.last)},
+        {StencilControl::lblRatioWH, MlString(335, "W:H = ") + ratio(PixelRatio(rectBound, false))},
+        {StencilControl::lblRatioHW,
+         MlString(336, "H:W = ") + ratio(PixelRatioReciprocal(rectBound))},
+        {StencilControl::lblRatioDescription, description(rectBound, ratios)},
     };
 }
 

@@ -47,11 +47,6 @@ void ctlRatioGrid::setColor(ormala::Color color) {
     refresh();
 }
 
-void ctlRatioGrid::setLineWidth(int lineCode) {
-    lineWidth_ = lineCode;
-    refresh();
-}
-
 void ctlRatioGrid::setPatternList(const ormala::PatternList& patterns) {
     state_.PatternList = patterns;
     refresh();

@@ -37,8 +37,6 @@ class ctlRatioGrid : public GripTool, private Ticking {
     void SetDefaultProperties();
     [[nodiscard]] ormala::Color Color() const { return color_; }
     void setColor(ormala::Color color);
-    [[nodiscard]] int LineWidth() const { return lineWidth_; }
-    void setLineWidth(int lineCode);
     [[nodiscard]] const ormala::PatternList& PatternList() const { return state_.PatternList; }
     void setPatternList(const ormala::PatternList& patterns);
     [[nodiscard]] const Rect& RectBound() const { return state_.RectBound; }
@@ -75,14 +73,13 @@ class ctlRatioGrid : public GripTool, private Ticking {
     void moveCenterByKey(int dx, int dy, bool byGrid);
     void PositionGrips();
     [[nodiscard]] bool turned() const;
-    [[nodiscard]] Pen pen() const { return {color_, lineWidth_}; }
+    [[nodiscard]] Pen pen() const { return {color_, LineWidth()}; }
 
     const ToolSettings& settings_;
     const SpecialRatios& ratios_;
 
     StencilState state_;
     ormala::Color color_ = 0;
-    int lineWidth_ = 2;
     bool previewMouseAction_ = false;
     /// The move that comes with a change of focus is no move of the hand.
     bool skipNextMove_ = false;

@@ -1,5 +1,7 @@
 #include "stencil/stencilPanelDesign.h"
 
+#include "stencil/StencilPanel.h"
+
 namespace ormala {
 
 namespace {
@@ -25,18 +27,18 @@ constexpr PixelRect field(int from, int to, int top) {
     return {from, top, to, top + rowHeight};
 }
 
-constexpr PixelRect step(int from, int index, int top) {
-    return field(from + index * stepWidth, from + (index + 1) * stepWidth, top);
+PanelControl move(int index, int tip, Picture picture) {
+    return step("cmdMove", index, tip, picture, &StencilPanel::stepMove);
 }
 
-/// A value with the two buttons that change it.
+/// A value with the two buttons that change it, which follow each other as `cmdMove`.
 struct SteppedValue {
+    StencilControl id;
     const char* name;
     int tip;
-    const char* decrease;
+    int firstMove;
     int decreaseTip;
     Picture decreasePicture;
-    const char* increase;
     int increaseTip;
     Picture increasePicture;
 };
@@ -45,24 +47,21 @@ class Rows {
   public:
     explicit Rows(std::vector<PanelControl>& controls) : controls_(controls) {}
 
-    void add(const char* header, int caption, const SteppedValue& first,
-             const SteppedValue& second) {
-        if (header != nullptr) {
-            controls_.push_back(
-                {header, PanelPart::header, field(left, firstValue, top_), caption});
-        }
+    void addHeader(const char* name, int caption) {
+        controls_.push_back(header(name, field(left, firstValue, top_), caption));
+    }
+    void addValues(const SteppedValue& first, const SteppedValue& second) {
         add(first, firstValue, firstSteps);
         add(second, secondValue, secondSteps);
         top_ += rowPitch;
     }
 
   private:
-    void add(const SteppedValue& value, int from, int steps) {
-        controls_.push_back({value.name, PanelPart::value, field(from, steps, top_), 0, value.tip});
-        controls_.push_back({value.decrease, PanelPart::button, step(steps, 0, top_), 0,
-                             value.decreaseTip, value.decreasePicture, roundAtLeft});
-        controls_.push_back({value.increase, PanelPart::button, step(steps, 1, top_), 0,
-                             value.increaseTip, value.increasePicture, roundAtRight});
+    void add(const SteppedValue& shown, int from, int steps) {
+        controls_.push_back(value(shown.id, shown.name, field(from, steps, top_), shown.tip));
+        appendBar(controls_, field(steps, steps + stepWidth, top_),
+                  {move(shown.firstMove, shown.decreaseTip, shown.decreasePicture),
+                   move(shown.firstMove + 1, shown.increaseTip, shown.increasePicture)});
     }
 
     std::vector<PanelControl>& controls_;
@@ -70,77 +69,86 @@ class Rows {
 };
 
 void addPlaces(std::vector<PanelControl>& controls) {
+    using enum StencilControl;
+    using enum Picture;
     Rows rows(controls);
-    rows.add("lblCenter", 40,
-             {"lblCenterX", 39, "cmdMove(0)", 182, Picture::moveLeft, "cmdMove(1)", 180,
-              Picture::moveRight},
-             {"lblCenterY", 37, "cmdMove(2)", 179, Picture::moveUp, "cmdMove(3)", 181,
-              Picture::moveDown});
-    rows.add("lblSize", 30,
-             {"lblSizeWidth", 29, "cmdMove(12)", 201, Picture::decreaseWidth, "cmdMove(13)", 202,
-              Picture::increaseWidth},
-             {"lblSizeHeight", 27, "cmdMove(14)", 203, Picture::decreaseHeight, "cmdMove(15)", 204,
-              Picture::increaseHeight});
-    rows.add("lblPosition", 20,
-             {"lblPositionLeft", 0, "cmdMove(4)", 194, Picture::leftBorderLeft, "cmdMove(5)", 193,
-              Picture::leftBorderRight},
-             {"lblPositionRight", 0, "cmdMove(6)", 196, Picture::rightBorderLeft, "cmdMove(7)", 195,
-              Picture::rightBorderRight});
-    rows.add(nullptr, 0,
-             {"lblPositionTop", 0, "cmdMove(8)", 197, Picture::topBorderUp, "cmdMove(9)", 198,
-              Picture::topBorderDown},
-             {"lblPositionBottom", 24, "cmdMove(10)", 199, Picture::bottomBorderUp, "cmdMove(11)",
-              200, Picture::bottomBorderDown});
+    rows.addHeader("lblCenter", 40);
+    rows.addValues({lblCenterX, "lblCenterX", 39, 0, 182, moveLeft, 180, moveRight},
+                   {lblCenterY, "lblCenterY", 37, 2, 179, moveUp, 181, moveDown});
+    rows.addHeader("lblSize", 30);
+    rows.addValues(
+        {lblSizeWidth, "lblSizeWidth", 29, 12, 201, decreaseWidth, 202, increaseWidth},
+        {lblSizeHeight, "lblSizeHeight", 27, 14, 203, decreaseHeight, 204, increaseHeight});
+    rows.addHeader("lblPosition", 20);
+    rows.addValues(
+        {lblPositionLeft, "lblPositionLeft", 0, 4, 194, leftBorderLeft, 193, leftBorderRight},
+        {lblPositionRight, "lblPositionRight", 0, 6, 196, rightBorderLeft, 195, rightBorderRight});
+    rows.addValues({lblPositionTop, "lblPositionTop", 0, 8, 197, topBorderUp, 198, topBorderDown},
+                   {lblPositionBottom, "lblPositionBottom", 24, 10, 199, bottomBorderUp, 200,
+                    bottomBorderDown});
 }
 
 void addAngleAndRatio(std::vector<PanelControl>& controls) {
+    using enum StencilControl;
     constexpr int angleTop = pictureTop;
     constexpr int ratioTop = angleTop + rowPitch;
     constexpr int descriptionTop = ratioTop + rowPitch;
     constexpr int lastStep = right - stepWidth;
     /// Of the angle and the ratio.
-    constexpr int value = 122;
+    constexpr int numbers = 122;
     constexpr int turns = lastStep - 6 - 2 * stepWidth;
-    const PixelRect picture{left, pictureTop, left + pictureSize, pictureTop + pictureSize};
-    controls.insert(controls.end(),
-                    {{"imgPattern", PanelPart::image, picture, 0, 11},
-                     {"lblAngle", PanelPart::header, field(firstValue, value, angleTop), 35},
-                     {"lblAngle1", PanelPart::value, field(value, 172, angleTop), 0, 34},
-                     {"lblAngle2", PanelPart::value, field(172, turns, angleTop), 0, 32},
-                     {"cmdAngle(0)", PanelPart::button, step(turns, 0, angleTop), 0, 184,
-                      Picture::rotateCounterclockwise, roundAtLeft},
-                     {"cmdAngle(1)", PanelPart::button, step(turns, 1, angleTop), 0, 185,
-                      Picture::rotateClockwise, roundAtRight},
-                     {"cmdAngleZero", PanelPart::button, field(lastStep, right, angleTop), 0, 187,
-                      Picture::angleZero},
-                     {"lblRatio", PanelPart::header, field(firstValue, value, ratioTop), 18, 19},
-                     {"lblRatioWH", PanelPart::value, field(value, 205, ratioTop), 0, 17},
-                     {"lblRatioHW", PanelPart::value, field(205, right, ratioTop), 0, 13},
-                     {"lblRatioDescription", PanelPart::value,
-                      field(firstValue, lastStep, descriptionTop), 0, 15},
-                     {"cmdEditRatio", PanelPart::button, field(lastStep, right, descriptionTop), 0,
-                      192, Picture::editRatio}});
+    const auto add = [&controls](const PanelControl& control) { controls.push_back(control); };
+    add({.name = "imgPattern",
+         .id = imgPattern,
+         .part = PanelPart::image,
+         .box = {left, pictureTop, left + pictureSize, pictureTop + pictureSize},
+         .tip = 11,
+         .press = &StencilPanel::clickSelectPattern});
+    add(header("lblAngle", field(firstValue, numbers, angleTop), 35));
+    add(value(lblAngle1, "lblAngle1", field(numbers, 172, angleTop), 34));
+    add(value(lblAngle2, "lblAngle2", field(172, turns, angleTop), 32));
+    appendBar(controls, field(turns, turns + stepWidth, angleTop),
+              {step("cmdAngle", 0, 184, Picture::rotateCounterclockwise, &StencilPanel::stepAngle),
+               step("cmdAngle", 1, 185, Picture::rotateClockwise, &StencilPanel::stepAngle)});
+    appendBar(controls, field(lastStep, right, angleTop),
+              {button("cmdAngleZero", 187, Picture::angleZero, &StencilPanel::clickAngleZero)});
+    add(header("lblRatio", field(firstValue, numbers, ratioTop), 18, 19));
+    add(value(lblRatioWH, "lblRatioWH", field(numbers, 205, ratioTop), 17));
+    add(value(lblRatioHW, "lblRatioHW", field(205, right, ratioTop), 13));
+    add(value(lblRatioDescription, "lblRatioDescription",
+              field(firstValue, lastStep, descriptionTop), 15));
+    appendBar(controls, field(lastStep, right, descriptionTop),
+              {button("cmdEditRatio", 192, Picture::editRatio, &StencilPanel::clickEditRatio)});
 }
 
 void addCommands(std::vector<PanelControl>& controls) {
+    using enum StencilControl;
     CommandRow row(controls, left, commandTop);
-    row.add("cmdSelectPattern", 175, Picture::selectPattern, roundAtLeft);
-    row.add("cmdColor", 6, Picture::color, square);
-    row.add("cmdLineStyle", 191, Picture::lineStyle, roundAtRight);
-    row.endGroup();
-    row.add("cmdDefaultPos", 178, Picture::defaultPlace, roundAtLeft);
-    row.add("cmdFullSize", 190, Picture::fullSize, square);
-    row.add("cmdMoveCenter", 183, Picture::center, roundAtRight);
-    row.endGroup();
-    row.add("cmdMove(16)", 205, Picture::decreaseSize, roundAtLeft);
-    row.add("cmdMove(17)", 206, Picture::increaseSize, roundAtRight);
-    row.endGroup();
-    row.add("cmdSendMouseInput", 188, Picture::mouseAction, 0);
+    row.addBar(
+        {button("cmdSelectPattern", 175, Picture::selectPattern, &StencilPanel::clickSelectPattern),
+         button(cmdColor, "cmdColor", 6, Picture::color, &StencilPanel::clickColor),
+         button(CommonControl::cmdLineStyle, "cmdLineStyle", 191, Picture::lineStyle,
+                &SettingControl::clickLineStyle)});
+    row.addBar(
+        {button("cmdDefaultPos", 178, Picture::defaultPlace, &SettingControl::setDefaultPlace),
+         button("cmdFullSize", 190, Picture::fullSize, &StencilPanel::clickFullSize),
+         button("cmdMoveCenter", 183, Picture::center, &StencilPanel::clickMoveCenter)});
+    row.addBar({move(16, 205, Picture::decreaseSize), move(17, 206, Picture::increaseSize)});
+    row.addBar({{.name = "cmdSendMouseInput",
+                 .tip = 188,
+                 .picture = Picture::mouseAction,
+                 .press = &StencilPanel::clickSendMouseInput,
+                 .hover = &StencilPanel::hoverSendMouseInput}});
 }
 
 PanelDesign makeDesign() {
     const int height = CommandRow::panelHeight(commandTop);
-    PanelDesign design{{panelWidth, height}, titleControls(209, 177)};
+    PanelDesign design{.className = "ctlSetRatioGrid",
+                       .size = {panelWidth, height},
+                       .controls = titleControls(209, 177),
+                       .removeText = 328,
+                       .growthInterval = 46,
+                       .pauseDimsLabels = true};
     addPlaces(design.controls);
     addAngleAndRatio(design.controls);
     addCommands(design.controls);

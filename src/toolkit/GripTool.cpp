@@ -124,6 +124,11 @@ void GripTool::setSelected(bool selected) {
     }
 }
 
+void GripTool::setLineWidth(int lineCode) {
+    lineWidth_ = lineCode;
+    refresh();
+}
+
 void GripTool::setEditMode(bool editMode) {
     editMode_ = editMode;
     if (!editMode) {

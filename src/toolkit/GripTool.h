@@ -35,6 +35,8 @@ class GripTool : public ToolControl, public OverlayItem {
     [[nodiscard]] const DirtyRegion& footprint() const override { return footprint_; }
 
     [[nodiscard]] bool HasFocus() const { return hasFocus_; }
+    [[nodiscard]] int LineWidth() const { return lineWidth_; }
+    void setLineWidth(int lineCode);
     [[nodiscard]] virtual HistoryHelper& History() = 0;
     [[nodiscard]] const GripSet& grips() const { return grips_; }
 
@@ -77,6 +79,7 @@ class GripTool : public ToolControl, public OverlayItem {
     bool selected_ = false;
     bool editMode_ = true;
     bool hasFocus_ = false;
+    int lineWidth_ = 2;
     int openChanges_ = 0;
     PixelSize sheet_;
     TipId tip_ = 0;

@@ -2,19 +2,16 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "pictures/pictures.h"
+#include "toolkit/ControlId.h"
 #include "widgets/lookColors.h"
 
 namespace ormala {
 
-class OverlayItem;
-
-/// The text of one control of a panel, found by its name: "lblCenterX".
 struct ControlText {
-    std::string name;
+    ControlId control;
     std::string text;
 
     bool operator==(const ControlText&) const = default;
@@ -51,6 +48,8 @@ struct ButtonLook {
 
 /// A button that shows a colour, with a text that stands out from it.
 ButtonLook colorButtonLook(Color color);
+/// A button that shows whether something is on.
+ButtonLook switchLook(bool on);
 
 struct PanelEnabling {
     /// Every button but `cmdPause`, `cmdUndo` and `cmdRedo`.
@@ -63,42 +62,38 @@ struct PanelEnabling {
     bool operator==(const PanelEnabling&) const = default;
 };
 
-/// The window of a panel, as its core speaks to it. It takes no decision.
+enum class PanelTimer { tmrShowProps, tmrDelayMousePreview };
+
+/// The window of a panel, as the panel speaks to it. It takes no decision.
 class PanelView {
   public:
     virtual ~PanelView() = default;
 
     virtual void showTexts(const std::vector<ControlText>& texts) = 0;
     virtual void showLook(const PanelLook& look) = 0;
-    virtual void showButton(std::string_view name, const ButtonLook& look) = 0;
-    /// The picture of a line code on `cmdLineStyle`.
-    virtual void showLineStyle(int lineCode) = 0;
-    /// The picture of the tool's patterns is out of date. Stencils only.
-    virtual void showPattern() = 0;
+    virtual void showButton(ControlId button, const ButtonLook& look) = 0;
+    virtual void showPicture(ControlId button, PictureMaker maker) = 0;
     virtual void enable(const PanelEnabling& enabling) = 0;
-    /// True starts the timer of `ThrottledRefresh` anew, false stops it.
-    virtual void runRefreshTimer(bool run) = 0;
+    /// Starts the timer anew, or stops it with an interval of 0 milliseconds. Each tick comes back
+    /// as `SettingControl::timerTicked`.
+    virtual void runTimer(PanelTimer timer, unsigned interval) = 0;
     /// The tool is the selected one from now on.
     virtual void toolBecameSelected() = 0;
-    /// The user wants the tool gone. The core does nothing after this call, so that the panel may
-    /// be destroyed in it.
-    virtual void removeRequested() = 0;
+    /// The user wants the tool gone. The panel does nothing after this call, so that it may be
+    /// destroyed in it.
+    virtual void removeRequested(bool byMouse) = 0;
     /// The popup menu at the mouse, with its one entry to remove the tool.
     virtual void showMenu(const std::string& removeText) = 0;
 };
 
-/// Shows and hides tools on the worksheet.
-class ToolVisibility {
+/// The dialogs in which the user chooses the look of a tool. They answer the present value if they
+/// are cancelled.
+class LookDialogs {
   public:
-    virtual ~ToolVisibility() = default;
-    virtual void setVisible(const OverlayItem& tool, bool visible) = 0;
-};
+    virtual ~LookDialogs() = default;
 
-/// The time of day.
-class DayClock {
-  public:
-    virtual ~DayClock() = default;
-    [[nodiscard]] virtual float secondsSinceMidnight() const = 0;
+    [[nodiscard]] virtual Color SelectColor(Color present) = 0;
+    [[nodiscard]] virtual int SelectLineStyle(int present) = 0;
 };
 
 }  // namespace ormala

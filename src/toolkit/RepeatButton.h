@@ -27,7 +27,7 @@ class RepeatButton {
     /// Ends the run, whatever holds it. Nothing without a run.
     void stop() { end(holder_); }
 
-    [[nodiscard]] bool running() const { return holder_ != Holder::none; }
+    [[nodiscard]] bool heldByMouse() const { return holder_ == Holder::mouse; }
 
   private:
     enum class Holder { none, mouse, key };

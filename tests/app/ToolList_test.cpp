@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "stencil/stencilPanelDesign.h"
 #include "support/ManualLanguage.h"
 #include "support/ToolListStage.h"
 
@@ -33,7 +34,7 @@ class ToolListTest : public testing::Test {
                   std::vector<std::string>{"The maximum number of tools (33) has been reached."});
         EXPECT_EQ(stage_.panels().size(), before);
     }
-    [[nodiscard]] bool toolVisible(ToolPanel& panel) const {
+    [[nodiscard]] bool toolVisible(SettingControl& panel) const {
         return stage_.sheet.isVisible(panel.RefControlControl());
     }
 
@@ -62,7 +63,7 @@ TEST_F(ToolListTest, ANewToolIsSelectedShownAndBehindTheOthersInTheList) {
     EXPECT_TRUE(toolVisible(added));
     EXPECT_EQ(stage_.sheet.front(), &added.RefControlControl());
     EXPECT_FALSE(added.RefControl().History().UndoPossible());
-    EXPECT_GT(stage_.panels()[2]->view.patternPictures, 0);
+    EXPECT_GT(stage_.panels()[2]->view.pictureChanges.at(StencilControl::imgPattern), 0);
 }
 
 TEST_F(ToolListTest, AnUnknownKindGivesNothing) {
@@ -103,7 +104,7 @@ TEST_F(ToolListTest, TheSuccessorOfAPanelTakesItsPlaceOrIsTheLastOne) {
     EXPECT_EQ(list_.successorOf(*panel(0)), panel(1));
     EXPECT_EQ(list_.successorOf(*panel(1)), panel(2));
     EXPECT_EQ(list_.successorOf(*panel(2)), panel(1));
-    ToolPanel* stays = panel(1);
+    SettingControl* stays = panel(1);
     list_.RemovePanel(*panel(0));
     list_.RemovePanel(*panel(1));
     EXPECT_EQ(panel(0), stays);
@@ -112,7 +113,7 @@ TEST_F(ToolListTest, TheSuccessorOfAPanelTakesItsPlaceOrIsTheLastOne) {
 
 TEST_F(ToolListTest, RemovingTheFirstToolAndAddingOneReusesItAndRestartsItsColours) {
     const Color first = stage_.stencil(0).Color();
-    const ToolPanel* panel = &stage_.stencil(0);
+    const SettingControl* panel = &stage_.stencil(0);
     const OverlayItem* tool = &stage_.stencil(0).RefControlControl();
     const std::size_t count = stage_.sheet.zOrder().size();
     list_.RemovePanel(*panel);
@@ -136,7 +137,7 @@ TEST_F(ToolListTest, ARemovedFirstMeasurementRestartsTheColoursOfMeasurements) {
 }
 
 TEST_F(ToolListTest, ARemovedFirstToolIsNotReusedWhileOthersOfItsKindAreThere) {
-    const ToolPanel* first = &stage_.stencil(0);
+    const SettingControl* first = &stage_.stencil(0);
     add(stencilKind, 1);
     list_.RemovePanel(*first);
     EXPECT_NE(&stage_.addStencil(), first);

@@ -3,11 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "measure/ManualMeasures.h"
+#include "measure/measurePanelDesign.h"
+#include "pictures/linePicture.h"
 #include "support/FakePanelCommands.h"
 #include "support/FakePanelView.h"
 #include "support/FakeToolHost.h"
 #include "support/ManualLanguage.h"
 #include "support/OwnToolSettings.h"
+#include "support/PanelDesignCheck.h"
 #include "support/ToolPlayer.h"
 
 namespace ormala {
@@ -24,11 +27,15 @@ class MeasurePanelTest : public testing::Test {
         later(1);
     }
 
-    void later(float seconds) { clock_.now += seconds; }
-    std::string shown(const std::string& name) {
+    void later(float seconds) { now_ += seconds; }
+    std::string shown(ControlId label) {
         panel_.ShowAllProps(true);
-        return view_.texts.at(name);
+        return view_.texts.at(label);
     }
+    [[nodiscard]] std::vector<std::uint32_t> shownLine() const {
+        return view_.pixelsOf(CommonControl::cmdLineStyle, {32, 16});
+    }
+    void click(const std::string& name) { test::clickOn(panel_, name); }
 
     ManualLanguage language_{languageEnglish};
     FakeToolHost host_;
@@ -36,46 +43,57 @@ class MeasurePanelTest : public testing::Test {
     ManualMeasures others_;
     ctlMeasure tool_{host_, settings_, others_};
     FakePanelView view_;
-    FakeToolVisibility visibility_;
-    ManualDayClock clock_;
-    FakeMeasureCommands commands_;
-    MeasurePanel panel_{tool_, {view_, visibility_, clock_}, commands_, settings_};
+    std::map<const OverlayItem*, bool> visible_;
+    float now_ = 36000;
+    Event<> tmrFast_;
+    FakePanelCommands commands_;
+    MeasurePanel panel_{tool_,
+                        {view_, commands_, tmrFast_,
+                         [this](const OverlayItem& tool, bool shown) { visible_[&tool] = shown; },
+                         [this] { return now_; }},
+                        [this](ctlMeasure& tool) { return commands_.SelectUnits(tool); },
+                        settings_};
 };
 
 TEST_F(MeasurePanelTest, ShowsWhatTheToolMeasures) {
-    EXPECT_EQ(shown("lblLengthA"), "a = 100.0 ");
-    EXPECT_EQ(shown("lblLengthB"), "b = 50.0 ");
-    EXPECT_EQ(shown("lblRatioA"), "a:b = 2.000 ");
-    EXPECT_EQ(shown("lblRatioB"), "b:a = 0.5000 ");
-    EXPECT_EQ(shown("lblAngleVertA"), FormatAngle(tool_.AngleVertA(), 0, {}) + " ");
-    EXPECT_EQ(shown("lblAngleVertB"), FormatAngle(tool_.AngleVertB(), 0, {}) + " ");
-    EXPECT_EQ(shown("lblAngleA"), "ab = " + FormatAngle(tool_.AngleAToB(), 0, {}) + " ");
-    EXPECT_EQ(shown("lblAngleB"), "ba = " + FormatAngle(tool_.AngleBToA(), 0, {}) + " ");
+    EXPECT_EQ(shown(MeasureControl::lblLengthA), "a = 100.0 ");
+    EXPECT_EQ(shown(MeasureControl::lblLengthB), "b = 50.0 ");
+    EXPECT_EQ(shown(MeasureControl::lblRatioA), "a:b = 2.000 ");
+    EXPECT_EQ(shown(MeasureControl::lblRatioB), "b:a = 0.5000 ");
+    EXPECT_EQ(shown(MeasureControl::lblAngleVertA), FormatAngle(tool_.AngleVertA(), 0, {}) + " ");
+    EXPECT_EQ(shown(MeasureControl::lblAngleVertB), FormatAngle(tool_.AngleVertB(), 0, {}) + " ");
+    EXPECT_EQ(shown(MeasureControl::lblAngleA),
+              "ab = " + FormatAngle(tool_.AngleAToB(), 0, {}) + " ");
+    EXPECT_EQ(shown(MeasureControl::lblAngleB),
+              "ba = " + FormatAngle(tool_.AngleBToA(), 0, {}) + " ");
 }
 
 TEST_F(MeasurePanelTest, ShowsLengthsInTheToolsUnits) {
     commands_.units = MeasureUnits{1, 2, 3, "cm"};
-    panel_.clickUnits();
+    click("cmdUnits");
     EXPECT_EQ(commands_.unitsShown, std::vector{MeasureUnits{}});
-    EXPECT_EQ(shown("lblLengthA"), "a = " + FormatLength(100, 2, 3, "cm", 100, {}) + " ");
-    EXPECT_EQ(shown("lblLengthB"), "b = " + FormatLength(50, 2, 3, "cm", 100, {}) + " ");
-    EXPECT_EQ(shown("lblAngleVertB"), FormatAngle(tool_.AngleVertB(), 1, {}) + " ");
+    EXPECT_EQ(shown(MeasureControl::lblLengthA),
+              "a = " + FormatLength(100, 2, 3, "cm", 100, {}) + " ");
+    EXPECT_EQ(shown(MeasureControl::lblLengthB),
+              "b = " + FormatLength(50, 2, 3, "cm", 100, {}) + " ");
+    EXPECT_EQ(shown(MeasureControl::lblAngleVertB), FormatAngle(tool_.AngleVertB(), 1, {}) + " ");
 }
 
 TEST_F(MeasurePanelTest, TheYardstickReadsTheFactorWhateverItsLength) {
     panel_.setUnits({0, 2, 7.5, "km"});
     for (const double y : {150.0, 199.0, 1234.5}) {
         tool_.setLineA({100, y, 100, 100});
-        EXPECT_EQ(shown("lblLengthA"), "a = " + FormatLength(7.5, 1, 1, "km", 1, {}) + " ");
+        EXPECT_EQ(shown(MeasureControl::lblLengthA),
+                  "a = " + FormatLength(7.5, 1, 1, "km", 1, {}) + " ");
     }
 }
 
 TEST_F(MeasurePanelTest, AnotherUnitLeavesTheNumberAsItWas) {
     tool_.setLineB({109, 100, 100, 100});
     panel_.setUnits({0, 1, 1, "mi"});
-    EXPECT_EQ(shown("lblLengthB"), "b = 10.0 mi ");
+    EXPECT_EQ(shown(MeasureControl::lblLengthB), "b = 10.0 mi ");
     panel_.setUnits({0, 1, 1, "km"});
-    EXPECT_EQ(shown("lblLengthB"), "b = 10.0 km ");
+    EXPECT_EQ(shown(MeasureControl::lblLengthB), "b = 10.0 km ");
 }
 
 TEST_F(MeasurePanelTest, DuringADragTheTextsChangeAtMostEveryTenthOfASecond) {
@@ -86,19 +104,19 @@ TEST_F(MeasurePanelTest, DuringADragTheTextsChangeAtMostEveryTenthOfASecond) {
         later(0.01F);
     }
     EXPECT_LE(view_.refreshes, 3);
-    EXPECT_TRUE(view_.timerRuns);
+    EXPECT_TRUE(view_.refreshTimerRuns());
     panel_.ShowAllProps(true);
-    EXPECT_EQ(view_.texts["lblLengthA"], "a = 125.0 ");
-    EXPECT_FALSE(view_.timerRuns);
+    EXPECT_EQ(view_.texts[MeasureControl::lblLengthA], "a = 125.0 ");
+    EXPECT_FALSE(view_.refreshTimerRuns());
 }
 
 TEST_F(MeasurePanelTest, TheTitleHasTheNumber) {
     panel_.setNumber(3);
-    EXPECT_EQ(view_.texts["lblTitle"], "Measurement Tool 3");
+    EXPECT_EQ(view_.texts[CommonControl::lblTitle], "Measurement Tool 3");
     EXPECT_EQ(tool_.Number(), 3);
     EXPECT_EQ(panel_.Number(), 3);
     const ManualLanguage german(languageGerman);
-    EXPECT_EQ(shown("lblTitle"), MlString(325, {}) + "3");
+    EXPECT_EQ(shown(CommonControl::lblTitle), MlString(325, {}) + "3");
 }
 
 TEST_F(MeasurePanelTest, TheMenuNamesTheNumberInBothLanguages) {
@@ -119,50 +137,50 @@ TEST_F(MeasurePanelTest, TheMenuNamesTheNumberInBothLanguages) {
 
 TEST_F(MeasurePanelTest, PauseDisablesThePanelAndHidesTheTool) {
     panel_.setPause(true);
-    EXPECT_FALSE(visibility_.visible[&tool_]);
+    EXPECT_FALSE(visible_[&tool_]);
     EXPECT_EQ(view_.enabling, (PanelEnabling{false, true, false, false}));
-    EXPECT_EQ(view_.buttons["cmdPause"],
+    EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
               (ButtonLook{rgb(187, 168, 0), true, std::nullopt, Picture::hide}));
     panel_.setPause(false);
-    EXPECT_TRUE(visibility_.visible[&tool_]);
+    EXPECT_TRUE(visible_[&tool_]);
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, false, false}));
-    EXPECT_EQ(view_.buttons["cmdPause"],
+    EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
               (ButtonLook{0x707070, false, std::nullopt, Picture::show}));
 }
 
 TEST_F(MeasurePanelTest, ANewPanelShowsTheOpenEyeAtOnce) {
     panel_.finish();
-    EXPECT_EQ(view_.buttons["cmdPause"],
+    EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
               (ButtonLook{0x707070, false, std::nullopt, Picture::show}));
 }
 
 TEST_F(MeasurePanelTest, UndoingADisconnectShowsTheLinesConnectedAgain) {
-    panel_.connect(false);
+    click("optMode(1)");
     later(1);
     panel_.ShowAllProps(false);
-    EXPECT_FALSE(view_.buttons["optMode(0)"].down);
-    EXPECT_TRUE(view_.buttons["optMode(1)"].down);
+    EXPECT_FALSE(view_.buttons[MeasureControl::optConnect].down);
+    EXPECT_TRUE(view_.buttons[MeasureControl::optDisconnect].down);
     later(1);
     panel_.Undo();
     EXPECT_TRUE(tool_.Connected());
-    EXPECT_TRUE(view_.buttons["optMode(0)"].down);
-    EXPECT_FALSE(view_.buttons["optMode(1)"].down);
+    EXPECT_TRUE(view_.buttons[MeasureControl::optConnect].down);
+    EXPECT_FALSE(view_.buttons[MeasureControl::optDisconnect].down);
     later(1);
     panel_.Redo();
     EXPECT_FALSE(tool_.Connected());
 }
 
 TEST_F(MeasurePanelTest, TheSwitchesTurnTheLabelsOnAndOff) {
-    panel_.toggleAngleLabels();
+    click("chkShowAngle");
     later(1);
-    panel_.toggleLengthLabels();
+    click("chkShowLength");
     EXPECT_FALSE(tool_.LabelsAngleVisible());
     EXPECT_FALSE(tool_.LabelsLengthVisible());
-    EXPECT_EQ(view_.buttons["chkShowAngle"], (ButtonLook{0x707070, false}));
-    EXPECT_EQ(view_.buttons["chkShowLength"], (ButtonLook{0x707070, false}));
+    EXPECT_EQ(view_.buttons[MeasureControl::chkShowAngle], (ButtonLook{0x707070, false}));
+    EXPECT_EQ(view_.buttons[MeasureControl::chkShowLength], (ButtonLook{0x707070, false}));
     later(1);
-    panel_.toggleAngleLabels();
-    EXPECT_EQ(view_.buttons["chkShowAngle"], (ButtonLook{rgb(187, 168, 0), true}));
+    click("chkShowAngle");
+    EXPECT_EQ(view_.buttons[MeasureControl::chkShowAngle], (ButtonLook{rgb(187, 168, 0), true}));
 }
 
 TEST_F(MeasurePanelTest, ADarkColourShowsWhiteText) {
@@ -170,14 +188,16 @@ TEST_F(MeasurePanelTest, ADarkColourShowsWhiteText) {
     panel_.setColorB(rgb(255, 255, 0));
     EXPECT_EQ(tool_.ColorA(), rgb(0, 0, 128));
     EXPECT_EQ(tool_.ColorB(), rgb(255, 255, 0));
-    EXPECT_EQ(view_.buttons["cmdColorA"], (ButtonLook{rgb(0, 0, 128), false, rgb(255, 255, 255)}));
-    EXPECT_EQ(view_.buttons["cmdColorB"], (ButtonLook{rgb(255, 255, 0), false, rgb(0, 0, 0)}));
+    EXPECT_EQ(view_.buttons[MeasureControl::cmdColorA],
+              (ButtonLook{rgb(0, 0, 128), false, rgb(255, 255, 255)}));
+    EXPECT_EQ(view_.buttons[MeasureControl::cmdColorB],
+              (ButtonLook{rgb(255, 255, 0), false, rgb(0, 0, 0)}));
 }
 
 TEST_F(MeasurePanelTest, TheLineGoesToTheToolAndToItsButton) {
     panel_.setLineWidth(0);
     EXPECT_EQ(tool_.LineWidth(), 0);
-    EXPECT_EQ(view_.lineStyle, 0);
+    EXPECT_EQ(shownLine(), drawLinePicture(0, {32, 16}).argb);
 }
 
 TEST_F(MeasurePanelTest, AColourIsNoStepOfUndo) {
@@ -188,15 +208,15 @@ TEST_F(MeasurePanelTest, AColourIsNoStepOfUndo) {
 
 TEST_F(MeasurePanelTest, ColoursAndLineComeFromTheirDialogs) {
     commands_.color = rgb(0, 0, 64);
-    panel_.clickColorA();
+    click("cmdColorA");
     commands_.color = rgb(255, 255, 128);
-    panel_.clickColorB();
+    click("cmdColorB");
     commands_.lineStyle = 3;
-    panel_.clickLineStyle();
+    click("cmdLineStyle");
     EXPECT_EQ(tool_.ColorA(), rgb(0, 0, 64));
     EXPECT_EQ(tool_.ColorB(), rgb(255, 255, 128));
-    EXPECT_EQ(view_.buttons["cmdColorA"].text, rgb(255, 255, 255));
-    EXPECT_EQ(view_.lineStyle, 3);
+    EXPECT_EQ(view_.buttons[MeasureControl::cmdColorA].text, rgb(255, 255, 255));
+    EXPECT_EQ(shownLine(), drawLinePicture(3, {32, 16}).argb);
     EXPECT_FALSE(tool_.History().UndoPossible());
 }
 
@@ -205,9 +225,9 @@ TEST_F(MeasurePanelTest, CancelledDialogsChangeNothing) {
     const MeasureUnits units{0, 1, 0.5, "km"};
     panel_.setUnits(units);
     view_.refreshes = 0;
-    panel_.clickColorA();
-    panel_.clickLineStyle();
-    panel_.clickUnits();
+    click("cmdColorA");
+    click("cmdLineStyle");
+    click("cmdUnits");
     EXPECT_EQ(tool_.ColorA(), colorA);
     EXPECT_EQ(commands_.unitsShown, std::vector{units});
     EXPECT_EQ(tool_.LengthUnit(), "km");
@@ -217,16 +237,16 @@ TEST_F(MeasurePanelTest, CancelledDialogsChangeNothing) {
 }
 
 TEST_F(MeasurePanelTest, OnlyThePauseButtonBringsAPausedToolBack) {
-    panel_.togglePause();
-    EXPECT_FALSE(visibility_.visible[&tool_]);
+    click("cmdPause");
+    EXPECT_FALSE(visible_[&tool_]);
     EXPECT_FALSE(view_.enabling.controls);
-    panel_.togglePause();
-    EXPECT_TRUE(visibility_.visible[&tool_]);
+    click("cmdPause");
+    EXPECT_TRUE(visible_[&tool_]);
     EXPECT_TRUE(view_.enabling.controls);
 }
 
 TEST_F(MeasurePanelTest, TheButtonAsksForTheRemoval) {
-    panel_.remove();
+    click("cmdDelete");
     EXPECT_EQ(view_.removeRequests, 1);
 }
 
@@ -240,7 +260,7 @@ TEST_F(MeasurePanelTest, AnyModifierBlocksTheDeleteKey) {
 }
 
 TEST_F(MeasurePanelTest, TheDefaultPlaceIsAStepOfUndoAndKeepsTheShape) {
-    panel_.setDefaultPlace();
+    click("cmdDefaultPos");
     EXPECT_EQ(tool_.LineA(), (Line{500, 499, 500, 400}));
     EXPECT_EQ(tool_.LineB(), (Line{549, 400, 500, 400}));
     EXPECT_TRUE(view_.enabling.undo);

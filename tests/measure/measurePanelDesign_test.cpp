@@ -13,6 +13,10 @@ TEST(MeasurePanelDesign, ControlsHavePlacesOfTheirOwn) {
     test::expectButtonsExplainThemselves(measurePanelDesign());
 }
 
+TEST(MeasurePanelDesign, EveryControlThatIsSpokenToIsThereOnce) {
+    test::expectIdsOfTheirOwn(measurePanelDesign(), MeasureControl::chkShowAngle);
+}
+
 TEST(MeasurePanelDesign, IsNotHigherThanThePanelsMayBe) {
     EXPECT_LE(measurePanelDesign().size.height, 150);
     EXPECT_EQ(measurePanelDesign().size.width, panelWidth);

@@ -13,9 +13,9 @@ constexpr Rect plain{100, 100, 300, 200};
 
 TEST_F(StencilPanelButtonsTest, AClickIsOneStepOfUndo) {
     start(plain);
-    click(7);
+    step("cmdMove(7)");
     EXPECT_EQ(tool_.RectBound(), (Rect{100, 100, 301, 200}));
-    EXPECT_EQ(view_.texts["lblPositionRight"], "right = 301 ");
+    EXPECT_EQ(view_.texts[StencilControl::lblPositionRight], "right = 301 ");
     EXPECT_EQ(undoSteps(), 1);
     panel_->Undo();
     EXPECT_EQ(tool_.RectBound(), plain);
@@ -23,7 +23,7 @@ TEST_F(StencilPanelButtonsTest, AClickIsOneStepOfUndo) {
 
 TEST_F(StencilPanelButtonsTest, AWholeRunIsOneStepOfUndo) {
     start(plain);
-    panel_->pressMove(1, 0);
+    press("cmdMove(1)");
     tick(10 + 30);
     panel_->release();
     EXPECT_EQ(tool_.RectBound().left, 131);
@@ -35,7 +35,7 @@ TEST_F(StencilPanelButtonsTest, AWholeRunIsOneStepOfUndo) {
 TEST_F(StencilPanelButtonsTest, AModifierMovesByTheGridAndSlowly) {
     settings_.grid = {50, 50, 0, 0};
     start(plain);
-    panel_->pressMove(1, modifier::alt);
+    press("cmdMove(1)", modifier::alt);
     EXPECT_EQ(RectCenter(tool_.RectBound()), (Point{250, 150}));
     tick(10 + 4);
     panel_->release();
@@ -45,7 +45,7 @@ TEST_F(StencilPanelButtonsTest, AModifierMovesByTheGridAndSlowly) {
 TEST_F(StencilPanelButtonsTest, ARunRefreshesMoreOftenThanADrag) {
     start(plain);
     later(1);
-    panel_->pressMove(1, 0);
+    press("cmdMove(1)");
     tick(10);
     view_.refreshes = 0;
     for (int i = 0; i < 10; ++i) {
@@ -64,7 +64,7 @@ TEST_F(StencilPanelButtonsTest, ARunRefreshesMoreOftenThanADrag) {
 
 TEST_F(StencilPanelButtonsTest, AStepThatIsRefusedStoresNothing) {
     start({100, 100, 122, 200});
-    click(5);
+    step("cmdMove(5)");
     EXPECT_EQ(tool_.RectBound(), (Rect{100, 100, 122, 200}));
     EXPECT_EQ(undoSteps(), 0);
     EXPECT_FALSE(view_.enabling.undo);
@@ -72,14 +72,14 @@ TEST_F(StencilPanelButtonsTest, AStepThatIsRefusedStoresNothing) {
 
 TEST_F(StencilPanelButtonsTest, TheSpaceBarStepsAtEachPressAndStoresAtTheKeyUp) {
     start(plain);
-    panel_->pressMoveKey(3, 0);
-    panel_->pressMoveKey(3, 0);
+    pressKey("cmdMove(3)");
+    pressKey("cmdMove(3)");
     tick(30);
     EXPECT_EQ(tool_.RectBound().top, 102);
     EXPECT_EQ(undoSteps(), 0);
     panel_->releaseKey();
     EXPECT_EQ(undoSteps(), 1);
-    panel_->pressAngleKey(0, 0);
+    pressKey("cmdAngle(0)");
     panel_->releaseKey();
     EXPECT_NEAR(tool_.RotationAngle(), pi / 180, 1e-12);
     EXPECT_EQ(undoSteps(), 2);
@@ -87,9 +87,9 @@ TEST_F(StencilPanelButtonsTest, TheSpaceBarStepsAtEachPressAndStoresAtTheKeyUp) 
 
 TEST_F(StencilPanelButtonsTest, AKeyThatIsLetGoLeavesTheRunOfTheMouse) {
     start(plain);
-    panel_->pressMove(1, 0);
+    press("cmdMove(1)");
     tick(11);
-    panel_->pressMoveKey(3, 0);
+    pressKey("cmdMove(3)");
     panel_->releaseKey();
     tick(1);
     EXPECT_EQ(tool_.RectBound().left, 103);
@@ -101,7 +101,7 @@ TEST_F(StencilPanelButtonsTest, AKeyThatIsLetGoLeavesTheRunOfTheMouse) {
 
 TEST_F(StencilPanelButtonsTest, ARunEndsWithItsPanel) {
     start(plain);
-    panel_->pressMove(1, 0);
+    press("cmdMove(1)");
     tick(15);
     const Rect last = tool_.RectBound();
     panel_.reset();
@@ -111,12 +111,12 @@ TEST_F(StencilPanelButtonsTest, ARunEndsWithItsPanel) {
 
 TEST_F(StencilPanelButtonsTest, ARunEndsWhenThePanelIsRemovedOrPaused) {
     start(plain);
-    panel_->pressMove(1, 0);
+    press("cmdMove(1)");
     panel_->setHidden(true);
     tick(30);
     EXPECT_EQ(tool_.RectBound().left, 101);
     panel_->setHidden(false);
-    panel_->pressMove(1, 0);
+    press("cmdMove(1)");
     panel_->setPause(true);
     tick(30);
     EXPECT_EQ(tool_.RectBound().left, 102);
@@ -125,7 +125,7 @@ TEST_F(StencilPanelButtonsTest, ARunEndsWhenThePanelIsRemovedOrPaused) {
 
 TEST_F(StencilPanelButtonsTest, UndoDuringARunTakesTheRunBack) {
     start(plain);
-    panel_->pressMove(1, 0);
+    press("cmdMove(1)");
     tick(15);
     panel_->Undo();
     EXPECT_EQ(tool_.RectBound(), plain);
@@ -138,8 +138,7 @@ TEST_F(StencilPanelButtonsTest, TheModifiersOfTheAngleChooseTheStep) {
     start(plain, 1);
     const auto after = [this](int index, int shift) {
         tool_.setRotationAngle(10 * degree);
-        panel_->pressAngle(index, shift);
-        panel_->release();
+        step("cmdAngle(" + std::to_string(index) + ")", shift);
         return tool_.RotationAngle() / degree;
     };
     EXPECT_NEAR(after(0, 0), 11, 1e-9);
@@ -154,28 +153,26 @@ TEST_F(StencilPanelButtonsTest, TheModifiersOfTheAngleChooseTheStep) {
 TEST_F(StencilPanelButtonsTest, CtrlAtTenDegreesGoesToEighteenAndTheOtherButtonToNine) {
     constexpr double degree = pi / 180;
     start(plain, 10 * degree);
-    panel_->pressAngle(0, modifier::ctrl);
-    panel_->release();
+    step("cmdAngle(0)", modifier::ctrl);
     EXPECT_NEAR(tool_.RotationAngle(), 18 * degree, 1e-9);
-    panel_->pressAngle(1, modifier::ctrl);
-    panel_->release();
+    step("cmdAngle(1)", modifier::ctrl);
     EXPECT_NEAR(tool_.RotationAngle(), 9 * degree, 1e-9);
 }
 
 TEST_F(StencilPanelButtonsTest, AngleZeroIsAStepOfUndo) {
     start(plain, 1);
-    panel_->clickAngleZero(0);
+    click("cmdAngleZero");
     EXPECT_EQ(tool_.RotationAngle(), 0);
     later(1);
-    panel_->clickAngleZero(modifier::ctrl);
+    click("cmdAngleZero", modifier::ctrl);
     EXPECT_EQ(tool_.RotationAngle(), pi / 2);
-    EXPECT_EQ(view_.texts["lblAngle1"], "90.0\u00b0 ");
+    EXPECT_EQ(view_.texts[StencilControl::lblAngle1], "90.0\u00b0 ");
     EXPECT_EQ(undoSteps(), 2);
 }
 
 TEST_F(StencilPanelButtonsTest, FullSizeFitsTheWorksheetUnturned) {
     start(plain, 1);
-    panel_->clickFullSize();
+    click("cmdFullSize");
     EXPECT_EQ(tool_.RectBound(), (Rect{0, 0, 999, 799}));
     EXPECT_EQ(tool_.RotationAngle(), 0);
     EXPECT_EQ(undoSteps(), 1);
@@ -184,10 +181,10 @@ TEST_F(StencilPanelButtonsTest, FullSizeFitsTheWorksheetUnturned) {
 TEST_F(StencilPanelButtonsTest, MoveCenterKeepsSizeAndAngle) {
     settings_.grid = {300, 300, 0, 0};
     start(plain, 1);
-    panel_->clickMoveCenter(modifier::shift);
+    click("cmdMoveCenter", modifier::shift);
     EXPECT_EQ(tool_.RectBound(), (Rect{400, 350, 600, 450}));
     EXPECT_EQ(tool_.RotationAngle(), 1);
-    panel_->clickMoveCenter(modifier::ctrl);
+    click("cmdMoveCenter", modifier::ctrl);
     EXPECT_EQ(RectCenter(tool_.RectBound()), (Point{600, 300}));
     EXPECT_EQ(undoSteps(), 2);
 }
@@ -195,7 +192,7 @@ TEST_F(StencilPanelButtonsTest, MoveCenterKeepsSizeAndAngle) {
 TEST_F(StencilPanelButtonsTest, AChosenRatioKeepsHeightAndCentre) {
     start({100, 100, 299, 199});
     commands_.ratio = 1.5;
-    panel_->clickEditRatio();
+    click("cmdEditRatio");
     EXPECT_EQ(commands_.ratiosShown, std::vector{2.0});
     EXPECT_EQ(tool_.RectBound(), (Rect{125, 100, 274, 199}));
     EXPECT_EQ(undoSteps(), 1);
@@ -203,35 +200,35 @@ TEST_F(StencilPanelButtonsTest, AChosenRatioKeepsHeightAndCentre) {
 
 TEST_F(StencilPanelButtonsTest, NoRatioOrTheSameOneChangesNothing) {
     start({100, 100, 299, 199});
-    panel_->clickEditRatio();
+    click("cmdEditRatio");
     commands_.ratio = 2;
-    panel_->clickEditRatio();
+    click("cmdEditRatio");
     EXPECT_EQ(tool_.RectBound(), (Rect{100, 100, 299, 199}));
     EXPECT_EQ(undoSteps(), 0);
 }
 
 TEST_F(StencilPanelButtonsTest, ChosenPatternsAreAStepOfUndoAndShow) {
     start(plain);
-    view_.patternPictures = 0;
+    const int pictures = patternPictures();
     PatternList patterns;
     patterns[0] = {18, 1};
     commands_.patterns = patterns;
     commands_.tabLeft = 3;
-    panel_->clickSelectPattern();
+    click("cmdSelectPattern");
     EXPECT_EQ(tool_.PatternList(), patterns);
-    EXPECT_EQ(view_.patternPictures, 1);
+    EXPECT_EQ(patternPictures(), pictures + 1);
     EXPECT_EQ(undoSteps(), 1);
-    panel_->clickSelectPattern();
+    click("cmdSelectPattern");
     EXPECT_EQ(commands_.tabsOpened, (std::vector{0, 3}));
 }
 
 TEST_F(StencilPanelButtonsTest, ACancelledChoiceOfPatternsLeavesTheStencil) {
     start(plain);
     const PatternList before = tool_.PatternList();
-    view_.patternPictures = 0;
-    panel_->clickSelectPattern();
+    const int pictures = patternPictures();
+    click("cmdSelectPattern");
     EXPECT_EQ(tool_.PatternList(), before);
-    EXPECT_EQ(view_.patternPictures, 0);
+    EXPECT_EQ(patternPictures(), pictures);
     EXPECT_EQ(undoSteps(), 0);
 }
 
@@ -239,67 +236,66 @@ TEST_F(StencilPanelButtonsTest, ColourAndLineComeFromTheirDialogsAndAreNoStepsOf
     start(plain);
     commands_.color = 0x123456;
     commands_.lineStyle = 4;
-    panel_->clickColor();
-    panel_->clickLineStyle();
+    click("cmdColor");
+    click("cmdLineStyle");
     EXPECT_EQ(tool_.Color(), 0x123456);
-    EXPECT_EQ(view_.buttons["cmdColor"].back, 0x123456);
+    EXPECT_EQ(view_.buttons[StencilControl::cmdColor].back, 0x123456);
     EXPECT_EQ(tool_.LineWidth(), 4);
-    EXPECT_EQ(view_.lineStyle, 4);
     EXPECT_EQ(undoSteps(), 0);
 }
 
 TEST_F(StencilPanelButtonsTest, ThePauseButtonTurnsThePauseOver) {
-    panel_->togglePause();
+    click("cmdPause");
     EXPECT_TRUE(panel_->Pause());
-    panel_->togglePause();
+    click("cmdPause");
     EXPECT_FALSE(panel_->Pause());
 }
 
 TEST_F(StencilPanelButtonsTest, TheRemovalMayDestroyThePanel) {
     view_.onRemove = [this] { panel_.reset(); };
-    panel_->remove();
+    click("cmdDelete");
     EXPECT_EQ(view_.removeRequests, 1);
     EXPECT_EQ(panel_, nullptr);
 }
 
 TEST_F(StencilPanelButtonsTest, ThePreviewOfTheMouseActionComesWithItsTimer) {
-    panel_->hoverSendMouseInput(true);
-    EXPECT_TRUE(commands_.previewTimerRuns);
+    hover(true);
+    EXPECT_TRUE(previewIsComing());
     EXPECT_FALSE(tool_.PreviewMouseAction());
-    panel_->showMousePreview();
-    EXPECT_FALSE(commands_.previewTimerRuns);
+    panel_->timerTicked(PanelTimer::tmrDelayMousePreview);
+    EXPECT_FALSE(previewIsComing());
     EXPECT_TRUE(tool_.PreviewMouseAction());
-    panel_->hoverSendMouseInput(false);
+    hover(false);
     EXPECT_FALSE(tool_.PreviewMouseAction());
 }
 
 TEST_F(StencilPanelButtonsTest, AMouseThatLeavesEarlySeesNoPreview) {
-    panel_->hoverSendMouseInput(true);
-    panel_->hoverSendMouseInput(false);
-    EXPECT_FALSE(commands_.previewTimerRuns);
+    hover(true);
+    hover(false);
+    EXPECT_FALSE(previewIsComing());
     EXPECT_FALSE(tool_.PreviewMouseAction());
 }
 
 TEST_F(StencilPanelButtonsTest, TheMouseActionEndsItsPreview) {
-    panel_->hoverSendMouseInput(true);
-    panel_->showMousePreview();
-    panel_->clickSendMouseInput();
+    hover(true);
+    panel_->timerTicked(PanelTimer::tmrDelayMousePreview);
+    click("cmdSendMouseInput");
     EXPECT_EQ(commands_.mouseActions, std::vector<const ctlRatioGrid*>{&tool_});
     EXPECT_FALSE(tool_.PreviewMouseAction());
-    EXPECT_FALSE(commands_.previewTimerRuns);
+    EXPECT_FALSE(previewIsComing());
 }
 
 TEST_F(StencilPanelButtonsTest, APausedPanelShowsNoPreview) {
-    panel_->hoverSendMouseInput(true);
-    panel_->showMousePreview();
+    hover(true);
+    panel_->timerTicked(PanelTimer::tmrDelayMousePreview);
     panel_->setPause(true);
     EXPECT_FALSE(tool_.PreviewMouseAction());
 }
 
 TEST_F(StencilPanelButtonsTest, ThePictureHasBlackLinesOnGrey) {
-    const PixelImage picture = panel_->patternPicture({40, 40});
-    EXPECT_EQ(picture.argb.at(0), 0xFF000000U);
-    EXPECT_EQ(picture.argb.at(40 * 3 + 3), 0xFF686868U);
+    const auto pixels = view_.pixelsOf(StencilControl::imgPattern, {40, 40});
+    EXPECT_EQ(pixels.at(0), 0xFF000000U);
+    EXPECT_EQ(pixels.at(40 * 3 + 3), 0xFF686868U);
 }
 
 }  // namespace

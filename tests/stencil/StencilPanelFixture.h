@@ -2,14 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <memory>
+#include <string>
 
 #include "stencil/StencilPanel.h"
+#include "stencil/stencilPanelDesign.h"
 #include "support/FakePanelCommands.h"
 #include "support/FakePanelView.h"
 #include "support/FakeToolHost.h"
 #include "support/ManualLanguage.h"
 #include "support/OwnToolSettings.h"
+#include "support/PanelDesignCheck.h"
 
 namespace ormala {
 
@@ -22,7 +26,7 @@ class StencilPanelFixture : public testing::Test {
         later(1);
     }
 
-    void later(float seconds) { clock_.now += seconds; }
+    void later(float seconds) { now_ += seconds; }
     /// As a drag on the worksheet does.
     void change(const Rect& rect) {
         tool_.setRectBound(rect);
@@ -43,10 +47,25 @@ class StencilPanelFixture : public testing::Test {
             tmrFast_.raise();
         }
     }
-    void click(int index, int shift = 0) {
-        panel_->pressMove(index, shift);
+    /// The mouse goes down on a button that steps, or the space bar on it.
+    void press(const std::string& name, int shift = 0) {
+        panel_->press(test::controlNamed(panel_->design(), name), shift);
+    }
+    void pressKey(const std::string& name) {
+        panel_->pressKey(test::controlNamed(panel_->design(), name), 0);
+    }
+    void step(const std::string& name, int shift = 0) {
+        press(name, shift);
         panel_->release();
     }
+    void click(const std::string& name, int shift = 0) { test::clickOn(*panel_, name, shift); }
+    void hover(bool over) {
+        test::controlNamed(panel_->design(), "cmdSendMouseInput").hover.perform(*panel_, over);
+    }
+    [[nodiscard]] bool previewIsComing() const {
+        return view_.timers.contains(PanelTimer::tmrDelayMousePreview);
+    }
+    [[nodiscard]] int patternPictures() { return view_.pictureChanges[StencilControl::imgPattern]; }
     [[nodiscard]] int undoSteps() { return tool_.History().current(); }
 
     ManualLanguage language_{languageEnglish};
@@ -55,13 +74,16 @@ class StencilPanelFixture : public testing::Test {
     SpecialRatios ratios_{[](int, std::string_view text) { return std::string(text); }, {}};
     ctlRatioGrid tool_{host_, settings_, ratios_};
     FakePanelView view_;
-    FakeToolVisibility visibility_;
-    ManualDayClock clock_;
-    FakeStencilCommands commands_;
+    std::map<const OverlayItem*, bool> visible_;
+    float now_ = 36000;
+    FakePanelCommands commands_;
     Event<> tmrFast_;
     std::unique_ptr<StencilPanel> panel_ = std::make_unique<StencilPanel>(
-        tool_, PanelPorts{view_, visibility_, clock_}, StencilPorts{commands_, commands_, tmrFast_},
-        settings_, ratios_);
+        tool_,
+        PanelPorts{view_, commands_, tmrFast_,
+                   [this](const OverlayItem& tool, bool shown) { visible_[&tool] = shown; },
+                   [this] { return now_; }},
+        commands_, settings_, ratios_);
 };
 
 }  // namespace ormala

@@ -1,5 +1,6 @@
 #include "stencil/StencilPanel.h"
 
+#include "pictures/linePicture.h"
 #include "stencil/StencilPanelFixture.h"
 
 namespace ormala {
@@ -22,25 +23,26 @@ TEST_F(StencilPanelTest, ABurstOfChangesWritesTheReadOutsOnceAndOnceAfterIt) {
         later(0.0025F);
     }
     EXPECT_EQ(view_.refreshes, 1);
-    EXPECT_EQ(view_.texts["lblPositionRight"], "right = 100 ");
-    EXPECT_TRUE(view_.timerRuns);
+    EXPECT_EQ(view_.texts[StencilControl::lblPositionRight], "right = 100 ");
+    EXPECT_TRUE(view_.refreshTimerRuns());
     EXPECT_EQ(view_.timerStarts, 19);
     later(0.11F);
     panel_->ShowAllProps(true);
     EXPECT_EQ(view_.refreshes, 2);
-    EXPECT_EQ(view_.texts["lblPositionRight"], "right = 119 ");
-    EXPECT_FALSE(view_.timerRuns);
+    EXPECT_EQ(view_.texts[StencilControl::lblPositionRight], "right = 119 ");
+    EXPECT_FALSE(view_.refreshTimerRuns());
 }
 
 TEST_F(StencilPanelTest, AHeldButtonRefreshesMoreOften) {
-    panel_->setRepeating(true);
+    press("cmdMove(1)");
+    later(1);
     view_.refreshes = 0;
     for (int i = 0; i < 4; ++i) {
         change({0, 0, 100.0 + i, 100});
         later(0.05F);
     }
     EXPECT_EQ(view_.refreshes, 4);
-    panel_->setRepeating(false);
+    panel_->release();
     change({0, 0, 50, 50});
     EXPECT_EQ(view_.refreshes, 4);
 }
@@ -65,29 +67,30 @@ TEST_F(StencilPanelTest, PassesItsLookOnToTheToolAndToItsButtons) {
     panel_->setLineWidth(5);
     EXPECT_EQ(tool_.Color(), 0x102030);
     EXPECT_EQ(tool_.LineWidth(), 5);
-    EXPECT_EQ(view_.buttons["cmdColor"].back, 0x102030);
-    EXPECT_EQ(view_.lineStyle, 5);
+    EXPECT_EQ(view_.buttons[StencilControl::cmdColor].back, 0x102030);
+    EXPECT_EQ(view_.pixelsOf(CommonControl::cmdLineStyle, {32, 16}),
+              drawLinePicture(5, {32, 16}).argb);
 }
 
 TEST_F(StencilPanelTest, PauseHidesTheToolAndDisablesThePanel) {
     turnTo(1);
     panel_->setPause(true);
-    EXPECT_FALSE(visibility_.visible[&tool_]);
+    EXPECT_FALSE(visible_[&tool_]);
     EXPECT_EQ(view_.enabling, (PanelEnabling{false, false, false, false}));
-    EXPECT_EQ(view_.buttons["cmdPause"],
+    EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
               (ButtonLook{rgb(112, 112, 112), true, std::nullopt, Picture::hide}));
     later(1);
     panel_->ShowAllProps(true);
     EXPECT_EQ(view_.enabling, (PanelEnabling{false, false, false, false}));
     panel_->setPause(false);
-    EXPECT_TRUE(visibility_.visible[&tool_]);
+    EXPECT_TRUE(visible_[&tool_]);
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, true, false}));
-    EXPECT_EQ(view_.buttons["cmdPause"],
+    EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
               (ButtonLook{rgb(187, 168, 0), false, std::nullopt, Picture::show}));
 }
 
 TEST_F(StencilPanelTest, ANewPanelShowsTheOpenEyeAtOnce) {
-    EXPECT_EQ(view_.buttons["cmdPause"],
+    EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
               (ButtonLook{rgb(187, 168, 0), false, std::nullopt, Picture::show}));
 }
 
@@ -106,15 +109,13 @@ TEST_F(StencilPanelTest, UndoAndRedoLeaveAHiddenToolAlone) {
 TEST_F(StencilPanelTest, UndoAndRedoShowTheStateThatCameBack) {
     turnTo(pi / 2);
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, true, false}));
-    view_.patternPictures = 0;
     panel_->Undo();
     EXPECT_EQ(tool_.RotationAngle(), 0);
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, false, true}));
-    EXPECT_EQ(view_.patternPictures, 1);
     later(1);
     panel_->Redo();
     EXPECT_EQ(tool_.RotationAngle(), pi / 2);
-    EXPECT_EQ(view_.texts["lblAngle1"], "90.0\u00b0 ");
+    EXPECT_EQ(view_.texts[StencilControl::lblAngle1], "90.0\u00b0 ");
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, true, false}));
 }
 

@@ -9,8 +9,9 @@ namespace ormala {
 namespace {
 
 bool has(const std::string& name) {
-    return std::ranges::any_of(stencilPanelDesign().controls,
-                               [&](const PanelControl& control) { return control.name == name; });
+    return std::ranges::any_of(stencilPanelDesign().controls, [&](const PanelControl& control) {
+        return control.fullName() == name;
+    });
 }
 
 TEST(StencilPanelDesign, ControlsHavePlacesOfTheirOwn) {
@@ -18,6 +19,10 @@ TEST(StencilPanelDesign, ControlsHavePlacesOfTheirOwn) {
     test::expectSoundDesign(stencilPanelDesign());
     test::expectNoOverlap(stencilPanelDesign());
     test::expectButtonsExplainThemselves(stencilPanelDesign());
+}
+
+TEST(StencilPanelDesign, EveryControlThatIsSpokenToIsThereOnce) {
+    test::expectIdsOfTheirOwn(stencilPanelDesign(), StencilControl::cmdColor);
 }
 
 TEST(StencilPanelDesign, NoneOfTheStepsIsMissing) {

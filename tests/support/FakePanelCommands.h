@@ -3,14 +3,14 @@
 #include <optional>
 #include <vector>
 
-#include "measure/MeasureCommands.h"
 #include "measure/ctlMeasure.h"
 #include "stencil/StencilCommands.h"
+#include "toolkit/PanelView.h"
 
 namespace ormala {
 
-/// Dialogs that are confirmed at once with what the test has set, or cancelled.
-class FakeStencilCommands : public StencilCommands, public PreviewTimer {
+/// The dialogs of all panels, which are confirmed at once with what the test has set, or cancelled.
+class FakePanelCommands : public LookDialogs, public StencilCommands {
   public:
     std::optional<Color> color;
     std::optional<int> lineStyle;
@@ -20,7 +20,8 @@ class FakeStencilCommands : public StencilCommands, public PreviewTimer {
     std::vector<int> tabsOpened;
     std::vector<double> ratiosShown;
     std::vector<const ctlRatioGrid*> mouseActions;
-    bool previewTimerRuns = false;
+    std::optional<MeasureUnits> units;
+    std::vector<MeasureUnits> unitsShown;
 
     Color SelectColor(Color present) override { return color.value_or(present); }
     int SelectLineStyle(int present) override { return lineStyle.value_or(present); }
@@ -38,19 +39,7 @@ class FakeStencilCommands : public StencilCommands, public PreviewTimer {
         return ratio;
     }
     void applyMouseAction(ctlRatioGrid& stencil) override { mouseActions.push_back(&stencil); }
-    void runPreviewTimer(bool run) override { previewTimerRuns = run; }
-};
-
-class FakeMeasureCommands : public MeasureCommands {
-  public:
-    std::optional<Color> color;
-    std::optional<int> lineStyle;
-    std::optional<MeasureUnits> units;
-    std::vector<MeasureUnits> unitsShown;
-
-    Color SelectColor(Color present) override { return color.value_or(present); }
-    int SelectLineStyle(int present) override { return lineStyle.value_or(present); }
-    bool SelectUnits(ctlMeasure& tool) override {
+    bool SelectUnits(ctlMeasure& tool) {
         unitsShown.push_back(
             {tool.AngleMode(), tool.LengthMode(), tool.LengthFactor(), tool.LengthUnit()});
         if (units) {

@@ -12,13 +12,15 @@ namespace ormala {
 /// The window of a panel that only keeps what it was told to show.
 class FakePanelView : public PanelView {
   public:
-    std::map<std::string, std::string> texts;
-    std::map<std::string, ButtonLook> buttons;
+    std::map<ControlId, std::string> texts;
+    std::map<ControlId, ButtonLook> buttons;
+    std::map<ControlId, PictureMaker> pictures;
+    /// How often each was told a picture.
+    std::map<ControlId, int> pictureChanges;
     PanelLook look;
     PanelEnabling enabling;
-    int lineStyle = -1;
-    int patternPictures = 0;
-    bool timerRuns = false;
+    /// The intervals of the timers that run, and how often one was started.
+    std::map<PanelTimer, unsigned> timers;
     int timerStarts = 0;
     /// How often the read-outs were written.
     int refreshes = 0;
@@ -31,42 +33,39 @@ class FakePanelView : public PanelView {
     void showTexts(const std::vector<ControlText>& shown) override {
         refreshes += shown.size() > 1 ? 1 : 0;
         for (const ControlText& each : shown) {
-            texts[each.name] = each.text;
+            texts[each.control] = each.text;
         }
     }
     void showLook(const PanelLook& shown) override { look = shown; }
-    void showButton(std::string_view name, const ButtonLook& shown) override {
-        buttons[std::string(name)] = shown;
+    void showButton(ControlId button, const ButtonLook& shown) override { buttons[button] = shown; }
+    void showPicture(ControlId button, PictureMaker maker) override {
+        pictures[button] = std::move(maker);
+        ++pictureChanges[button];
     }
-    void showLineStyle(int lineCode) override { lineStyle = lineCode; }
-    void showPattern() override { ++patternPictures; }
     void enable(const PanelEnabling& enabled) override { enabling = enabled; }
-    void runRefreshTimer(bool run) override {
-        timerRuns = run;
-        timerStarts += run ? 1 : 0;
+    void runTimer(PanelTimer timer, unsigned interval) override {
+        timers.erase(timer);
+        if (interval > 0) {
+            timers[timer] = interval;
+            ++timerStarts;
+        }
     }
     void toolBecameSelected() override { ++selections; }
-    void removeRequested() override {
+    void removeRequested(bool /*byMouse*/) override {
         ++removeRequests;
         if (onRemove) {
             onRemove();
         }
     }
     void showMenu(const std::string& removeText) override { menus.push_back(removeText); }
-};
 
-/// A time of day that stands until it is moved.
-class ManualDayClock : public DayClock {
-  public:
-    float now = 36000;
-    [[nodiscard]] float secondsSinceMidnight() const override { return now; }
-};
-
-/// Keeps the last wish for each tool.
-class FakeToolVisibility : public ToolVisibility {
-  public:
-    std::map<const OverlayItem*, bool> visible;
-    void setVisible(const OverlayItem& tool, bool shown) override { visible[&tool] = shown; }
+    [[nodiscard]] bool refreshTimerRuns() const {
+        return timers.contains(PanelTimer::tmrShowProps);
+    }
+    /// The pixels that the button shows, on this many pixels.
+    [[nodiscard]] std::vector<std::uint32_t> pixelsOf(ControlId button, PixelSize size) const {
+        return pictures.at(button)(size).argb;
+    }
 };
 
 }  // namespace ormala

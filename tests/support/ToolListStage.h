@@ -25,9 +25,9 @@ class StagePanel : public ListedPanel {
     explicit StagePanel(ToolKind kind) : height_(kind == ToolKind::stencil ? 100 : 70) {}
 
     FakePanelView view;
-    std::unique_ptr<ToolPanel> core;
+    std::unique_ptr<SettingControl> core;
 
-    [[nodiscard]] ToolPanel& panel() override { return *core; }
+    [[nodiscard]] SettingControl& panel() override { return *core; }
     [[nodiscard]] int top() const override { return top_; }
     void setTop(int top) override { top_ = top; }
     [[nodiscard]] int height() const override { return height_; }
@@ -60,14 +60,13 @@ class StageView : public ToolListView, public BusyView {
 };
 
 /// A tool list over a real sheet with real tools and panels.
-class ToolListStage : private PanelFactory, private ToolVisibility {
+class ToolListStage : private PanelFactory {
   public:
     explicit ToolListStage(PixelSize sheetSize = {1280, 1024}) {
         maker_.setSheet(sheet);
         sheet.resize(sheetSize);
     }
 
-    ManualDayClock clock;
     OwnToolSettings settings;
     StageView view;
     MemoryMessagePresenter messages;
@@ -78,8 +77,7 @@ class ToolListStage : private PanelFactory, private ToolVisibility {
     QuietToolHost host_;
     SpecialRatios ratios_{[](int, std::string_view text) { return std::string(text); }, {}};
     ToolMaker maker_{settings, ratios_};
-    FakeStencilCommands stencilCommands_;
-    FakeMeasureCommands measureCommands_;
+    FakePanelCommands commands_;
     Event<> tmrFast_;
 
   public:
@@ -122,21 +120,21 @@ class ToolListStage : private PanelFactory, private ToolVisibility {
   private:
     std::unique_ptr<ListedPanel> makePanel(ToolKind kind, OverlayItem& tool) override {
         auto made = std::make_unique<StagePanel>(kind);
-        const PanelPorts ports{made->view, *this, clock};
+        const PanelPorts ports{
+            made->view, commands_, tmrFast_,
+            [this](const OverlayItem& shown, bool visible) { sheet.setVisible(shown, visible); },
+            [] { return 36000.0F; }};
         if (kind == ToolKind::stencil) {
-            made->core = std::make_unique<StencilPanel>(
-                dynamic_cast<ctlRatioGrid&>(tool), ports,
-                StencilPorts{stencilCommands_, stencilCommands_, tmrFast_}, settings, ratios_);
+            made->core = std::make_unique<StencilPanel>(dynamic_cast<ctlRatioGrid&>(tool), ports,
+                                                        commands_, settings, ratios_);
         } else {
-            made->core = std::make_unique<MeasurePanel>(dynamic_cast<ctlMeasure&>(tool), ports,
-                                                        measureCommands_, settings);
+            made->core = std::make_unique<MeasurePanel>(
+                dynamic_cast<ctlMeasure&>(tool), ports,
+                [this](ctlMeasure& measure) { return commands_.SelectUnits(measure); }, settings);
         }
-        const ToolPanel& core = *made->core;
+        const SettingControl& core = *made->core;
         made->view.onRemove = [this, &core] { list.RemovePanel(core); };
         return made;
-    }
-    void setVisible(const OverlayItem& tool, bool visible) override {
-        sheet.setVisible(tool, visible);
     }
 };
 

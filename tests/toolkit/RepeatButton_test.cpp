@@ -74,7 +74,7 @@ TEST_F(RepeatButtonTest, ARunEndsOnce) {
     button_->release();
     button_->release();
     EXPECT_EQ(runs_, 1);
-    EXPECT_FALSE(button_->running());
+    EXPECT_FALSE(button_->heldByMouse());
 }
 
 TEST_F(RepeatButtonTest, AReleaseWithoutAPressEndsNothing) {
@@ -113,7 +113,7 @@ TEST_F(RepeatButtonTest, AKeyMeansNothingWhileTheMouseHoldsTheButton) {
 TEST_F(RepeatButtonTest, AReleaseOfTheMouseLeavesTheRunOfTheKey) {
     key();
     button_->release();
-    EXPECT_TRUE(button_->running());
+    EXPECT_EQ(runs_, 0);
     button_->releaseKey();
     EXPECT_EQ(runs_, 1);
 }
@@ -123,7 +123,7 @@ TEST_F(RepeatButtonTest, ThePressOfTheMouseEndsTheRunOfTheKey) {
     press();
     EXPECT_EQ(runs_, 1);
     button_->releaseKey();
-    EXPECT_TRUE(button_->running());
+    EXPECT_TRUE(button_->heldByMouse());
 }
 
 TEST_F(RepeatButtonTest, AStopEndsTheRunOfEither) {

@@ -5,17 +5,10 @@
 #include <functional>
 #include <string>
 
-#include "language/MlStringModule.h"
-#include "measure/ManualMeasures.h"
-#include "measure/win/ctlSetMeasure.h"
 #include "platform/win/StandardControl.h"
-#include "stencil/win/ctlSetRatioGrid.h"
-#include "support/FakePanelCommands.h"
-#include "support/FakePanelView.h"
-#include "support/OwnToolSettings.h"
-#include "support/QuietToolHost.h"
 #include "win/EnglishTexts.h"
 #include "win/ModalPlayer.h"
+#include "win/PanelStage.h"
 #include "win/TestWindow.h"
 
 // The windows' own timer, which shows the last change of a burst.
@@ -26,18 +19,8 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-class QuietPanelHost : public PanelHost {
-    void panelSelected(PanelWindow& /*panel*/) override {}
-    void panelGotFocus(PanelWindow& /*panel*/) override {}
-    void removePanel(PanelWindow& /*panel*/, bool /*byMouse*/) override {}
-};
-
 class PanelTimer : public testing::Test {
   protected:
-    [[nodiscard]] PanelWindow::Ports ports() {
-        return {owner_.handle(), 1, host_, visibility_, clock_, tmrFast_, fontSizeChange_};
-    }
-
     /// How long a label goes on saying what it said, once the tool has changed.
     static milliseconds delayOf(PanelWindow& panel, const char* label,
                                 const std::function<void()>& change) {
@@ -75,37 +58,26 @@ class PanelTimer : public testing::Test {
 
     EnglishTexts english_;
     TestWindow owner_;
-    QuietToolHost toolHost_;
-    OwnToolSettings settings_;
-    QuietPanelHost host_;
-    FakeToolVisibility visibility_;
-    ManualDayClock clock_;
-    Event<> tmrFast_;
-    Event<int> fontSizeChange_;
+    PanelStage stage_;
 };
 
 TEST_F(PanelTimer, AStencilsLastChangeIsShownAfterATenthOfASecond) {
-    const SpecialRatios ratios([](int id, std::string_view text) { return MlString(id, text); },
-                               settings_.textForm);
-    FakeStencilCommands commands;
-    ctlRatioGrid tool(toolHost_, settings_, ratios);
-    ctlSetRatioGrid panel(tool, ports(), commands, settings_, ratios);
-    panel.core().finish();
-    expectInterval(panel, "lblPositionLeft", [&tool](int i) {
-        tool.setRectBound({100.0 + i, 100, 300, 200});
-        tool.events().change.raise();
+    const auto tool = stage_.makeStencil();
+    const auto panel = stage_.makePanel(owner_.handle(), *tool);
+    panel->core().finish();
+    expectInterval(*panel, "lblPositionLeft", [&tool](int i) {
+        tool->setRectBound({100.0 + i, 100, 300, 200});
+        tool->events().change.raise();
     });
 }
 
 TEST_F(PanelTimer, AMeasuringToolsLastChangeIsShownAfterATenthOfASecond) {
-    const ManualMeasures others;
-    FakeMeasureCommands commands;
-    ctlMeasure tool(toolHost_, settings_, others);
-    ctlSetMeasure panel(tool, ports(), commands, settings_);
-    panel.core().finish();
-    expectInterval(panel, "lblLengthA", [&tool](int i) {
-        tool.setLineA({100, 200.0 + i, 100, 100});
-        tool.events().change.raise();
+    const auto tool = stage_.makeMeasure();
+    const auto panel = stage_.makePanel(owner_.handle(), *tool);
+    panel->core().finish();
+    expectInterval(*panel, "lblLengthA", [&tool](int i) {
+        tool->setLineA({100, 200.0 + i, 100, 100});
+        tool->events().change.raise();
     });
 }
 

@@ -162,7 +162,7 @@ std::vector<std::string> waitingForPainting(HWND panel) {
 
 TEST_F(ToolsPaneTest, ARefreshRepaintsOnlyTheReadOutThatHasChanged) {
     ToolList& tools = program_.tools().tools();
-    auto& core = dynamic_cast<PanelCore&>(*tools.LastVisiblePanel(ToolKind::stencil));
+    SettingControl& core = *tools.LastVisiblePanel(ToolKind::stencil);
     auto& tool = dynamic_cast<ctlRatioGrid&>(core.RefControlControl());
     tool.setRotationAngle(0);
     core.ShowAllProps(true);
@@ -180,7 +180,7 @@ TEST_F(ToolsPaneTest, ARefreshRepaintsOnlyTheReadOutThatHasChanged) {
 
 TEST_F(ToolsPaneTest, ARefreshOfAMeasuringToolThatStandsStillRepaintsNothing) {
     ToolList& tools = program_.tools().tools();
-    auto& core = dynamic_cast<PanelCore&>(*tools.LastVisiblePanel(ToolKind::measurement));
+    SettingControl& core = *tools.LastVisiblePanel(ToolKind::measurement);
     core.ShowAllProps(true);
     RedrawWindow(measure(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     core.ShowAllProps(true);

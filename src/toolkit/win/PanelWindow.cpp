@@ -1,8 +1,10 @@
 #include "toolkit/win/PanelWindow.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "language/LanguageSupport.h"
 #include "language/MlStringModule.h"
-#include "pictures/linePicture.h"
 #include "platform/win/controlName.h"
 #include "platform/win/fills.h"
 #include "platform/win/text.h"
@@ -15,9 +17,13 @@ namespace ormala {
 
 namespace {
 
-constexpr UINT_PTR tmrShowProps = 1;
-constexpr UINT tmrShowPropsInterval = 110;
-constexpr UINT_PTR tmrButtonBig = 2;
+constexpr UINT_PTR tmrButtonBig = 1;
+/// The timers of the panel have this number and higher ones.
+constexpr UINT_PTR firstPanelTimer = 2;
+
+constexpr UINT_PTR idOf(PanelTimer timer) {
+    return firstPanelTimer + static_cast<UINT_PTR>(timer);
+}
 
 /// Shows the popup menu once the event that asked for it is over: a menu has a message loop of its
 /// own, in which the asking tool may come to its end.
@@ -36,110 +42,170 @@ PictureMaker pictureMaker(Picture picture) {
     return [picture](PixelSize size) { return drawPicture(picture, size); };
 }
 
-template <typename Controls>
-auto* find(const Controls& controls, std::string_view name) {
-    const auto at = controls.find(name);
-    return at == controls.end() ? nullptr : at->second.get();
+/// As the button knows them: a push button, a toggle, one of several.
+int controlTypeOf(PanelPart part) {
+    switch (part) {
+        case PanelPart::toggle:
+            return 1;
+        case PanelPart::option:
+            return 2;
+        default:
+            return 0;
+    }
+}
+
+/// The control as it is called where there are several of it, such as of panels in a list.
+std::string nameOf(const PanelDesign& design, int number) {
+    constexpr std::size_t prefix = 3;
+    return design.className.substr(prefix) + "(" + std::to_string(number) + ")";
 }
 
 }  // namespace
 
-PanelWindow::PanelWindow(const wchar_t* className, std::string_view name, const PanelDesign& design,
-                         const Ports& ports)
-    : design_(design), host_(ports.host), dpi_(USER_DEFAULT_SCREEN_DPI) {
+PanelWindow::PanelWindow(const Ports& ports, const MakeCore& makeCore)
+    : host_(ports.host), core_(makeCore(*this)) {
+    const PanelDesign& design = core_->design();
+    const std::wstring className = wide(design.className);
     WindowDesign window;
-    window.className = className;
+    window.className = className.c_str();
     window.style = WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS;
     window.extendedStyle = WS_EX_CONTROLPARENT;
     window.owner = ports.parent;
     window.id = ports.id;
     create(window);
-    setControlName(handle(), std::string(name) + "(" + std::to_string(ports.id) + ")");
+    setControlName(handle(), nameOf(design, ports.id));
     subscriptions_.push_back(ports.fontSizeChange.subscribe(
         [this](int points) { SetFontSizeOfControls(handle(), points); }));
     int id = 1;
-    for (const PanelControl& control : design_.controls) {
-        makeControl(control, id++);
+    for (const PanelControl& row : design.controls) {
+        makeControl(row, id++);
     }
-}
-
-void PanelWindow::open() {
-    constexpr int toggle = 1;
-    button("cmdPause").setControlType(toggle);
-    connectDelete();
-    onClick("cmdUndo", [this] { core().Undo(); });
-    onClick("cmdRedo", [this] { core().Redo(); });
-    onClick("cmdPause", [this] { core().togglePause(); });
-    onClick("cmdDefaultPos", [this] { core().setDefaultPlace(); });
     subscriptions_.push_back(
         GetLanguageSupport().LanguageChange.subscribe([this] { ApplyLanguage(); }));
     ApplyLanguage();
 }
 
-PanelWindow::~PanelWindow() {
-    destroy();
-}
-
-void PanelWindow::makeControl(const PanelControl& control, int id) {
-    switch (control.part) {
+void PanelWindow::makeControl(const PanelControl& row, int id) {
+    rowOf_.resize(std::max(rowOf_.size(), row.id.index() + 1));
+    rowOf_[row.id.index()] = controls_.size();
+    Control& made = controls_.emplace_back();
+    switch (row.part) {
         case PanelPart::titleBand:
         case PanelPart::bottomBand:
-            makeBand(control, id);
+            makeBand(made, row, id);
             break;
-        case PanelPart::button:
-        case PanelPart::image:
-            makeButton(control, id);
+        case PanelPart::title:
+        case PanelPart::header:
+        case PanelPart::value:
+            makeLabel(made, row, id);
             break;
         default:
-            makeLabel(control, id);
+            makeButton(made, row, id);
             break;
     }
 }
 
-void PanelWindow::makeBand(const PanelControl& control, int id) {
-    auto band = std::make_unique<GradShape>(handle(), id, control.name);
-    band->setColorBottomRight(control.part == PanelPart::titleBand ? look_.titleBottomRight
-                                                                   : dark::deepestEdge);
-    bands_.emplace(control.name, std::move(band));
+void PanelWindow::makeBand(Control& made, const PanelControl& row, int id) {
+    made.band = std::make_unique<GradShape>(handle(), id, row.name);
+    made.band->setColorBottomRight(row.part == PanelPart::titleBand ? look_.titleBottomRight
+                                                                    : deepestEdge);
 }
 
-void PanelWindow::makeLabel(const PanelControl& control, int id) {
-    auto label = std::make_unique<Label>(handle(), id, control.name);
-    label->setTextColor(control.part == PanelPart::value ? dark::text : dark::quietText);
-    label->setBold(control.part == PanelPart::title);
-    labels_.emplace(control.name, std::move(label));
+void PanelWindow::makeLabel(Control& made, const PanelControl& row, int id) {
+    made.label = std::make_unique<Label>(handle(), id, row.name);
+    made.label->setTextColor(row.part == PanelPart::value ? dark::text : dark::quietText);
+    made.label->setBold(row.part == PanelPart::title);
 }
 
-void PanelWindow::makeButton(const PanelControl& control, int id) {
-    auto made = std::make_unique<ZelvikButtonXP>(handle(), id, control.name);
-    made->setBackColor(dark::off);
-    if (control.picture) {
-        made->setPicture(pictureMaker(*control.picture));
-        const int side = control.box.height() < commandHeight ? stepPicture : commandPicture;
-        made->setPictureSize(side, side);
+void PanelWindow::makeButton(Control& made, const PanelControl& row, int id) {
+    made.button = std::make_unique<ZelvikButtonXP>(handle(), id, row.fullName());
+    ZelvikButtonXP& button = *made.button;
+    button.setControlType(controlTypeOf(row.part));
+    button.setBackColor(dark::off);
+    if (row.letter != nullptr) {
+        button.setCaption(row.letter);
     }
-    if (control.part == PanelPart::image) {
-        made->setBackColor(dark::liftedGround);
-        made->setPlaneFace(true);
-        made->setPictureSize(control.box.width() - imageEdges, control.box.height() - imageEdges);
+    if (row.picture) {
+        button.setPicture(pictureMaker(*row.picture));
+        const int side = row.box.height() < commandHeight ? stepPicture : commandPicture;
+        button.setPictureSize(side, side);
+    }
+    if (row.part == PanelPart::image) {
+        button.setBackColor(dark::liftedGround);
+        button.setPlaneFace(true);
+        button.setPictureSize(row.box.width() - imageEdges, row.box.height() - imageEdges);
         // A picture is no stop of the Tab key.
-        SetWindowLongPtrW(made->handle(), GWL_STYLE,
-                          GetWindowLongPtrW(made->handle(), GWL_STYLE) & ~WS_TABSTOP);
+        SetWindowLongPtrW(button.handle(), GWL_STYLE,
+                          GetWindowLongPtrW(button.handle(), GWL_STYLE) & ~WS_TABSTOP);
     }
-    made->setCornerStyle(control.cornerStyle);
+    button.setCornerStyle(row.cornerStyle);
+    growth_.add(button);
     // A press goes through its click, so that the focus is not taken from a held button.
-    subscriptions_.push_back(made->gotFocus.subscribe([this] {
+    subscriptions_.push_back(button.gotFocus.subscribe([this] {
         if (GetKeyState(VK_LBUTTON) >= 0) {
             host_.panelGotFocus(*this);
         }
     }));
-    subscriptions_.push_back(made->Click.subscribe([this] { host_.panelGotFocus(*this); }));
-    growth_.add(*made);
-    buttons_.emplace(control.name, std::move(made));
+    subscriptions_.push_back(button.Click.subscribe([this] { host_.panelGotFocus(*this); }));
+    if (row.part == PanelPart::step) {
+        connectStep(button, row);
+    } else {
+        connectClick(button, row);
+    }
+    connectHover(button, row);
+}
+
+/// The panel may end in what it does.
+void PanelWindow::connectClick(ZelvikButtonXP& button, const PanelControl& row) {
+    // The click itself doesn't know what it came from.
+    const auto last = std::make_shared<Press>();
+    subscriptions_.push_back(button.MouseDown.subscribe([last](MouseArguments at) {
+        *last = {0, at.shift, true};
+    }));
+    subscriptions_.push_back(button.KeyDown.subscribe([last](KeyArguments key) {
+        *last = {0, key.shift, false};
+    }));
+    subscriptions_.push_back(button.Click.subscribe(
+        [this, last, &row] { row.press.perform(*core_, std::exchange(*last, {})); }));
+}
+
+void PanelWindow::connectStep(ZelvikButtonXP& button, const PanelControl& row) {
+    subscriptions_.push_back(button.MouseDown.subscribe([this, &row](MouseArguments at) {
+        if (at.button == mouseButton::left) {
+            core_->press(row, at.shift);
+        }
+    }));
+    subscriptions_.push_back(button.MouseUp.subscribe([this](MouseArguments at) {
+        if (at.button == mouseButton::left) {
+            core_->release();
+        }
+    }));
+    subscriptions_.push_back(button.KeyDown.subscribe([this, &row](KeyArguments key) {
+        if (key.keyCode == key::space) {
+            core_->pressKey(row, key.shift);
+        }
+    }));
+    subscriptions_.push_back(button.KeyUp.subscribe([this](KeyArguments key) {
+        if (key.keyCode == key::space) {
+            core_->releaseKey();
+        }
+    }));
+    subscriptions_.push_back(button.lostFocus.subscribe([this] { core_->releaseKey(); }));
+}
+
+void PanelWindow::connectHover(ZelvikButtonXP& button, const PanelControl& row) {
+    if (!row.hover) {
+        return;
+    }
+    subscriptions_.push_back(
+        button.MouseEnter.subscribe([this, &row](int) { row.hover.perform(*core_, true); }));
+    subscriptions_.push_back(
+        button.MouseExit.subscribe([this, &row](int) { row.hover.perform(*core_, false); }));
 }
 
 PixelSize PanelWindow::size() const {
-    return {scaledLength(design_.size.width, dpi_), scaledLength(design_.size.height, dpi_)};
+    const PixelSize designed = core_->design().size;
+    return {scaledLength(designed.width, dpi_), scaledLength(designed.height, dpi_)};
 }
 
 void PanelWindow::setDpi(int dpi) {
@@ -153,7 +219,7 @@ void PanelWindow::setSeen(bool seen) {
         return;
     }
     if (seen) {
-        SetTimer(handle(), tmrButtonBig, growthInterval(), nullptr);
+        SetTimer(handle(), tmrButtonBig, core_->design().growthInterval, nullptr);
     } else {
         KillTimer(handle(), tmrButtonBig);
         growth_.reset(dpi_);
@@ -161,160 +227,100 @@ void PanelWindow::setSeen(bool seen) {
 }
 
 void PanelWindow::layOut() {
-    for (const PanelControl& control : design_.controls) {
-        const PixelRect box = scaledToDpi(control.box, dpi_);
-        if (GradShape* band = find(bands_, control.name)) {
-            band->place(box);
-        } else if (Label* label = find(labels_, control.name)) {
-            label->setDpi(dpi_);
-            label->place(box);
-        } else if (ZelvikButtonXP* shown = find(buttons_, control.name)) {
-            shown->setDpi(dpi_);
-            shown->place(box);
+    for (std::size_t row = 0; row < controls_.size(); ++row) {
+        const Control& control = controls_[row];
+        const PixelRect box = scaledToDpi(core_->design().controls[row].box, dpi_);
+        if (control.band) {
+            control.band->place(box);
+        } else if (control.label) {
+            control.label->setDpi(dpi_);
+            control.label->place(box);
+        } else {
+            control.button->setDpi(dpi_);
+            control.button->place(box);
         }
     }
 }
 
 void PanelWindow::ApplyLanguage() {
-    for (const PanelControl& control : design_.controls) {
-        const std::string tip = control.tip != 0 ? MlString(control.tip, {}) : std::string();
-        if (Label* label = find(labels_, control.name)) {
-            if (control.caption != 0) {
-                label->setText(MlString(control.caption, {}));
+    for (std::size_t number = 0; number < controls_.size(); ++number) {
+        const Control& control = controls_[number];
+        const PanelControl& row = core_->design().controls[number];
+        const std::string tip = row.tip != 0 ? MlString(row.tip, {}) : std::string();
+        if (control.label) {
+            if (row.caption != 0) {
+                control.label->setText(MlString(row.caption, {}));
             }
-            label->SetTooltip(tip);
-        } else if (ZelvikButtonXP* shown = find(buttons_, control.name)) {
-            shown->SetTooltip(tip);
+            control.label->SetTooltip(tip);
+        } else if (control.button) {
+            control.button->SetTooltip(tip);
         }
     }
-    core().ShowAllProps(true);
-}
-
-ZelvikButtonXP& PanelWindow::button(std::string_view name) {
-    return *buttons_.find(name)->second;
-}
-
-void PanelWindow::onClick(std::string_view name, std::function<void()> action) {
-    subscriptions_.push_back(button(name).Click.subscribe(std::move(action)));
-}
-
-void PanelWindow::onShiftClick(std::string_view name, std::function<void(int)> action) {
-    // The click itself doesn't know them.
-    auto held = std::make_shared<int>(0);
-    ZelvikButtonXP& pressed = button(name);
-    subscriptions_.push_back(
-        pressed.MouseDown.subscribe([held](MouseArguments at) { *held = at.shift; }));
-    subscriptions_.push_back(
-        pressed.KeyDown.subscribe([held](KeyArguments key) { *held = key.shift; }));
-    onClick(name, [held, act = std::move(action)] { act(std::exchange(*held, 0)); });
-}
-
-void PanelWindow::onHold(std::string_view name, Hold hold) {
-    const auto shared = std::make_shared<const Hold>(std::move(hold));
-    ZelvikButtonXP& held = button(name);
-    subscriptions_.push_back(held.MouseDown.subscribe([shared](MouseArguments at) {
-        if (at.button == mouseButton::left) {
-            shared->press(at.shift);
-        }
-    }));
-    subscriptions_.push_back(held.MouseUp.subscribe([shared](MouseArguments at) {
-        if (at.button == mouseButton::left) {
-            shared->release();
-        }
-    }));
-    subscriptions_.push_back(held.KeyDown.subscribe([shared](KeyArguments key) {
-        if (key.keyCode == key::space) {
-            shared->key(key.shift);
-        }
-    }));
-    subscriptions_.push_back(held.KeyUp.subscribe([shared](KeyArguments key) {
-        if (key.keyCode == key::space) {
-            shared->releaseKey();
-        }
-    }));
-    subscriptions_.push_back(held.lostFocus.subscribe([shared] { shared->releaseKey(); }));
-}
-
-/// The click itself doesn't know whether it came from the mouse.
-void PanelWindow::connectDelete() {
-    const auto byMouse = std::make_shared<bool>(false);
-    ZelvikButtonXP& cmdDelete = button("cmdDelete");
-    subscriptions_.push_back(
-        cmdDelete.MouseDown.subscribe([byMouse](MouseArguments) { *byMouse = true; }));
-    subscriptions_.push_back(
-        cmdDelete.KeyDown.subscribe([byMouse](KeyArguments) { *byMouse = false; }));
-    onClick("cmdDelete", [this, byMouse] { host_.removePanel(*this, *byMouse); });
-}
-
-void PanelWindow::onHover(std::string_view name, const std::function<void(bool)>& action) {
-    subscriptions_.push_back(button(name).MouseEnter.subscribe([action](int) { action(true); }));
-    subscriptions_.push_back(button(name).MouseExit.subscribe([action](int) { action(false); }));
+    core_->ShowAllProps(true);
 }
 
 void PanelWindow::showTexts(const std::vector<ControlText>& texts) {
     for (const ControlText& shown : texts) {
-        if (Label* label = find(labels_, shown.name)) {
-            label->setText(shown.text);
-        }
+        controlOf(shown.control).label->setText(shown.text);
     }
 }
 
 void PanelWindow::showLook(const PanelLook& look) {
     look_ = look;
-    for (const auto& [name, label] : labels_) {
-        label->setBackColor(look.background);
+    for (std::size_t number = 0; number < controls_.size(); ++number) {
+        const Control& control = controls_[number];
+        const PanelPart part = core_->design().controls[number].part;
+        if (control.label) {
+            control.label->setBackColor(look.background);
+        }
+        if (part == PanelPart::title) {
+            control.label->setTextColor(look.titleText);
+            control.label->setGradient(look.titleTopLeft, look.titleBottomRight);
+        } else if (part == PanelPart::titleBand) {
+            control.band->setColorTopLeft(look.titleTopLeft);
+            control.band->setColorBottomRight(look.titleBottomRight);
+        } else if (part == PanelPart::bottomBand) {
+            control.band->setColorTopLeft(look.bottomTopLeft);
+        }
     }
-    GradShape& title = *bands_.at("gradTitle");
-    title.setColorTopLeft(look.titleTopLeft);
-    title.setColorBottomRight(look.titleBottomRight);
-    bands_.at("gradBottom")->setColorTopLeft(look.bottomTopLeft);
-    Label& lblTitle = *labels_.at("lblTitle");
-    lblTitle.setTextColor(look.titleText);
-    lblTitle.setGradient(look.titleTopLeft, look.titleBottomRight);
     InvalidateRect(handle(), nullptr, FALSE);
 }
 
-void PanelWindow::showButton(std::string_view name, const ButtonLook& look) {
-    if (ZelvikButtonXP* shown = find(buttons_, name)) {
-        shown->setBackColor(look.back);
-        shown->setValue(look.down);
-        if (look.text) {
-            shown->setForeColor(*look.text);
-        }
-        if (look.picture) {
-            shown->setPicture(pictureMaker(*look.picture));
-        }
+void PanelWindow::showButton(ControlId button, const ButtonLook& look) {
+    ZelvikButtonXP& shown = *controlOf(button).button;
+    shown.setBackColor(look.back);
+    shown.setValue(look.down);
+    if (look.text) {
+        shown.setForeColor(*look.text);
+    }
+    if (look.picture) {
+        shown.setPicture(pictureMaker(*look.picture));
     }
 }
 
-void PanelWindow::showLineStyle(int lineCode) {
-    button("cmdLineStyle").setPicture([lineCode](PixelSize size) {
-        return drawLinePicture(lineCode, size);
-    });
+void PanelWindow::showPicture(ControlId button, PictureMaker maker) {
+    controlOf(button).button->setPicture(std::move(maker));
 }
 
 void PanelWindow::enable(const PanelEnabling& enabling) {
-    for (const auto& [name, shown] : buttons_) {
-        if (name == "cmdUndo") {
-            shown->setEnabled(enabling.undo);
-        } else if (name == "cmdRedo") {
-            shown->setEnabled(enabling.redo);
-        } else if (name != "cmdPause") {
-            shown->setEnabled(enabling.controls);
-        }
-    }
-    for (const auto& [name, label] : labels_) {
-        if (name != "lblTitle") {
-            label->setEnabled(enabling.labels);
+    for (std::size_t number = 0; number < controls_.size(); ++number) {
+        const Control& control = controls_[number];
+        const PanelControl& row = core_->design().controls[number];
+        if (control.button && row.id != CommonControl::cmdPause) {
+            control.button->setEnabled(row.id == CommonControl::cmdUndo   ? enabling.undo
+                                       : row.id == CommonControl::cmdRedo ? enabling.redo
+                                                                          : enabling.controls);
+        } else if (control.label && row.part != PanelPart::title) {
+            control.label->setEnabled(enabling.labels);
         }
     }
 }
 
-void PanelWindow::runRefreshTimer(bool run) {
-    if (run) {
-        SetTimer(handle(), tmrShowProps, tmrShowPropsInterval, nullptr);
+void PanelWindow::runTimer(PanelTimer timer, unsigned interval) {
+    if (interval > 0) {
+        SetTimer(handle(), idOf(timer), interval, nullptr);
     } else {
-        KillTimer(handle(), tmrShowProps);
+        KillTimer(handle(), idOf(timer));
     }
 }
 
@@ -332,7 +338,7 @@ void PanelWindow::popUpMenu() {
                                        menuPlace_.x, menuPlace_.y, 0, window, nullptr);
     // The panel may have gone meanwhile.
     if (chosen == static_cast<BOOL>(mnuDelete) && IsWindow(window) != FALSE) {
-        host_.removePanel(*this, true);
+        core_->remove({.byMouse = true});
     }
 }
 
@@ -343,10 +349,10 @@ LRESULT PanelWindow::onPaint() {
 }
 
 LRESULT PanelWindow::onTimer(WPARAM id) {
-    if (id == tmrShowProps) {
-        core().ShowAllProps(true);
-    } else if (id == tmrButtonBig) {
+    if (id == tmrButtonBig) {
         growth_.tick(dpi_);
+    } else {
+        core_->timerTicked(static_cast<PanelTimer>(id - firstPanelTimer));
     }
     return 0;
 }

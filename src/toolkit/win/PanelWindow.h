@@ -1,15 +1,12 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "base/Event.h"
-#include "toolkit/PanelCore.h"
-#include "toolkit/PanelDesign.h"
+#include "toolkit/SettingControl.h"
 #include "toolkit/win/ButtonGrowth.h"
 #include "widgets/win/GradShape.h"
 #include "widgets/win/Label.h"
@@ -32,9 +29,9 @@ class PanelHost {
     virtual void removePanel(PanelWindow& panel, bool byMouse) = 0;
 };
 
-/// The window of a tool's panel: the controls of its design, which show what the panel's core
-/// tells.
-class PanelWindow : public Window, protected PanelView {
+/// The window of a tool's panel: the controls of its design, which show what the panel tells and
+/// tell it what is done to them.
+class PanelWindow : public Window, private PanelView {
   public:
     /// What a panel's window is made with. All must outlive it.
     struct Ports {
@@ -42,20 +39,16 @@ class PanelWindow : public Window, protected PanelView {
         /// Its control ID and the number in its name, from 1 on.
         int id;
         PanelHost& host;
-        ToolVisibility& visibility;
-        const DayClock& clock;
-        /// The shared clock of held buttons, 40 ms.
-        Event<>& tmrFast;
         /// The size of type of all windows of controls, when that changes.
         Event<int>& fontSizeChange;
     };
+    using MakeCore = std::function<std::unique_ptr<SettingControl>(PanelView& view)>;
 
-    /// Timers of derived panels have this number and higher ones.
-    static constexpr UINT_PTR firstOwnTimer = 10;
+    /// Invisible.
+    PanelWindow(const Ports& ports, const MakeCore& makeCore);
+    ~PanelWindow() override { destroy(); }
 
-    ~PanelWindow() override;
-
-    [[nodiscard]] virtual PanelCore& core() = 0;
+    [[nodiscard]] SettingControl& core() { return *core_; }
     /// Lays the controls out for a monitor of that resolution.
     void setDpi(int dpi);
     /// In pixels of that monitor.
@@ -63,70 +56,54 @@ class PanelWindow : public Window, protected PanelView {
     /// Whether the list shows some of the panel: only then it looks where the mouse is.
     void setSeen(bool seen);
 
-  protected:
-    /// Invisible. The design must outlive it.
-    PanelWindow(const wchar_t* className, std::string_view name, const PanelDesign& design,
-                const Ports& ports);
-    /// The interval of `tmrButtonBig`, in milliseconds.
-    [[nodiscard]] virtual UINT growthInterval() const = 0;
-    /// Connects the commands that all panels have and shows the texts, once the core stands.
-    void open();
+  private:
+    /// One of the three, as its row in the design wants it.
+    struct Control {
+        std::unique_ptr<GradShape> band;
+        std::unique_ptr<Label> label;
+        std::unique_ptr<ZelvikButtonXP> button;
+    };
 
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    [[nodiscard]] ZelvikButtonXP& button(std::string_view name);
-    /// What a button does. A handler may end the panel.
-    void onClick(std::string_view name, std::function<void()> action);
-    /// The action gets the modifiers of the press.
-    void onShiftClick(std::string_view name, std::function<void(int)> action);
-    /// What a button does that repeats while it is held by the left mouse button or the space bar;
-    /// `press` and `key` get the modifiers.
-    struct Hold {
-        std::function<void(int)> press;
-        std::function<void(int)> key;
-        std::function<void()> release;
-        std::function<void()> releaseKey;
-    };
-    void onHold(std::string_view name, Hold hold);
-    /// The mouse comes over the button or leaves it.
-    void onHover(std::string_view name, const std::function<void(bool)>& action);
-    [[nodiscard]] int dpi() const { return dpi_; }
-
     void showTexts(const std::vector<ControlText>& texts) override;
     void showLook(const PanelLook& look) override;
-    void showButton(std::string_view name, const ButtonLook& look) override;
-    void showLineStyle(int lineCode) override;
-    void showPattern() override {}
+    void showButton(ControlId button, const ButtonLook& look) override;
+    void showPicture(ControlId button, PictureMaker maker) override;
     void enable(const PanelEnabling& enabling) override;
-    void runRefreshTimer(bool run) override;
+    void runTimer(PanelTimer timer, unsigned interval) override;
     void toolBecameSelected() override { host_.panelSelected(*this); }
-    void removeRequested() override { host_.removePanel(*this, false); }
+    void removeRequested(bool byMouse) override { host_.removePanel(*this, byMouse); }
     void showMenu(const std::string& removeText) override;
 
-  private:
-    void makeControl(const PanelControl& control, int id);
-    void makeBand(const PanelControl& control, int id);
-    void makeLabel(const PanelControl& control, int id);
-    void makeButton(const PanelControl& control, int id);
+    void makeControl(const PanelControl& row, int id);
+    void makeBand(Control& made, const PanelControl& row, int id);
+    void makeLabel(Control& made, const PanelControl& row, int id);
+    void makeButton(Control& made, const PanelControl& row, int id);
+    void connectClick(ZelvikButtonXP& button, const PanelControl& row);
+    void connectStep(ZelvikButtonXP& button, const PanelControl& row);
+    void connectHover(ZelvikButtonXP& button, const PanelControl& row);
+    [[nodiscard]] Control& controlOf(ControlId id) { return controls_[rowOf_[id.index()]]; }
     void ApplyLanguage();
     void layOut();
     LRESULT onPaint();
     LRESULT onTimer(WPARAM id);
     void popUpMenu();
-    void connectDelete();
 
-    const PanelDesign& design_;
     PanelHost& host_;
-    int dpi_;
+    int dpi_ = USER_DEFAULT_SCREEN_DPI;
     PanelLook look_ = unselectedLook;
-    std::map<std::string, std::unique_ptr<GradShape>, std::less<>> bands_;
-    std::map<std::string, std::unique_ptr<Label>, std::less<>> labels_;
-    std::map<std::string, std::unique_ptr<ZelvikButtonXP>, std::less<>> buttons_;
+    /// In the order of the design.
+    std::vector<Control> controls_;
+    /// By the index of their ids.
+    std::vector<std::size_t> rowOf_;
     std::vector<Subscription> subscriptions_;
     ButtonGrowth growth_{*this};
     bool seen_ = false;
     std::wstring menuText_;
     POINT menuPlace_{};
+    /// Goes before all that it shows.
+    std::unique_ptr<SettingControl> core_;
 };
 
 }  // namespace ormala

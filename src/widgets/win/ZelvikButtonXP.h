@@ -1,24 +1,20 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "pictures/pictures.h"
 #include "platform/win/Accessible.h"
 #include "platform/win/TipWindow.h"
 #include "platform/win/Window.h"
 #include "platform/win/fonts.h"
-#include "scene/PixelImage.h"
 #include "widgets/ButtonDesign.h"
 #include "widgets/ButtonModel.h"
 #include "widgets/buttonShape.h"
 #include "widgets/win/buttonPainter.h"
 
 namespace ormala {
-
-/// Draws a picture in the size that it is asked for, in pixels of the screen.
-using PictureMaker = std::function<PixelImage(PixelSize)>;
 
 /// The push button of the program's own look, with a caption, a picture or both. A toggle follows
 /// its `Value`, which only its owner changes. A handler of any event may destroy it.

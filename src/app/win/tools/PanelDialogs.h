@@ -6,13 +6,14 @@
 #include <memory>
 
 #include "app/ViewState.h"
-#include "measure/MeasureCommands.h"
 #include "stencil/SpecialRatios.h"
 #include "stencil/StencilCommands.h"
 #include "storage/CodePage.h"
+#include "toolkit/PanelView.h"
 
 namespace ormala {
 
+class ctlMeasure;
 class frmColor;
 class frmLineStyle;
 class frmPatternSelect;
@@ -20,7 +21,7 @@ class frmRatio;
 class frmUnit;
 
 /// The dialogs that the panels open, each made when it is first wanted and kept.
-class PanelDialogs : public StencilCommands, public MeasureCommands {
+class PanelDialogs : public LookDialogs, public StencilCommands {
   public:
     /// What the dialogs work with. All must outlive them.
     struct Ports {
@@ -39,13 +40,15 @@ class PanelDialogs : public StencilCommands, public MeasureCommands {
     explicit PanelDialogs(const Ports& ports);
     ~PanelDialogs() override;
 
+    /// The dialog of a measuring tool's units, which changes the tool; false if it was cancelled.
+    bool SelectUnits(ctlMeasure& tool);
+
   private:
     Color SelectColor(Color present) override;
     int SelectLineStyle(int present) override;
     bool SelectPattern(PatternList& patterns, int& tab) override;
     std::optional<double> EditRatio(double present) override;
     void applyMouseAction(ctlRatioGrid& stencil) override;
-    bool SelectUnits(ctlMeasure& tool) override;
 
     [[nodiscard]] const TextForm& textForm() const { return ports_.state.toolSettings().textForm; }
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "measure/win/ctlSetMeasure.h"
+#include "measure/MeasurePanel.h"
 #include "platform/win/dayTime.h"
-#include "stencil/win/ctlSetRatioGrid.h"
+#include "stencil/StencilPanel.h"
 
 namespace ormala {
 
@@ -18,7 +18,7 @@ class PanelMaker::Listed : public ListedPanel {
     }
     ~Listed() override { std::erase(maker_.panels_, window_.get()); }
 
-    [[nodiscard]] ToolPanel& panel() override { return window_->core(); }
+    [[nodiscard]] SettingControl& panel() override { return window_->core(); }
     [[nodiscard]] int top() const override { return top_; }
     void setTop(int top) override {
         top_ = top;
@@ -45,25 +45,29 @@ class PanelMaker::Listed : public ListedPanel {
 };
 
 std::unique_ptr<ListedPanel> PanelMaker::makePanel(ToolKind kind, OverlayItem& tool) {
-    auto window = makeWindow(kind, tool);
+    auto window = std::make_unique<PanelWindow>(
+        PanelWindow::Ports{ports_.list.picInner(), ++made_, ports_.host,
+                           ports_.globalEvents.FontSizeChange},
+        [&](PanelView& view) { return makeCore(kind, tool, view); });
     window->setDpi(dpi_);
     return std::make_unique<Listed>(*this, std::move(window));
 }
 
-std::unique_ptr<PanelWindow> PanelMaker::makeWindow(ToolKind kind, OverlayItem& tool) {
-    const PanelWindow::Ports ports{ports_.list.picInner(),
-                                   ++made_,
-                                   ports_.host,
-                                   *this,
-                                   *this,
-                                   tmrFast,
-                                   ports_.globalEvents.FontSizeChange};
+std::unique_ptr<SettingControl> PanelMaker::makeCore(ToolKind kind, OverlayItem& tool,
+                                                     PanelView& view) {
+    PanelDialogs& dialogs = ports_.dialogs;
+    const PanelPorts ports{view, dialogs, tmrFast,
+                           [&sheet = ports_.sheet](const OverlayItem& shown, bool visible) {
+                               sheet.setVisible(shown, visible);
+                           },
+                           &secondsSinceMidnight};
     if (kind == ToolKind::stencil) {
-        return std::make_unique<ctlSetRatioGrid>(dynamic_cast<ctlRatioGrid&>(tool), ports,
-                                                 ports_.dialogs, ports_.settings, ports_.ratios);
+        return std::make_unique<StencilPanel>(dynamic_cast<ctlRatioGrid&>(tool), ports, dialogs,
+                                              ports_.settings, ports_.ratios);
     }
-    return std::make_unique<ctlSetMeasure>(dynamic_cast<ctlMeasure&>(tool), ports, ports_.dialogs,
-                                           ports_.settings);
+    return std::make_unique<MeasurePanel>(
+        dynamic_cast<ctlMeasure&>(tool), ports,
+        [&dialogs](ctlMeasure& measure) { return dialogs.SelectUnits(measure); }, ports_.settings);
 }
 
 void PanelMaker::setDpi(int dpi) {
@@ -77,14 +81,6 @@ PanelWindow* PanelMaker::panelOf(HWND window) const {
     const auto at = std::ranges::find_if(
         panels_, [window](const PanelWindow* panel) { return panel->handle() == window; });
     return at == panels_.end() ? nullptr : *at;
-}
-
-void PanelMaker::setVisible(const OverlayItem& tool, bool visible) {
-    ports_.sheet.setVisible(tool, visible);
-}
-
-float PanelMaker::secondsSinceMidnight() const {
-    return ormala::secondsSinceMidnight();
 }
 
 }  // namespace ormala

@@ -12,7 +12,7 @@
 namespace ormala {
 
 /// Makes the panels of the kinds of tools that the program has, and knows those that there are.
-class PanelMaker : public PanelFactory, private ToolVisibility, private DayClock {
+class PanelMaker : public PanelFactory {
   public:
     /// What panels show their tools by, and the dialogs that they open.
     struct Ports {
@@ -42,9 +42,7 @@ class PanelMaker : public PanelFactory, private ToolVisibility, private DayClock
   private:
     class Listed;
 
-    std::unique_ptr<PanelWindow> makeWindow(ToolKind kind, OverlayItem& tool);
-    void setVisible(const OverlayItem& tool, bool visible) override;
-    [[nodiscard]] float secondsSinceMidnight() const override;
+    std::unique_ptr<SettingControl> makeCore(ToolKind kind, OverlayItem& tool, PanelView& view);
 
     Ports ports_;
     std::vector<PanelWindow*> panels_;

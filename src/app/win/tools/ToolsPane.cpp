@@ -123,7 +123,7 @@ void ToolsPane::stepHistory(bool back) {
     const auto at = std::ranges::find_if(
         panels, [tool](PanelWindow* panel) { return &panel->core().RefControlControl() == tool; });
     if (at != panels.end()) {
-        PanelCore& core = (*at)->core();
+        SettingControl& core = (*at)->core();
         // Steps of the keys are in no record yet: without this they would be lost.
         core.AddHistoryStep();
         back ? core.Undo() : core.Redo();
