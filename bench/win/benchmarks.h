@@ -1,6 +1,6 @@
 #pragma once
 
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 
 namespace ormala::bench {
 

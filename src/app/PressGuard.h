@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 
 namespace ormala {
 

@@ -2,8 +2,8 @@
 
 #include <span>
 
+#include "modAPI/PixelRect.h"
 #include "modAPI/points.h"
-#include "scene/PixelRect.h"
 
 namespace ormala {
 

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "app/commands.h"
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 
 namespace ormala {
 

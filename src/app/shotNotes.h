@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 
 namespace ormala {
 

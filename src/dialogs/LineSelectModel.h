@@ -5,7 +5,7 @@
 
 #include "base/Event.h"
 #include "dialogs/MousePicking.h"
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 
 namespace ormala {
 

@@ -3,7 +3,7 @@
 #include <span>
 #include <string_view>
 
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 
 namespace ormala {
 

@@ -2,9 +2,9 @@
 
 #include <vector>
 
+#include "modAPI/PixelRect.h"
 #include "modAPI/colors.h"
 #include "scene/PixelImage.h"
-#include "scene/PixelRect.h"
 
 namespace ormala {
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 #include "scene/dpi.h"
 
 namespace ormala {

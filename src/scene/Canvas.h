@@ -5,8 +5,8 @@
 #include <span>
 #include <string_view>
 
+#include "modAPI/PixelRect.h"
 #include "modAPI/colors.h"
-#include "scene/PixelRect.h"
 #include "scene/SheetScale.h"
 
 namespace ormala {

@@ -3,9 +3,9 @@
 #include <span>
 #include <vector>
 
+#include "modAPI/PixelRect.h"
 #include "modAPI/points.h"
 #include "scene/Canvas.h"
-#include "scene/PixelRect.h"
 
 namespace ormala {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 
 namespace ormala {
 

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 
 namespace ormala {
 

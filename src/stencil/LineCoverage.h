@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "modAPI/PixelRect.h"
 #include "modAPI/points.h"
-#include "scene/PixelRect.h"
 
 namespace ormala {
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <vector>
 
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 #include "stencil/PatternTable.h"
 
 namespace ormala {

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "modAPI/PixelRect.h"
 #include "modAPI/textForms.h"
-#include "scene/PixelRect.h"
 #include "stencil/SpecialRatios.h"
 
 namespace ormala {

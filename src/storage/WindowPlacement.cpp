@@ -39,22 +39,22 @@ void keepInBounds(std::int32_t& low, std::int32_t& high, std::int32_t lowBound,
     }
 }
 
-bool liesOn(const PlacementRect& area, const PlacementRect& rect) {
+bool liesOn(const PixelRect& area, const PixelRect& rect) {
     const Wide width = Wide{std::min(area.right, rect.right)} - std::max(area.left, rect.left);
     const Wide height = Wide{std::min(area.bottom, rect.bottom)} - std::max(area.top, rect.top);
     const bool intersects = width > 0 && height > 0;
     return intersects && (width >= smallestVisible || height >= smallestVisible);
 }
 
-void writeRect(INIFile& options, const PlacementRect& rect) {
+void writeRect(INIFile& options, const PixelRect& rect) {
     options.setLongValue("Left", rect.left);
     options.setLongValue("Top", rect.top);
     options.setLongValue("Right", rect.right);
     options.setLongValue("Bottom", rect.bottom);
 }
 
-PlacementRect readRect(INIFile& options, const PlacementRect& present, Sizable sizable) {
-    PlacementRect rect;
+PixelRect readRect(INIFile& options, const PixelRect& present, Sizable sizable) {
+    PixelRect rect;
     rect.top = options.LongValue("Top", present.top);
     rect.left = options.LongValue("Left", present.left);
     rect.bottom = sizable == Sizable::nothing
@@ -66,7 +66,7 @@ PlacementRect readRect(INIFile& options, const PlacementRect& present, Sizable s
     return rect;
 }
 
-void offsetRect(PlacementRect& rect, std::int32_t step) {
+void offsetRect(PixelRect& rect, std::int32_t step) {
     for (std::int32_t* const side : {&rect.left, &rect.top, &rect.right, &rect.bottom}) {
         *side = narrowed(Wide{*side} + step);
     }
@@ -74,13 +74,13 @@ void offsetRect(PlacementRect& rect, std::int32_t step) {
 
 }  // namespace
 
-void KeepRectInBounds(WindowPlacement& placement, const PlacementRect& bounds) {
-    PlacementRect& rect = placement.rcNormalPosition;
+void KeepRectInBounds(WindowPlacement& placement, const PixelRect& bounds) {
+    PixelRect& rect = placement.rcNormalPosition;
     keepInBounds(rect.left, rect.right, bounds.left, bounds.right);
     keepInBounds(rect.top, rect.bottom, bounds.top, bounds.bottom);
 }
 
-PlacementRect keptOnScreens(const PlacementRect& rect, const ScreenAreas& screens) {
+PixelRect keptOnScreens(const PixelRect& rect, const ScreenAreas& screens) {
     WindowPlacement placement;
     placement.rcNormalPosition = rect;
     KeepRectInBounds(placement,
@@ -101,7 +101,7 @@ RestoredPlacement restoredPlacement(INIFile& options, const std::string& section
                                     const ScreenAreas& screens) {
     const CurrentSectionGuard current(options, section);
     const auto scope = options.group();
-    PlacementRect rect = readRect(options, present.rcNormalPosition, sizable);
+    PixelRect rect = readRect(options, present.rcNormalPosition, sizable);
     const bool maximise = options.LongValue("WindowState", showNormal) == showMaximised;
     if (cascade) {
         offsetRect(rect, cascadeStep);

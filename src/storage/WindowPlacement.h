@@ -3,46 +3,37 @@
 #include <cstdint>
 #include <string>
 
+#include "modAPI/PixelRect.h"
 #include "storage/INIFile.h"
 
 namespace ormala {
 
-/// Whole pixels of the screen; right and bottom lie just outside. A damaged file may bring in any
-/// numbers, also a right that is less than left.
-struct PlacementRect {
-    std::int32_t left = 0;
-    std::int32_t top = 0;
-    std::int32_t right = 0;
-    std::int32_t bottom = 0;
-
-    bool operator==(const PlacementRect&) const = default;
-};
-
-/// What the window manager tells and takes of a top-level window.
+/// What the window manager tells and takes of a top-level window, in pixels of the screen. A
+/// damaged file may bring in any numbers, also a right that is less than left.
 struct WindowPlacement {
     std::int32_t showCmd = 0;  ///< 3 = maximised
-    PlacementRect rcNormalPosition;
+    PixelRect rcNormalPosition;
 };
 
 /// The screens there are.
 struct ScreenAreas {
-    PlacementRect workArea;       ///< of the primary screen
-    PlacementRect virtualScreen;  ///< all screens together
+    PixelRect workArea;       ///< of the primary screen
+    PixelRect virtualScreen;  ///< all screens together
 };
 
 /// How to place a window again. A maximised window is shown so first and then given its normal
 /// rectangle.
 struct RestoredPlacement {
-    PlacementRect rect;
+    PixelRect rect;
     bool maximise = false;
 };
 
 /// Cuts the normal rectangle to the size of the bounds and moves it into them; left and top win.
-void KeepRectInBounds(WindowPlacement& placement, const PlacementRect& bounds);
+void KeepRectInBounds(WindowPlacement& placement, const PixelRect& bounds);
 
 /// The rectangle brought onto the screens there are: into the work area of the primary screen if it
 /// shows there, else into the bounds of all screens.
-PlacementRect keptOnScreens(const PlacementRect& rect, const ScreenAreas& screens);
+PixelRect keptOnScreens(const PixelRect& rect, const ScreenAreas& screens);
 
 /// Writes the placement into a section of the options file; the current section stays.
 void storePlacement(INIFile& options, const std::string& section, const WindowPlacement& placement);

@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 
 // Small buttons grow under the mouse, for a better aim. All places are screen pixels.
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "modAPI/PixelRect.h"
 #include "pictures/pictures.h"
-#include "scene/PixelRect.h"
 #include "toolkit/ControlId.h"
 
 // The table of a panel: all that is to be said of a control stands in its row.

@@ -3,8 +3,8 @@
 #include <memory>
 #include <utility>
 
+#include "modAPI/PixelRect.h"
 #include "scene/Input.h"
-#include "scene/PixelRect.h"
 #include "widgets/ButtonEvents.h"
 
 namespace ormala {

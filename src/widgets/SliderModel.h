@@ -3,7 +3,7 @@
 #include <string>
 
 #include "base/Event.h"
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 
 namespace ormala {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 #include "widgets/ButtonDesign.h"
 
 namespace ormala {

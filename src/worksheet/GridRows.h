@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 #include "worksheet/AidOptions.h"
 
 namespace ormala {

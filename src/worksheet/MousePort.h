@@ -1,7 +1,7 @@
 #pragma once
 
 #include "scene/DirtyRegion.h"
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 
 namespace ormala {
 

@@ -177,10 +177,10 @@ TEST_F(UnreadableFile, TheStartOfASecondCopyLeavesItAlone) {
     attachHeldFile();
     release();
     store_.unreadable.insert(path);
-    const PlacementRect screen{0, 0, 1000, 1000};
+    const PixelRect screen{0, 0, 1000, 1000};
     const RestoredPlacement place = restoredPlacement(
         file_, "FormSettings", true, {1, {100, 100, 300, 300}}, Sizable::nothing, {screen, screen});
-    EXPECT_EQ(place.rect, (PlacementRect{120, 120, 320, 320}));
+    EXPECT_EQ(place.rect, (PixelRect{120, 120, 320, 320}));
     EXPECT_EQ(ini_.bytes(), oldBytes);
     EXPECT_EQ(store_.writes, 0);
 }

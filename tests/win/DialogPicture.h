@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 #include "support/win/Screen.h"
 
 namespace ormala {

@@ -10,9 +10,9 @@
 
 #include "base/Event.h"
 #include "dialogs/optionChoices.h"
+#include "modAPI/PixelRect.h"
 #include "platform/win/StandardControl.h"
 #include "platform/win/Window.h"
-#include "scene/PixelRect.h"
 #include "widgets/win/CheckButton.h"
 #include "widgets/win/GroupBox.h"
 #include "widgets/win/OptionGroup.h"

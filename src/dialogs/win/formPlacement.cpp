@@ -3,15 +3,11 @@
 #include <limits>
 
 #include "platform/win/monitors.h"
+#include "platform/win/regions.h"
 
 namespace ormala {
 
 namespace {
-
-PlacementRect placementRect(const RECT& rect) {
-    return {static_cast<std::int32_t>(rect.left), static_cast<std::int32_t>(rect.top),
-            static_cast<std::int32_t>(rect.right), static_cast<std::int32_t>(rect.bottom)};
-}
 
 WINDOWPLACEMENT systemPlacement(HWND window) {
     WINDOWPLACEMENT placement{};
@@ -22,13 +18,12 @@ WINDOWPLACEMENT systemPlacement(HWND window) {
 
 WindowPlacement placementOf(HWND window) {
     const WINDOWPLACEMENT placement = systemPlacement(window);
-    return {static_cast<std::int32_t>(placement.showCmd),
-            placementRect(placement.rcNormalPosition)};
+    return {static_cast<std::int32_t>(placement.showCmd), fromRect(placement.rcNormalPosition)};
 }
 
 /// There is none in a gap between screens of different sizes.
-PlacementRect onSomeScreen(const PlacementRect& rect) {
-    const RECT place = systemRect(rect);
+PixelRect onSomeScreen(const PixelRect& rect) {
+    const RECT place = toRect(rect);
     if (MonitorFromRect(&place, MONITOR_DEFAULTTONULL) != nullptr) {
         return rect;
     }
@@ -36,7 +31,7 @@ PlacementRect onSomeScreen(const PlacementRect& rect) {
     monitor.cbSize = sizeof monitor;
     GetMonitorInfoW(MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST), &monitor);
     WindowPlacement placement{0, rect};
-    KeepRectInBounds(placement, placementRect(monitor.rcWork));
+    KeepRectInBounds(placement, fromRect(monitor.rcWork));
     return placement.rcNormalPosition;
 }
 
@@ -51,20 +46,16 @@ Sizable sizableOf(HWND window) {
     return limits.ptMinTrackSize.x == limits.ptMaxTrackSize.x ? Sizable::height : Sizable::both;
 }
 
-PlacementRect keptOnPresentScreens(const PlacementRect& rect) {
+PixelRect keptOnPresentScreens(const PixelRect& rect) {
     return onSomeScreen(keptOnScreens(rect, screenAreas()));
 }
 
 }  // namespace
 
-RECT systemRect(const PlacementRect& rect) {
-    return {rect.left, rect.top, rect.right, rect.bottom};
-}
-
 ScreenAreas screenAreas() {
     RECT work{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    return {placementRect(work), placementRect(virtualScreen())};
+    return {fromRect(work), fromRect(virtualScreen())};
 }
 
 void SaveFormPlacement(HWND window, INIFile& options, const std::string& section) {
@@ -87,7 +78,7 @@ void RestoreFormPlacement(HWND window, INIFile& options, const std::string& sect
     // Neither shows the window nor changes its state.
     WINDOWPLACEMENT placement = systemPlacement(window);
     placement.showCmd = SW_HIDE;
-    placement.rcNormalPosition = systemRect(restored.rect);
+    placement.rcNormalPosition = toRect(restored.rect);
     SetWindowPlacement(window, &placement);
     if (!restored.maximise) {
         // On a screen of another resolution it may have become larger than it was.
@@ -99,18 +90,18 @@ void bringOntoScreens(HWND window) {
     if (IsIconic(window) != FALSE) {
         WINDOWPLACEMENT placement = systemPlacement(window);
         placement.rcNormalPosition =
-            systemRect(keptOnPresentScreens(placementRect(placement.rcNormalPosition)));
+            toRect(keptOnPresentScreens(fromRect(placement.rcNormalPosition)));
         placement.showCmd = SW_SHOWMINNOACTIVE;
         SetWindowPlacement(window, &placement);
         return;
     }
     RECT present{};
     GetWindowRect(window, &present);
-    const PlacementRect former = placementRect(present);
-    const PlacementRect place = keptOnPresentScreens(former);
+    const PixelRect former = fromRect(present);
+    const PixelRect place = keptOnPresentScreens(former);
     if (place != former) {
-        SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left,
-                     place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(window, nullptr, place.left, place.top, place.width(), place.height(),
+                     SWP_NOZORDER | SWP_NOACTIVATE);
     }
 }
 

@@ -24,8 +24,6 @@ void RestoreFormPlacement(HWND window, INIFile& options, const std::string& sect
 /// behind others as it was.
 void bringOntoScreens(HWND window);
 
-RECT systemRect(const PlacementRect& rect);
-
 /// The resolution of the window's monitor.
 int dpiOf(HWND window);
 

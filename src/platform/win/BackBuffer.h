@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
+#include "modAPI/PixelRect.h"
 #include "platform/win/handles.h"
-#include "scene/PixelRect.h"
 #include "scene/PixelView.h"
 
 namespace ormala {

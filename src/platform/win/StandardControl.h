@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "modAPI/PixelRect.h"
 #include "platform/win/TipWindow.h"
-#include "scene/PixelRect.h"
 
 namespace ormala {
 

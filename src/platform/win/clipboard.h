@@ -2,8 +2,8 @@
 
 #include <windows.h>
 
+#include "modAPI/PixelRect.h"
 #include "platform/win/handles.h"
-#include "scene/PixelRect.h"
 
 namespace ormala {
 

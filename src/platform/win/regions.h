@@ -3,9 +3,9 @@
 #include <span>
 #include <vector>
 
+#include "modAPI/PixelRect.h"
 #include "platform/win/handles.h"
 #include "scene/DirtyRegion.h"
-#include "scene/PixelRect.h"
 
 namespace ormala {
 

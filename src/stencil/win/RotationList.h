@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "base/Event.h"
+#include "modAPI/PixelRect.h"
 #include "modAPI/colors.h"
-#include "scene/PixelRect.h"
 #include "widgets/win/DropList.h"
 
 namespace ormala {

@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "base/Event.h"
+#include "modAPI/PixelRect.h"
 #include "platform/win/BackBuffer.h"
 #include "platform/win/InputBarrier.h"
 #include "platform/win/Window.h"
-#include "scene/PixelRect.h"
 #include "widgets/win/ZelvikButtonXP.h"
 #include "widgets/win/labeling.h"
 

@@ -4,8 +4,8 @@
 
 #include <optional>
 
+#include "modAPI/PixelRect.h"
 #include "modAPI/colors.h"
-#include "scene/PixelRect.h"
 
 namespace ormala {
 

@@ -10,6 +10,7 @@
 #include "language/MlStringModule.h"
 #include "language/win/UserLocale.h"
 #include "platform/win/callbackGuard.h"
+#include "platform/win/regions.h"
 #include "platform/win/text.h"
 
 namespace ormala {
@@ -78,7 +79,7 @@ void Program::makeWindows() {
                                                           focus_, ratios_, store_, codePage_,
                                                           globalEvents_});
     const RestoredPlacement frame = optionsKeeper_.place(resizer_->handle(), frameSection);
-    resizer_->restore(systemRect(frame.rect), frame.maximise);
+    resizer_->restore(toRect(frame.rect), frame.maximise);
     stage_ = std::make_unique<ModeStage>(
         ModeStage::Windows{*settings_, *worksheet_, *resizer_, *view_, state_});
     modes_ = std::make_unique<ModeSwitch>(*stage_, state_);

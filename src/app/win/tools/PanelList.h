@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/ListScroll.h"
+#include "modAPI/PixelRect.h"
 #include "platform/win/Window.h"
-#include "scene/PixelRect.h"
 #include "widgets/win/Scroll.h"
 
 namespace ormala {

@@ -1,4 +1,4 @@
-#include "scene/PixelRect.h"
+#include "modAPI/PixelRect.h"
 
 #include <gtest/gtest.h>
 
