@@ -6,47 +6,31 @@
 
 namespace ormala {
 
-void ListScroll::setHeights(int content, int inside) {
-    inside_ = inside;
-    enabled_ = content > inside;
-    if (enabled_) {
-        max_ = inside - content;
-        largeChange_ = inside;
-    } else {
-        value_ = 0;
-    }
+ScrollRange rangeOfList(int content, int inside) {
+    return {0, std::min(inside - content, 0), 0, inside};
 }
 
-void ListScroll::setValue(int value) {
-    if (enabled_) {
-        value_ = std::clamp(value, max_, 0);
+int valueShowing(int panelTop, int panelHeight, const ScrollRange& range) {
+    const int inside = range.LargeChange;
+    const int y = range.Value + panelTop;
+    if (panelHeight >= inside || y < 0) {
+        return -panelTop;
     }
+    return y + panelHeight > inside ? inside - (panelTop + panelHeight) : range.Value;
 }
 
-void ListScroll::EnsurePanelVisible(int panelTop, int panelHeight) {
-    const int y = value_ + panelTop;
-    if (panelHeight >= inside_ || y < 0) {
-        value_ = -panelTop;
-    } else if (y + panelHeight > inside_) {
-        value_ = inside_ - (panelTop + panelHeight);
-    }
-}
-
-std::vector<int> ListScroll::Scroll(bool Down) {
+std::vector<int> glideOfNotch(bool down, const ScrollRange& range, int smallChange) {
     constexpr int steps = 8;
-    std::vector<int> positions;
-    if (!enabled_) {
-        return positions;
+    const double stride = smallChange / 2.0 + range.LargeChange / 80.0;
+    const int bound = down ? range.Max : range.Min;
+    std::vector<int> values;
+    int value = range.Value;
+    for (int i = 0; i < steps && value != bound; ++i) {
+        const auto next = static_cast<int>(RoundHalfAway(down ? value - stride : value + stride));
+        value = down ? std::max(next, bound) : std::min(next, bound);
+        values.push_back(value);
     }
-    const double stride = smallChange_ / 2.0 + largeChange_ / 80;
-    const int bound = Down ? max_ : 0;
-    for (int i = 0; i < steps && value_ != bound; ++i) {
-        const auto next =
-            static_cast<int>(RoundHalfAway(Down ? value_ - stride : value_ + stride, 0));
-        value_ = Down ? std::max(next, bound) : std::min(next, bound);
-        positions.push_back(value_);
-    }
-    return positions;
+    return values;
 }
 
 }  // namespace ormala

@@ -2,37 +2,22 @@
 
 #include <vector>
 
+#include "widgets/scrollLayout.h"
+
 namespace ormala {
 
-/// The scroll position of the list of panels. Its value is the top of the list's content, 0 or
-/// negative, in pixels.
-class ListScroll {
-  public:
-    /// Of the content and of the part of it that shows.
-    void setHeights(int content, int inside);
-    void setSmallChange(int pixels) { smallChange_ = pixels; }
+// How the list of panels scrolls. The value of its scroll bar is the top of the list's content, 0
+// or negative, in pixels.
 
-    [[nodiscard]] bool enabled() const { return enabled_; }
-    [[nodiscard]] int Value() const { return value_; }
-    [[nodiscard]] int Max() const { return max_; }
-    [[nodiscard]] double LargeChange() const { return largeChange_; }
+/// The bar for a content of that height of which so much can be seen. Without a range there is
+/// nothing to scroll.
+ScrollRange rangeOfList(int content, int inside);
 
-    /// The user has moved the scroll bar.
-    void setValue(int value);
+/// The value at which a panel of the content shows, its head if not all of it. It may lie beyond
+/// the range, which the bar keeps to.
+int valueShowing(int panelTop, int panelHeight, const ScrollRange& range);
 
-    /// Brings a panel of the content into view, its head if not all of it.
-    void EnsurePanelVisible(int panelTop, int panelHeight);
-
-    /// The positions that one notch of the wheel glides through, in eight steps at most.
-    std::vector<int> Scroll(bool Down);
-
-  private:
-    bool enabled_ = false;
-    int value_ = 0;
-    int max_ = 0;
-    int inside_ = 0;
-    int smallChange_ = 1;
-    double largeChange_ = 0;
-};
+/// The values that one notch of the wheel glides through, in eight steps at most.
+std::vector<int> glideOfNotch(bool down, const ScrollRange& range, int smallChange);
 
 }  // namespace ormala

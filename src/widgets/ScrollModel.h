@@ -26,6 +26,7 @@ class ScrollModel {
     void setMax(int max);
     [[nodiscard]] int Min() const { return range_.Min; }
     void setMin(int min);
+    [[nodiscard]] const ScrollRange& range() const { return range_; }
 
     /// In pixels of a screen of that resolution.
     void resize(PixelSize size, int dpi);

@@ -66,6 +66,10 @@ class ScrollTest : public testing::Test {
         }
         return nullptr;
     }
+    [[nodiscard]] ScrollLayout layout() const {
+        const PixelRect client = fromRect(bar_->clientRectangle());
+        return layoutScroll({client.width(), client.height()}, 96, bar_->range());
+    }
     [[nodiscard]] PixelRect placeOf(HWND child) const {
         RECT rect{};
         GetWindowRect(child, &rect);
@@ -138,14 +142,14 @@ TEST_F(ScrollTest, ArrowsCarryTheirTextsOnceThereIsALanguage) {
 }
 
 TEST_F(ScrollTest, ButtonsStandWhereTheLayoutHasThem) {
-    EXPECT_EQ(placeOf(part("cmdTL")), bar_->layout().cmdTL);
-    EXPECT_EQ(placeOf(part("cmdMove")), bar_->layout().cmdMove);
-    EXPECT_EQ(placeOf(part("cmdBR")), bar_->layout().cmdBR);
+    EXPECT_EQ(placeOf(part("cmdTL")), layout().cmdTL);
+    EXPECT_EQ(placeOf(part("cmdMove")), layout().cmdMove);
+    EXPECT_EQ(placeOf(part("cmdBR")), layout().cmdBR);
     bar_->setValue(-333);
-    EXPECT_EQ(placeOf(part("cmdMove")), bar_->layout().cmdMove);
+    EXPECT_EQ(placeOf(part("cmdMove")), layout().cmdMove);
     resize(150, 20);
-    EXPECT_TRUE(bar_->layout().horizontal);
-    EXPECT_EQ(placeOf(part("cmdMove")), bar_->layout().cmdMove);
+    EXPECT_TRUE(layout().horizontal);
+    EXPECT_EQ(placeOf(part("cmdMove")), layout().cmdMove);
     EXPECT_EQ(placeOf(part("cmdBR")), (PixelRect{130, 0, 150, 20}));
 }
 
@@ -266,7 +270,7 @@ TEST_F(ScrollTest, AllMeasuresGrowWithTheResolution) {
     EXPECT_EQ(map.at(16, 0), RGB(64, 64, 64));
     EXPECT_EQ(map.at(16, 1), RGB(64, 64, 64));
     EXPECT_EQ(map.at(16, 2), RGB(112, 112, 112));
-    EXPECT_EQ(bar_->layout().cmdMove.top, 30);
+    EXPECT_EQ(placeOf(part("cmdMove")).top, 30);
 }
 
 TEST_F(ScrollTest, FocusMarkStandsAroundTheFocusedButton) {
@@ -274,11 +278,11 @@ TEST_F(ScrollTest, FocusMarkStandsAroundTheFocusedButton) {
     EXPECT_EQ(GetFocus(), part("cmdTL"));
     const PixelMap map = shown();
     EXPECT_EQ(map.at(8, 1), focusMark);
-    EXPECT_EQ(map.at(8, bar_->layout().cmdMove.top + 1), RGB(112, 112, 112));
+    EXPECT_EQ(map.at(8, layout().cmdMove.top + 1), RGB(112, 112, 112));
     SetFocus(part("cmdMove"));
     const PixelMap moved = shown();
     EXPECT_EQ(moved.at(8, 1), RGB(112, 112, 112));
-    EXPECT_EQ(moved.at(8, bar_->layout().cmdMove.top + 1), focusMark);
+    EXPECT_EQ(moved.at(8, layout().cmdMove.top + 1), focusMark);
 }
 
 TEST_F(ScrollTest, HoverMarkComesAndGoesWithTheMouse) {

@@ -31,10 +31,11 @@ class Scroll : public Window {
     void setMax(int max) { model_.setMax(max); }
     [[nodiscard]] int Min() const { return model_.Min(); }
     void setMin(int min) { model_.setMin(min); }
+    /// All of these.
+    [[nodiscard]] const ScrollRange& range() const { return model_.range(); }
 
     /// The resolution of the screen that it is drawn for; at first that of its window.
     void setDpi(int dpi);
-    [[nodiscard]] const ScrollLayout& layout() const { return model_.layout(); }
 
     [[nodiscard]] bool wantsTicks() const { return model_.wantsTicks(); }
     void tick() { model_.tick(); }

@@ -1,5 +1,6 @@
 #include "app/win/tools/PanelList.h"
 
+#include "app/ListScroll.h"
 #include "app/PanelLayout.h"
 #include "app/settingsLayout.h"
 #include "platform/win/controlName.h"
@@ -41,10 +42,7 @@ PanelList::PanelList(HWND parent, int id)
     : PictureBox(parent, id, "picOuter"),
       picInner_(handle(), idInner, "picInner"),
       scrInner_(handle(), idScroll, "scrInner"),
-      scrolled_(scrInner_.Change.subscribe([this] {
-          scroll_.setValue(scrInner_.Value());
-          moveContent();
-      })) {
+      scrolled_(scrInner_.Change.subscribe([this] { moveContent(); })) {
     setDpi(dpi_);
 }
 
@@ -60,7 +58,6 @@ int PanelList::contentWidth() const {
 void PanelList::setDpi(int dpi) {
     dpi_ = dpi;
     scrInner_.setDpi(dpi);
-    scroll_.setSmallChange(listSmallChange(dpi));
     scrInner_.setSmallChange(listSmallChange(dpi));
     layOut();
 }
@@ -102,38 +99,34 @@ void PanelList::setBulkUpdate(bool bulkUpdate) {
 }
 
 void PanelList::adoptHeights() {
-    scroll_.setHeights(content_, inside().height);
-    scrInner_.setEnabled(scroll_.enabled());
-    scrInner_.setMax(scroll_.enabled() ? scroll_.Max() : 0);
-    scrInner_.setLargeChange(static_cast<int>(scroll_.LargeChange()));
-    // Within the new bounds, or 0 if all of the content shows.
-    scroll_.setValue(scroll_.Value());
+    const ScrollRange range = rangeOfList(content_, inside().height);
+    scrInner_.setEnabled(range.Max != range.Min);
+    scrInner_.setMax(range.Max);
+    scrInner_.setLargeChange(range.LargeChange);
     moveContent();
 }
 
 void PanelList::moveContent() {
-    picInner_.place({0, scroll_.Value(), contentWidth(), scroll_.Value() + content_});
-    scrInner_.setValue(scroll_.Value());
+    picInner_.place({0, contentTop(), contentWidth(), contentTop() + content_});
     RedrawWindow(picInner_.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     viewChanged.raise();
 }
 
 bool PanelList::shows(HWND panel) const {
     const PixelRect box = placeInContent(panel);
-    const int top = scroll_.Value() + box.top;
+    const int top = contentTop() + box.top;
     return isVisible() && IsWindowVisible(panel) != FALSE && top < inside().height &&
            top + box.height() > 0;
 }
 
 void PanelList::EnsurePanelVisible(int panelTop, int panelHeight) {
-    scroll_.EnsurePanelVisible(panelTop, panelHeight);
+    scrInner_.setValue(valueShowing(panelTop, panelHeight, scrInner_.range()));
     moveContent();
 }
 
 void PanelList::Scroll(bool down) {
-    ListScroll glide = scroll_;
-    for (const int position : glide.Scroll(down)) {
-        scrInner_.setValue(position);
+    for (const int value : glideOfNotch(down, scrInner_.range(), scrInner_.SmallChange())) {
+        scrInner_.setValue(value);
     }
 }
 

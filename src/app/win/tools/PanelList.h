@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/ListScroll.h"
 #include "modAPI/PixelRect.h"
 #include "platform/win/Window.h"
 #include "widgets/win/Scroll.h"
@@ -29,7 +28,7 @@ class PanelList : public PictureBox {
     /// The parent of the panels.
     [[nodiscard]] HWND picInner() const { return picInner_.handle(); }
     [[nodiscard]] int contentWidth() const;
-    [[nodiscard]] int contentTop() const { return scroll_.Value(); }
+    [[nodiscard]] int contentTop() const { return scrInner_.Value(); }
 
     void setDpi(int dpi);
     void resize(const PixelRect& box);
@@ -61,7 +60,6 @@ class PanelList : public PictureBox {
     PictureBox picInner_;
     ormala::Scroll scrInner_;
     Subscription scrolled_;
-    ListScroll scroll_;
     int content_ = 0;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
     bool bulkUpdate_ = false;
