@@ -84,7 +84,7 @@ class ToolSet {
     MemoryMessagePresenter messages_;
     INIFile file_{store_, codePage_, messages_};
     QuietToolList tools_;
-    ToolFile toolFile_{{file_, store_, tools_.list, tools_},
+    ToolFile toolFile_{{file_, store_, tools_.list, tools_.view},
                        {"1.0.0", [] { return std::string("2024-05-17 08:30:12"); }}};
     std::string bytes_;
 };

@@ -20,11 +20,12 @@
 namespace ormala {
 
 /// A panel of real parts but for its window. Stencil panels are 100 pixels high, others 70.
-class StagePanel : public ListedPanel {
+template <typename View>
+class StagedPanel : public ListedPanel {
   public:
-    explicit StagePanel(ToolKind kind) : height_(kind == ToolKind::stencil ? 100 : 70) {}
+    explicit StagedPanel(ToolKind kind) : height_(kind == ToolKind::stencil ? 100 : 70) {}
 
-    FakePanelView view;
+    View view;
     std::unique_ptr<SettingControl> core;
 
     [[nodiscard]] SettingControl& panel() override { return *core; }
@@ -59,10 +60,13 @@ class StageView : public ToolListView, public BusyView {
     void refreshControlWindow() override { log.emplace_back("window"); }
 };
 
-/// A tool list over a real sheet with real tools and panels.
-class ToolListStage : private PanelFactory {
+/// A tool list over a real sheet with real tools and panels, whose windows are of these types.
+template <typename View, typename SheetView>
+class StagedToolList : private PanelFactory {
   public:
-    explicit ToolListStage(PixelSize sheetSize = {1280, 1024}) {
+    using Panel = StagedPanel<View>;
+
+    explicit StagedToolList(PixelSize sheetSize = {1280, 1024}) {
         maker_.setSheet(sheet);
         sheet.resize(sheetSize);
     }
@@ -73,7 +77,7 @@ class ToolListStage : private PanelFactory {
     MeasureUnits units;
 
   private:
-    FakeSheetPort port_;
+    SheetView port_;
     QuietToolHost host_;
     SpecialRatios ratios_{[](int, std::string_view text) { return std::string(text); }, {}};
     ToolMaker maker_{settings, ratios_};
@@ -85,17 +89,17 @@ class ToolListStage : private PanelFactory {
     ToolList list{{sheet, *this, view, messages, units}};
 
     /// The panels from top to bottom.
-    [[nodiscard]] std::vector<StagePanel*> panels() const {
-        std::vector<StagePanel*> found;
+    [[nodiscard]] std::vector<Panel*> panels() const {
+        std::vector<Panel*> found;
         for (const ToolList::Entry& entry : list.GetPanelsInVisualOrder()) {
-            found.push_back(&dynamic_cast<StagePanel&>(entry.listed));
+            found.push_back(&dynamic_cast<Panel&>(entry.listed));
         }
         return found;
     }
-    [[nodiscard]] static MeasurePanel& measureOf(StagePanel& panel) {
+    [[nodiscard]] static MeasurePanel& measureOf(Panel& panel) {
         return dynamic_cast<MeasurePanel&>(*panel.core);
     }
-    [[nodiscard]] static StencilPanel& stencilOf(StagePanel& panel) {
+    [[nodiscard]] static StencilPanel& stencilOf(Panel& panel) {
         return dynamic_cast<StencilPanel&>(*panel.core);
     }
     [[nodiscard]] MeasurePanel& measure(std::size_t at) const {
@@ -119,7 +123,7 @@ class ToolListStage : private PanelFactory {
 
   private:
     std::unique_ptr<ListedPanel> makePanel(ToolKind kind, OverlayItem& tool) override {
-        auto made = std::make_unique<StagePanel>(kind);
+        auto made = std::make_unique<Panel>(kind);
         const PanelPorts ports{
             made->view, commands_, tmrFast_,
             [this](const OverlayItem& shown, bool visible) { sheet.setVisible(shown, visible); },
@@ -132,10 +136,15 @@ class ToolListStage : private PanelFactory {
                 dynamic_cast<ctlMeasure&>(tool), ports,
                 [this](ctlMeasure& measure) { return commands_.SelectUnits(measure); }, settings);
         }
-        const SettingControl& core = *made->core;
-        made->view.onRemove = [this, &core] { list.RemovePanel(core); };
+        if constexpr (requires { made->view.onRemove; }) {
+            const SettingControl& core = *made->core;
+            made->view.onRemove = [this, &core] { list.RemovePanel(core); };
+        }
         return made;
     }
 };
+
+using StagePanel = StagedPanel<FakePanelView>;
+using ToolListStage = StagedToolList<FakePanelView, FakeSheetPort>;
 
 }  // namespace ormala
