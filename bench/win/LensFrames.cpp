@@ -41,7 +41,7 @@ class PlainStretch : public Window {
         {
             const WindowContext screen(nullptr);
             BitBlt(captured_.context(), 0, 0, source_.width, source_.height, screen.get(), from.x,
-                   from.y, SRCCOPY | CAPTUREBLT);
+                   from.y, SRCCOPY);
         }
         StretchBlt(stretched_.context(), 0, 0, image_.width, image_.height, captured_.context(), 0,
                    0, source_.width, source_.height, SRCCOPY);

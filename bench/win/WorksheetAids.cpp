@@ -4,6 +4,7 @@
 
 #include "Figures.h"
 #include "benchmarks.h"
+#include "support/win/PaintCount.h"
 #include "support/win/Wait.h"
 #include "win/TestSheet.h"
 
@@ -51,8 +52,7 @@ void crossHairMoves() {
     TestSheet sheet(largeScreen);
     sheet.aids.crossHair = true;
     sheet.window().aidsChanged();
-    int repaints = 0;
-    const Subscription painted = sheet.window().painted.subscribe([&] { ++repaints; });
+    const test::PaintCount repaints(sheet.window().handle());
     std::vector<double> times;
     std::vector<double> without;
     for (int i = 0; i < 200; ++i) {
@@ -68,7 +68,8 @@ void crossHairMoves() {
         without.push_back(elapsed([&] { sheet.mouse(WM_MOUSEMOVE, 0, x, y); }));
     }
     std::printf("%-46s %9.3f ms   %.3f ms without it, %d repaints of the worksheet\n",
-                "a move of the cross hair, 3840 x 2160", median(times), median(without), repaints);
+                "a move of the cross hair, 3840 x 2160", median(times), median(without),
+                repaints.count());
     std::fflush(stdout);
 }
 

@@ -3,16 +3,58 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <vector>
 
 #include "magnifier/win/pointers.h"
 #include "win/LensFixture.h"
 
 namespace ormala {
+
+/// Where the program finds the system's function.
+extern decltype(&BitBlt) importedBitBlt __asm__("__imp_BitBlt");
+
 namespace {
 
 constexpr COLORREF ink = RGB(255, 230, 0);
 constexpr COLORREF quietInk = RGB(128, 119, 38);
 constexpr UINT quietly = SWP_NOZORDER | SWP_NOACTIVATE;
+
+/// Notes the raster operations of all copies that are made from the screen or another window.
+class NotedCopies {
+  public:
+    NotedCopies() {
+        noted().clear();
+        replace(&note);
+    }
+    NotedCopies(const NotedCopies&) = delete;
+    NotedCopies& operator=(const NotedCopies&) = delete;
+    ~NotedCopies() { replace(system()); }
+
+    [[nodiscard]] const std::vector<DWORD>& operations() const { return noted(); }
+
+  private:
+    static std::vector<DWORD>& noted() {
+        static std::vector<DWORD> operations;
+        return operations;
+    }
+    static decltype(&BitBlt) system() {
+        static const auto own = importedBitBlt;
+        return own;
+    }
+    static void replace(decltype(&BitBlt) function) {
+        system();
+        DWORD former = 0;
+        VirtualProtect(&importedBitBlt, sizeof importedBitBlt, PAGE_READWRITE, &former);
+        importedBitBlt = function;
+    }
+    static BOOL WINAPI note(HDC to, int x, int y, int width, int height, HDC from, int fromX,
+                            int fromY, DWORD operation) {
+        if (GetObjectType(from) == OBJ_DC) {
+            noted().push_back(operation);
+        }
+        return system()(to, x, y, width, height, from, fromX, fromY, operation);
+    }
+};
 
 class LensImageTest : public LensFixture {
   protected:
@@ -323,6 +365,20 @@ TEST_F(LensImageTest, ShowsAChangeOfTheScreenBeneathAMouseThatRests) {
         return plain(image().at(0, 0)) == backdrop_.at({370, 275});
     }));
     expectEnlarged({370, 275}, 4);
+}
+
+TEST_F(LensImageTest, AFrameIsCopiedWithoutHidingThePointer) {
+    show();
+    look({400, 300});
+    std::vector<DWORD> operations;
+    {
+        const NotedCopies copies;
+        look({500, 300});
+        operations = copies.operations();
+    }
+    expectEnlarged({470, 275}, 4);
+    ASSERT_FALSE(operations.empty());
+    EXPECT_EQ(operations, std::vector<DWORD>(operations.size(), SRCCOPY));
 }
 
 TEST_F(LensImageTest, TimerShowsFramesByItself) {

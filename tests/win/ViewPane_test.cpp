@@ -8,6 +8,7 @@
 #include "e2e/support/AppDataFolder.h"
 #include "language/LanguageSupport.h"
 #include "platform/win/text.h"
+#include "support/win/PaintCount.h"
 #include "support/win/Wait.h"
 #include "widgets/win/ZelvikButtonXP.h"
 
@@ -87,11 +88,10 @@ int crossHairsShown(HWND worksheet) {
 
 TEST_F(ViewPaneTest, TogglesReachTheirOwners) {
     const HWND worksheet = program_.worksheet().handle();
-    int paints = 0;
-    const Subscription painted = program_.worksheet().painted.subscribe([&] { ++paints; });
+    const test::PaintCount paints(worksheet);
     program_.execute(Command::grid);
     EXPECT_TRUE(view_.optionValues().grid.enabled);
-    EXPECT_EQ(paints, 1);
+    EXPECT_EQ(paints.count(), 1);
     const RECT place = program_.worksheet().rectangle();
     const auto showCrossHair = [&](bool shown) {
         program_.state().set([shown](Options& options) { options.aids.crossHair = shown; });
@@ -161,18 +161,17 @@ TEST_F(ViewPaneTest, OptionsThatAreAsTheyWereChangeNoLanguageAndOnlyAnotherGridI
     int changes = 0;
     const Subscription listening =
         GetLanguageSupport().LanguageChange.subscribe([&changes] { ++changes; });
-    int paints = 0;
-    const Subscription painting = program_.worksheet().painted.subscribe([&paints] { ++paints; });
-    UpdateWindow(program_.worksheet().handle());
-    paints = 0;
+    const HWND worksheet = program_.worksheet().handle();
+    UpdateWindow(worksheet);
+    const test::PaintCount paints(worksheet);
     OptionValues values = port.optionValues();
     port.applyOptions(values);
     EXPECT_EQ(changes, 0);
-    EXPECT_EQ(paints, 0);
+    EXPECT_EQ(paints.count(), 0);
     EXPECT_EQ(port.optionValues(), values);
     values.grid.enabled = true;
     port.applyOptions(values);
-    EXPECT_EQ(paints, 1);
+    EXPECT_EQ(paints.count(), 1);
     EXPECT_EQ(port.optionValues(), values);
 }
 

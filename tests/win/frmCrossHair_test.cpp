@@ -6,6 +6,7 @@
 
 #include "platform/win/controlName.h"
 #include "platform/win/regions.h"
+#include "support/win/PaintCount.h"
 #include "support/win/Wait.h"
 #include "win/TestSheet.h"
 
@@ -154,8 +155,7 @@ TEST_F(frmCrossHairTest, IsSetAsideForAScreenShot) {
 TEST_F(frmCrossHairTest, AMoveRepaintsNothingOfTheWorksheet) {
     enable(true);
     test::pause(test::milliseconds{50});
-    int paints = 0;
-    const Subscription painted = worksheet_.painted.subscribe([&] { ++paints; });
+    const test::PaintCount paints(worksheet_.handle());
     for (int step = 0; step < 5; ++step) {
         moveCursor(sheet_.left + 300 + 10 * step, sheet_.top + 200);
         test_.mouse(WM_MOUSEMOVE, 0, 300 + 10 * step, 200);
@@ -163,7 +163,7 @@ TEST_F(frmCrossHairTest, AMoveRepaintsNothingOfTheWorksheet) {
     }
     EXPECT_TRUE(
         waitForPlace(y_, {sheet_.left + 340, sheet_.top, sheet_.left + 341, sheet_.bottom}));
-    EXPECT_EQ(paints, 0);
+    EXPECT_EQ(paints.count(), 0);
 }
 
 TEST_F(frmCrossHairTest, LiesAboveTheWorksheetAfterAPressOnTheBackground) {

@@ -69,8 +69,10 @@ void LensImage::capture(const LensLayout& layout, PixelPoint source, const Pixel
     if (area.intersected(bounds) != area || GetSystemMetrics(SM_CMONITORS) > 1) {
         fillRect(picInter_.context(), {0, 0, layout.SourceWidth, layout.SourceHeight}, lensGround);
     }
+    // Without CAPTUREBLT, at which the system hides the pointer: that would flicker. A desktop that
+    // is composed holds layered windows anyway.
     if (BitBlt(picInter_.context(), 0, 0, layout.SourceWidth, layout.SourceHeight, screen.get(),
-               source.x, source.y, SRCCOPY | CAPTUREBLT) == FALSE) {
+               source.x, source.y, SRCCOPY) == FALSE) {
         // The screen is locked, and what it showed before is no news.
         fillRect(picInter_.context(), {0, 0, layout.SourceWidth, layout.SourceHeight}, lensGround);
     }

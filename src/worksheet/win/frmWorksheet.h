@@ -91,8 +91,6 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     Event<> resized;
     /// Raised when the window has moved.
     Event<> placed;
-    /// Raised after each painting.
-    Event<> painted;
 
   private:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

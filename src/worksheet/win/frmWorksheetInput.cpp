@@ -21,7 +21,6 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
     switch (message) {
         case WM_PAINT:
             painter_.paint(handle());
-            painted.raise();
             return 0;
         case WM_ERASEBKGND:
             return 1;

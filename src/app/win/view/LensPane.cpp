@@ -13,7 +13,6 @@ LensPane::LensPane(Ports ports) : ports_(std::move(ports)), frmLens_(*this) {
     closeRequested_ = frmLens_.closeRequested.subscribe(
         [this] { ports_.state.set([](Options& options) { options.lensVisible = false; }); });
     worksheetPlaced_ = ports_.worksheet.placed.subscribe([this] { tellOrigin(); });
-    worksheetPainted_ = ports_.worksheet.painted.subscribe([this] { frmLens_.Update(); });
 }
 
 void LensPane::showState() {

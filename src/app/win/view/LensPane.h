@@ -45,7 +45,6 @@ class LensPane : private LensCommands {
     frmLens frmLens_;
     Subscription closeRequested_;
     Subscription worksheetPlaced_;
-    Subscription worksheetPainted_;
 };
 
 }  // namespace ormala
