@@ -23,8 +23,8 @@ class ColorPicModel : public MousePicking {
     /// The colour of the field under the mark becomes the chosen one.
     void SetRGBColorToCurrentPixelColor();
 
-    /// The colour as screen readers are told of it, such as "#FFE600".
-    [[nodiscard]] std::string valueText() const;
+    /// Such as "#FFE600".
+    [[nodiscard]] std::string valueText() const override;
 
     [[nodiscard]] int PictureIndex() const { return pictureIndex_; }
     /// An index beyond an end takes the palette at that end. The mark goes to the colour.
@@ -58,7 +58,6 @@ class ColorPicModel : public MousePicking {
     bool keyDown(int key);
 
     void setFocus(bool focused);
-    [[nodiscard]] bool hasFocus() const { return hasFocus_; }
     /// Wants to be called each 30 ms while the focus is here.
     void tick();
 

@@ -19,8 +19,8 @@ class LineSelectModel : public MousePicking {
     /// An index beyond an end becomes that end. Raises no `Change`.
     void setLineIndex(int index);
 
-    /// The chosen row as screen readers are told of it, such as "3/5".
-    [[nodiscard]] std::string valueText() const;
+    /// The chosen row, such as "3/5".
+    [[nodiscard]] std::string valueText() const override;
 
     /// In pixels; the rows share it, what is left over lies below.
     void resize(PixelSize size) { size_ = size; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "modAPI/PixelRect.h"
 
 namespace ormala {
@@ -18,6 +20,9 @@ class MousePicking {
     virtual void release(PixelPoint point) = 0;
     /// The button is lost without a release.
     virtual void cancel() = 0;
+
+    /// What is picked, as screen readers are told of it.
+    [[nodiscard]] virtual std::string valueText() const = 0;
 };
 
 }  // namespace ormala

@@ -56,7 +56,6 @@ class ButtonModel {
     void resize(PixelSize size) { size_ = size; }
 
     [[nodiscard]] ButtonState state() const;
-    [[nodiscard]] bool hover() const { return hover_; }
     /// A toggle that is on.
     [[nodiscard]] bool checked() const { return isToggle() && value_; }
 

@@ -1,12 +1,8 @@
 #include "dialogs/win/ColorPic.h"
 
-#include <oleacc.h>
-
 #include <algorithm>
 #include <utility>
 
-#include "platform/win/Accessible.h"
-#include "platform/win/controlName.h"
 #include "platform/win/fills.h"
 #include "platform/win/regions.h"
 
@@ -22,17 +18,10 @@ constexpr int markShare = 8;
 
 }  // namespace
 
-ColorPic::ColorPic(HWND parent, int id, std::string_view name) {
-    WindowDesign design;
-    design.className = L"ColorPic";
-    design.classStyle = CS_DBLCLKS;
-    design.style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
-    design.owner = parent;
-    design.id = id;
-    create(design);
-    setControlName(handle(), name);
+ColorPic::ColorPic(HWND parent, int id, std::string_view name) : PickerControl(model_) {
+    open(parent, id, name, {L"ColorPic", CS_DBLCLKS, WS_TABSTOP});
     changing_ = model_.RGBChanged.subscribe([this] {
-        showColor();
+        invalidateValue();
         RGBChanged.raise();
     });
     ending_ = model_.DoubleClick.subscribe([this] { DoubleClick.raise(); });
@@ -41,12 +30,12 @@ ColorPic::ColorPic(HWND parent, int id, std::string_view name) {
 
 void ColorPic::setRGBColor(Color color) {
     model_.setRGBColor(color);
-    showColor();
+    invalidateValue();
 }
 
 void ColorPic::SetRGBColorToCurrentPixelColor() {
     model_.SetRGBColorToCurrentPixelColor();
-    showColor();
+    invalidateValue();
 }
 
 void ColorPic::setPictureIndex(int index) {
@@ -77,7 +66,7 @@ void ColorPic::place(const PixelRect& room) {
 
 void ColorPic::leaveFocusToOthers() {
     leavesFocus_ = true;
-    mouse_.setTakesFocus(false);
+    setTakesFocus(false);
 }
 
 /// The press has brought the picker's window to the front, whose keys the user did not want.
@@ -90,41 +79,22 @@ void ColorPic::giveFocusBack() {
 }
 
 void ColorPic::resize() {
-    const PixelSize size = model_.size();
-    SetWindowPos(handle(), nullptr, 0, 0, size.width, size.height,
+    const PixelSize whole = model_.size();
+    SetWindowPos(handle(), nullptr, 0, 0, whole.width, whole.height,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    InvalidateRect(handle(), nullptr, FALSE);
+    invalidate();
 }
 
-void ColorPic::showColor() {
-    InvalidateRect(handle(), nullptr, FALSE);
-    NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, handle(), OBJID_CLIENT, CHILDID_SELF);
-}
-
-void ColorPic::paint(HDC context, const PixelRect& wanted) const {
+void ColorPic::draw(HDC context) {
     const PixelSize fields = palette().size;
     for (int y = 0; y < fields.height; ++y) {
         for (int x = 0; x < fields.width; ++x) {
-            if (const PixelRect box = fieldBox({x, y}); box.meets(wanted)) {
-                fillRect(context, toRect(box), palette().at({x, y}));
-            }
+            fillRect(context, toRect(fieldBox({x, y})), palette().at({x, y}));
         }
     }
     const PixelRect mark = shpSelected();
     const int line = std::max(1, std::min(mark.width(), mark.height()) / markShare);
     frameRect(context, mark, line, model_.markColor());
-}
-
-/// While the mark blinks only its field is painted.
-LRESULT ColorPic::onPaint() {
-    const PaintScope scope(handle());
-    if (buffer_.resize(size())) {
-        const PixelRect wanted = fromRect(scope.area());
-        paint(buffer_.context(), wanted);
-        BitBlt(scope.context(), wanted.left, wanted.top, wanted.width(), wanted.height(),
-               buffer_.context(), wanted.left, wanted.top, SRCCOPY);
-    }
-    return 0;
 }
 
 LRESULT ColorPic::onFocus(bool focused) {
@@ -134,7 +104,7 @@ LRESULT ColorPic::onFocus(bool focused) {
     } else {
         KillTimer(handle(), Timer1);
     }
-    InvalidateRect(handle(), nullptr, FALSE);
+    invalidate();
     return 0;
 }
 
@@ -145,17 +115,9 @@ LRESULT ColorPic::onTimer() {
     return 0;
 }
 
-LRESULT ColorPic::onAccessibleFacts(LPARAM lParam) const {
-    AccessibleFacts& facts = wantedFacts(lParam);
-    facts.name = tip_.text();
-    facts.value = model_.valueText();
-    facts.role = ROLE_SYSTEM_LIST;
-    return TRUE;
-}
-
 LRESULT ColorPic::onRelease(LPARAM lParam) {
     const HWND window = handle();
-    mouse_.onMessage(window, WM_LBUTTONUP, lParam);
+    PickerControl::onMessage(WM_LBUTTONUP, 0, lParam);
     // The end of a double click may have destroyed the picker.
     if (IsWindow(window) != FALSE) {
         giveFocusBack();
@@ -172,12 +134,7 @@ std::optional<LRESULT> ColorPic::onKeyDown(int key) {
 }
 
 std::optional<LRESULT> ColorPic::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    tip_.relay(handle(), message, wParam, lParam);
     switch (message) {
-        case WM_PAINT:
-            return onPaint();
-        case WM_ERASEBKGND:
-            return 1;
         case WM_SETFOCUS:
         case WM_KILLFOCUS:
             return onFocus(message == WM_SETFOCUS);
@@ -192,12 +149,8 @@ std::optional<LRESULT> ColorPic::onMessage(UINT message, WPARAM wParam, LPARAM l
             return std::nullopt;
         case WM_LBUTTONUP:
             return onRelease(lParam);
-        case WM_GETOBJECT:
-            return answerAccessible(handle(), wParam, lParam);
-        case accessibleFactsMessage:
-            return onAccessibleFacts(lParam);
         default:
-            return mouse_.onMessage(handle(), message, lParam);
+            return PickerControl::onMessage(message, wParam, lParam);
     }
 }
 

@@ -5,16 +5,13 @@
 #include <string_view>
 
 #include "dialogs/ColorPicModel.h"
-#include "dialogs/win/HeldMouse.h"
-#include "platform/win/BackBuffer.h"
-#include "platform/win/TipWindow.h"
-#include "platform/win/Window.h"
+#include "dialogs/win/PickerControl.h"
 
 namespace ormala {
 
 /// Shows one of the palettes, on which the user picks a colour by mouse or arrow keys. A mark
 /// stands on the chosen field and blinks while the focus is here.
-class ColorPic : public Window {
+class ColorPic : public PickerControl {
   public:
     /// A visible child of `parent` in its corner. `name` is its control name.
     ColorPic(HWND parent, int id, std::string_view name);
@@ -45,13 +42,9 @@ class ColorPic : public Window {
     void leaveFocusToOthers();
 
     [[nodiscard]] const Palette& palette() const { return model_.palette(); }
-    /// The pixels of a field, of the whole palette, and of the field under the mark.
+    /// The pixels of a field, and of the field under the mark.
     [[nodiscard]] PixelRect fieldBox(PixelPoint field) const { return model_.fieldBox(field); }
-    [[nodiscard]] PixelSize size() const { return model_.size(); }
     [[nodiscard]] PixelRect shpSelected() const { return model_.shpSelected(); }
-
-    /// Also what screen readers call the control.
-    void SetTooltip(const std::string& text) { tip_.setText(text); }
 
     /// The user has picked a field, be it the same one again. A handler must not destroy the
     /// picker.
@@ -63,21 +56,15 @@ class ColorPic : public Window {
 
   private:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    LRESULT onPaint();
+    void draw(HDC context) override;
     LRESULT onFocus(bool focused);
     LRESULT onTimer();
-    LRESULT onAccessibleFacts(LPARAM lParam) const;
     std::optional<LRESULT> onKeyDown(int key);
     LRESULT onRelease(LPARAM lParam);
     void giveFocusBack();
     void resize();
-    void showColor();
-    void paint(HDC context, const PixelRect& wanted) const;
 
     ColorPicModel model_;
-    HeldMouse mouse_{model_};
-    BackBuffer buffer_;
-    HoverTip tip_;
     bool leavesFocus_ = false;
     /// Of another window, at the press that has brought this one to the front.
     HWND formerFocus_ = nullptr;

@@ -14,7 +14,6 @@ class GradShape : public Window {
     GradShape(HWND parent, int id, std::string_view name);
     ~GradShape() override { destroy(); }
 
-    [[nodiscard]] const GradientDesign& design() const { return design_; }
     void setColorTopLeft(Color color) { set(&GradientDesign::ColorTopLeft, color); }
     void setColorBottomRight(Color color) { set(&GradientDesign::ColorBottomRight, color); }
     void setOrientation(int orientation) { set(&GradientDesign::Orientation, orientation); }

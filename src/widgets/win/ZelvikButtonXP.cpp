@@ -1,7 +1,5 @@
 #include "widgets/win/ZelvikButtonXP.h"
 
-#include "platform/win/BackBuffer.h"
-#include "platform/win/controlName.h"
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
 #include "scene/dpi.h"
@@ -9,20 +7,7 @@
 namespace ormala {
 
 ZelvikButtonXP::ZelvikButtonXP(HWND parent, int id, std::string_view name) {
-    WindowDesign design;
-    design.className = L"ZelvikButtonXP";
-    design.classStyle = CS_DBLCLKS;
-    design.style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
-    design.owner = parent;
-    design.id = id;
-    create(design);
-    setControlName(handle(), name);
-    setDpi(static_cast<int>(GetDpiForWindow(handle())));
-}
-
-PixelSize ZelvikButtonXP::size() const {
-    const PixelRect client = fromRect(clientRectangle());
-    return {client.width(), client.height()};
+    open(parent, id, name, {L"ZelvikButtonXP", CS_DBLCLKS, WS_TABSTOP});
 }
 
 void ZelvikButtonXP::setCaption(std::string_view caption) {
@@ -34,12 +19,12 @@ void ZelvikButtonXP::setCaption(std::string_view caption) {
 }
 
 void ZelvikButtonXP::SetTooltip(const std::string& text) {
-    tip_.setText(text);
+    setTip(text);
     showText();
 }
 
 void ZelvikButtonXP::showText() {
-    Window::setCaption(design_.Caption.empty() ? tip_.text() : design_.Caption);
+    Window::setCaption(design_.Caption.empty() ? tip() : design_.Caption);
 }
 
 void ZelvikButtonXP::setEnabled(bool enabled) {
@@ -85,12 +70,11 @@ void ZelvikButtonXP::setCornerStyle(int style) {
 void ZelvikButtonXP::setFont(FontLook look, int points) {
     fontLook_ = look;
     fontPoints_ = points;
-    font_ = sharedControlFont(dpi_, look, points);
+    font_ = sharedControlFont(dpi(), look, points);
     refresh();
 }
 
-void ZelvikButtonXP::setDpi(int dpi) {
-    dpi_ = dpi;
+void ZelvikButtonXP::dpiChanged() {
     setFont(fontLook_, fontPoints_);
     applyShape();
 }
@@ -120,13 +104,9 @@ bool ZelvikButtonXP::pressAccessKey(wchar_t key) {
     return own != 0 && upper(own) == upper(key) && model_.pressAccessKey();
 }
 
-void ZelvikButtonXP::refresh() {
-    InvalidateRect(handle(), nullptr, FALSE);
-}
-
 void ZelvikButtonXP::applyShape() {
     refresh();
-    const RoundedBox shape = buttonShape(design_, size(), dpi_);
+    const RoundedBox shape = buttonShape(design_, size(), dpi());
     if (shape == shape_) {
         return;
     }
@@ -141,7 +121,7 @@ void ZelvikButtonXP::applyShape() {
 void ZelvikButtonXP::keepLeastSize(LPARAM lParam) const {
     auto* wanted = reinterpret_cast<WINDOWPOS*>(lParam);
     if ((wanted->flags & SWP_NOSIZE) == 0) {
-        const PixelSize least = leastButtonSize({wanted->cx, wanted->cy}, dpi_);
+        const PixelSize least = leastButtonSize({wanted->cx, wanted->cy}, dpi());
         wanted->cx = least.width;
         wanted->cy = least.height;
     }
@@ -155,8 +135,8 @@ LRESULT ZelvikButtonXP::onSize() {
 
 const PixelImage& ZelvikButtonXP::currentPicture() {
     Picture& shown = model_.state().hover && pictureHover_.maker ? pictureHover_ : picture_;
-    const PixelSize wanted{scaledLength(design_.PictureWidth, dpi_),
-                           scaledLength(design_.PictureHeight, dpi_)};
+    const PixelSize wanted{scaledLength(design_.PictureWidth, dpi()),
+                           scaledLength(design_.PictureHeight, dpi())};
     if (shown.maker && shown.image.size != wanted) {
         shown.image = shown.maker(wanted);
     }
@@ -164,7 +144,7 @@ const PixelImage& ZelvikButtonXP::currentPicture() {
 }
 
 ButtonFaceLook ZelvikButtonXP::look() {
-    return {design_, model_.state(), size(), dpi_, font_->get(), currentPicture()};
+    return {design_, model_.state(), size(), dpi(), font_->get(), currentPicture()};
 }
 
 ButtonContent ZelvikButtonXP::content() {
@@ -172,15 +152,8 @@ ButtonContent ZelvikButtonXP::content() {
     return layOutButton(context.get(), look());
 }
 
-LRESULT ZelvikButtonXP::paint() {
-    const PaintScope scope(handle());
-    const PixelSize whole = size();
-    BackBuffer buffer;
-    if (buffer.resize(whole) && buffer.context() != nullptr) {
-        paintButton(buffer.context(), look());
-        BitBlt(scope.context(), 0, 0, whole.width, whole.height, buffer.context(), 0, 0, SRCCOPY);
-    }
-    return 0;
+void ZelvikButtonXP::draw(HDC context) {
+    paintButton(context, look());
 }
 
 }  // namespace ormala

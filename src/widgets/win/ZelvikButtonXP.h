@@ -5,20 +5,18 @@
 #include <string_view>
 
 #include "pictures/pictures.h"
-#include "platform/win/Accessible.h"
-#include "platform/win/TipWindow.h"
-#include "platform/win/Window.h"
 #include "platform/win/fonts.h"
 #include "widgets/ButtonDesign.h"
 #include "widgets/ButtonModel.h"
 #include "widgets/buttonShape.h"
+#include "widgets/win/PaintedControl.h"
 #include "widgets/win/buttonPainter.h"
 
 namespace ormala {
 
 /// The push button of the program's own look, with a caption, a picture or both. A toggle follows
 /// its `Value`, which only its owner changes. A handler of any event may destroy it.
-class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface {
+class ZelvikButtonXP : public PaintedControl, public ButtonEvents, private ButtonSurface {
   public:
     /// A visible child of `parent` without a size; a side that is placed below 10 pixels at 96 DPI
     /// becomes that. `name` is its control name.
@@ -40,8 +38,7 @@ class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface
     [[nodiscard]] bool AlwaysUp() const { return model_.AlwaysUp(); }
     void setAlwaysUp(bool alwaysUp) { model_.setAlwaysUp(alwaysUp); }
 
-    /// How it looks; see `ButtonDesign`.
-    [[nodiscard]] const ButtonDesign& design() const { return design_; }
+    // How it looks; see `ButtonDesign`.
     void setPicturePosition(int position) { design(&ButtonDesign::PicturePosition, position); }
     void setShowFocusRect(bool shown) { design(&ButtonDesign::ShowFocusRect, shown); }
     void setXPColor_Pressed(Color color) { design(&ButtonDesign::XPColor_Pressed, color); }
@@ -57,8 +54,6 @@ class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface
     void setUseCornerStyle(bool used);
     void setCornerStyle(int style);
     void setFont(FontLook look, int points = 8);
-    /// The resolution of the screen that it is drawn for; at first that of its window.
-    void setDpi(int dpi);
 
     /// Each picture is made when it is first painted, and again in another size.
     void setPicture(PictureMaker maker);
@@ -89,9 +84,14 @@ class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface
     std::optional<LRESULT> mouseMessage(UINT message, WPARAM wParam, LPARAM lParam);
     std::optional<LRESULT> keyMessage(UINT message, WPARAM wParam);
     std::optional<LRESULT> stateMessage(UINT message, WPARAM wParam);
-    std::optional<LRESULT> askedMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    std::optional<LRESULT> askedMessage(UINT message, WPARAM wParam);
 
-    void refresh() override;
+    void draw(HDC context) override;
+    void tellFacts(AccessibleFacts& facts) const override;
+    [[nodiscard]] HFONT textFont() const override { return font_->get(); }
+    void dpiChanged() override;
+
+    void refresh() override { invalidate(); }
     void watchMouse(bool on) override;
     void captureMouse() override;
 
@@ -102,10 +102,8 @@ class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface
             refresh();
         }
     }
-    [[nodiscard]] PixelSize size() const;
     void showText();
     void applyShape();
-    LRESULT paint();
     [[nodiscard]] ButtonFaceLook look();
     const PixelImage& currentPicture();
     void keepLeastSize(LPARAM lParam) const;
@@ -116,21 +114,18 @@ class ZelvikButtonXP : public Window, public ButtonEvents, private ButtonSurface
     void loseCapture();
     void lookForMouse();
     [[nodiscard]] LRESULT buttonState() const;
-    void tellFacts(AccessibleFacts& facts) const;
 
     ButtonDesign design_;
     ButtonModel model_{*this, *this};
     FontLook fontLook_ = FontLook::normal;
     int fontPoints_ = 8;
     SharedFont font_;
-    int dpi_ = 96;
     Picture picture_;
     Picture pictureHover_;
     /// The one that the system cuts the window to.
     RoundedBox shape_;
     bool captured_ = false;
     bool focusedByPress_ = false;
-    HoverTip tip_;
 };
 
 }  // namespace ormala

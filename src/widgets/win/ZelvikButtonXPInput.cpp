@@ -97,8 +97,8 @@ void ZelvikButtonXP::tellFacts(AccessibleFacts& facts) const {
     const int type = ControlType();
     const ButtonState state = model_.state();
     // A single letter is a sign and no name.
-    const bool isNamed = Caption().size() > 1 || tip_.text().empty();
-    facts.name = spokenCaption(isNamed ? Caption() : tip_.text());
+    const bool isNamed = Caption().size() > 1 || tip().empty();
+    facts.name = spokenCaption(isNamed ? Caption() : tip());
     facts.role = roles[type == 1 || type == 2 ? type : 0];
     facts.state =
         (state.enabled ? STATE_SYSTEM_FOCUSABLE : STATE_SYSTEM_UNAVAILABLE) |
@@ -177,7 +177,7 @@ std::optional<LRESULT> ZelvikButtonXP::stateMessage(UINT message, WPARAM wParam)
     }
 }
 
-std::optional<LRESULT> ZelvikButtonXP::askedMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+std::optional<LRESULT> ZelvikButtonXP::askedMessage(UINT message, WPARAM wParam) {
     switch (message) {
         case BM_GETCHECK:
             return model_.checked() ? BST_CHECKED : BST_UNCHECKED;
@@ -188,39 +188,27 @@ std::optional<LRESULT> ZelvikButtonXP::askedMessage(UINT message, WPARAM wParam,
                 model_.clickOnce();
             }
             return 0;
-        case WM_GETFONT:
-            return reinterpret_cast<LRESULT>(font_->get());
         case controlFontSizeMessage:
             setFont(fontLook_, static_cast<int>(wParam));
             return 0;
-        case WM_GETOBJECT:
-            return answerAccessible(handle(), wParam, lParam);
-        case accessibleFactsMessage:
-            tellFacts(wantedFacts(lParam));
-            return TRUE;
         default:
             return std::nullopt;
     }
 }
 
 std::optional<LRESULT> ZelvikButtonXP::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    tip_.relay(handle(), message, wParam, lParam);
+    if (const auto answer = PaintedControl::onMessage(message, wParam, lParam)) {
+        return answer;
+    }
     if (isMouseMessage(message)) {
         return mouseMessage(message, wParam, lParam);
     }
     switch (message) {
-        case WM_PAINT:
-            return paint();
-        case WM_ERASEBKGND:
-            return 1;
         case WM_SIZE:
             return onSize();
         case WM_WINDOWPOSCHANGING:
             keepLeastSize(lParam);
             return std::nullopt;
-        case WM_DPICHANGED_AFTERPARENT:
-            setDpi(static_cast<int>(GetDpiForWindow(handle())));
-            return 0;
         default:
             break;
     }
@@ -230,7 +218,7 @@ std::optional<LRESULT> ZelvikButtonXP::onMessage(UINT message, WPARAM wParam, LP
     if (const auto result = keyMessage(message, wParam)) {
         return result;
     }
-    return askedMessage(message, wParam, lParam);
+    return askedMessage(message, wParam);
 }
 
 }  // namespace ormala

@@ -5,9 +5,7 @@
 
 #include <algorithm>
 
-#include "platform/win/Accessible.h"
 #include "platform/win/GdiCanvas.h"
-#include "platform/win/controlName.h"
 #include "platform/win/fills.h"
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
@@ -34,16 +32,9 @@ void drawLabel(HDC context, const std::string& text, const PixelRect& box, UINT 
 }  // namespace
 
 ctlSlider::ctlSlider(HWND parent, int id, std::string_view name) {
-    WindowDesign design;
-    design.className = L"ctlSlider";
-    design.style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
-    design.owner = parent;
-    design.id = id;
-    create(design);
-    setControlName(handle(), name);
+    open(parent, id, name, {L"ctlSlider", 0, WS_TABSTOP});
     showing_ = model_.LookChange.subscribe([this] { refresh(); });
     following_ = model_.Change.subscribe([this] { Change.raise(); });
-    setDpi(static_cast<int>(GetDpiForWindow(handle())));
 }
 
 // Each of these may change the room that the caption needs.
@@ -83,33 +74,18 @@ void ctlSlider::setMaxText(const std::string& text) {
     refresh();
 }
 
-void ctlSlider::SetTooltip(const std::string& text) {
-    if (!tip_) {
-        tip_.emplace(handle());
-    }
-    tip_->setText(text);
-}
-
-void ctlSlider::setDpi(int dpi) {
-    dpi_ = dpi;
-    setFontSize(points_);
-}
-
 void ctlSlider::setFontSize(int points) {
     points_ = points;
-    font_ = sharedControlFont(dpi_, FontLook::normal, points);
+    font_ = sharedControlFont(dpi(), FontLook::normal, points);
     arrange();
 }
 
 void ctlSlider::arrange() {
-    const RECT client = clientRectangle();
     const WindowContext context(handle());
     const Selected font(context.get(), font_->get());
     TEXTMETRICW metrics{};
     GetTextMetricsW(context.get(), &metrics);
-    model_.arrange({{static_cast<int>(client.right), static_cast<int>(client.bottom)},
-                    dpi_,
-                    static_cast<int>(metrics.tmHeight),
+    model_.arrange({size(), dpi(), static_cast<int>(metrics.tmHeight),
                     std::max(captionWidth(), captionRoom_)});
 }
 
@@ -135,10 +111,10 @@ void ctlSlider::refresh() {
         toldValue_ = value;
         NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, handle(), OBJID_CLIENT, CHILDID_SELF);
     }
-    InvalidateRect(handle(), nullptr, FALSE);
+    invalidate();
 }
 
-void ctlSlider::paintTexts(HDC context) const {
+void ctlSlider::drawTexts(HDC context) const {
     const SliderLayout& layout = model_.layout();
     const Selected font(context, font_->get());
     SetBkMode(context, TRANSPARENT);
@@ -149,9 +125,9 @@ void ctlSlider::paintTexts(HDC context) const {
     drawLabel(context, maxText_, layout.lblMax, DT_RIGHT);
 }
 
-void ctlSlider::paintHandle(HDC context) const {
+void ctlSlider::drawHandle(HDC context) const {
     const PixelRect box = model_.imgSlide();
-    const int line = lineWidthAt(dpi_);
+    const int line = lineWidthAt(dpi());
     const bool enabled = Enabled();
     fillRect(context, toRect(box), enabled ? dark::off : dark::ground);
     frameRect(context, box, line, enabled ? dark::outline : dark::dimOutline);
@@ -167,37 +143,25 @@ void ctlSlider::paintHandle(HDC context) const {
              dark::text);
 }
 
-void ctlSlider::paint(HDC context, PixelSize size) {
+void ctlSlider::draw(HDC context) {
     const SliderLayout& layout = model_.layout();
-    const int line = lineWidthAt(dpi_);
-    fillRect(context, {0, 0, size.width, size.height}, dark::ground);
+    const PixelRect whole = fromRect(clientRectangle());
+    const int line = lineWidthAt(dpi());
+    fillRect(context, toRect(whole), dark::ground);
     const bool enabled = Enabled();
     fillRect(context, toRect(layout.shpLine), enabled ? dark::outline : dark::dimOutline);
     fillRect(context, toRect(layout.shpLine.grown(-line)), enabled ? dark::on : dark::ground);
-    paintTexts(context);
-    paintHandle(context);
+    drawTexts(context);
+    drawHandle(context);
     if (GetFocus() == handle()) {
-        frameRect(context, {0, 0, size.width, size.height}, line, dark::on);
+        frameRect(context, whole, line, dark::on);
     }
 }
 
-LRESULT ctlSlider::onPaint() {
-    const PaintScope scope(handle());
-    const RECT client = clientRectangle();
-    const PixelSize size{static_cast<int>(client.right), static_cast<int>(client.bottom)};
-    if (buffer_.resize(size)) {
-        paint(buffer_.context(), size);
-        BitBlt(scope.context(), 0, 0, size.width, size.height, buffer_.context(), 0, 0, SRCCOPY);
-    }
-    return 0;
-}
-
-LRESULT ctlSlider::onAccessibleFacts(LPARAM lParam) const {
-    AccessibleFacts& facts = wantedFacts(lParam);
+void ctlSlider::tellFacts(AccessibleFacts& facts) const {
     facts.name = model_.Caption();
     facts.value = model_.valueText(model_.Value());
     facts.role = ROLE_SYSTEM_SLIDER;
-    return TRUE;
 }
 
 LRESULT ctlSlider::press(PixelPoint point) {
@@ -259,14 +223,10 @@ std::optional<LRESULT> ctlSlider::mouseMessage(UINT message, LPARAM lParam) {
 }
 
 std::optional<LRESULT> ctlSlider::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (tip_ && isMouseMessage(message)) {
-        tip_->relay(message, wParam, lParam);
+    if (const auto answer = PaintedControl::onMessage(message, wParam, lParam)) {
+        return answer;
     }
     switch (message) {
-        case WM_PAINT:
-            return onPaint();
-        case WM_ERASEBKGND:
-            return 1;
         case WM_SIZE:
             arrange();
             return 0;
@@ -286,18 +246,9 @@ std::optional<LRESULT> ctlSlider::onMessage(UINT message, WPARAM wParam, LPARAM 
             return 0;
         case WM_CAPTURECHANGED:
             return onCaptureChanged();
-        case WM_DPICHANGED_AFTERPARENT:
-            setDpi(static_cast<int>(GetDpiForWindow(handle())));
-            return 0;
         case controlFontSizeMessage:
             setFontSize(static_cast<int>(wParam));
             return 0;
-        case WM_GETFONT:
-            return reinterpret_cast<LRESULT>(font_->get());
-        case WM_GETOBJECT:
-            return answerAccessible(handle(), wParam, lParam);
-        case accessibleFactsMessage:
-            return onAccessibleFacts(lParam);
         default:
             return mouseMessage(message, lParam);
     }

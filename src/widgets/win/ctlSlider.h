@@ -4,17 +4,15 @@
 #include <string>
 #include <string_view>
 
-#include "platform/win/BackBuffer.h"
-#include "platform/win/TipWindow.h"
-#include "platform/win/Window.h"
 #include "platform/win/fonts.h"
 #include "widgets/SliderModel.h"
+#include "widgets/win/PaintedControl.h"
 
 namespace ormala {
 
 /// A horizontal slider with its name, its value and its ends, in the program's own look. The parts
 /// are painted; the window text is the name with the value.
-class ctlSlider : public Window {
+class ctlSlider : public PaintedControl {
   public:
     /// A visible child of `parent` without a size. `name` is its control name.
     ctlSlider(HWND parent, int id, std::string_view name);
@@ -45,9 +43,7 @@ class ctlSlider : public Window {
     /// As the user writes numbers; at first a point.
     void setDecimalSeparator(const std::string& separator);
 
-    void SetTooltip(const std::string& text);
-    /// The resolution of the screen that it is drawn for; at first that of its window.
-    void setDpi(int dpi);
+    void SetTooltip(const std::string& text) { setTip(text); }
     /// In points; at first 8.
     void setFontSize(int points);
     [[nodiscard]] const SliderLayout& layout() const { return model_.layout(); }
@@ -59,8 +55,10 @@ class ctlSlider : public Window {
   private:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::optional<LRESULT> mouseMessage(UINT message, LPARAM lParam);
-    LRESULT onAccessibleFacts(LPARAM lParam) const;
-    LRESULT onPaint();
+    void draw(HDC context) override;
+    void tellFacts(AccessibleFacts& facts) const override;
+    [[nodiscard]] HFONT textFont() const override { return font_->get(); }
+    void dpiChanged() override { setFontSize(points_); }
     LRESULT press(PixelPoint point);
     LRESULT move(PixelPoint point);
     LRESULT release();
@@ -69,19 +67,15 @@ class ctlSlider : public Window {
     void refresh();
     void arrange();
     void hover(bool over);
-    void paint(HDC context, PixelSize size);
-    void paintTexts(HDC context) const;
-    void paintHandle(HDC context) const;
+    void drawTexts(HDC context) const;
+    void drawHandle(HDC context) const;
 
     SliderModel model_;
     std::string minText_ = "Min";
     std::string maxText_ = "Max";
     SharedFont font_;
-    BackBuffer buffer_;
-    std::optional<TipWindow> tip_;
     /// The value that screen readers were told of last.
     std::string toldValue_;
-    int dpi_ = 0;
     int points_ = 8;
     int captionRoom_ = 0;
     bool hover_ = false;

@@ -1,28 +1,31 @@
-#include "dialogs/win/HeldMouse.h"
+#include "dialogs/win/PickerControl.h"
 
+#include <oleacc.h>
 #include <windowsx.h>
 
 namespace ormala {
 
-void HeldMouse::hold(HWND window) {
-    SetCapture(window);
+void PickerControl::tellFacts(AccessibleFacts& facts) const {
+    facts.name = tip();
+    facts.value = picking_.valueText();
+    facts.role = ROLE_SYSTEM_LIST;
+}
+
+void PickerControl::hold() {
+    SetCapture(handle());
     holds_ = true;
 }
 
-void HeldMouse::press(HWND window, PixelPoint point) {
+void PickerControl::press(PixelPoint point) {
     if (takesFocus_) {
-        SetFocus(window);
+        SetFocus(handle());
     }
-    hold(window);
+    hold();
     picking_.press(point);
 }
 
-void HeldMouse::pressAgain(HWND window) {
-    hold(window);
-    picking_.doubleClick();
-}
-
-void HeldMouse::release(PixelPoint point) {
+/// What the release ends may destroy the control.
+void PickerControl::release(PixelPoint point) {
     if (holds_) {
         holds_ = false;
         ReleaseCapture();
@@ -30,21 +33,25 @@ void HeldMouse::release(PixelPoint point) {
     }
 }
 
-void HeldMouse::lose() {
+void PickerControl::lose() {
     if (holds_) {
         holds_ = false;
         picking_.cancel();
     }
 }
 
-std::optional<LRESULT> HeldMouse::onMessage(HWND window, UINT message, LPARAM lParam) {
+std::optional<LRESULT> PickerControl::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (const auto answer = PaintedControl::onMessage(message, wParam, lParam)) {
+        return answer;
+    }
     const PixelPoint point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
     switch (message) {
         case WM_LBUTTONDOWN:
-            press(window, point);
+            press(point);
             return 0;
         case WM_LBUTTONDBLCLK:
-            pressAgain(window);
+            hold();
+            picking_.doubleClick();
             return 0;
         case WM_MOUSEMOVE:
             picking_.move(point);
