@@ -14,8 +14,9 @@ inline SettingsFile twoStencils() {
 /// The ground of a panel tells the selected one.
 inline bool looksSelected(const DesktopWindow& panel) {
     constexpr Color selectedGround = 0x4A4A4A;
-    const ScreenRect rect = panel.rect();
     return waitUntil([&] {
+        // Anew each time: a panel that was just added moves when the list makes room for it.
+        const ScreenRect rect = panel.rect();
         return screen::pixel({rect.left + 2, rect.center().y}) == selectedGround;
     });
 }

@@ -1,5 +1,9 @@
 #include "e2e/support/SecondMonitor.h"
 
+#include <atomic>
+#include <memory>
+#include <thread>
+
 #include "e2e/support/DesktopWindow.h"
 #include "e2e/support/StageFailure.h"
 #include "support/win/Screen.h"
@@ -9,6 +13,21 @@ namespace ormala::test {
 namespace {
 
 constexpr const wchar_t* mainDisplay = LR"(\\.\DISPLAY1)";
+
+/// Wine notices a change from outside, but tells the programs only of its own: this one sets what
+/// is set already. It is told to each window in turn and has no limit of its own, so that a thread
+/// waits for it which may be left behind.
+void tellThePrograms() {
+    const auto told = std::make_shared<std::atomic<bool>>(false);
+    std::thread([told] {
+        DEVMODEW present{};
+        present.dmSize = sizeof(present);
+        EnumDisplaySettingsW(mainDisplay, ENUM_CURRENT_SETTINGS, &present);
+        ChangeDisplaySettingsExW(mainDisplay, &present, nullptr, 0, nullptr);
+        *told = true;
+    }).detach();
+    requireSoon("news of the monitors", [&] { return told->load(); });
+}
 
 }  // namespace
 
@@ -59,12 +78,7 @@ void SecondMonitor::change(bool there) {
     stage_.request(there ? "present" : "absent");
     requireSoon(there ? "second monitor" : "loss of the second monitor",
                 [there] { return isThere() == there; });
-    // Wine notices a change from outside, but tells the programs only of its own: this one sets
-    // what is set already.
-    DEVMODEW present{};
-    present.dmSize = sizeof(present);
-    EnumDisplaySettingsW(mainDisplay, ENUM_CURRENT_SETTINGS, &present);
-    ChangeDisplaySettingsExW(mainDisplay, &present, nullptr, 0, nullptr);
+    tellThePrograms();
     requireSoon("lasting change of the monitors", [there] { return isThere() == there; });
     DesktopWindow(GetDesktopWindow()).settle();
 }
