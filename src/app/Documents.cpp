@@ -1,9 +1,9 @@
 #include "app/Documents.h"
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 
+#include "base/Utf8.h"
 #include "language/MlStringModule.h"
 
 namespace ormala {
@@ -13,18 +13,11 @@ namespace {
 constexpr Color documentColor = dark::quietText;
 constexpr Color noDocumentColor = plain::black;
 
-constexpr char upperCase(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
 }  // namespace
 
 std::string withToolsFileExtension(std::string name) {
-    constexpr std::string_view extension = ".OM";
-    const std::string_view end =
-        std::string_view(name).substr(name.size() - std::min(name.size(), extension.size()));
-    if (!std::ranges::equal(end, extension, {}, upperCase)) {
-        name += extension;
+    if (!lowerCase(name).ends_with(".om")) {
+        name += ".OM";
     }
     return name;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "base/Utf8.h"
 #include "language/MlStringModule.h"
 #include "storage/modStorage.h"
 
@@ -14,13 +15,8 @@ std::string sectionOfTool(int number) {
     return "Tool " + std::to_string(number);
 }
 
-constexpr char lowerCase(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 bool isToolSection(std::string_view name) {
-    constexpr std::string_view begin = "tool";
-    return std::ranges::equal(name.substr(0, begin.size()), begin, {}, lowerCase);
+    return lowerCase(std::string(name)).starts_with("tool");
 }
 
 }  // namespace

@@ -107,6 +107,13 @@ std::string utf8FromUtf16(std::u16string_view text) {
     return out;
 }
 
+std::string lowerCase(std::string text) {
+    for (char& c : text) {
+        c = lowerCase(c);
+    }
+    return text;
+}
+
 std::string_view trimBlanks(std::string_view text) {
     const auto first = text.find_first_not_of(' ');
     if (first == std::string_view::npos) {

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <iterator>
 
+#include "base/Utf8.h"
 #include "language/TextTable.h"
 
 namespace ormala {
@@ -28,10 +29,6 @@ std::string replaceAll(std::string_view text, std::string_view what, std::string
         result += with;
         text.remove_prefix(at + what.size());
     }
-}
-
-char lowerCase(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
 struct Language {
@@ -77,8 +74,7 @@ std::string MlFormat(std::string_view Template, std::span<const std::string> Arg
 }
 
 int languageForLocaleName(std::string_view englishName) {
-    std::string name(englishName);
-    std::ranges::transform(name, name.begin(), lowerCase);
+    const std::string name = lowerCase(std::string(englishName));
     const auto* const own = std::ranges::find_if(languages, [&name](const Language& language) {
         return name.find(language.englishName) != std::string::npos;
     });

@@ -4,6 +4,8 @@
 #include <iterator>
 #include <utility>
 
+#include "base/Utf8.h"
+
 namespace ormala {
 
 namespace {
@@ -16,10 +18,6 @@ constexpr bool isLineEnd(char c) {
 
 constexpr bool isBlank(char c) {
     return c == ' ' || c == '\t';
-}
-
-constexpr char lowerCase(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
 /// Names that are alike, such as "Tool 1" and "Tool 2", differ at their ends.

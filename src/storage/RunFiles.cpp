@@ -1,37 +1,27 @@
 #include "storage/RunFiles.h"
 
-#include <algorithm>
 #include <utility>
+
+#include "base/Utf8.h"
 
 namespace ormala {
 
-namespace {
-
-std::string sameCase(std::string path) {
-    std::ranges::transform(path, path.begin(), [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    });
-    return path;
-}
-
-}  // namespace
-
 void RunFiles::noteUnreadable(const std::string& path) {
-    unreadable_.insert(sameCase(path));
+    unreadable_.insert(lowerCase(path));
 }
 
 bool RunFiles::couldNotRead(const std::string& path) const {
-    return unreadable_.contains(sameCase(path));
+    return unreadable_.contains(lowerCase(path));
 }
 
 void RunFiles::noteContents(const std::string& path, std::string bytes) {
-    path_ = sameCase(path);
+    path_ = lowerCase(path);
     contents_ = std::move(bytes);
     unreadable_.erase(path_);
 }
 
 std::optional<std::string_view> RunFiles::contentsOf(const std::string& path) const {
-    const bool noted = !path.empty() && path_ == sameCase(path);
+    const bool noted = !path.empty() && path_ == lowerCase(path);
     return noted ? std::optional<std::string_view>(contents_) : std::nullopt;
 }
 

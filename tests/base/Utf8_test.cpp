@@ -30,5 +30,11 @@ TEST(Utf8, TrimsBlanksOnly) {
     EXPECT_EQ(trimBlanks("   "), "");
 }
 
+TEST(LowerCase, ChangesTheLettersFromAToZOnly) {
+    EXPECT_EQ(lowerCase("Tool 1 [AZ@`]"), "tool 1 [az@`]");
+    EXPECT_EQ(lowerCase("\u00c4\u00d6"), "\u00c4\u00d6");
+    EXPECT_EQ(lowerCase(""), "");
+}
+
 }  // namespace
 }  // namespace ormala
