@@ -6,7 +6,6 @@ namespace ormala {
 
 namespace {
 
-constexpr int ticksAfterPress = 10;
 /// Steps to fixed places come slowly, at one tick in three.
 constexpr int ticksBetweenFixedSteps = 2;
 
@@ -19,8 +18,7 @@ void RepeatButton::press(int shift, Action step) {
     stop();
     holder_ = Holder::mouse;
     step_ = std::move(step);
-    ticksToWait_ = ticksAfterPress;
-    ticksBetween_ = shift != 0 ? ticksBetweenFixedSteps : 0;
+    heldTicks_.begin(shift != 0 ? ticksBetweenFixedSteps : 0);
     ticks_ = clock_.subscribe([this] { tick(); });
     const Action first = step_;
     first();
@@ -45,11 +43,9 @@ void RepeatButton::end(Holder holder) {
 }
 
 void RepeatButton::tick() {
-    if (ticksToWait_ > 0) {
-        --ticksToWait_;
+    if (!heldTicks_.tick()) {
         return;
     }
-    ticksToWait_ = ticksBetween_;
     // The step may end the run.
     const Action step = step_;
     step();

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "base/Event.h"
+#include "widgets/HeldTicks.h"
 
 namespace ormala {
 
@@ -39,8 +40,7 @@ class RepeatButton {
     Action finished_;
     Action step_;
     Subscription ticks_;
-    int ticksToWait_ = 0;
-    int ticksBetween_ = 0;
+    HeldTicks heldTicks_;
     Holder holder_ = Holder::none;
 };
 

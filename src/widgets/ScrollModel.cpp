@@ -10,9 +10,7 @@ namespace ormala {
 
 namespace {
 
-/// In ticks.
-constexpr int delayOfFirstRepeat = 10;
-constexpr int delayOfPages = 3;
+constexpr int ticksBetweenPages = 3;
 
 constexpr int keySpace = 32;
 
@@ -77,7 +75,6 @@ void ScrollModel::press(ScrollPart part, PixelPoint point) {
     pressed_ = part;
     point_ = layout_.along(point);
     grip_ = point_ - layout_.thumbStart();
-    repeatDelay_ = delayOfFirstRepeat;
     if (part == ScrollPart::track && !layout_.cmdMove.empty()) {
         const std::int64_t page = range_.LargeChange;
         pageMode_ = true;
@@ -87,6 +84,7 @@ void ScrollModel::press(ScrollPart part, PixelPoint point) {
     } else if (part == ScrollPart::bottomRight) {
         step_ = smallChange_;
     }
+    heldTicks_.begin(pageMode_ ? ticksBetweenPages : 0);
 }
 
 void ScrollModel::move(PixelPoint point) {
@@ -140,17 +138,9 @@ void ScrollModel::takeHeldStep() {
 }
 
 void ScrollModel::tick() {
-    if (!wantsTicks()) {
-        return;
+    if (wantsTicks() && heldTicks_.tick()) {
+        takeHeldStep();
     }
-    if (repeatDelay_ > 0) {
-        --repeatDelay_;
-        return;
-    }
-    if (pageMode_) {
-        repeatDelay_ = delayOfPages;
-    }
-    takeHeldStep();
 }
 
 void ScrollModel::stepOnce(ScrollPart arrow) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "base/Event.h"
+#include "widgets/HeldTicks.h"
 #include "widgets/scrollLayout.h"
 
 namespace ormala {
@@ -73,7 +74,7 @@ class ScrollModel {
     std::int64_t step_ = 0;
     bool pageMode_ = false;
     bool stepped_ = false;
-    int repeatDelay_ = 0;
+    HeldTicks heldTicks_;
     int point_ = 0;
     int grip_ = 0;
 };
