@@ -38,7 +38,7 @@ class Places {
 PatternList fivePatterns(int first) {
     PatternList patterns;
     for (std::size_t i = 0; i < patterns.size(); ++i) {
-        patterns[i].Pattern = (first + static_cast<int>(i) * 4) % PatternTable::count;
+        patterns[i].Pattern = (first + static_cast<int>(i) * 4) % PatternTable::count();
     }
     return patterns;
 }

@@ -11,7 +11,7 @@ PatternPageLook PatternPage::look() const {
 }
 
 void PatternPage::choosePattern(int index) {
-    if (index < 0 || index >= PatternTable::count) {
+    if (index < 0 || index >= PatternTable::count()) {
         return;
     }
     setting_->Pattern = index;

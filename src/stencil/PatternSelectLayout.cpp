@@ -88,14 +88,13 @@ void placeGroups(PatternSelectLayout& layout) {
                                         width, headingHeight);
     }
     GroupSizes placed{};
-    for (std::size_t i = 0; i < layout.patterns.size(); ++i) {
-        const auto group =
-            static_cast<std::size_t>(PatternTable::instance()[static_cast<int>(i)].Group);
+    for (const PatternRecord& record : PatternTable::instance().records()) {
+        const auto group = static_cast<std::size_t>(record.Group);
         const int number = placed.at(group)++;
         const int row = number / columns;
-        layout.patterns.at(i) =
+        layout.patterns.push_back(
             choiceAt(places.at(group).column + number % columns,
-                     places.at(group).top + headingHeight + gap + row * rowHeight);
+                     places.at(group).top + headingHeight + gap + row * rowHeight));
     }
 }
 

@@ -16,7 +16,7 @@ struct PatternSelectLayout {
     };
 
     /// By their index in the `PatternTable`.
-    std::array<Choice, PatternTable::count> patterns;
+    std::vector<Choice> patterns;
     /// The headings of the groups.
     std::array<PixelRect, 3> groups;
     Choice noPattern;

@@ -18,7 +18,6 @@ using Lines = std::vector<Line>;
 using Ellipses = std::vector<PatternEllipse>;
 
 constexpr Point centre = {0.5, 0.5};
-constexpr int firstNameTextId = 280;
 
 Line vertical(double x) {
     return {x, 0, x, 1};
@@ -134,25 +133,28 @@ Lines pentagram() {
     return lines;
 }
 
-PatternRecord ofLines(std::string_view name, std::int32_t id, PatternGroup group,
+PatternRecord ofLines(std::string_view name, int nameTextId, std::int32_t id, PatternGroup group,
                       double defaultRatio, Lines lines) {
     PatternRecord record;
     record.Lines = std::move(lines);
     record.Name = name;
+    record.NameTextId = nameTextId;
     record.Id = id;
     record.Group = group;
     record.DefaultRatio = defaultRatio;
     return record;
 }
 
-PatternRecord ofCurve(std::string_view name, std::int32_t id, Lines lines) {
-    PatternRecord record = ofLines(name, id, PatternGroup::goldenSection, 1, std::move(lines));
+PatternRecord ofCurve(std::string_view name, int nameTextId, std::int32_t id, Lines lines) {
+    PatternRecord record =
+        ofLines(name, nameTextId, id, PatternGroup::goldenSection, 1, std::move(lines));
     record.Polyline = true;
     return record;
 }
 
-PatternRecord ofEllipses(std::string_view name, std::int32_t id, Ellipses ellipses) {
-    PatternRecord record = ofLines(name, id, PatternGroup::goldenSection, 1, {});
+PatternRecord ofEllipses(std::string_view name, int nameTextId, std::int32_t id,
+                         Ellipses ellipses) {
+    PatternRecord record = ofLines(name, nameTextId, id, PatternGroup::goldenSection, 1, {});
     record.Ellipses = std::move(ellipses);
     return record;
 }
@@ -162,31 +164,27 @@ std::vector<PatternRecord> catalogue() {
     const Lines diagonals = {{0, 0, 1, 1}, {1, 0, 0, 1}};
     const Ellipses smallCircle = {circle(0.5), circle((1 - G) / 2)};
     const Ellipses largeCircle = {circle(0.5), circle(G / 2)};
-    std::vector<PatternRecord> records = {
-        ofLines("Boundary", 1, wholeNumbers, G, dividedAt({})),
-        ofLines("Halves", 2, wholeNumbers, 1, dividedAt({0.5})),
-        ofLines("Thirds", 3, wholeNumbers, 1, dividedAt({1.0 / 3, 2.0 / 3})),
-        ofLines("Quarters", 4, wholeNumbers, 1, dividedAt({0.25, 0.5, 0.75})),
-        ofLines("Section simple", 5, goldenSection, G, dividedAt({1 - G})),
-        ofLines("Section double", 6, goldenSection, G, dividedAt({1 - G, G})),
-        ofLines("Section multiple", 7, goldenSection, G, sectionMultiple()),
-        ofCurve("Spiral left", 14, spiralLeft()),
-        ofLines("Rectangle small", 8, goldenSection, G, squares({0.5, (1 - G) / 2})),
-        ofLines("Rectangle large", 9, goldenSection, G, squares({0.5, G / 2})),
-        ofLines("Rectangle multiple", 10, goldenSection, G, squareMultiple()),
-        ofCurve("Spiral right", 15, spiralRight()),
-        ofEllipses("Ellipse small", 11, smallCircle),
-        ofEllipses("Ellipse large", 12, largeCircle),
-        ofEllipses("Ellipse multiple", 13, circleMultiple()),
-        ofLines("Pentagram", 16, goldenSection, 1, pentagram()),
-        ofLines("Root(2) simple", 17, other, G, dividedAt({1 - R})),
-        ofLines("Root(2) double", 18, other, G, dividedAt({1 - R, R})),
-        ofLines("Diagonals", 19, other, G, diagonals),
+    return {
+        ofLines("Boundary", 280, 1, wholeNumbers, G, dividedAt({})),
+        ofLines("Halves", 281, 2, wholeNumbers, 1, dividedAt({0.5})),
+        ofLines("Thirds", 282, 3, wholeNumbers, 1, dividedAt({1.0 / 3, 2.0 / 3})),
+        ofLines("Quarters", 283, 4, wholeNumbers, 1, dividedAt({0.25, 0.5, 0.75})),
+        ofLines("Section simple", 284, 5, goldenSection, G, dividedAt({1 - G})),
+        ofLines("Section double", 285, 6, goldenSection, G, dividedAt({1 - G, G})),
+        ofLines("Section multiple", 286, 7, goldenSection, G, sectionMultiple()),
+        ofCurve("Spiral left", 287, 14, spiralLeft()),
+        ofLines("Rectangle small", 288, 8, goldenSection, G, squares({0.5, (1 - G) / 2})),
+        ofLines("Rectangle large", 289, 9, goldenSection, G, squares({0.5, G / 2})),
+        ofLines("Rectangle multiple", 290, 10, goldenSection, G, squareMultiple()),
+        ofCurve("Spiral right", 291, 15, spiralRight()),
+        ofEllipses("Ellipse small", 292, 11, smallCircle),
+        ofEllipses("Ellipse large", 293, 12, largeCircle),
+        ofEllipses("Ellipse multiple", 294, 13, circleMultiple()),
+        ofLines("Pentagram", 295, 16, goldenSection, 1, pentagram()),
+        ofLines("Root(2) simple", 296, 17, other, G, dividedAt({1 - R})),
+        ofLines("Root(2) double", 297, 18, other, G, dividedAt({1 - R, R})),
+        ofLines("Diagonals", 298, 19, other, G, diagonals),
     };
-    for (std::size_t index = 0; index < records.size(); ++index) {
-        records[index].NameTextId = firstNameTextId + static_cast<int>(index);
-    }
-    return records;
 }
 
 }  // namespace
@@ -217,7 +215,7 @@ int PatternIndexFromId(std::int32_t id) {
 }
 
 std::int32_t PatternIdFromIndex(int index) {
-    const bool exists = index >= 0 && index < PatternTable::count;
+    const bool exists = index >= 0 && index < PatternTable::count();
     return exists ? PatternTable::instance()[index].Id : -1;
 }
 

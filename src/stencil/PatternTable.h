@@ -34,7 +34,7 @@ struct PatternRecord {
     std::string_view Name;
     int NameTextId = 0;
 
-    /// What a file holds, 1 to 19; never an index.
+    /// What a file holds, from 1 on; never an index.
     std::int32_t Id = 0;
 
     PatternGroup Group = PatternGroup::goldenSection;
@@ -46,15 +46,14 @@ struct PatternRecord {
     bool Polyline = false;
 };
 
-/// The catalogue of the nineteen patterns, complete and constant from its first use on. An index
-/// into it is what a stencil holds at run time.
+/// The catalogue of the patterns, complete and constant from its first use on. An index into it is
+/// what a stencil holds at run time.
 class PatternTable {
   public:
-    static constexpr int count = 19;
-
     static const PatternTable& instance();
+    static int count() { return static_cast<int>(instance().records_.size()); }
 
-    /// The index is 0 to 18.
+    /// The index is 0 to `count() - 1`.
     const PatternRecord& operator[](int index) const;
 
     std::span<const PatternRecord> records() const { return records_; }

@@ -53,7 +53,7 @@ Rect reachOf(const PatternSetting& slot, const StencilState& state, bool turned)
 }  // namespace
 
 const PatternRecord* patternOfSlot(const PatternSetting& slot) {
-    const bool known = slot.Pattern >= 0 && slot.Pattern < PatternTable::count;
+    const bool known = slot.Pattern >= 0 && slot.Pattern < PatternTable::count();
     return known ? &PatternTable::instance()[slot.Pattern] : nullptr;
 }
 

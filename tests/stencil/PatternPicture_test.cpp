@@ -62,7 +62,7 @@ TEST(PatternPicture, APictureWithoutPixelsIsEmpty) {
 }
 
 TEST(PatternPicture, OnePixelHoldsAnyPattern) {
-    for (int pattern = 0; pattern < PatternTable::count; ++pattern) {
+    for (int pattern = 0; pattern < PatternTable::count(); ++pattern) {
         EXPECT_EQ(pictureOf(only(pattern, 0.7), {1, 1}).argb.size(), 1U);
     }
 }
@@ -170,7 +170,7 @@ TEST(PatternPicture, SlotsLieOverEachOther) {
 
 TEST(PatternPicture, EveryPatternHasItsOwnPicture) {
     std::set<std::vector<std::uint32_t>> pictures;
-    for (int pattern = 0; pattern < PatternTable::count; ++pattern) {
+    for (int pattern = 0; pattern < PatternTable::count(); ++pattern) {
         pictures.insert(pictureOf(only(pattern), {48, 48}).argb);
     }
     EXPECT_EQ(pictures.size(), 19U);

@@ -51,7 +51,7 @@ TEST(PatternSelectLayout, ButtonsAndLabelsHaveAGapOfFourBetweenThem) {
 TEST(PatternSelectLayout, EveryPatternStandsUnderItsHeadingInTheOrderOfTheTable) {
     const PatternSelectLayout layout = patternSelectLayout();
     std::array<PixelRect, 3> last{};
-    for (int i = 0; i < PatternTable::count; ++i) {
+    for (int i = 0; i < PatternTable::count(); ++i) {
         const auto group = static_cast<std::size_t>(PatternTable::instance()[i].Group);
         const PixelRect& heading = layout.groups.at(group);
         const PixelRect& button = layout.patterns.at(static_cast<std::size_t>(i)).button;

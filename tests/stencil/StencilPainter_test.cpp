@@ -137,7 +137,7 @@ TEST(StencilPainter, PenHasTheToolsColorAndLineCode) {
 }
 
 TEST(StencilPainter, RectangleOfAnySizeNeitherOverflowsNorStalls) {
-    for (int pattern = 0; pattern < PatternTable::count; ++pattern) {
+    for (int pattern = 0; pattern < PatternTable::count(); ++pattern) {
         for (const double size : sizes) {
             for (const double angle : angles) {
                 for (const int code : {0, 1, 2}) {
@@ -158,7 +158,7 @@ TEST(StencilPainter, RectangleOfAnySizeNeitherOverflowsNorStalls) {
 }
 
 TEST(StencilPainter, FarAwayDrawsNothingOnTheSheet) {
-    for (int pattern = 0; pattern < PatternTable::count; ++pattern) {
+    for (int pattern = 0; pattern < PatternTable::count(); ++pattern) {
         for (const int code : {0, 1, 2}) {
             const Rect rect{1e9, 1e9, 1e9 + 500, 1e9 + 300};
             EXPECT_TRUE(drawn(stencilWith(pattern, rect, 1.0), code).calls.empty()) << pattern;
@@ -217,7 +217,7 @@ TEST(StencilPainter, FootprintCoversWhatIsDrawn) {
     std::mt19937 random(53);
     std::uniform_real_distribution<double> place(-300, 700);
     std::uniform_real_distribution<double> turn(0, twoPi);
-    std::uniform_int_distribution<int> pattern(0, PatternTable::count - 1);
+    std::uniform_int_distribution<int> pattern(0, PatternTable::count() - 1);
     const auto preRotations = ormala::preRotations();
     for (int i = 0; i < 300; ++i) {
         StencilState state;

@@ -167,7 +167,7 @@ TEST_F(GdiCanvasTest, HugeRectangleShowsItsSideOnTheExactPixel) {
 
 TEST_F(GdiCanvasTest, EveryPatternOfAnySizeAndTurnIsDrawnWithoutStalling) {
     const ULONGLONG start = GetTickCount64();
-    for (int pattern = 0; pattern < PatternTable::count; ++pattern) {
+    for (int pattern = 0; pattern < PatternTable::count(); ++pattern) {
         for (const double size : {1.0e4, 1.0e7, 1.0e12, 1.0e300}) {
             StencilState state;
             state.RectBound = {100 - size, 80 - size / 2, 100 + size, 80 + size / 3};

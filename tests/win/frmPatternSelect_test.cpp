@@ -249,7 +249,7 @@ TEST_F(PatternSelectTest, EnterInTheOpenListTakesTheRow) {
 TEST_F(PatternSelectTest, TabGoesFromControlToControlAsTheyAreSeen) {
     std::vector<std::string> reached;
     player_.untilActive("frmPatternSelect").then([this] { SetFocus(control("btnTab(0)")); });
-    constexpr int stops = 5 + PatternTable::count + 3;
+    const int stops = 5 + PatternTable::count() + 3;
     for (int stop = 0; stop < stops; ++stop) {
         player_.then([&reached] { reached.push_back(controlName(GetFocus())); }).key(VK_TAB);
     }
@@ -273,7 +273,7 @@ TEST_F(PatternSelectTest, ArrowKeysGoFromPatternToPattern) {
     player_.untilActive("frmPatternSelect").then([this] {
         SetFocus(control("optPattern(" + std::to_string(patternsAsSeen().front()) + ")"));
     });
-    for (int stop = 0; stop <= PatternTable::count; ++stop) {
+    for (int stop = 0; stop <= PatternTable::count(); ++stop) {
         player_.then([&reached] { reached.push_back(controlName(GetFocus())); }).key(VK_RIGHT);
     }
     player_.then([&reached] { reached.push_back(controlName(GetFocus())); }).key(VK_ESCAPE);
@@ -289,7 +289,7 @@ TEST_F(PatternSelectTest, ArrowKeysGoFromPatternToPattern) {
 TEST_F(PatternSelectTest, EveryNameHasRoomInBothLanguages) {
     for (const int language : {languageEnglish, languageGerman}) {
         GetLanguageSupport().ChangeLanguage(language);
-        for (int i = 0; i < PatternTable::count; ++i) {
+        for (int i = 0; i < PatternTable::count(); ++i) {
             const HWND label = control("lblPattern(" + std::to_string(i) + ")");
             RECT room{};
             GetClientRect(label, &room);

@@ -87,6 +87,7 @@ void ctlPatternSelect::Initialize() {
 }
 
 void ctlPatternSelect::makePatterns() {
+    patterns_.resize(static_cast<std::size_t>(PatternTable::count()));
     for (const int i : patternsAsSeen()) {
         auto choice = std::make_unique<Choice>(handle(), idFirstPattern + i,
                                                "Pattern(" + std::to_string(i) + ")");

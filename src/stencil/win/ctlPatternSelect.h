@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <vector>
 
 #include "platform/win/StandardControl.h"
 #include "platform/win/Window.h"
@@ -13,7 +14,7 @@
 
 namespace ormala {
 
-/// Shows the nineteen patterns under their headings and a list of rotations, and lets the user
+/// Shows the patterns under their headings and a list of rotations, and lets the user
 /// change the one setting of its page. The owner hears of it by the page's event.
 class ctlPatternSelect : public Window {
   public:
@@ -55,7 +56,8 @@ class ctlPatternSelect : public Window {
     int dpi_ = 96;
     FontHandle font_;
     FontHandle headingFont_;
-    std::array<std::unique_ptr<Choice>, PatternTable::count> patterns_;
+    /// By their index in the `PatternTable`.
+    std::vector<std::unique_ptr<Choice>> patterns_;
     std::unique_ptr<Choice> noPattern_;
     std::array<StandardControl, 3> lblPatternGroup_;
     StandardControl lblRotation_;
