@@ -6,6 +6,7 @@ namespace ormala {
 
 std::vector<ControlText> measureReadOuts(const MeasureState& state, const MeasureUnits& units,
                                          const TextForm& form) {
+    using enum MeasureControl;
     const auto angle = [&](double value) {
         return FormatAngle(value, units.AngleMode, form) + " ";
     };
@@ -17,14 +18,14 @@ std::vector<ControlText> measureReadOuts(const MeasureState& state, const Measur
                " ";
     };
     return {
-        {MeasureControl::lblAngleA, "ab = " + angle(AngleAToB(state))},
-        {MeasureControl::lblAngleB, "ba = " + angle(AngleBToA(state))},
-        {MeasureControl::lblAngleVertA, angle(AngleVertA(state))},
-        {MeasureControl::lblAngleVertB, angle(AngleVertB(state))},
-        {MeasureControl::lblRatioA, "a:b = " + ratio(RatioAToB(state))},
-        {MeasureControl::lblRatioB, "b:a = " + ratio(RatioBToA(state))},
-        {MeasureControl::lblLengthA, "a = " + length(PixelLengthA(state))},
-        {MeasureControl::lblLengthB, "b = " + length(PixelLengthB(state))},
+        {lblAngleA, "ab = " + angle(AngleAToB(state))},
+        {lblAngleB, "ba = " + angle(AngleBToA(state))},
+        {lblAngleVertA, angle(AngleVertA(state))},
+        {lblAngleVertB, angle(AngleVertB(state))},
+        {lblRatioA, "a:b = " + ratio(RatioAToB(state))},
+        {lblRatioB, "b:a = " + ratio(RatioBToA(state))},
+        {lblLengthA, "a = " + length(PixelLengthA(state))},
+        {lblLengthB, "b = " + length(PixelLengthB(state))},
     };
 }
 

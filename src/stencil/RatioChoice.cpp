@@ -12,18 +12,15 @@ namespace ormala {
 
 namespace {
 
-/// The number of digits in which a ratio and a row are the same.
-constexpr int sameDigits = 3;
-
 constexpr double widestPreview = 32000;
 
 }  // namespace
 
 void RatioChoice::begin(double current) {
     current_ = current;
-    const int nearest = NearestSpecialRatio(current, inverted_);
-    const double sought = inverted_ ? 1 / current : current;
-    row_ = SameSignificant(sought, ratios_[nearest], sameDigits) ? nearest : -1;
+    NearestSpecialRatio(current, inverted_);
+    const auto same = SameSpecialRatio(current);
+    row_ = same ? same->index : -1;
 }
 
 std::optional<double> RatioChoice::newRatio() const {

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <iterator>
 
+#include "modAPI/rounding.h"
+
 namespace ormala {
 
 int NearestSpecialRatio(double ratio, bool& inverted) {
@@ -16,6 +18,17 @@ int NearestSpecialRatio(double ratio, bool& inverted) {
     const auto distance = [sought](double value) { return std::abs(value - sought); };
     return static_cast<int>(std::ranges::distance(
         specialRatioValues.begin(), std::ranges::min_element(specialRatioValues, {}, distance)));
+}
+
+std::optional<SpecialRatioRow> SameSpecialRatio(double ratio) {
+    constexpr int digits = 3;
+    SpecialRatioRow row;
+    row.index = NearestSpecialRatio(ratio, row.inverted);
+    const double value = specialRatioValues.at(static_cast<std::size_t>(row.index));
+    if (!SameSignificant(row.inverted ? 1 / ratio : ratio, value, digits)) {
+        return std::nullopt;
+    }
+    return row;
 }
 
 double SnapToSpecialRatio(double w, double h, double& ratio) {

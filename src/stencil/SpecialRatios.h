@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,15 @@ inline constexpr std::array<double, specialRatioCount> specialRatioValues = {
 /// The row nearest to the ratio, the first of equally near ones. A ratio of 1 or more is looked up
 /// by its inverse, and `inverted` is true then. The sign of the ratio does not matter.
 int NearestSpecialRatio(double ratio, bool& inverted);
+
+/// A row of the special ratios, or its inverse.
+struct SpecialRatioRow {
+    int index = 0;
+    bool inverted = false;
+};
+
+/// The row that is equal to the ratio in three digits; nothing if there is none.
+std::optional<SpecialRatioRow> SameSpecialRatio(double ratio);
 
 /// The special ratio nearest to w / h, with the sign of w / h. `ratio` becomes w / h, or 0 for h =
 /// 0.

@@ -2,6 +2,7 @@
 
 #include "modAPI/constants.h"
 #include "modAPI/rectangles.h"
+#include "modAPI/rounding.h"
 #include "modAPI/transforms.h"
 
 namespace ormala {
@@ -12,6 +13,10 @@ double PixelWidth(const Rect& rectBound) {
 
 double PixelHeight(const Rect& rectBound) {
     return RectHeight(rectBound) + 1;
+}
+
+double CountedPixels(double first, double last) {
+    return RoundHalfAway(last, 0) - RoundHalfAway(first, 0) + 1;
 }
 
 double PixelRatio(const Rect& rectBound, bool normalise) {

@@ -28,6 +28,8 @@ constexpr double smallestSide = 22;
 /// Sizes counted in pixels, both end pixels included.
 double PixelWidth(const Rect& rectBound);
 double PixelHeight(const Rect& rectBound);
+/// How many whole pixels a side has, from that of its first end to that of its last.
+double CountedPixels(double first, double last);
 /// Width by height in pixels; normalised the smaller by the larger.
 double PixelRatio(const Rect& rectBound, bool normalise);
 double PixelRatioReciprocal(const Rect& rectBound);

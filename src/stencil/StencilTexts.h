@@ -6,12 +6,18 @@
 #include "stencil/SpecialRatios.h"
 #include "stencil/StencilState.h"
 
-// The read-out beside a grip during a drag.
+// What a stencil's panel and the read-out beside a grip during a drag have in common, and the
+// latter.
 
 namespace ormala {
 
+/// An angle given in radians.
+std::string degreesText(double angle, const TextForm& form);
+std::string radiansText(double angle, const TextForm& form);
 /// Degrees, and radians on a second line.
 std::string rotationText(double angle, const TextForm& form);
+/// What the special ratio is called that is equal to this one; empty if there is none.
+std::string specialRatioText(double ratio, const SpecialRatios& ratios);
 /// Size and ratio in pixels; a second line names the special ratio, if it is one.
 std::string sizeText(const Rect& rectBound, const SpecialRatios& ratios, const TextForm& form);
 

@@ -184,5 +184,23 @@ TEST(SpecialRatioCaption, TextsAreTranslatedByTheirIds) {
     EXPECT_EQ(asked[270], "digital photo, TV, monitor");
 }
 
+TEST(SameSpecialRatio, IsEqualInThreeDigits) {
+    EXPECT_EQ(SameSpecialRatio(0.7504).value().index, 3);
+    EXPECT_FALSE(SameSpecialRatio(0.7506));
+    EXPECT_FALSE(SameSpecialRatio(0.7));
+}
+
+TEST(SameSpecialRatio, KnowsTheInverse) {
+    EXPECT_FALSE(SameSpecialRatio(3.0 / 4).value().inverted);
+    EXPECT_TRUE(SameSpecialRatio(4.0 / 3).value().inverted);
+    EXPECT_EQ(SameSpecialRatio(4.0 / 3).value().index, 3);
+    EXPECT_TRUE(SameSpecialRatio(1).value().inverted);
+}
+
+TEST(SameSpecialRatio, NoneIsEqualToNothingAndToInfinity) {
+    EXPECT_FALSE(SameSpecialRatio(0));
+    EXPECT_FALSE(SameSpecialRatio(infinite));
+}
+
 }  // namespace
 }  // namespace ormala

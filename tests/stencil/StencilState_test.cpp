@@ -65,5 +65,12 @@ TEST(StencilState, DiffersByAnyPartOfIt) {
     EXPECT_NE(other, state);
 }
 
+TEST(StencilState, ASideCountsItsEndsAfterTheyAreRounded) {
+    EXPECT_EQ(CountedPixels(10, 109), 100);
+    EXPECT_EQ(CountedPixels(0.5, 9.6), 10);
+    EXPECT_EQ(CountedPixels(0.4, 9.4), 10);
+    EXPECT_EQ(CountedPixels(3, 3), 1);
+}
+
 }  // namespace
 }  // namespace ormala
