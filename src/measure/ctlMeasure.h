@@ -19,8 +19,6 @@ namespace ormala {
 /// settings and others must outlive it.
 class ctlMeasure : public GripTool {
   public:
-    static constexpr int historySlots = StateHistory<MeasureState>::slots;
-
     /// Laid out by its first change.
     ctlMeasure(ToolHost& host, const ToolSettings& settings, const OtherMeasures& others);
 

@@ -115,10 +115,4 @@ void PatternCurves::flush(PatternReceiver& receiver) {
     }
 }
 
-BezierEllipse ellipseBezier(const PatternEllipse& ellipse, double width, double height, double left,
-                            double top, double preRotation, double angle) {
-    const Rect bound = {left, top, left + width, top + height};
-    return transformed(ellipse, UnitSquareTransform(bound, preRotation, angle));
-}
-
 }  // namespace ormala

@@ -65,9 +65,4 @@ class PatternCurves {
     std::vector<Point> points_;
 };
 
-/// An ellipse of the unit square, turned inside it, stretched to the given size and place and
-/// turned about the middle of that. It stays a true ellipse.
-BezierEllipse ellipseBezier(const PatternEllipse& ellipse, double width, double height, double left,
-                            double top, double preRotation, double angle);
-
 }  // namespace ormala

@@ -65,20 +65,6 @@ StencilGrip stencilGrip(int index) {
     return {kinds[(index - 1) / 4], (index - 1) % 4};
 }
 
-int indexOfStencilGrip(StencilGripKind kind, int number) {
-    switch (kind) {
-        case StencilGripKind::size:
-            return 1 + number;
-        case StencilGripKind::sizeCorner:
-            return 5 + number;
-        case StencilGripKind::rotate:
-            return 9 + number;
-        case StencilGripKind::move:
-            break;
-    }
-    return 0;
-}
-
 std::vector<Grip> makeStencilGrips() {
     constexpr int moveSize = 13;
     constexpr int sideSize = 9;

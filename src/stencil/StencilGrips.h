@@ -20,7 +20,6 @@ struct StencilGrip {
 constexpr int stencilGripCount = 13;
 
 StencilGrip stencilGrip(int index);
-int indexOfStencilGrip(StencilGripKind kind, int number);
 std::vector<Grip> makeStencilGrips();
 /// Where the grip's centre belongs.
 Point stencilGripPoint(StencilGrip grip, const StencilCorners& corners);

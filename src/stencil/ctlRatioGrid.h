@@ -18,8 +18,6 @@ namespace ormala {
 /// patterns. Owned by the worksheet; host, settings and ratios must outlive it.
 class ctlRatioGrid : public GripTool, private Ticking {
   public:
-    static constexpr int historySlots = StateHistory<StencilState>::slots;
-
     /// Laid out by its first change.
     ctlRatioGrid(ToolHost& host, const ToolSettings& settings, const SpecialRatios& ratios);
     ~ctlRatioGrid() override;

@@ -237,7 +237,7 @@ TEST(CtlMeasure, HistoryLeavesColorsAndLabelsOut) {
 
 TEST(CtlMeasure, ThousandStepsLeaveNineHundredAndNinetyNineToUndo) {
     MeasureOnSheet stage;
-    for (int i = 1; i <= ctlMeasure::historySlots; ++i) {
+    for (int i = 1; i <= StateHistory<MeasureState>::slots; ++i) {
         stage.tool.setLineA({static_cast<double>(i), 0, 0, 0});
         ASSERT_TRUE(stage.tool.History().Add(false));
     }

@@ -182,8 +182,10 @@ TEST(PatternCurves, LinesTurnAboutTheRectanglesCentre) {
     EXPECT_TRUE(isNear(lines[0], {50, 150, 150, -50}, 1e-9));
 }
 
-TEST(EllipseBezier, PassesThroughTheFourSides) {
-    const auto points = ellipseBezier({0.5, 0.5, 0.5, 0.5}, 400, 200, 10, 20, 0, 0);
+TEST(PatternCurves, AnEllipsePassesThroughTheFourSides) {
+    PatternRecord pattern;
+    pattern.Ellipses = {{0.5, 0.5, 0.5, 0.5}};
+    const auto points = drawn(pattern, placedAt({10, 20, 410, 220})).beziers.at(0);
     EXPECT_EQ(points[0], (Point{210, 20}));
     EXPECT_EQ(points[3], (Point{410, 120}));
     EXPECT_EQ(points[6], (Point{210, 220}));

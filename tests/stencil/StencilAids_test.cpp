@@ -7,6 +7,7 @@
 #include "modAPI/constants.h"
 #include "support/FakeTextMeter.h"
 #include "support/RecordingCanvas.h"
+#include "support/stencilGripIndex.h"
 
 namespace ormala {
 namespace {

@@ -8,6 +8,7 @@
 #include "support/ManualLanguage.h"
 #include "support/OwnToolSettings.h"
 #include "support/ToolPlayer.h"
+#include "support/stencilGripIndex.h"
 
 namespace ormala {
 

@@ -198,9 +198,9 @@ TEST(CtlRatioGrid, ThousandStepsLeaveNineHundredAndNinetyNineToUndo) {
 
 TEST(CtlRatioGrid, SlotBeyondTheHistoryIsABoundsError) {
     StencilOnSheet stage;
-    stage.tool.History().Initialize(ctlRatioGrid::historySlots);
+    stage.tool.History().Initialize(StateHistory<StencilState>::slots);
     const auto fill = [&] {
-        for (int i = 1; i <= ctlRatioGrid::historySlots; ++i) {
+        for (int i = 1; i <= StateHistory<StencilState>::slots; ++i) {
             stage.tool.setRotationAngle(i / 1000.0);
             stage.tool.History().Add(false);
         }

@@ -5,6 +5,7 @@
 
 #include "language/MlStringModule.h"
 #include "platform/win/text.h"
+#include "support/stencilGripIndex.h"
 #include "win/TestSheet.h"
 
 namespace ormala {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "scene/Input.h"
+#include "support/stencilGripIndex.h"
 #include "support/win/Wait.h"
 #include "win/TestSheet.h"
 
