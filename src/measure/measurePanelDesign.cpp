@@ -1,6 +1,6 @@
 #include "measure/measurePanelDesign.h"
 
-#include "measure/MeasurePanel.h"
+#include "measure/ctlSetMeasure.h"
 
 namespace ormala {
 
@@ -55,18 +55,18 @@ PanelControl option(MeasureControl id, int index, int tip, Picture picture, Pres
 void addCommands(std::vector<PanelControl>& controls) {
     using enum MeasureControl;
     CommandRow row(controls, left, commandTop);
-    row.addBar({colorButton(cmdColorA, "cmdColorA", "a", 212, &MeasurePanel::clickColorA),
-                colorButton(cmdColorB, "cmdColorB", "b", 214, &MeasurePanel::clickColorB),
+    row.addBar({colorButton(cmdColorA, "cmdColorA", "a", 212, &ctlSetMeasure::clickColorA),
+                colorButton(cmdColorB, "cmdColorB", "b", 214, &ctlSetMeasure::clickColorB),
                 button(CommonControl::cmdLineStyle, "cmdLineStyle", 43, Picture::lineStyle,
                        &SettingControl::clickLineStyle),
-                button("cmdUnits", 221, Picture::units, &MeasurePanel::clickUnits)});
+                button("cmdUnits", 221, Picture::units, &ctlSetMeasure::clickUnits)});
     row.addBar(
-        {option(optConnect, 0, 217, Picture::connectLines, &MeasurePanel::connect),
-         option(optDisconnect, 1, 220, Picture::disconnectLines, &MeasurePanel::disconnect)});
+        {option(optConnect, 0, 217, Picture::connectLines, &ctlSetMeasure::connect),
+         option(optDisconnect, 1, 220, Picture::disconnectLines, &ctlSetMeasure::disconnect)});
     row.addBar({button(chkShowLength, "chkShowLength", 218, Picture::showLengths,
-                       &MeasurePanel::toggleLengthLabels, PanelPart::toggle),
+                       &ctlSetMeasure::toggleLengthLabels, PanelPart::toggle),
                 button(chkShowAngle, "chkShowAngle", 219, Picture::showAngles,
-                       &MeasurePanel::toggleAngleLabels, PanelPart::toggle)});
+                       &ctlSetMeasure::toggleAngleLabels, PanelPart::toggle)});
     row.addBar({button("cmdDefaultPos", 216, Picture::center, &SettingControl::setDefaultPlace)});
 }
 

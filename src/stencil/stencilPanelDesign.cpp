@@ -1,6 +1,6 @@
 #include "stencil/stencilPanelDesign.h"
 
-#include "stencil/StencilPanel.h"
+#include "stencil/ctlSetRatioGrid.h"
 
 namespace ormala {
 
@@ -28,7 +28,7 @@ constexpr PixelRect field(int from, int to, int top) {
 }
 
 PanelControl move(int index, int tip, Picture picture) {
-    return step("cmdMove", index, tip, picture, &StencilPanel::stepMove);
+    return step("cmdMove", index, tip, picture, &ctlSetRatioGrid::stepMove);
 }
 
 /// A value with the two buttons that change it, which follow each other as `cmdMove`.
@@ -103,42 +103,43 @@ void addAngleAndRatio(std::vector<PanelControl>& controls) {
          .part = PanelPart::image,
          .box = {left, pictureTop, left + pictureSize, pictureTop + pictureSize},
          .tip = 11,
-         .press = &StencilPanel::clickSelectPattern});
+         .press = &ctlSetRatioGrid::clickSelectPattern});
     add(header("lblAngle", field(firstValue, numbers, angleTop), 35));
     add(value(lblAngle1, "lblAngle1", field(numbers, 172, angleTop), 34));
     add(value(lblAngle2, "lblAngle2", field(172, turns, angleTop), 32));
-    appendBar(controls, field(turns, turns + stepWidth, angleTop),
-              {step("cmdAngle", 0, 184, Picture::rotateCounterclockwise, &StencilPanel::stepAngle),
-               step("cmdAngle", 1, 185, Picture::rotateClockwise, &StencilPanel::stepAngle)});
+    appendBar(
+        controls, field(turns, turns + stepWidth, angleTop),
+        {step("cmdAngle", 0, 184, Picture::rotateCounterclockwise, &ctlSetRatioGrid::stepAngle),
+         step("cmdAngle", 1, 185, Picture::rotateClockwise, &ctlSetRatioGrid::stepAngle)});
     appendBar(controls, field(lastStep, right, angleTop),
-              {button("cmdAngleZero", 187, Picture::angleZero, &StencilPanel::clickAngleZero)});
+              {button("cmdAngleZero", 187, Picture::angleZero, &ctlSetRatioGrid::clickAngleZero)});
     add(header("lblRatio", field(firstValue, numbers, ratioTop), 18, 19));
     add(value(lblRatioWH, "lblRatioWH", field(numbers, 205, ratioTop), 17));
     add(value(lblRatioHW, "lblRatioHW", field(205, right, ratioTop), 13));
     add(value(lblRatioDescription, "lblRatioDescription",
               field(firstValue, lastStep, descriptionTop), 15));
     appendBar(controls, field(lastStep, right, descriptionTop),
-              {button("cmdEditRatio", 192, Picture::editRatio, &StencilPanel::clickEditRatio)});
+              {button("cmdEditRatio", 192, Picture::editRatio, &ctlSetRatioGrid::clickEditRatio)});
 }
 
 void addCommands(std::vector<PanelControl>& controls) {
     using enum StencilControl;
     CommandRow row(controls, left, commandTop);
-    row.addBar(
-        {button("cmdSelectPattern", 175, Picture::selectPattern, &StencilPanel::clickSelectPattern),
-         button(cmdColor, "cmdColor", 6, Picture::color, &StencilPanel::clickColor),
-         button(CommonControl::cmdLineStyle, "cmdLineStyle", 191, Picture::lineStyle,
-                &SettingControl::clickLineStyle)});
+    row.addBar({button("cmdSelectPattern", 175, Picture::selectPattern,
+                       &ctlSetRatioGrid::clickSelectPattern),
+                button(cmdColor, "cmdColor", 6, Picture::color, &ctlSetRatioGrid::clickColor),
+                button(CommonControl::cmdLineStyle, "cmdLineStyle", 191, Picture::lineStyle,
+                       &SettingControl::clickLineStyle)});
     row.addBar(
         {button("cmdDefaultPos", 178, Picture::defaultPlace, &SettingControl::setDefaultPlace),
-         button("cmdFullSize", 190, Picture::fullSize, &StencilPanel::clickFullSize),
-         button("cmdMoveCenter", 183, Picture::center, &StencilPanel::clickMoveCenter)});
+         button("cmdFullSize", 190, Picture::fullSize, &ctlSetRatioGrid::clickFullSize),
+         button("cmdMoveCenter", 183, Picture::center, &ctlSetRatioGrid::clickMoveCenter)});
     row.addBar({move(16, 205, Picture::decreaseSize), move(17, 206, Picture::increaseSize)});
     row.addBar({{.name = "cmdSendMouseInput",
                  .tip = 188,
                  .picture = Picture::mouseAction,
-                 .press = &StencilPanel::clickSendMouseInput,
-                 .hover = &StencilPanel::hoverSendMouseInput}});
+                 .press = &ctlSetRatioGrid::clickSendMouseInput,
+                 .hover = &ctlSetRatioGrid::hoverSendMouseInput}});
 }
 
 PanelDesign makeDesign() {

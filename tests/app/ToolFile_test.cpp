@@ -104,7 +104,7 @@ TEST_F(ToolFileTest, AConnectedMeasurementWithoutKeysHasItsLinesMeet) {
 
 TEST_F(ToolFileTest, ASeparateMeasurementWithoutKeysHasItsLinesApart) {
     loadText(measureSection);
-    const MeasurePanel& panel = stage_.measure(0);
+    const ctlSetMeasure& panel = stage_.measure(0);
     const ctlMeasure& measure = stage_.measure(0).RefControl();
     EXPECT_FALSE(measure.Connected());
     EXPECT_EQ(measure.LineA(), (Line{50, 10, 50, 50}));
@@ -216,7 +216,7 @@ TEST_F(ToolFileTest, ALoadShowsItselfBusy) {
 }
 
 TEST_F(ToolFileTest, ALoadReplacesTheToolsAndTheirHistories) {
-    StencilPanel& panel = stage_.addStencil();
+    ctlSetRatioGrid& panel = stage_.addStencil();
     panel.RefControl().setRotationAngle(1);
     panel.AddHistoryStep();
     loadText(exampleToolFile);

@@ -54,7 +54,7 @@ TEST_F(ToolListTest, TheFirstToolsHaveVisiblePanelsAndHiddenToolsUntilTheyAreSho
 }
 
 TEST_F(ToolListTest, ANewToolIsSelectedShownAndBehindTheOthersInTheList) {
-    StencilPanel& added = stage_.addStencil();
+    ctlSetRatioGrid& added = stage_.addStencil();
     EXPECT_EQ(stage_.kinds(), "SMS");
     EXPECT_EQ(stage_.panels()[2]->core.get(), &added);
     EXPECT_TRUE(stage_.panels()[2]->visible());
@@ -118,7 +118,7 @@ TEST_F(ToolListTest, RemovingTheFirstToolAndAddingOneReusesItAndRestartsItsColou
     const std::size_t count = stage_.sheet.zOrder().size();
     list_.RemovePanel(*panel);
     EXPECT_EQ(stage_.kinds(), "M");
-    StencilPanel& again = stage_.addStencil();
+    ctlSetRatioGrid& again = stage_.addStencil();
     EXPECT_EQ(&again, panel);
     EXPECT_EQ(&again.RefControlControl(), tool);
     EXPECT_EQ(again.Color(), first);
@@ -130,7 +130,7 @@ TEST_F(ToolListTest, ARemovedFirstMeasurementRestartsTheColoursOfMeasurements) {
     const Color first = stage_.measure(1).ColorA();
     const Color second = stage_.measure(1).ColorB();
     list_.RemovePanel(stage_.measure(1));
-    MeasurePanel& again = stage_.addMeasure();
+    ctlSetMeasure& again = stage_.addMeasure();
     EXPECT_EQ(again.ColorA(), first);
     EXPECT_EQ(again.ColorB(), second);
     EXPECT_EQ(again.Number(), 1);
@@ -145,7 +145,7 @@ TEST_F(ToolListTest, ARemovedFirstToolIsNotReusedWhileOthersOfItsKindAreThere) {
 }
 
 TEST_F(ToolListTest, AReusedToolBeginsWithoutAHistory) {
-    StencilPanel& first = stage_.stencil(0);
+    ctlSetRatioGrid& first = stage_.stencil(0);
     first.RefControl().setRotationAngle(1);
     first.AddHistoryStep();
     ASSERT_TRUE(first.RefControl().History().UndoPossible());
@@ -156,7 +156,7 @@ TEST_F(ToolListTest, AReusedToolBeginsWithoutAHistory) {
 TEST_F(ToolListTest, AReusedToolIsNotPausedAnyMore) {
     stage_.stencil(0).setPause(true);
     list_.RemovePanel(stage_.stencil(0));
-    StencilPanel& again = stage_.addStencil();
+    ctlSetRatioGrid& again = stage_.addStencil();
     EXPECT_FALSE(again.Pause());
     EXPECT_TRUE(toolVisible(again));
 }
@@ -175,7 +175,7 @@ TEST_F(ToolListTest, NoMeasurementsLeaveNumberOneFree) {
     EXPECT_EQ(list_.NextFreeMeasureNumber(), 1);
 }
 
-double offsetOf(StencilPanel& panel, int sheetWidth) {
+double offsetOf(ctlSetRatioGrid& panel, int sheetWidth) {
     const Rect& rect = panel.RefControl().RectBound();
     return (rect.left + rect.right) / 2 - sheetWidth / 2;
 }
@@ -214,11 +214,11 @@ TEST_F(ToolListTest, ANewMeasurementTakesItsLookFromTheLastOneOfItsKind) {
 }
 
 TEST_F(ToolListTest, AReusedMeasurementBeginsWithItsDefaults) {
-    MeasurePanel& first = stage_.measure(1);
+    ctlSetMeasure& first = stage_.measure(1);
     first.RefControl().setLabelsAngleVisible(false);
     first.setLineWidth(4);
     list_.RemovePanel(first);
-    MeasurePanel& again = stage_.addMeasure();
+    ctlSetMeasure& again = stage_.addMeasure();
     EXPECT_TRUE(again.RefControl().LabelsAngleVisible());
     EXPECT_EQ(again.LineWidth(), 2);
 }
@@ -234,7 +234,7 @@ TEST_F(ToolListTest, ANewMeasurementMeasuresInTheDefaultUnits) {
 
 TEST_F(ToolListTest, ANewStencilHasOnePatternAndStandsUpright) {
     stage_.stencil(0).RefControl().setRotationAngle(1);
-    StencilPanel& added = stage_.addStencil();
+    ctlSetRatioGrid& added = stage_.addStencil();
     EXPECT_EQ(added.RefControl().RotationAngle(), 0);
     EXPECT_EQ(added.RefControl().PatternList()[1].Pattern, -1);
     EXPECT_NE(added.RefControl().PatternList()[0].Pattern, -1);
@@ -264,7 +264,7 @@ TEST_F(ToolListTest, TheOrderIsThatOfTheScreenWhateverTheOrderOfMaking) {
 }
 
 TEST_F(ToolListTest, ARemovedToolLeavesNoneSelected) {
-    StencilPanel& added = stage_.addStencil();
+    ctlSetRatioGrid& added = stage_.addStencil();
     list_.RemovePanel(added);
     EXPECT_EQ(stage_.sheet.selected(), nullptr);
     stage_.sheet.SelectControl(stage_.stencil(0).RefControlControl());
@@ -287,7 +287,7 @@ TEST_F(ToolListTest, WithoutPanelsInUseTheListHasNoHeight) {
 }
 
 TEST_F(ToolListTest, ThePanelsDeleteKeyRemovesItsTool) {
-    StencilPanel& added = stage_.addStencil();
+    ctlSetRatioGrid& added = stage_.addStencil();
     added.RefControl().keyDown(key::remove, 0);
     EXPECT_EQ(stage_.kinds(), "SM");
     EXPECT_EQ(stage_.sheet.zOrder().size(), 2U);

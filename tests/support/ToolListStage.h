@@ -8,8 +8,8 @@
 #include "app/BusyView.h"
 #include "app/ToolList.h"
 #include "app/ToolMaker.h"
-#include "measure/MeasurePanel.h"
-#include "stencil/StencilPanel.h"
+#include "measure/ctlSetMeasure.h"
+#include "stencil/ctlSetRatioGrid.h"
 #include "support/FakePanelCommands.h"
 #include "support/FakePanelView.h"
 #include "support/FakeSheetPort.h"
@@ -96,21 +96,21 @@ class StagedToolList : private PanelFactory {
         }
         return found;
     }
-    [[nodiscard]] static MeasurePanel& measureOf(Panel& panel) {
-        return dynamic_cast<MeasurePanel&>(*panel.core);
+    [[nodiscard]] static ctlSetMeasure& measureOf(Panel& panel) {
+        return dynamic_cast<ctlSetMeasure&>(*panel.core);
     }
-    [[nodiscard]] static StencilPanel& stencilOf(Panel& panel) {
-        return dynamic_cast<StencilPanel&>(*panel.core);
+    [[nodiscard]] static ctlSetRatioGrid& stencilOf(Panel& panel) {
+        return dynamic_cast<ctlSetRatioGrid&>(*panel.core);
     }
-    [[nodiscard]] MeasurePanel& measure(std::size_t at) const {
+    [[nodiscard]] ctlSetMeasure& measure(std::size_t at) const {
         return measureOf(*panels().at(at));
     }
-    [[nodiscard]] StencilPanel& stencil(std::size_t at) const {
+    [[nodiscard]] ctlSetRatioGrid& stencil(std::size_t at) const {
         return stencilOf(*panels().at(at));
     }
 
-    StencilPanel& addStencil() { return dynamic_cast<StencilPanel&>(*list.AddNewControl(0)); }
-    MeasurePanel& addMeasure() { return dynamic_cast<MeasurePanel&>(*list.AddNewControl(1)); }
+    ctlSetRatioGrid& addStencil() { return dynamic_cast<ctlSetRatioGrid&>(*list.AddNewControl(0)); }
+    ctlSetMeasure& addMeasure() { return dynamic_cast<ctlSetMeasure&>(*list.AddNewControl(1)); }
 
     /// The kinds from top to bottom: "SM".
     [[nodiscard]] std::string kinds() const {
@@ -129,10 +129,10 @@ class StagedToolList : private PanelFactory {
             [this](const OverlayItem& shown, bool visible) { sheet.setVisible(shown, visible); },
             [] { return 36000.0F; }};
         if (kind == ToolKind::stencil) {
-            made->core = std::make_unique<StencilPanel>(dynamic_cast<ctlRatioGrid&>(tool), ports,
-                                                        commands_, settings, ratios_);
+            made->core = std::make_unique<ctlSetRatioGrid>(dynamic_cast<ctlRatioGrid&>(tool), ports,
+                                                           commands_, settings, ratios_);
         } else {
-            made->core = std::make_unique<MeasurePanel>(
+            made->core = std::make_unique<ctlSetMeasure>(
                 dynamic_cast<ctlMeasure&>(tool), ports,
                 [this](ctlMeasure& measure) { return commands_.SelectUnits(measure); }, settings);
         }

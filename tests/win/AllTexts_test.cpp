@@ -14,9 +14,9 @@
 #include "e2e/support/AppDataFolder.h"
 #include "e2e/support/SettingsFile.h"
 #include "measure/ManualMeasures.h"
-#include "measure/MeasurePanel.h"
+#include "measure/ctlSetMeasure.h"
 #include "measure/win/frmUnit.h"
-#include "stencil/StencilPanel.h"
+#include "stencil/ctlSetRatioGrid.h"
 #include "stencil/win/frmPatternSelect.h"
 #include "stencil/win/frmRatio.h"
 #include "support/MemoryCodePage.h"
@@ -75,7 +75,7 @@ class AllTextsOfTheProgram : public AllTexts {
     }
     [[nodiscard]] HWND settings() const { return settings_->handle(); }
     void expectRoomForStencil(const Rect& bounds, double angle, const std::string& state) {
-        auto& core = panel<StencilPanel>(ToolKind::stencil);
+        auto& core = panel<ctlSetRatioGrid>(ToolKind::stencil);
         auto& tool = dynamic_cast<ctlRatioGrid&>(core.RefControlControl());
         tool.setRectBound(bounds);
         tool.setRotationAngle(angle);
@@ -83,7 +83,7 @@ class AllTextsOfTheProgram : public AllTexts {
         expectRoom(settings(), state);
     }
     void expectRoomForMeasure(const Line& a, const Line& b, const MeasureUnits& units) {
-        auto& core = panel<MeasurePanel>(ToolKind::measurement);
+        auto& core = panel<ctlSetMeasure>(ToolKind::measurement);
         auto& tool = dynamic_cast<ctlMeasure&>(core.RefControlControl());
         core.setNumber(33);
         core.setUnits(units);

@@ -4,8 +4,8 @@
 
 #include "language/MlStringModule.h"
 #include "measure/ManualMeasures.h"
-#include "measure/MeasurePanel.h"
-#include "stencil/StencilPanel.h"
+#include "measure/ctlSetMeasure.h"
+#include "stencil/ctlSetRatioGrid.h"
 #include "support/FakePanelCommands.h"
 #include "support/OwnToolSettings.h"
 #include "support/QuietToolHost.h"
@@ -25,12 +25,13 @@ class PanelStage : private PanelHost {
     }
     [[nodiscard]] std::unique_ptr<PanelWindow> makePanel(HWND parent, ctlRatioGrid& tool) {
         return window(parent, [&](PanelView& view) {
-            return std::make_unique<StencilPanel>(tool, ports(view), commands_, settings_, ratios_);
+            return std::make_unique<ctlSetRatioGrid>(tool, ports(view), commands_, settings_,
+                                                     ratios_);
         });
     }
     [[nodiscard]] std::unique_ptr<PanelWindow> makePanel(HWND parent, ctlMeasure& tool) {
         return window(parent, [&](PanelView& view) {
-            return std::make_unique<MeasurePanel>(
+            return std::make_unique<ctlSetMeasure>(
                 tool, ports(view),
                 [this](ctlMeasure& measure) { return commands_.SelectUnits(measure); }, settings_);
         });

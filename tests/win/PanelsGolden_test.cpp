@@ -63,7 +63,7 @@ TEST_P(PanelsGolden, StencilsLookAsTheyAlwaysDid) {
     for (int look = 0; look < looks; ++look) {
         auto& tool = *tools.emplace_back(stage.makeStencil());
         auto& window = *panels.emplace_back(stage.makePanel(ground_->handle(), tool));
-        auto& panel = dynamic_cast<StencilPanel&>(window.core());
+        auto& panel = dynamic_cast<ctlSetRatioGrid&>(window.core());
         // Numbers as long as they come: a golden rectangle on a second monitor.
         tool.setRectBound({2000, 1000, 3617, 1999});
         panel.setColor(rgb(255, 159, 0));
@@ -84,7 +84,7 @@ TEST_P(PanelsGolden, MeasuringToolsLookAsTheyAlwaysDid) {
     for (int look = 0; look < looks; ++look) {
         auto& tool = *tools.emplace_back(stage.makeMeasure());
         auto& window = *panels.emplace_back(stage.makePanel(ground_->handle(), tool));
-        auto& panel = dynamic_cast<MeasurePanel&>(window.core());
+        auto& panel = dynamic_cast<ctlSetMeasure&>(window.core());
         panel.setNumber(31 + look);
         panel.setColorA(rgb(31, 31, 127));
         panel.setColorB(rgb(255, 230, 0));

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "measure/MeasurePanel.h"
+#include "measure/ctlSetMeasure.h"
 #include "platform/win/dayTime.h"
-#include "stencil/StencilPanel.h"
+#include "stencil/ctlSetRatioGrid.h"
 
 namespace ormala {
 
@@ -62,10 +62,10 @@ std::unique_ptr<SettingControl> PanelMaker::makeCore(ToolKind kind, OverlayItem&
                            },
                            &secondsSinceMidnight};
     if (kind == ToolKind::stencil) {
-        return std::make_unique<StencilPanel>(dynamic_cast<ctlRatioGrid&>(tool), ports, dialogs,
-                                              ports_.settings, ports_.ratios);
+        return std::make_unique<ctlSetRatioGrid>(dynamic_cast<ctlRatioGrid&>(tool), ports, dialogs,
+                                                 ports_.settings, ports_.ratios);
     }
-    return std::make_unique<MeasurePanel>(
+    return std::make_unique<ctlSetMeasure>(
         dynamic_cast<ctlMeasure&>(tool), ports,
         [&dialogs](ctlMeasure& measure) { return dialogs.SelectUnits(measure); }, ports_.settings);
 }

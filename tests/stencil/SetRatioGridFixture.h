@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "stencil/StencilPanel.h"
+#include "stencil/ctlSetRatioGrid.h"
 #include "stencil/stencilPanelDesign.h"
 #include "support/FakePanelCommands.h"
 #include "support/FakePanelView.h"
@@ -18,9 +18,9 @@
 namespace ormala {
 
 /// The panel of a stencil on a worksheet of 1000 by 800 pixels.
-class StencilPanelFixture : public testing::Test {
+class SetRatioGridFixture : public testing::Test {
   protected:
-    StencilPanelFixture() {
+    SetRatioGridFixture() {
         tool_.resize({1000, 800});
         panel_->finish();
         later(1);
@@ -78,7 +78,7 @@ class StencilPanelFixture : public testing::Test {
     float now_ = 36000;
     FakePanelCommands commands_;
     Event<> tmrFast_;
-    std::unique_ptr<StencilPanel> panel_ = std::make_unique<StencilPanel>(
+    std::unique_ptr<ctlSetRatioGrid> panel_ = std::make_unique<ctlSetRatioGrid>(
         tool_,
         PanelPorts{view_, commands_, tmrFast_,
                    [this](const OverlayItem& tool, bool shown) { visible_[&tool] = shown; },

@@ -1,17 +1,17 @@
 #include "modAPI/constants.h"
 #include "modAPI/rectangles.h"
-#include "stencil/StencilPanelFixture.h"
+#include "stencil/SetRatioGridFixture.h"
 
 // The buttons of a stencil's panel.
 
 namespace ormala {
 namespace {
 
-class StencilPanelButtonsTest : public StencilPanelFixture {};
+class SetRatioGridButtonsTest : public SetRatioGridFixture {};
 
 constexpr Rect plain{100, 100, 300, 200};
 
-TEST_F(StencilPanelButtonsTest, AClickIsOneStepOfUndo) {
+TEST_F(SetRatioGridButtonsTest, AClickIsOneStepOfUndo) {
     start(plain);
     step("cmdMove(7)");
     EXPECT_EQ(tool_.RectBound(), (Rect{100, 100, 301, 200}));
@@ -21,7 +21,7 @@ TEST_F(StencilPanelButtonsTest, AClickIsOneStepOfUndo) {
     EXPECT_EQ(tool_.RectBound(), plain);
 }
 
-TEST_F(StencilPanelButtonsTest, AWholeRunIsOneStepOfUndo) {
+TEST_F(SetRatioGridButtonsTest, AWholeRunIsOneStepOfUndo) {
     start(plain);
     press("cmdMove(1)");
     tick(10 + 30);
@@ -32,7 +32,7 @@ TEST_F(StencilPanelButtonsTest, AWholeRunIsOneStepOfUndo) {
     EXPECT_EQ(tool_.RectBound(), plain);
 }
 
-TEST_F(StencilPanelButtonsTest, AModifierMovesByTheGridAndSlowly) {
+TEST_F(SetRatioGridButtonsTest, AModifierMovesByTheGridAndSlowly) {
     settings_.grid = {50, 50, 0, 0};
     start(plain);
     press("cmdMove(1)", modifier::alt);
@@ -42,7 +42,7 @@ TEST_F(StencilPanelButtonsTest, AModifierMovesByTheGridAndSlowly) {
     EXPECT_EQ(RectCenter(tool_.RectBound()), (Point{350, 150}));
 }
 
-TEST_F(StencilPanelButtonsTest, ARunRefreshesMoreOftenThanADrag) {
+TEST_F(SetRatioGridButtonsTest, ARunRefreshesMoreOftenThanADrag) {
     start(plain);
     later(1);
     press("cmdMove(1)");
@@ -62,7 +62,7 @@ TEST_F(StencilPanelButtonsTest, ARunRefreshesMoreOftenThanADrag) {
     EXPECT_EQ(view_.refreshes, 5);
 }
 
-TEST_F(StencilPanelButtonsTest, AStepThatIsRefusedStoresNothing) {
+TEST_F(SetRatioGridButtonsTest, AStepThatIsRefusedStoresNothing) {
     start({100, 100, 122, 200});
     step("cmdMove(5)");
     EXPECT_EQ(tool_.RectBound(), (Rect{100, 100, 122, 200}));
@@ -70,7 +70,7 @@ TEST_F(StencilPanelButtonsTest, AStepThatIsRefusedStoresNothing) {
     EXPECT_FALSE(view_.enabling.undo);
 }
 
-TEST_F(StencilPanelButtonsTest, TheSpaceBarStepsAtEachPressAndStoresAtTheKeyUp) {
+TEST_F(SetRatioGridButtonsTest, TheSpaceBarStepsAtEachPressAndStoresAtTheKeyUp) {
     start(plain);
     pressKey("cmdMove(3)");
     pressKey("cmdMove(3)");
@@ -85,7 +85,7 @@ TEST_F(StencilPanelButtonsTest, TheSpaceBarStepsAtEachPressAndStoresAtTheKeyUp) 
     EXPECT_EQ(undoSteps(), 2);
 }
 
-TEST_F(StencilPanelButtonsTest, AKeyThatIsLetGoLeavesTheRunOfTheMouse) {
+TEST_F(SetRatioGridButtonsTest, AKeyThatIsLetGoLeavesTheRunOfTheMouse) {
     start(plain);
     press("cmdMove(1)");
     tick(11);
@@ -99,7 +99,7 @@ TEST_F(StencilPanelButtonsTest, AKeyThatIsLetGoLeavesTheRunOfTheMouse) {
     EXPECT_EQ(undoSteps(), 1);
 }
 
-TEST_F(StencilPanelButtonsTest, ARunEndsWithItsPanel) {
+TEST_F(SetRatioGridButtonsTest, ARunEndsWithItsPanel) {
     start(plain);
     press("cmdMove(1)");
     tick(15);
@@ -109,7 +109,7 @@ TEST_F(StencilPanelButtonsTest, ARunEndsWithItsPanel) {
     EXPECT_EQ(tool_.RectBound(), last);
 }
 
-TEST_F(StencilPanelButtonsTest, ARunEndsWhenThePanelIsRemovedOrPaused) {
+TEST_F(SetRatioGridButtonsTest, ARunEndsWhenThePanelIsRemovedOrPaused) {
     start(plain);
     press("cmdMove(1)");
     panel_->setHidden(true);
@@ -123,7 +123,7 @@ TEST_F(StencilPanelButtonsTest, ARunEndsWhenThePanelIsRemovedOrPaused) {
     EXPECT_EQ(undoSteps(), 2);
 }
 
-TEST_F(StencilPanelButtonsTest, UndoDuringARunTakesTheRunBack) {
+TEST_F(SetRatioGridButtonsTest, UndoDuringARunTakesTheRunBack) {
     start(plain);
     press("cmdMove(1)");
     tick(15);
@@ -133,7 +133,7 @@ TEST_F(StencilPanelButtonsTest, UndoDuringARunTakesTheRunBack) {
     EXPECT_EQ(tool_.RectBound(), plain);
 }
 
-TEST_F(StencilPanelButtonsTest, TheModifiersOfTheAngleChooseTheStep) {
+TEST_F(SetRatioGridButtonsTest, TheModifiersOfTheAngleChooseTheStep) {
     constexpr double degree = pi / 180;
     start(plain, 1);
     const auto after = [this](int index, int shift) {
@@ -150,7 +150,7 @@ TEST_F(StencilPanelButtonsTest, TheModifiersOfTheAngleChooseTheStep) {
     EXPECT_NEAR(after(0, modifier::ctrl | modifier::shift), 18, 1e-9);
 }
 
-TEST_F(StencilPanelButtonsTest, CtrlAtTenDegreesGoesToEighteenAndTheOtherButtonToNine) {
+TEST_F(SetRatioGridButtonsTest, CtrlAtTenDegreesGoesToEighteenAndTheOtherButtonToNine) {
     constexpr double degree = pi / 180;
     start(plain, 10 * degree);
     step("cmdAngle(0)", modifier::ctrl);
@@ -159,7 +159,7 @@ TEST_F(StencilPanelButtonsTest, CtrlAtTenDegreesGoesToEighteenAndTheOtherButtonT
     EXPECT_NEAR(tool_.RotationAngle(), 9 * degree, 1e-9);
 }
 
-TEST_F(StencilPanelButtonsTest, AngleZeroIsAStepOfUndo) {
+TEST_F(SetRatioGridButtonsTest, AngleZeroIsAStepOfUndo) {
     start(plain, 1);
     click("cmdAngleZero");
     EXPECT_EQ(tool_.RotationAngle(), 0);
@@ -170,7 +170,7 @@ TEST_F(StencilPanelButtonsTest, AngleZeroIsAStepOfUndo) {
     EXPECT_EQ(undoSteps(), 2);
 }
 
-TEST_F(StencilPanelButtonsTest, FullSizeFitsTheWorksheetUnturned) {
+TEST_F(SetRatioGridButtonsTest, FullSizeFitsTheWorksheetUnturned) {
     start(plain, 1);
     click("cmdFullSize");
     EXPECT_EQ(tool_.RectBound(), (Rect{0, 0, 999, 799}));
@@ -178,7 +178,7 @@ TEST_F(StencilPanelButtonsTest, FullSizeFitsTheWorksheetUnturned) {
     EXPECT_EQ(undoSteps(), 1);
 }
 
-TEST_F(StencilPanelButtonsTest, MoveCenterKeepsSizeAndAngle) {
+TEST_F(SetRatioGridButtonsTest, MoveCenterKeepsSizeAndAngle) {
     settings_.grid = {300, 300, 0, 0};
     start(plain, 1);
     click("cmdMoveCenter", modifier::shift);
@@ -189,7 +189,7 @@ TEST_F(StencilPanelButtonsTest, MoveCenterKeepsSizeAndAngle) {
     EXPECT_EQ(undoSteps(), 2);
 }
 
-TEST_F(StencilPanelButtonsTest, AChosenRatioKeepsHeightAndCentre) {
+TEST_F(SetRatioGridButtonsTest, AChosenRatioKeepsHeightAndCentre) {
     start({100, 100, 299, 199});
     commands_.ratio = 1.5;
     click("cmdEditRatio");
@@ -198,7 +198,7 @@ TEST_F(StencilPanelButtonsTest, AChosenRatioKeepsHeightAndCentre) {
     EXPECT_EQ(undoSteps(), 1);
 }
 
-TEST_F(StencilPanelButtonsTest, NoRatioOrTheSameOneChangesNothing) {
+TEST_F(SetRatioGridButtonsTest, NoRatioOrTheSameOneChangesNothing) {
     start({100, 100, 299, 199});
     click("cmdEditRatio");
     commands_.ratio = 2;
@@ -207,7 +207,7 @@ TEST_F(StencilPanelButtonsTest, NoRatioOrTheSameOneChangesNothing) {
     EXPECT_EQ(undoSteps(), 0);
 }
 
-TEST_F(StencilPanelButtonsTest, ChosenPatternsAreAStepOfUndoAndShow) {
+TEST_F(SetRatioGridButtonsTest, ChosenPatternsAreAStepOfUndoAndShow) {
     start(plain);
     const int pictures = patternPictures();
     PatternList patterns;
@@ -222,7 +222,7 @@ TEST_F(StencilPanelButtonsTest, ChosenPatternsAreAStepOfUndoAndShow) {
     EXPECT_EQ(commands_.tabsOpened, (std::vector{0, 3}));
 }
 
-TEST_F(StencilPanelButtonsTest, ACancelledChoiceOfPatternsLeavesTheStencil) {
+TEST_F(SetRatioGridButtonsTest, ACancelledChoiceOfPatternsLeavesTheStencil) {
     start(plain);
     const PatternList before = tool_.PatternList();
     const int pictures = patternPictures();
@@ -232,7 +232,7 @@ TEST_F(StencilPanelButtonsTest, ACancelledChoiceOfPatternsLeavesTheStencil) {
     EXPECT_EQ(undoSteps(), 0);
 }
 
-TEST_F(StencilPanelButtonsTest, ColourAndLineComeFromTheirDialogsAndAreNoStepsOfUndo) {
+TEST_F(SetRatioGridButtonsTest, ColourAndLineComeFromTheirDialogsAndAreNoStepsOfUndo) {
     start(plain);
     commands_.color = 0x123456;
     commands_.lineStyle = 4;
@@ -244,21 +244,21 @@ TEST_F(StencilPanelButtonsTest, ColourAndLineComeFromTheirDialogsAndAreNoStepsOf
     EXPECT_EQ(undoSteps(), 0);
 }
 
-TEST_F(StencilPanelButtonsTest, ThePauseButtonTurnsThePauseOver) {
+TEST_F(SetRatioGridButtonsTest, ThePauseButtonTurnsThePauseOver) {
     click("cmdPause");
     EXPECT_TRUE(panel_->Pause());
     click("cmdPause");
     EXPECT_FALSE(panel_->Pause());
 }
 
-TEST_F(StencilPanelButtonsTest, TheRemovalMayDestroyThePanel) {
+TEST_F(SetRatioGridButtonsTest, TheRemovalMayDestroyThePanel) {
     view_.onRemove = [this] { panel_.reset(); };
     click("cmdDelete");
     EXPECT_EQ(view_.removeRequests, 1);
     EXPECT_EQ(panel_, nullptr);
 }
 
-TEST_F(StencilPanelButtonsTest, ThePreviewOfTheMouseActionComesWithItsTimer) {
+TEST_F(SetRatioGridButtonsTest, ThePreviewOfTheMouseActionComesWithItsTimer) {
     hover(true);
     EXPECT_TRUE(previewIsComing());
     EXPECT_FALSE(tool_.PreviewMouseAction());
@@ -269,14 +269,14 @@ TEST_F(StencilPanelButtonsTest, ThePreviewOfTheMouseActionComesWithItsTimer) {
     EXPECT_FALSE(tool_.PreviewMouseAction());
 }
 
-TEST_F(StencilPanelButtonsTest, AMouseThatLeavesEarlySeesNoPreview) {
+TEST_F(SetRatioGridButtonsTest, AMouseThatLeavesEarlySeesNoPreview) {
     hover(true);
     hover(false);
     EXPECT_FALSE(previewIsComing());
     EXPECT_FALSE(tool_.PreviewMouseAction());
 }
 
-TEST_F(StencilPanelButtonsTest, TheMouseActionEndsItsPreview) {
+TEST_F(SetRatioGridButtonsTest, TheMouseActionEndsItsPreview) {
     hover(true);
     panel_->timerTicked(PanelTimer::tmrDelayMousePreview);
     click("cmdSendMouseInput");
@@ -285,14 +285,14 @@ TEST_F(StencilPanelButtonsTest, TheMouseActionEndsItsPreview) {
     EXPECT_FALSE(previewIsComing());
 }
 
-TEST_F(StencilPanelButtonsTest, APausedPanelShowsNoPreview) {
+TEST_F(SetRatioGridButtonsTest, APausedPanelShowsNoPreview) {
     hover(true);
     panel_->timerTicked(PanelTimer::tmrDelayMousePreview);
     panel_->setPause(true);
     EXPECT_FALSE(tool_.PreviewMouseAction());
 }
 
-TEST_F(StencilPanelButtonsTest, ThePictureHasBlackLinesOnGrey) {
+TEST_F(SetRatioGridButtonsTest, ThePictureHasBlackLinesOnGrey) {
     const auto pixels = view_.pixelsOf(StencilControl::imgPattern, {40, 40});
     EXPECT_EQ(pixels.at(0), 0xFF000000U);
     EXPECT_EQ(pixels.at(40 * 3 + 3), 0xFF686868U);

@@ -9,14 +9,14 @@
 namespace ormala {
 
 /// The panel of a measuring tool.
-class MeasurePanel : public SettingControl {
+class ctlSetMeasure : public SettingControl {
   public:
     /// The dialog of a tool's units, which changes the tool; false if it was cancelled.
     using SelectUnits = std::function<bool(ctlMeasure& tool)>;
 
     /// All must outlive the panel.
-    MeasurePanel(ctlMeasure& tool, const PanelPorts& ports, SelectUnits selectUnits,
-                 const ToolSettings& settings);
+    ctlSetMeasure(ctlMeasure& tool, const PanelPorts& ports, SelectUnits selectUnits,
+                  const ToolSettings& settings);
 
     [[nodiscard]] ctlMeasure& RefControl() { return tool_; }
 

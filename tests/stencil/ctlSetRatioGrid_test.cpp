@@ -1,21 +1,21 @@
-#include "stencil/StencilPanel.h"
+#include "stencil/ctlSetRatioGrid.h"
 
 #include "pictures/linePicture.h"
-#include "stencil/StencilPanelFixture.h"
+#include "stencil/SetRatioGridFixture.h"
 
 namespace ormala {
 namespace {
 
-class StencilPanelTest : public StencilPanelFixture {};
+class SetRatioGridTest : public SetRatioGridFixture {};
 
-TEST_F(StencilPanelTest, ShowsTheToolThatItWasGiven) {
+TEST_F(SetRatioGridTest, ShowsTheToolThatItWasGiven) {
     EXPECT_EQ(view_.texts.size(), 13U);
     EXPECT_EQ(view_.look, unselectedLook);
     EXPECT_EQ(&panel_->RefControlControl(), &tool_);
     EXPECT_FALSE(panel_->Hidden());
 }
 
-TEST_F(StencilPanelTest, ABurstOfChangesWritesTheReadOutsOnceAndOnceAfterIt) {
+TEST_F(SetRatioGridTest, ABurstOfChangesWritesTheReadOutsOnceAndOnceAfterIt) {
     view_.refreshes = 0;
     view_.timerStarts = 0;
     for (int i = 0; i < 20; ++i) {
@@ -33,7 +33,7 @@ TEST_F(StencilPanelTest, ABurstOfChangesWritesTheReadOutsOnceAndOnceAfterIt) {
     EXPECT_FALSE(view_.refreshTimerRuns());
 }
 
-TEST_F(StencilPanelTest, AHeldButtonRefreshesMoreOften) {
+TEST_F(SetRatioGridTest, AHeldButtonRefreshesMoreOften) {
     press("cmdMove(1)");
     later(1);
     view_.refreshes = 0;
@@ -47,7 +47,7 @@ TEST_F(StencilPanelTest, AHeldButtonRefreshesMoreOften) {
     EXPECT_EQ(view_.refreshes, 4);
 }
 
-TEST_F(StencilPanelTest, ThePanelOfTheSelectedToolStandsOut) {
+TEST_F(SetRatioGridTest, ThePanelOfTheSelectedToolStandsOut) {
     panel_->setSelected(true);
     EXPECT_TRUE(tool_.Selected());
     EXPECT_TRUE(panel_->Selected());
@@ -62,7 +62,7 @@ TEST_F(StencilPanelTest, ThePanelOfTheSelectedToolStandsOut) {
     EXPECT_EQ(view_.selections, 1);
 }
 
-TEST_F(StencilPanelTest, PassesItsLookOnToTheToolAndToItsButtons) {
+TEST_F(SetRatioGridTest, PassesItsLookOnToTheToolAndToItsButtons) {
     panel_->setColor(0x102030);
     panel_->setLineWidth(5);
     EXPECT_EQ(tool_.Color(), 0x102030);
@@ -72,7 +72,7 @@ TEST_F(StencilPanelTest, PassesItsLookOnToTheToolAndToItsButtons) {
               drawLinePicture(5, {32, 16}).argb);
 }
 
-TEST_F(StencilPanelTest, PauseHidesTheToolAndDisablesThePanel) {
+TEST_F(SetRatioGridTest, PauseHidesTheToolAndDisablesThePanel) {
     turnTo(1);
     panel_->setPause(true);
     EXPECT_FALSE(visible_[&tool_]);
@@ -89,12 +89,12 @@ TEST_F(StencilPanelTest, PauseHidesTheToolAndDisablesThePanel) {
               (ButtonLook{rgb(187, 168, 0), false, std::nullopt, Picture::show}));
 }
 
-TEST_F(StencilPanelTest, ANewPanelShowsTheOpenEyeAtOnce) {
+TEST_F(SetRatioGridTest, ANewPanelShowsTheOpenEyeAtOnce) {
     EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
               (ButtonLook{rgb(187, 168, 0), false, std::nullopt, Picture::show}));
 }
 
-TEST_F(StencilPanelTest, UndoAndRedoLeaveAHiddenToolAlone) {
+TEST_F(SetRatioGridTest, UndoAndRedoLeaveAHiddenToolAlone) {
     turnTo(1);
     panel_->setPause(true);
     panel_->Undo();
@@ -106,7 +106,7 @@ TEST_F(StencilPanelTest, UndoAndRedoLeaveAHiddenToolAlone) {
     EXPECT_EQ(tool_.RotationAngle(), 0);
 }
 
-TEST_F(StencilPanelTest, UndoAndRedoShowTheStateThatCameBack) {
+TEST_F(SetRatioGridTest, UndoAndRedoShowTheStateThatCameBack) {
     turnTo(pi / 2);
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, true, false}));
     panel_->Undo();
@@ -119,14 +119,14 @@ TEST_F(StencilPanelTest, UndoAndRedoShowTheStateThatCameBack) {
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, true, false}));
 }
 
-TEST_F(StencilPanelTest, TheFirstStateIsNoStepOfUndo) {
+TEST_F(SetRatioGridTest, TheFirstStateIsNoStepOfUndo) {
     turnTo(1);
     panel_->InitializeFinished();
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, false, false}));
     EXPECT_FALSE(tool_.History().UndoPossible());
 }
 
-TEST_F(StencilPanelTest, TheDeleteKeyWithoutModifiersAsksForTheRemoval) {
+TEST_F(SetRatioGridTest, TheDeleteKeyWithoutModifiersAsksForTheRemoval) {
     tool_.keyDown(key::remove, modifier::shift);
     tool_.keyDown(key::remove, modifier::ctrl);
     EXPECT_EQ(view_.removeRequests, 0);
@@ -134,7 +134,7 @@ TEST_F(StencilPanelTest, TheDeleteKeyWithoutModifiersAsksForTheRemoval) {
     EXPECT_EQ(view_.removeRequests, 1);
 }
 
-TEST_F(StencilPanelTest, TheEndKeyBringsTheToolBackToItsDefaultPlace) {
+TEST_F(SetRatioGridTest, TheEndKeyBringsTheToolBackToItsDefaultPlace) {
     tool_.CenterToScreen(false, 0, false, true);
     const Rect middle = tool_.RectBound();
     change({0, 0, 50, 50});
@@ -148,7 +148,7 @@ TEST_F(StencilPanelTest, TheEndKeyBringsTheToolBackToItsDefaultPlace) {
     EXPECT_EQ(tool_.RotationAngle(), 1);
 }
 
-TEST_F(StencilPanelTest, TheRightButtonOpensTheMenu) {
+TEST_F(SetRatioGridTest, TheRightButtonOpensTheMenu) {
     tool_.events().mouseUp.raise({mouseButton::left, 0, 1, 1});
     EXPECT_TRUE(view_.menus.empty());
     tool_.events().mouseUp.raise({mouseButton::right, 0, 1, 1});

@@ -1,4 +1,4 @@
-#include "measure/MeasurePanel.h"
+#include "measure/ctlSetMeasure.h"
 
 #include <gtest/gtest.h>
 
@@ -16,9 +16,9 @@
 namespace ormala {
 namespace {
 
-class MeasurePanelTest : public testing::Test {
+class SetMeasureTest : public testing::Test {
   protected:
-    MeasurePanelTest() {
+    SetMeasureTest() {
         tool_.resize({1000, 800});
         tool_.SetDefaultProperties();
         tool_.setLineA({100, 199, 100, 100});
@@ -47,15 +47,15 @@ class MeasurePanelTest : public testing::Test {
     float now_ = 36000;
     Event<> tmrFast_;
     FakePanelCommands commands_;
-    MeasurePanel panel_{tool_,
-                        {view_, commands_, tmrFast_,
-                         [this](const OverlayItem& tool, bool shown) { visible_[&tool] = shown; },
-                         [this] { return now_; }},
-                        [this](ctlMeasure& tool) { return commands_.SelectUnits(tool); },
-                        settings_};
+    ctlSetMeasure panel_{tool_,
+                         {view_, commands_, tmrFast_,
+                          [this](const OverlayItem& tool, bool shown) { visible_[&tool] = shown; },
+                          [this] { return now_; }},
+                         [this](ctlMeasure& tool) { return commands_.SelectUnits(tool); },
+                         settings_};
 };
 
-TEST_F(MeasurePanelTest, ShowsWhatTheToolMeasures) {
+TEST_F(SetMeasureTest, ShowsWhatTheToolMeasures) {
     EXPECT_EQ(shown(MeasureControl::lblLengthA), "a = 100.0 ");
     EXPECT_EQ(shown(MeasureControl::lblLengthB), "b = 50.0 ");
     EXPECT_EQ(shown(MeasureControl::lblRatioA), "a:b = 2.000 ");
@@ -68,7 +68,7 @@ TEST_F(MeasurePanelTest, ShowsWhatTheToolMeasures) {
               "ba = " + FormatAngle(tool_.AngleBToA(), 0, {}) + " ");
 }
 
-TEST_F(MeasurePanelTest, ShowsLengthsInTheToolsUnits) {
+TEST_F(SetMeasureTest, ShowsLengthsInTheToolsUnits) {
     commands_.units = MeasureUnits{1, 2, 3, "cm"};
     click("cmdUnits");
     EXPECT_EQ(commands_.unitsShown, std::vector{MeasureUnits{}});
@@ -79,7 +79,7 @@ TEST_F(MeasurePanelTest, ShowsLengthsInTheToolsUnits) {
     EXPECT_EQ(shown(MeasureControl::lblAngleVertB), FormatAngle(tool_.AngleVertB(), 1, {}) + " ");
 }
 
-TEST_F(MeasurePanelTest, TheYardstickReadsTheFactorWhateverItsLength) {
+TEST_F(SetMeasureTest, TheYardstickReadsTheFactorWhateverItsLength) {
     panel_.setUnits({0, 2, 7.5, "km"});
     for (const double y : {150.0, 199.0, 1234.5}) {
         tool_.setLineA({100, y, 100, 100});
@@ -88,7 +88,7 @@ TEST_F(MeasurePanelTest, TheYardstickReadsTheFactorWhateverItsLength) {
     }
 }
 
-TEST_F(MeasurePanelTest, AnotherUnitLeavesTheNumberAsItWas) {
+TEST_F(SetMeasureTest, AnotherUnitLeavesTheNumberAsItWas) {
     tool_.setLineB({109, 100, 100, 100});
     panel_.setUnits({0, 1, 1, "mi"});
     EXPECT_EQ(shown(MeasureControl::lblLengthB), "b = 10.0 mi ");
@@ -96,7 +96,7 @@ TEST_F(MeasurePanelTest, AnotherUnitLeavesTheNumberAsItWas) {
     EXPECT_EQ(shown(MeasureControl::lblLengthB), "b = 10.0 km ");
 }
 
-TEST_F(MeasurePanelTest, DuringADragTheTextsChangeAtMostEveryTenthOfASecond) {
+TEST_F(SetMeasureTest, DuringADragTheTextsChangeAtMostEveryTenthOfASecond) {
     view_.refreshes = 0;
     for (int i = 0; i < 25; ++i) {
         tool_.setLineA({100, 200.0 + i, 100, 100});
@@ -110,7 +110,7 @@ TEST_F(MeasurePanelTest, DuringADragTheTextsChangeAtMostEveryTenthOfASecond) {
     EXPECT_FALSE(view_.refreshTimerRuns());
 }
 
-TEST_F(MeasurePanelTest, TheTitleHasTheNumber) {
+TEST_F(SetMeasureTest, TheTitleHasTheNumber) {
     panel_.setNumber(3);
     EXPECT_EQ(view_.texts[CommonControl::lblTitle], "Measurement Tool 3");
     EXPECT_EQ(tool_.Number(), 3);
@@ -119,7 +119,7 @@ TEST_F(MeasurePanelTest, TheTitleHasTheNumber) {
     EXPECT_EQ(shown(CommonControl::lblTitle), MlString(325, {}) + "3");
 }
 
-TEST_F(MeasurePanelTest, TheMenuNamesTheNumberInBothLanguages) {
+TEST_F(SetMeasureTest, TheMenuNamesTheNumberInBothLanguages) {
     panel_.setNumber(3);
     const auto rightClickOnGrip = [&] {
         const Point grip = measureGripPoint(MeasureGrip::endA1, tool_.state());
@@ -135,7 +135,7 @@ TEST_F(MeasurePanelTest, TheMenuNamesTheNumberInBothLanguages) {
               (std::vector<std::string>{"Remove measurement tool 3", "Messwerkzeug 3 entfernen"}));
 }
 
-TEST_F(MeasurePanelTest, PauseDisablesThePanelAndHidesTheTool) {
+TEST_F(SetMeasureTest, PauseDisablesThePanelAndHidesTheTool) {
     panel_.setPause(true);
     EXPECT_FALSE(visible_[&tool_]);
     EXPECT_EQ(view_.enabling, (PanelEnabling{false, true, false, false}));
@@ -148,13 +148,13 @@ TEST_F(MeasurePanelTest, PauseDisablesThePanelAndHidesTheTool) {
               (ButtonLook{0x707070, false, std::nullopt, Picture::show}));
 }
 
-TEST_F(MeasurePanelTest, ANewPanelShowsTheOpenEyeAtOnce) {
+TEST_F(SetMeasureTest, ANewPanelShowsTheOpenEyeAtOnce) {
     panel_.finish();
     EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
               (ButtonLook{0x707070, false, std::nullopt, Picture::show}));
 }
 
-TEST_F(MeasurePanelTest, UndoingADisconnectShowsTheLinesConnectedAgain) {
+TEST_F(SetMeasureTest, UndoingADisconnectShowsTheLinesConnectedAgain) {
     click("optMode(1)");
     later(1);
     panel_.ShowAllProps(false);
@@ -170,7 +170,7 @@ TEST_F(MeasurePanelTest, UndoingADisconnectShowsTheLinesConnectedAgain) {
     EXPECT_FALSE(tool_.Connected());
 }
 
-TEST_F(MeasurePanelTest, TheSwitchesTurnTheLabelsOnAndOff) {
+TEST_F(SetMeasureTest, TheSwitchesTurnTheLabelsOnAndOff) {
     click("chkShowAngle");
     later(1);
     click("chkShowLength");
@@ -183,7 +183,7 @@ TEST_F(MeasurePanelTest, TheSwitchesTurnTheLabelsOnAndOff) {
     EXPECT_EQ(view_.buttons[MeasureControl::chkShowAngle], (ButtonLook{rgb(187, 168, 0), true}));
 }
 
-TEST_F(MeasurePanelTest, ADarkColourShowsWhiteText) {
+TEST_F(SetMeasureTest, ADarkColourShowsWhiteText) {
     panel_.setColorA(rgb(0, 0, 128));
     panel_.setColorB(rgb(255, 255, 0));
     EXPECT_EQ(tool_.ColorA(), rgb(0, 0, 128));
@@ -194,19 +194,19 @@ TEST_F(MeasurePanelTest, ADarkColourShowsWhiteText) {
               (ButtonLook{rgb(255, 255, 0), false, rgb(0, 0, 0)}));
 }
 
-TEST_F(MeasurePanelTest, TheLineGoesToTheToolAndToItsButton) {
+TEST_F(SetMeasureTest, TheLineGoesToTheToolAndToItsButton) {
     panel_.setLineWidth(0);
     EXPECT_EQ(tool_.LineWidth(), 0);
     EXPECT_EQ(shownLine(), drawLinePicture(0, {32, 16}).argb);
 }
 
-TEST_F(MeasurePanelTest, AColourIsNoStepOfUndo) {
+TEST_F(SetMeasureTest, AColourIsNoStepOfUndo) {
     panel_.setColorA(0x123456);
     panel_.AddHistoryStep();
     EXPECT_FALSE(tool_.History().UndoPossible());
 }
 
-TEST_F(MeasurePanelTest, ColoursAndLineComeFromTheirDialogs) {
+TEST_F(SetMeasureTest, ColoursAndLineComeFromTheirDialogs) {
     commands_.color = rgb(0, 0, 64);
     click("cmdColorA");
     commands_.color = rgb(255, 255, 128);
@@ -220,7 +220,7 @@ TEST_F(MeasurePanelTest, ColoursAndLineComeFromTheirDialogs) {
     EXPECT_FALSE(tool_.History().UndoPossible());
 }
 
-TEST_F(MeasurePanelTest, CancelledDialogsChangeNothing) {
+TEST_F(SetMeasureTest, CancelledDialogsChangeNothing) {
     const Color colorA = tool_.ColorA();
     const MeasureUnits units{0, 1, 0.5, "km"};
     panel_.setUnits(units);
@@ -236,7 +236,7 @@ TEST_F(MeasurePanelTest, CancelledDialogsChangeNothing) {
     EXPECT_EQ(view_.refreshes, 0);
 }
 
-TEST_F(MeasurePanelTest, OnlyThePauseButtonBringsAPausedToolBack) {
+TEST_F(SetMeasureTest, OnlyThePauseButtonBringsAPausedToolBack) {
     click("cmdPause");
     EXPECT_FALSE(visible_[&tool_]);
     EXPECT_FALSE(view_.enabling.controls);
@@ -245,12 +245,12 @@ TEST_F(MeasurePanelTest, OnlyThePauseButtonBringsAPausedToolBack) {
     EXPECT_TRUE(view_.enabling.controls);
 }
 
-TEST_F(MeasurePanelTest, TheButtonAsksForTheRemoval) {
+TEST_F(SetMeasureTest, TheButtonAsksForTheRemoval) {
     click("cmdDelete");
     EXPECT_EQ(view_.removeRequests, 1);
 }
 
-TEST_F(MeasurePanelTest, AnyModifierBlocksTheDeleteKey) {
+TEST_F(SetMeasureTest, AnyModifierBlocksTheDeleteKey) {
     for (const int shift : {modifier::shift, modifier::ctrl, modifier::alt}) {
         tool_.keyDown(key::remove, shift);
     }
@@ -259,7 +259,7 @@ TEST_F(MeasurePanelTest, AnyModifierBlocksTheDeleteKey) {
     EXPECT_EQ(view_.removeRequests, 1);
 }
 
-TEST_F(MeasurePanelTest, TheDefaultPlaceIsAStepOfUndoAndKeepsTheShape) {
+TEST_F(SetMeasureTest, TheDefaultPlaceIsAStepOfUndoAndKeepsTheShape) {
     click("cmdDefaultPos");
     EXPECT_EQ(tool_.LineA(), (Line{500, 499, 500, 400}));
     EXPECT_EQ(tool_.LineB(), (Line{549, 400, 500, 400}));
@@ -268,7 +268,7 @@ TEST_F(MeasurePanelTest, TheDefaultPlaceIsAStepOfUndoAndKeepsTheShape) {
     EXPECT_EQ(tool_.LineA(), (Line{100, 199, 100, 100}));
 }
 
-TEST_F(MeasurePanelTest, TheSelectedLookComesOnceWithItsEvent) {
+TEST_F(SetMeasureTest, TheSelectedLookComesOnceWithItsEvent) {
     panel_.setSelected(true);
     later(1);
     panel_.ShowAllProps(false);

@@ -1,4 +1,4 @@
-#include "stencil/StencilPanel.h"
+#include "stencil/ctlSetRatioGrid.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -47,46 +47,47 @@ PatternSetting patternValue(INIFile& file, std::size_t slot) {
 
 }  // namespace
 
-StencilPanel::StencilPanel(ctlRatioGrid& tool, const PanelPorts& ports, StencilCommands& commands,
-                           const ToolSettings& settings, const SpecialRatios& ratios)
+ctlSetRatioGrid::ctlSetRatioGrid(ctlRatioGrid& tool, const PanelPorts& ports,
+                                 StencilCommands& commands, const ToolSettings& settings,
+                                 const SpecialRatios& ratios)
     : SettingControl(tool, stencilPanelDesign(), ports),
       tool_(tool),
       commands_(commands),
       settings_(settings),
       ratios_(ratios) {}
 
-void StencilPanel::setColor(ormala::Color color) {
+void ctlSetRatioGrid::setColor(ormala::Color color) {
     view().showButton(StencilControl::cmdColor, colorButtonLook(color));
     tool_.setColor(color);
 }
 
-void StencilPanel::stepMove(const Press& press) {
+void ctlSetRatioGrid::stepMove(const Press& press) {
     const Grid* grid = press.shift != 0 ? &settings_.grid : nullptr;
     const StencilState state{tool_.RectBound(), tool_.RotationAngle(), {}};
     tool_.setRectBound(afterMoveStep(state, press.index, grid));
 }
 
-void StencilPanel::stepAngle(const Press& press) {
+void ctlSetRatioGrid::stepAngle(const Press& press) {
     tool_.ModifyAngle(press.index == 1, angleStepOf(press.shift));
 }
 
-void StencilPanel::clickAngleZero(const Press& press) {
+void ctlSetRatioGrid::clickAngleZero(const Press& press) {
     tool_.setRotationAngle(zeroAngleOf(press.shift));
     changed();
 }
 
-void StencilPanel::clickFullSize() {
+void ctlSetRatioGrid::clickFullSize() {
     tool_.setRotationAngle(0);
     tool_.CenterToScreen(false, 0, true, false);
     changed();
 }
 
-void StencilPanel::clickMoveCenter(const Press& press) {
+void ctlSetRatioGrid::clickMoveCenter(const Press& press) {
     tool_.CenterToScreen((press.shift & modifier::ctrl) != 0, 0, false, false);
     changed();
 }
 
-void StencilPanel::clickEditRatio() {
+void ctlSetRatioGrid::clickEditRatio() {
     const double present = PixelRatio(tool_.RectBound(), false);
     const auto wished = commands_.EditRatio(present);
     if (wished && *wished != present) {
@@ -95,7 +96,7 @@ void StencilPanel::clickEditRatio() {
     }
 }
 
-void StencilPanel::clickSelectPattern() {
+void ctlSetRatioGrid::clickSelectPattern() {
     PatternList patterns = tool_.PatternList();
     if (commands_.SelectPattern(patterns, patternTab_)) {
         tool_.setPatternList(patterns);
@@ -103,17 +104,17 @@ void StencilPanel::clickSelectPattern() {
     }
 }
 
-void StencilPanel::clickColor() {
+void ctlSetRatioGrid::clickColor() {
     setColor(dialogs().SelectColor(Color()));
     AddHistoryStep();
 }
 
-void StencilPanel::clickSendMouseInput() {
+void ctlSetRatioGrid::clickSendMouseInput() {
     endPreview();
     commands_.applyMouseAction(tool_);
 }
 
-void StencilPanel::hoverSendMouseInput(bool over) {
+void ctlSetRatioGrid::hoverSendMouseInput(bool over) {
     if (over) {
         view().runTimer(PanelTimer::tmrDelayMousePreview, previewMilliseconds);
     } else {
@@ -121,7 +122,7 @@ void StencilPanel::hoverSendMouseInput(bool over) {
     }
 }
 
-void StencilPanel::timerTicked(PanelTimer timer) {
+void ctlSetRatioGrid::timerTicked(PanelTimer timer) {
     if (timer == PanelTimer::tmrDelayMousePreview) {
         view().runTimer(timer, 0);
         tool_.setPreviewMouseAction(true);
@@ -130,18 +131,18 @@ void StencilPanel::timerTicked(PanelTimer timer) {
     }
 }
 
-void StencilPanel::endPreview() {
+void ctlSetRatioGrid::endPreview() {
     view().runTimer(PanelTimer::tmrDelayMousePreview, 0);
     tool_.setPreviewMouseAction(false);
 }
 
-void StencilPanel::letGo() {
+void ctlSetRatioGrid::letGo() {
     SettingControl::letGo();
     endPreview();
 }
 
 /// All patterns of the tool together.
-void StencilPanel::showState() {
+void ctlSetRatioGrid::showState() {
     if (shownPatterns_ == tool_.PatternList()) {
         return;
     }
@@ -152,7 +153,7 @@ void StencilPanel::showState() {
     });
 }
 
-void StencilPanel::readKeys(INIFile& file) {
+void ctlSetRatioGrid::readKeys(INIFile& file) {
     tool_.setRectBound(rectValue(file));
     tool_.setRotationAngle(finiteValue(file, "RotationAngle", 0));
     setColor(file.LongValue("Color", missingColor::stencil));
@@ -164,7 +165,7 @@ void StencilPanel::readKeys(INIFile& file) {
     tool_.setPatternList(patterns);
 }
 
-bool StencilPanel::visitKeys(ToolKeys& keys) const {
+bool ctlSetRatioGrid::visitKeys(ToolKeys& keys) const {
     const Rect& rect = tool_.RectBound();
     bool going =
         keys.number("RectBoundTop", rect.top) && keys.number("RectBoundRight", rect.right) &&
@@ -180,19 +181,19 @@ bool StencilPanel::visitKeys(ToolKeys& keys) const {
     return going;
 }
 
-void StencilPanel::setDefaultColors(ToolColors& colors) {
+void ctlSetRatioGrid::setDefaultColors(ToolColors& colors) {
     setColor(colors.NextDefaultToolColor(static_cast<int>(ToolKind::stencil), false));
 }
 
-void StencilPanel::CenterToScreen(double offset) {
+void ctlSetRatioGrid::CenterToScreen(double offset) {
     tool_.CenterToScreen(false, offset, false, true);
 }
 
-std::vector<ControlText> StencilPanel::texts() const {
+std::vector<ControlText> ctlSetRatioGrid::texts() const {
     return stencilReadOuts(tool_.RectBound(), tool_.RotationAngle(), ratios_, settings_.textForm);
 }
 
-void StencilPanel::placeByDefault() {
+void ctlSetRatioGrid::placeByDefault() {
     tool_.setRotationAngle(0);
     tool_.CenterToScreen(false, 0, false, true);
 }

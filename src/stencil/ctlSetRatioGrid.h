@@ -9,14 +9,14 @@
 namespace ormala {
 
 /// The panel of a stencil. Each event of a button is one call.
-class StencilPanel : public SettingControl {
+class ctlSetRatioGrid : public SettingControl {
   public:
     /// How long the mouse rests on `cmdSendMouseInput` before the preview comes.
     static constexpr unsigned previewMilliseconds = 777;
 
     /// All must outlive the panel.
-    StencilPanel(ctlRatioGrid& tool, const PanelPorts& ports, StencilCommands& commands,
-                 const ToolSettings& settings, const SpecialRatios& ratios);
+    ctlSetRatioGrid(ctlRatioGrid& tool, const PanelPorts& ports, StencilCommands& commands,
+                    const ToolSettings& settings, const SpecialRatios& ratios);
 
     [[nodiscard]] ctlRatioGrid& RefControl() { return tool_; }
 

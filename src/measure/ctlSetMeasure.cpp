@@ -1,4 +1,4 @@
-#include "measure/MeasurePanel.h"
+#include "measure/ctlSetMeasure.h"
 
 #include <array>
 #include <utility>
@@ -37,66 +37,66 @@ bool visitLine(ToolKeys& visitor, const LineKeys& keys, const Line& line) {
 
 }  // namespace
 
-MeasurePanel::MeasurePanel(ctlMeasure& tool, const PanelPorts& ports, SelectUnits selectUnits,
-                           const ToolSettings& settings)
+ctlSetMeasure::ctlSetMeasure(ctlMeasure& tool, const PanelPorts& ports, SelectUnits selectUnits,
+                             const ToolSettings& settings)
     : SettingControl(tool, measurePanelDesign(), ports),
       tool_(tool),
       selectUnits_(std::move(selectUnits)),
       settings_(settings) {}
 
-void MeasurePanel::setColorA(Color color) {
+void ctlSetMeasure::setColorA(Color color) {
     view().showButton(MeasureControl::cmdColorA, colorButtonLook(color));
     tool_.setColorA(color);
 }
 
-void MeasurePanel::setColorB(Color color) {
+void ctlSetMeasure::setColorB(Color color) {
     view().showButton(MeasureControl::cmdColorB, colorButtonLook(color));
     tool_.setColorB(color);
 }
 
-void MeasurePanel::setNumber(int number) {
+void ctlSetMeasure::setNumber(int number) {
     SettingControl::setNumber(number);
     view().showTexts({title()});
     tool_.setNumber(number);
 }
 
-ControlText MeasurePanel::title() const {
+ControlText ctlSetMeasure::title() const {
     return {CommonControl::lblTitle, MlString(325, "Measurement Tool ") + std::to_string(Number())};
 }
 
-void MeasurePanel::setConnected(bool connected) {
+void ctlSetMeasure::setConnected(bool connected) {
     tool_.setConnected(connected);
     changed();
 }
 
-void MeasurePanel::toggleAngleLabels() {
+void ctlSetMeasure::toggleAngleLabels() {
     tool_.setLabelsAngleVisible(!tool_.LabelsAngleVisible());
     ShowAllProps(false);
 }
 
-void MeasurePanel::toggleLengthLabels() {
+void ctlSetMeasure::toggleLengthLabels() {
     tool_.setLabelsLengthVisible(!tool_.LabelsLengthVisible());
     ShowAllProps(false);
 }
 
-void MeasurePanel::clickColorA() {
+void ctlSetMeasure::clickColorA() {
     setColorA(dialogs().SelectColor(ColorA()));
     AddHistoryStep();
 }
 
-void MeasurePanel::clickColorB() {
+void ctlSetMeasure::clickColorB() {
     setColorB(dialogs().SelectColor(ColorB()));
     AddHistoryStep();
 }
 
-void MeasurePanel::clickUnits() {
+void ctlSetMeasure::clickUnits() {
     if (selectUnits_(tool_)) {
         tool_.PositionGrips();
         ShowAllProps(false);
     }
 }
 
-void MeasurePanel::readKeys(INIFile& file) {
+void ctlSetMeasure::readKeys(INIFile& file) {
     loadLines(file);
     setLineWidth(file.LongValue("LineWidth", ToolHabits{}.LineWidth));
     setColorA(file.LongValue("ColorA", missingColor::lineA));
@@ -112,7 +112,7 @@ void MeasurePanel::readKeys(INIFile& file) {
 }
 
 /// The connection comes first, since it decides where line b ends if the file doesn't say so.
-void MeasurePanel::loadLines(INIFile& file) {
+void ctlSetMeasure::loadLines(INIFile& file) {
     tool_.setConnected(flagValue(file, "Connected", false));
     tool_.setLineA(lineValue(file, keysOfA, fileLineA));
     Line missing = fileLineB;
@@ -122,7 +122,7 @@ void MeasurePanel::loadLines(INIFile& file) {
     tool_.setLineB(lineValue(file, keysOfB, missing));
 }
 
-bool MeasurePanel::visitKeys(ToolKeys& keys) const {
+bool ctlSetMeasure::visitKeys(ToolKeys& keys) const {
     return keys.flag("Connected", tool_.Connected()) && visitLine(keys, keysOfA, tool_.LineA()) &&
            visitLine(keys, keysOfB, tool_.LineB()) && keys.integer("LineWidth", LineWidth()) &&
            keys.integer("ColorA", ColorA()) && keys.integer("ColorB", ColorB()) &&
@@ -135,29 +135,29 @@ bool MeasurePanel::visitKeys(ToolKeys& keys) const {
            keys.integer("Number", Number());
 }
 
-void MeasurePanel::setDefaultColors(ToolColors& colors) {
+void ctlSetMeasure::setDefaultColors(ToolColors& colors) {
     constexpr int kind = static_cast<int>(ToolKind::measurement);
     setColorA(colors.NextDefaultToolColor(kind, false));
     setColorB(colors.NextDefaultToolColor(kind, false));
 }
 
-void MeasurePanel::setUnits(const MeasureUnits& units) {
+void ctlSetMeasure::setUnits(const MeasureUnits& units) {
     tool_.setAngleMode(units.AngleMode);
     tool_.setLengthMode(units.LengthMode);
     tool_.setLengthFactor(units.LengthFactor);
     tool_.setLengthUnit(units.LengthUnit);
 }
 
-MeasureUnits MeasurePanel::units() const {
+MeasureUnits ctlSetMeasure::units() const {
     return {tool_.AngleMode(), tool_.LengthMode(), tool_.LengthFactor(), tool_.LengthUnit()};
 }
 
-ToolHabits MeasurePanel::habits() const {
+ToolHabits ctlSetMeasure::habits() const {
     return {LineWidth(), tool_.Connected(), tool_.LabelsAngleVisible(),
             tool_.LabelsLengthVisible()};
 }
 
-void MeasurePanel::inherit(const ToolHabits& former) {
+void ctlSetMeasure::inherit(const ToolHabits& former) {
     const ToolChanges changes(tool_);
     SettingControl::inherit(former);
     tool_.setConnected(former.Connected);
@@ -165,24 +165,24 @@ void MeasurePanel::inherit(const ToolHabits& former) {
     tool_.setLabelsLengthVisible(former.LabelsLengthVisible);
 }
 
-void MeasurePanel::CenterToScreen(double offset) {
+void ctlSetMeasure::CenterToScreen(double offset) {
     tool_.CenterToScreen(false, offset, true);
 }
 
-std::vector<ControlText> MeasurePanel::texts() const {
+std::vector<ControlText> ctlSetMeasure::texts() const {
     auto shown = measureReadOuts(tool_.state(), units(), settings_.textForm);
     shown.push_back(title());
     return shown;
 }
 
-void MeasurePanel::showState() {
+void ctlSetMeasure::showState() {
     view().showButton(MeasureControl::optConnect, switchLook(tool_.Connected()));
     view().showButton(MeasureControl::optDisconnect, switchLook(!tool_.Connected()));
     view().showButton(MeasureControl::chkShowAngle, switchLook(tool_.LabelsAngleVisible()));
     view().showButton(MeasureControl::chkShowLength, switchLook(tool_.LabelsLengthVisible()));
 }
 
-void MeasurePanel::placeByDefault() {
+void ctlSetMeasure::placeByDefault() {
     tool_.CenterToScreen(false, 0, false);
 }
 
