@@ -137,17 +137,16 @@ void SettingControl::SetUndoButtons() {
 }
 
 void SettingControl::press(const PanelControl& step, int shift) {
-    repeat_.press(shift, [this, &step, shift] {
-        step.press.perform(*this, {step.index.value_or(0), shift, true});
-        ShowAllProps(false);
-    });
+    repeat_.press(shift, [this, &step, shift] { takeStep(step, shift, true); });
 }
 
 void SettingControl::pressKey(const PanelControl& step, int shift) {
-    repeat_.pressKey([this, &step, shift] {
-        step.press.perform(*this, {step.index.value_or(0), shift, false});
-        ShowAllProps(false);
-    });
+    repeat_.pressKey([this, &step, shift] { takeStep(step, shift, false); });
+}
+
+void SettingControl::takeStep(const PanelControl& step, int shift, bool byMouse) {
+    step.press.perform(*this, {step.index.value_or(0), shift, byMouse});
+    ShowAllProps(false);
 }
 
 void SettingControl::AddHistoryStep() {
@@ -156,21 +155,19 @@ void SettingControl::AddHistoryStep() {
 }
 
 void SettingControl::Undo() {
-    if (pause_) {
-        return;
-    }
-    letGo();
-    tool_.History().Undo();
-    SetUndoButtons();
-    ShowAllProps(false);
+    goTo(&HistoryHelper::Undo);
 }
 
 void SettingControl::Redo() {
+    goTo(&HistoryHelper::Redo);
+}
+
+void SettingControl::goTo(void (HistoryHelper::*neighbour)()) {
     if (pause_) {
         return;
     }
     letGo();
-    tool_.History().Redo();
+    (tool_.History().*neighbour)();
     SetUndoButtons();
     ShowAllProps(false);
 }

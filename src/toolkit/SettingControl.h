@@ -139,6 +139,8 @@ class SettingControl {
     void showPause();
     void SetUndoButtons();
     void keyDownFiltered(int key, int shift);
+    void takeStep(const PanelControl& step, int shift, bool byMouse);
+    void goTo(void (HistoryHelper::*neighbour)());
     [[nodiscard]] std::string removeText() const;
 
     GripTool& tool_;
