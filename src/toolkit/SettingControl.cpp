@@ -14,7 +14,7 @@ ButtonLook colorButtonLook(Color color) {
 }
 
 ButtonLook switchLook(bool on) {
-    return {on ? onColor : offColor, on};
+    return {on ? dark::on : dark::off, on};
 }
 
 SettingControl::SettingControl(GripTool& tool, const PanelDesign& design, const PanelPorts& ports)

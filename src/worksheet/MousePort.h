@@ -1,7 +1,7 @@
 #pragma once
 
-#include "scene/DirtyRegion.h"
 #include "modAPI/PixelRect.h"
+#include "scene/DirtyRegion.h"
 
 namespace ormala {
 

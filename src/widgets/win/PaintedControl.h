@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
+#include "modAPI/PixelRect.h"
 #include "platform/win/Accessible.h"
 #include "platform/win/TipWindow.h"
 #include "platform/win/Window.h"
-#include "modAPI/PixelRect.h"
 
 namespace ormala {
 
