@@ -10,7 +10,7 @@ namespace ormala {
 
 namespace {
 
-constexpr double furthest = std::numeric_limits<int>::max() / 4;
+constexpr double furthest = std::numeric_limits<int>::max() / 4.0;
 
 int pixelOf(double place, int origin) {
     return static_cast<int>(RoundHalfAway(std::clamp(place, -furthest, furthest))) + origin;

@@ -112,7 +112,8 @@ Palette mutedColors() {
 }  // namespace
 
 Color Palette::at(PixelPoint field) const {
-    return colors.at(static_cast<std::size_t>(field.y * size.width + field.x));
+    const int place = field.y * size.width + field.x;
+    return colors.at(static_cast<std::size_t>(place));
 }
 
 PixelPoint Palette::clamped(PixelPoint field) const {

@@ -82,7 +82,7 @@ GripSet makeMeasureGrips() {
     for (int i = 0; i < measureGripCount; ++i) {
         grips.push_back(makeGrip(static_cast<MeasureGrip>(i)));
     }
-    return GripSet(std::move(grips), forwardOrder(), measureStrokeCount);
+    return {std::move(grips), forwardOrder(), measureStrokeCount};
 }
 
 Point measureGripPoint(MeasureGrip grip, const MeasureState& state) {

@@ -127,7 +127,7 @@ std::uint32_t PictureRaster::average(int x, int y) const {
 
 PixelImage PictureRaster::reduced() const {
     PixelImage image{size_, {}};
-    image.argb.reserve(points_.size() / (oversampling * oversampling));
+    image.argb.reserve(points_.size() / oversampling / oversampling);
     for (int y = 0; y < size_.height; ++y) {
         for (int x = 0; x < size_.width; ++x) {
             image.argb.push_back(average(x, y));

@@ -67,7 +67,8 @@ class OutlineReader {
     double number() {
         skipBlanks();
         double value = 0;
-        const auto end = std::from_chars(rest_.data(), rest_.data() + rest_.size(), value).ptr;
+        const char* const end =
+            std::from_chars(rest_.data(), rest_.data() + rest_.size(), value).ptr;
         rest_.remove_prefix(static_cast<std::size_t>(end - rest_.data()));
         return value;
     }

@@ -32,6 +32,7 @@ std::optional<double> RatioChoice::newRatio() const {
 
 std::vector<std::string> RatioChoice::rows(const TextWidth& widthOf) const {
     std::vector<int> widths;
+    widths.reserve(specialRatioCount);
     for (int i = 0; i < specialRatioCount; ++i) {
         widths.push_back(widthOf(ratios_.caption(i, inverted_)));
     }

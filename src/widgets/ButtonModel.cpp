@@ -130,7 +130,7 @@ void ButtonModel::keyUp(const KeyArguments& arguments) {
     events_.KeyUp.raise(arguments);
 }
 
-bool ButtonModel::pressAccessKey() {
+bool ButtonModel::pressAccessKey() const {
     if (enabled_) {
         events_.Click.raise();
         return true;

@@ -75,7 +75,7 @@ class ButtonModel {
     void keyDown(const KeyArguments& arguments);
     void keyUp(const KeyArguments& arguments);
     /// The access key of the caption; false if the button is disabled.
-    bool pressAccessKey();
+    bool pressAccessKey() const;
 
     void gainFocus();
     void loseFocus();

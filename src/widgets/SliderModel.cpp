@@ -176,7 +176,8 @@ void SliderModel::move(PixelPoint point) {
     if (held_ == Held::handle) {
         MoveSlider(leftAtPress_ + point.x - pressX_);
     } else if (held_ == Held::track) {
-        MoveSlider(point.x - layout_.handle.width / 2);
+        const int half = layout_.handle.width / 2;
+        MoveSlider(point.x - half);
     }
 }
 

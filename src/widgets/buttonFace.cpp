@@ -192,7 +192,8 @@ void paintSign(PixelImage& face, const PixelRect& place, const ButtonDesign& des
             int covered = 0;
             for (int part = 0; part < fine * fine; ++part) {
                 const double px = x + (part % fine + 0.5) / fine;
-                const double py = y + (part / fine + 0.5) / fine;
+                const int row = part / fine;
+                const double py = y + (row + 0.5) / fine;
                 const SignPoint point{2 * px / side - 1, 2 * py / side - 1};
                 covered += isInk(design.Sign, point, line, state.checked) ? 1 : 0;
             }

@@ -177,7 +177,8 @@ TEST_F(ToolListTest, NoMeasurementsLeaveNumberOneFree) {
 
 double offsetOf(ctlSetRatioGrid& panel, int sheetWidth) {
     const Rect& rect = panel.RefControl().RectBound();
-    return (rect.left + rect.right) / 2 - sheetWidth / 2;
+    const int middle = sheetWidth / 2;
+    return (rect.left + rect.right) / 2 - middle;
 }
 
 TEST_F(ToolListTest, TheFirstNewToolAfterTheStartComesAtTheSecondOffset) {

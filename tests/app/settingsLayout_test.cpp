@@ -9,7 +9,7 @@ namespace {
 
 class SettingsLayoutTest : public testing::TestWithParam<int> {
   protected:
-    [[nodiscard]] int scaled(int length) const { return (length * GetParam() + 48) / 96; }
+    [[nodiscard]] static int scaled(int length) { return (length * GetParam() + 48) / 96; }
 
     SettingsLayout layout_{GetParam()};
 };

@@ -24,6 +24,10 @@ int penStyle(const Pen& pen) {
 static_assert(sizeof(PixelPoint) == sizeof(POINT));
 static_assert(offsetof(PixelPoint, y) == offsetof(POINT, y));
 
+std::span<const POINT> systemPoints(std::span<const PixelPoint> points) {
+    return {reinterpret_cast<const POINT*>(points.data()), points.size()};
+}
+
 }  // namespace
 
 COLORREF colorRef(Color color) {
@@ -93,25 +97,21 @@ void GdiCanvas::take(const Pen& pen) {
     pen_ = pen;
 }
 
-std::span<const POINT> GdiCanvas::points(std::span<const PixelPoint> pixels) {
-    return {reinterpret_cast<const POINT*>(pixels.data()), pixels.size()};
-}
-
 void GdiCanvas::line(const Pen& pen, PixelPoint from, PixelPoint to) {
     take(pen);
     MoveToEx(context_, from.x, from.y, nullptr);
     LineTo(context_, to.x, to.y);
 }
 
-void GdiCanvas::polyline(const Pen& pen, std::span<const PixelPoint> pixels) {
+void GdiCanvas::polyline(const Pen& pen, std::span<const PixelPoint> points) {
     take(pen);
-    const auto list = points(pixels);
+    const auto list = systemPoints(points);
     Polyline(context_, list.data(), static_cast<int>(list.size()));
 }
 
-void GdiCanvas::bezier(const Pen& pen, std::span<const PixelPoint> pixels) {
+void GdiCanvas::bezier(const Pen& pen, std::span<const PixelPoint> points) {
     take(pen);
-    const auto list = points(pixels);
+    const auto list = systemPoints(points);
     PolyBezier(context_, list.data(), static_cast<DWORD>(list.size()));
 }
 

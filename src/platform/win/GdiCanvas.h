@@ -41,7 +41,6 @@ class GdiCanvas : public Canvas {
 
   private:
     void take(const Pen& pen);
-    [[nodiscard]] std::span<const POINT> points(std::span<const PixelPoint> pixels);
 
     HDC context_;
     int saved_;
