@@ -31,6 +31,11 @@ if(ORMALA_SANITIZE)
   target_link_options(ormala_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(ORMALA_COVERAGE)
+  target_compile_options(ormala_options INTERFACE --coverage)
+  target_link_options(ormala_options INTERFACE --coverage)
+endif()
+
 if(ORMALA_FUZZ)
   target_compile_options(ormala_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
