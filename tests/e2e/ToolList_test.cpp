@@ -192,7 +192,7 @@ int contentTop(const PanelScene& scene) {
 TEST(ToolList, WheelAndThumbAndArrowsScrollIt) {
     PanelScene scene(manyStencils(12));
     ASSERT_TRUE(scene.waitForPanels(12));
-    ASSERT_EQ(contentTop(scene), 0);
+    ASSERT_TRUE(waitUntil([&] { return contentTop(scene) == 0; }));
     scene.mouse.moveTo(scene.panel(1).center());
     scene.mouse.wheel(-1);
     EXPECT_TRUE(waitUntil([&] { return contentTop(scene) < -50; }));
