@@ -150,7 +150,7 @@ TEST(LensMark, SquareWithoutAGridFramesThePixelFromOutside) {
 TEST(LensMark, CrossesGoThroughTheMiddleOfThePixel) {
     for (const bool grid : {false, true}) {
         const LensImageLook look = lookAt(8, grid);
-        const int middle = grid ? 4 : 4;
+        constexpr int middle = 4;
         const int x = 5 * 8 - 1 + middle;
         const int y = 7 * 8 - 1 + middle;
         const PixelSheet full = marked(look, 1);

@@ -19,7 +19,7 @@ ScaleGlyphs glyphs() {
     made.height = 13;
     made.sampleWidth = 36;
     for (auto& glyph : made.glyphs) {
-        glyph = {6, std::vector<std::uint8_t>(6 * 13, 0)};
+        glyph = {6, std::vector<std::uint8_t>(std::size_t{6} * 13, 0)};
     }
     return made;
 }
@@ -134,8 +134,7 @@ TEST(RulerMarks, StandAtTheMiddleOfTheirEnlargedPixels) {
     for (int factor = 1; factor <= 10; ++factor) {
         for (const bool grid : {false, true}) {
             const LensLayout layout = layoutOf(factor, grid);
-            const int middle =
-                grid && factor > 1 ? factor / 2 - 1 : static_cast<int>(factor / 2.0 + 0.5) - 1;
+            const int middle = grid && factor > 1 ? factor / 2 - 1 : (factor + 1) / 2 - 1;
             const RulerMark top =
                 rulerMark(rulerLook(LensScale::top, layout, glyphs(), 0, 96), 7 * factor);
             EXPECT_EQ(top.Value, 7);

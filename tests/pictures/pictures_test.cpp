@@ -21,6 +21,7 @@ PixelImage square(Picture picture, int side) {
 
 std::vector<Picture> allPictures() {
     std::vector<Picture> pictures;
+    pictures.reserve(pictureCount);
     for (int index = 0; index < pictureCount; ++index) {
         pictures.push_back(static_cast<Picture>(index));
     }

@@ -19,7 +19,7 @@ const std::string deniedDelete =
 class INIFileTest : public testing::Test {
   protected:
     void store(const std::string& value) { ini_.bytes() = "[S]\r\nKey=" + value + "\r\n"; }
-    void expectError(const std::string& begin) {
+    void expectError(const std::string& begin) const {
         EXPECT_EQ(ini_.file.LastError(), begin + MemoryINIFile::path + "'.");
     }
 

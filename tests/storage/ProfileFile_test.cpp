@@ -23,10 +23,10 @@ class ProfileFileTest : public testing::Test {
         return file_.value("A", key, defaultText, bufferSize);
     }
     ProfileFile::Scope scope() {
-        return ProfileFile::Scope(file_, [this](const std::string& description) {
-            ++failures_;
-            description_ = description;
-        });
+        return {file_, [this](const std::string& description) {
+                    ++failures_;
+                    description_ = description;
+                }};
     }
 
     const std::string path_ = "C:\\data\\a.ini";

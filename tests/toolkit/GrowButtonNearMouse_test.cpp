@@ -10,7 +10,7 @@ class GrowButtonTest : public testing::Test {
   protected:
     static WindowId id(const int& of) { return &of; }
 
-    GrowingButton button(const PixelRect& place, const int& window) const {
+    static GrowingButton button(const PixelRect& place, const int& window) {
         return {id(window), place, true, false, nullptr};
     }
     [[nodiscard]] std::optional<std::size_t> chosen(int dpi = 96) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace ormala {
 namespace {
 
@@ -13,12 +15,8 @@ ButtonDesign withCorners(int style, bool used = true) {
 }
 
 bool covers(const ButtonDesign& design, PixelSize size, PixelPoint point, int dpi = 96) {
-    for (const PixelRect& rect : regionOfShape(buttonShape(design, size, dpi))) {
-        if (rect.contains(point)) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(regionOfShape(buttonShape(design, size, dpi)),
+                               [&](const PixelRect& rect) { return rect.contains(point); });
 }
 
 int area(const ButtonDesign& design, PixelSize size, int dpi = 96) {
