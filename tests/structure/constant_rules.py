@@ -19,8 +19,8 @@ BY_CHANCE = re.compile(r"-?\d(\.0?)?[Ff]?")
 # The rule of the colours looks after these.
 COLOR = re.compile(r"rgb\(|0x[0-9A-Fa-f]{6}$")
 
-# What only one file knows: the digits of a hexadecimal number, the end of a line of a file.
-ONCE = ('"0123456789ABCDEF"', r'"\r\n"')
+# What only one file knows.
+ONCE = ('"0123456789ABCDEF"',)
 
 MODE = r"(?:\b|(?<=[a-z]))[mM]ode_?(?:\(\))?"
 BARE_MODE = re.compile(
