@@ -93,7 +93,7 @@ TEST_F(GdiFootprint, HoldsAStrokeOfEveryPenInEveryDirection) {
 
 TEST_F(GdiFootprint, HoldsEveryPatternWithEveryPen) {
     constexpr Rect places[] = {{30, 40, 210, 170}, {100.5, 20, 101.5, 190}, {-150, -90, 130, 110}};
-    for (int pattern = 0; pattern < PatternTable::count; ++pattern) {
+    for (int pattern = 0; pattern < PatternTable::count(); ++pattern) {
         int painted = 0;
         for (const Rect& bound : places) {
             for (const double angle : {0.0, 0.7, halfPi}) {

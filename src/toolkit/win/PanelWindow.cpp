@@ -108,7 +108,7 @@ void PanelWindow::makeControl(const PanelControl& row, int id) {
 void PanelWindow::makeBand(Control& made, const PanelControl& row, int id) {
     made.band = std::make_unique<GradShape>(handle(), id, row.name);
     made.band->setColorBottomRight(row.part == PanelPart::titleBand ? look_.titleBottomRight
-                                                                    : deepestEdge);
+                                                                    : dark::deepestEdge);
 }
 
 void PanelWindow::makeLabel(Control& made, const PanelControl& row, int id) {
