@@ -17,10 +17,10 @@ constexpr Color dark = 0x4F4F4F;
 constexpr Color white = 0xFFFFFF;
 constexpr Color brightGreen = rgb(0, 255, 0);
 constexpr Color darkGreen = rgb(0, 127, 0);
-constexpr PixelSize sheet{700, 700};
+constexpr PixelSize sheetSize{700, 700};
 
 RasterCanvas drawing(const CircleCompass& compass) {
-    RasterCanvas canvas(sheet);
+    RasterCanvas canvas(sheetSize);
     compass.draw(canvas);
     return canvas;
 }
@@ -36,7 +36,7 @@ struct Radii {
 std::optional<Radii> radiiOf(const CircleCompass& compass) {
     const RasterCanvas canvas = drawing(compass);
     std::vector<int> found;
-    for (int x = sheet.width - 1; x > 300 && found.size() < 2; --x) {
+    for (int x = sheetSize.width - 1; x > 300 && found.size() < 2; --x) {
         if (canvas.at(x, 300) != RasterCanvas::empty) {
             found.push_back(x - 300);
         }
@@ -233,8 +233,8 @@ TEST_F(CircleCompassTest, EveryPixelThatDiffersIsReportedAsChanged) {
         const DirtyRegion changed = compass_.takeChanges();
         const RasterCanvas after = drawn();
         int missed = 0;
-        for (int y = 0; y < sheet.height; ++y) {
-            for (int x = 0; x < sheet.width; ++x) {
+        for (int y = 0; y < sheetSize.height; ++y) {
+            for (int x = 0; x < sheetSize.width; ++x) {
                 missed += before.at(x, y) != after.at(x, y) && !changed.meets({x, y, x + 1, y + 1})
                               ? 1
                               : 0;
