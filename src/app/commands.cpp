@@ -57,6 +57,14 @@ CommandState stateOfCommand(Command command, Mode mode, bool worksheetMaxSized) 
     }
 }
 
+int controlTypeOf(Command command) {
+    if (command <= Command::pauseMode) {
+        return 2;
+    }
+    const bool toggles = command >= Command::lens && command <= Command::circleCompass;
+    return toggles ? 1 : 0;
+}
+
 std::optional<ModeChange> modeChangeOf(Command command) {
     switch (command) {
         case Command::editMode:

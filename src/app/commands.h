@@ -38,6 +38,9 @@ struct CommandState {
 /// `worksheetMaxSized` says whether a full-screen worksheet can be brought back into its frame.
 CommandState stateOfCommand(Command command, Mode mode, bool worksheetMaxSized);
 
+/// The kind of a command's button: 0 a push button, 1 a toggle, 2 one of several.
+int controlTypeOf(Command command);
+
 /// Where a mode's command leads.
 struct ModeChange {
     Mode mode = Mode::edit;

@@ -1,5 +1,6 @@
 #include "app/settingsLayout.h"
 
+#include "widgets/ButtonDesign.h"
 #include "widgets/dpi.h"
 
 namespace ormala {
@@ -9,7 +10,6 @@ namespace {
 // At 96 DPI.
 constexpr int margin = 4;
 constexpr int inside = 310;
-constexpr int buttonHeight = 24;
 constexpr int smallButton = 25;
 // Each has room for its longest caption.
 constexpr int editButton = 88;
@@ -28,9 +28,9 @@ constexpr int listHeight = 64;
 constexpr int cutAboveList = 12;
 
 constexpr int firstRow = margin;
-constexpr int secondRow = firstRow + buttonHeight + margin;
-constexpr int thirdRow = secondRow + buttonHeight + margin;
-constexpr int lookRow = thirdRow + buttonHeight + margin;
+constexpr int secondRow = firstRow + textButtonHeight + margin;
+constexpr int thirdRow = secondRow + textButtonHeight + margin;
+constexpr int lookRow = thirdRow + textButtonHeight + margin;
 constexpr int pathRow = lookRow + 2 * sliderHeight + margin;
 constexpr int listTop = pathRow + pathHeight + gapAboveList;
 
@@ -47,7 +47,7 @@ class Row {
     Row& add(Command command, int width) {
         layout_.buttons[static_cast<std::size_t>(command)] = {
             scaledLength(left_, dpi_), scaledLength(top_, dpi_), scaledLength(left_ + width, dpi_),
-            scaledLength(top_ + buttonHeight, dpi_)};
+            scaledLength(top_ + textButtonHeight, dpi_)};
         left_ += width;
         return *this;
     }

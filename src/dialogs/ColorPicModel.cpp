@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "modAPI/drawingColors.h"
+#include "modAPI/textForms.h"
 #include "scene/Input.h"
 
 namespace ormala {
@@ -55,11 +56,10 @@ void ColorPicModel::SetRGBColorToCurrentPixelColor() {
 }
 
 std::string ColorPicModel::valueText() const {
-    constexpr std::string_view digits = "0123456789ABCDEF";
     std::string text = "#";
     // Red is the lowest byte and is read first.
     for (const int shift : {4, 0, 12, 8, 20, 16}) {
-        text += digits[static_cast<std::size_t>(rgbColor_ >> shift & 0xF)];
+        text += hexDigits[static_cast<std::size_t>(rgbColor_ >> shift & 0xF)];
     }
     return text;
 }

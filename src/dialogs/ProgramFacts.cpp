@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "language/MlStringModule.h"
+#include "modAPI/textForms.h"
 
 namespace ormala {
 
@@ -17,7 +18,6 @@ bool standsInLinks(char letter) {
 
 /// All bytes that have a meaning in links, or none there, become "%" and two digits.
 std::string encodedForLink(std::string_view text) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
     std::string encoded;
     for (const char letter : text) {
         if (standsInLinks(letter)) {
@@ -26,8 +26,8 @@ std::string encodedForLink(std::string_view text) {
         }
         const auto byte = static_cast<unsigned char>(letter);
         encoded += '%';
-        encoded += digits[byte / digits.size()];
-        encoded += digits[byte % digits.size()];
+        encoded += hexDigits[byte / hexDigits.size()];
+        encoded += hexDigits[byte % hexDigits.size()];
     }
     return encoded;
 }

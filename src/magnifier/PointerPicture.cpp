@@ -8,7 +8,7 @@ namespace ormala {
 
 namespace {
 
-constexpr int full = 255;
+constexpr int full = static_cast<int>(fullChannel);
 
 int channelOf(std::uint32_t pixel, unsigned shift) {
     return static_cast<int>((pixel >> shift) & 0xFFU);

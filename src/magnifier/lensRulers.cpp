@@ -21,7 +21,6 @@ bool isRowScale(LensScale scale) {
 }
 
 Color stepColor(int step, int steps, Color from, Color to) {
-    constexpr double plainMix = 100;
     return BlendColor(step, steps, from, to, plainMix, nullptr);
 }
 

@@ -1,10 +1,10 @@
 #include "measure/MeasureTexts.h"
 
+#include "modAPI/textForms.h"
+
 namespace ormala {
 
 namespace {
-
-constexpr const char* lineBreak = "\r\n";
 
 /// The length of line a is the reference of both lines.
 std::string lengthText(const MeasureState& state, double length, const MeasureUnits& units,

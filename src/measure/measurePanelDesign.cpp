@@ -10,11 +10,6 @@ namespace {
 constexpr int left = 4;
 constexpr int firstValue = 82;
 constexpr int secondValue = 187;
-constexpr int right = 292;
-
-constexpr int firstRow = 25;
-constexpr int rowPitch = 18;
-constexpr int rowHeight = 16;
 
 constexpr int commandTop = firstRow + 4 * rowPitch + 2;
 
@@ -31,7 +26,7 @@ void addValues(std::vector<PanelControl>& controls) {
         controls.push_back(first);
         controls.back().box = field(firstValue, secondValue, top);
         controls.push_back(second);
-        controls.back().box = field(secondValue, right, top);
+        controls.back().box = field(secondValue, rightEdge, top);
         top += rowPitch;
     };
     add("lblLength", 47, 48, value(lblLengthA, "lblLengthA"), value(lblLengthB, "lblLengthB"));

@@ -5,6 +5,9 @@
 
 namespace ormala {
 
+/// The plain linear mix of `BlendColor`.
+inline constexpr double plainMix = 100;
+
 /// 0x00BBGGRR. A negative value is a colour of the system: its low byte is the system's index.
 using Color = std::int32_t;
 

@@ -16,8 +16,6 @@ namespace ormala {
 
 namespace {
 
-constexpr int significantDigits = 15;
-
 /// The number 0.d1d2d3... * 10^point without its sign. No digits is zero.
 struct Decimal {
     std::string digits;

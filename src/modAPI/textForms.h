@@ -5,6 +5,12 @@
 
 namespace ormala {
 
+/// Of numbers in files and in texts: what a double holds for sure.
+inline constexpr int significantDigits = 15;
+/// Of texts on several lines and of settings files.
+inline constexpr const char* lineBreak = "\r\n";
+inline constexpr std::string_view hexDigits = "0123456789ABCDEF";
+
 /// What the user's locale and language put into the text of a number.
 struct TextForm {
     std::string decimalSeparator = ".";

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "base/Event.h"
 #include "scene/Canvas.h"
 #include "scene/DirtyRegion.h"
@@ -89,11 +91,9 @@ struct ToolEvents {
     Event<int, int> keyDownFiltered;
 };
 
-/// Called at the interval that `ToolHost::runTimer` was given.
-class Ticking {
-  public:
-    virtual ~Ticking() = default;
-    virtual void tick() = 0;
+/// What is called at the interval that `ToolHost::runTimer` was given. One timer each.
+struct Ticking {
+    std::function<void()> tick;
 };
 
 /// What a tool needs of the worksheet that it lies on.

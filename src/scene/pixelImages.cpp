@@ -7,10 +7,8 @@ namespace ormala {
 
 namespace {
 
-constexpr std::uint32_t full = 255;
-
 std::uint32_t channel(std::uint32_t pixel, unsigned shift) {
-    return (pixel >> shift) & full;
+    return (pixel >> shift) & fullChannel;
 }
 
 std::size_t indexOf(const PixelImage& image, int x, int y) {
@@ -21,18 +19,18 @@ std::size_t indexOf(const PixelImage& image, int x, int y) {
 }  // namespace
 
 std::uint32_t blended(std::uint32_t ground, std::uint32_t pixel, std::uint32_t opacity) {
-    std::uint32_t result = full << 24U;
+    std::uint32_t result = fullChannel << 24U;
     for (const unsigned shift : {0U, 8U, 16U}) {
         const std::uint32_t sum =
-            channel(pixel, shift) * opacity + channel(ground, shift) * (full - opacity);
-        result |= ((sum + full / 2) / full) << shift;
+            channel(pixel, shift) * opacity + channel(ground, shift) * (fullChannel - opacity);
+        result |= ((sum + fullChannel / 2) / fullChannel) << shift;
     }
     return result;
 }
 
 std::uint32_t opaquePixel(Color color) {
     const ColorParts parts = ColorComponents(color, nullptr);
-    return static_cast<std::uint32_t>(rgb(parts.blue, parts.green, parts.red)) | full << 24U;
+    return static_cast<std::uint32_t>(rgb(parts.blue, parts.green, parts.red)) | fullChannel << 24U;
 }
 
 PixelImage filledImage(PixelSize size, std::uint32_t pixel) {
@@ -72,8 +70,8 @@ PixelImage greyed(PixelImage image) {
         const Color color =
             rgb(static_cast<int>(channel(pixel, 16)), static_cast<int>(channel(pixel, 8)),
                 static_cast<int>(channel(pixel, 0)));
-        const auto grey = static_cast<std::uint32_t>(std::lround(Luminance(color) * full));
-        pixel = (pixel & full << 24U) | grey << 16U | grey << 8U | grey;
+        const auto grey = static_cast<std::uint32_t>(std::lround(Luminance(color) * fullChannel));
+        pixel = (pixel & fullChannel << 24U) | grey << 16U | grey << 8U | grey;
     }
     return image;
 }
@@ -81,8 +79,9 @@ PixelImage greyed(PixelImage image) {
 PixelImage faded(PixelImage image, int opacity) {
     for (std::uint32_t& pixel : image.argb) {
         const std::uint32_t alpha =
-            (channel(pixel, 24) * static_cast<std::uint32_t>(opacity) + full / 2) / full;
-        pixel = (pixel & ~(full << 24U)) | alpha << 24U;
+            (channel(pixel, 24) * static_cast<std::uint32_t>(opacity) + fullChannel / 2) /
+            fullChannel;
+        pixel = (pixel & ~(fullChannel << 24U)) | alpha << 24U;
     }
     return image;
 }

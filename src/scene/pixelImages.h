@@ -5,6 +5,9 @@
 
 namespace ormala {
 
+/// Of a pixel's red, green, blue or opacity.
+inline constexpr std::uint32_t fullChannel = 255;
+
 /// The part of a pixel that is its colour.
 constexpr std::uint32_t colorBits = 0xFFFFFFU;
 

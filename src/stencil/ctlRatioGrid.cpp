@@ -27,7 +27,7 @@ ctlRatioGrid::ctlRatioGrid(ToolHost& host, const ToolSettings& settings,
 
 ctlRatioGrid::~ctlRatioGrid() {
     if (mouseAction_.running()) {
-        host().runTimer(*this, MouseActionPreview::interval, false);
+        host().runTimer(mouseActionTicking_, MouseActionPreview::interval, false);
     }
 }
 
@@ -146,14 +146,14 @@ void ctlRatioGrid::setPreviewMouseAction(bool preview) {
 
 void ctlRatioGrid::ShowMouseAction() {
     mouseAction_.start(state_.RectBound);
-    host().runTimer(*this, MouseActionPreview::interval, true);
+    host().runTimer(mouseActionTicking_, MouseActionPreview::interval, true);
     refresh();
 }
 
-void ctlRatioGrid::tick() {
+void ctlRatioGrid::playMouseAction() {
     mouseAction_.tick(state_.RectBound);
     if (!mouseAction_.running()) {
-        host().runTimer(*this, MouseActionPreview::interval, false);
+        host().runTimer(mouseActionTicking_, MouseActionPreview::interval, false);
     }
     refresh();
 }

@@ -16,7 +16,7 @@ namespace ormala {
 
 /// The stencil: a rectangle that is placed, sized and turned on the worksheet and shows up to five
 /// patterns. Owned by the worksheet; host, settings and ratios must outlive it.
-class ctlRatioGrid : public GripTool, private Ticking {
+class ctlRatioGrid : public GripTool {
   public:
     /// Laid out by its first change.
     ctlRatioGrid(ToolHost& host, const ToolSettings& settings, const SpecialRatios& ratios);
@@ -63,7 +63,7 @@ class ctlRatioGrid : public GripTool, private Ticking {
     void hideAids() override { aids_.hide(); }
     [[nodiscard]] TipId tipOf(int grip) const override;
     void addItemsTo(DirtyRegion& region, const PixelRect& area) const override;
-    void tick() override;
+    void playMouseAction();
 
     void setDefaultState();
     void load(const StencilState& state);
@@ -84,6 +84,7 @@ class ctlRatioGrid : public GripTool, private Ticking {
 
     StencilAids aids_;
     MouseActionPreview mouseAction_;
+    Ticking mouseActionTicking_{[this] { playMouseAction(); }};
     GripDrag held_;
     /// Rectangle and angle at the press, from which each move of a drag is worked out.
     Rect pressBound_;

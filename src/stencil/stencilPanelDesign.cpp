@@ -12,11 +12,7 @@ constexpr int firstValue = 67;
 constexpr int firstSteps = 141;
 constexpr int secondValue = 177;
 constexpr int secondSteps = 260;
-constexpr int right = 292;
 
-constexpr int firstRow = 25;
-constexpr int rowPitch = 18;
-constexpr int rowHeight = 16;
 constexpr int stepWidth = 16;
 /// The picture of the patterns with the angle and the ratio at its right.
 constexpr int pictureTop = firstRow + 4 * rowPitch + 4;
@@ -93,7 +89,7 @@ void addAngleAndRatio(std::vector<PanelControl>& controls) {
     constexpr int angleTop = pictureTop;
     constexpr int ratioTop = angleTop + rowPitch;
     constexpr int descriptionTop = ratioTop + rowPitch;
-    constexpr int lastStep = right - stepWidth;
+    constexpr int lastStep = rightEdge - stepWidth;
     /// Of the angle and the ratio.
     constexpr int numbers = 122;
     constexpr int turns = lastStep - 6 - 2 * stepWidth;
@@ -111,14 +107,14 @@ void addAngleAndRatio(std::vector<PanelControl>& controls) {
         controls, field(turns, turns + stepWidth, angleTop),
         {step("cmdAngle", 0, 184, Picture::rotateCounterclockwise, &ctlSetRatioGrid::stepAngle),
          step("cmdAngle", 1, 185, Picture::rotateClockwise, &ctlSetRatioGrid::stepAngle)});
-    appendBar(controls, field(lastStep, right, angleTop),
+    appendBar(controls, field(lastStep, rightEdge, angleTop),
               {button("cmdAngleZero", 187, Picture::angleZero, &ctlSetRatioGrid::clickAngleZero)});
     add(header("lblRatio", field(firstValue, numbers, ratioTop), 18, 19));
     add(value(lblRatioWH, "lblRatioWH", field(numbers, 205, ratioTop), 17));
-    add(value(lblRatioHW, "lblRatioHW", field(205, right, ratioTop), 13));
+    add(value(lblRatioHW, "lblRatioHW", field(205, rightEdge, ratioTop), 13));
     add(value(lblRatioDescription, "lblRatioDescription",
               field(firstValue, lastStep, descriptionTop), 15));
-    appendBar(controls, field(lastStep, right, descriptionTop),
+    appendBar(controls, field(lastStep, rightEdge, descriptionTop),
               {button("cmdEditRatio", 192, Picture::editRatio, &ctlSetRatioGrid::clickEditRatio)});
 }
 

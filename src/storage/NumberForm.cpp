@@ -9,12 +9,11 @@
 #include <limits>
 
 #include "base/Utf8.h"
+#include "modAPI/textForms.h"
 
 namespace ormala {
 
 namespace {
-
-constexpr int significantDigits = 15;
 
 /// The largest number whose 15 digits, rounded up, are still finite.
 constexpr double largestWritten = 1.79769313486231e308;

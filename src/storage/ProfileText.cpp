@@ -5,12 +5,11 @@
 #include <utility>
 
 #include "base/Utf8.h"
+#include "modAPI/textForms.h"
 
 namespace ormala {
 
 namespace {
-
-constexpr std::string_view lineBreak = "\r\n";
 
 constexpr bool isLineEnd(char c) {
     return c == '\r' || c == '\n';

@@ -12,6 +12,13 @@
 
 namespace ormala {
 
+// Where the rows of read-outs stand, in pixels at 96 DPI.
+inline constexpr int firstRow = 25;
+inline constexpr int rowPitch = 18;
+inline constexpr int rowHeight = 16;
+/// Of what reaches to the right edge.
+inline constexpr int rightEdge = 292;
+
 class SettingControl;
 
 /// How a button was pressed.

@@ -6,6 +6,9 @@
 
 namespace ormala {
 
+/// Of a button with a caption in one line, in pixels at 96 DPI.
+inline constexpr int textButtonHeight = 24;
+
 /// What tells the kind and the state of a button without any colour: a box with a tick in it while
 /// the button is on, or a lamp that is lit.
 enum class ButtonSign { none, tick, lamp };

@@ -24,7 +24,6 @@ constexpr int pressedBottom = 48;
 constexpr int disabledOffset = 58;
 
 constexpr int markLines = 2;
-constexpr double plainMix = 100;
 constexpr int disabledOpacity = 96;
 
 /// The share of white in the flat style's selection colour, from 0 to 255.

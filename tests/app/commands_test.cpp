@@ -63,6 +63,13 @@ TEST(Commands, ModesAndTheirMinimisingTwinsLeadToTheirMode) {
     EXPECT_EQ(modeChangeOf(Command::save), std::nullopt);
 }
 
+TEST(Commands, TheModesAreOneOfThree) {
+    for (const CommandDesign& design : commandDesigns()) {
+        const auto change = modeChangeOf(design.command);
+        EXPECT_EQ(controlTypeOf(design.command) == 2, change && !change->minimise);
+    }
+}
+
 TEST(Commands, EachWindowOpensItsPageOfTheOptions) {
     EXPECT_EQ(optionsPageOf(Command::options), 0);
     EXPECT_EQ(optionsPageOf(Command::worksheetOptions), 1);

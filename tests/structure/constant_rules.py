@@ -16,6 +16,8 @@ DEFINITION = re.compile(
 )
 # A small number is what two things agree in by chance.
 BY_CHANCE = re.compile(r"-?\d(\.0?)?[Ff]?")
+# What is reckoned from other names says something else where those do.
+RECKONED = re.compile(r"[a-z]\w*\s*[-+*/]|[-+*/]\s*[a-z]")
 # The rule of the colours looks after these.
 COLOR = re.compile(r"rgb\(|0x[0-9A-Fa-f]{6}$")
 
@@ -45,7 +47,8 @@ def definitions(text):
     """(name, value) of each constant of a file whose value says something."""
     for match in DEFINITION.finditer(cpp_text.without_comments(text)):
         value = " ".join((match["set"] or match["made"] or "").split())
-        if not BY_CHANCE.fullmatch(value) and not COLOR.match(value):
+        said = BY_CHANCE.fullmatch(value) or RECKONED.search(value) or COLOR.match(value)
+        if not said:
             yield match["name"], value
 
 

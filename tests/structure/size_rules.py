@@ -1,4 +1,5 @@
-"""The sizes that CONTRIBUTING.md states: lines of a function, columns, members of an interface.
+"""The sizes that CONTRIBUTING.md states: lines of a function, columns, members of an interface,
+branches of the windows.
 
 A tree is a dictionary from the path in the project, such as "src/scene/Canvas.h", to the text of
 the file. `complaints` returns one sentence for each breach.
@@ -18,6 +19,11 @@ DATA_TABLES = {("tests/win/WindowTextRows.cpp", "windowTextRows")}
 
 # A text is not broken only to fit.
 UNBREAKABLE = re.compile(r'\s*"')
+
+# The windows of the program take hardly any decision.
+WINDOWS = "src/app/win/"
+MAXIMUM_BRANCHES = 90
+BRANCH = re.compile(r"\b(?:if|case)\b")
 
 PURE = re.compile(r"\bvirtual\b[^;{}]*=\s*0\s*;")
 
@@ -42,8 +48,19 @@ def complaints_about_interfaces(path, code):
             yield f"{path}:{line}: {name} has {count} members, more than {MAXIMUM_MEMBERS}."
 
 
+def branches_of_windows(tree):
+    return sum(
+        len(BRANCH.findall(cpp_text.code_of(text)))
+        for path, text in tree.items()
+        if path.startswith(WINDOWS)
+    )
+
+
 def complaints(tree):
     found = []
+    branches = branches_of_windows(tree)
+    if branches > MAXIMUM_BRANCHES:
+        found.append(f"{WINDOWS} has {branches} branches, more than {MAXIMUM_BRANCHES}.")
     for path, text in sorted(tree.items()):
         code = cpp_text.code_of(text)
         found.extend(complaints_about_functions(path, code))

@@ -75,6 +75,18 @@ class SizeRules(unittest.TestCase):
         self.assertEqual(self.complaints(interface(10)), [])
         self.assert_complaint(interface(11), "src/a/b.cpp:1: Port has 11 members")
 
+    def test_the_windows_of_the_program_have_at_most_90_branches(self):
+        def window(count):
+            return {"src/app/win/shell/a.cpp": "void f() {\n" + "if (a) {}  // if\n" * count + "}\n"}
+
+        split = window(30) | {"src/app/win/view/b.cpp": "case 1:\n" * 60}
+        self.assertEqual(size_rules.branches_of_windows(split), 90)
+        self.assertFalse([c for c in size_rules.complaints(split) if "branches" in c])
+        split["src/app/win/view/b.cpp"] += "case 2:\n"
+        self.assertTrue([c for c in size_rules.complaints(split) if "91 branches" in c])
+        elsewhere = {"src/app/a.cpp": "case 1:\n" * 91}
+        self.assertEqual(size_rules.complaints(elsewhere), [])
+
     def test_values_of_members_are_no_members_of_an_interface(self):
         self.assertEqual(self.complaints("struct S {\n" + "    int x = 0;\n" * 11 + "};\n"), [])
 

@@ -5,6 +5,7 @@
 
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/fills.h"
+#include "platform/win/fonts.h"
 #include "platform/win/text.h"
 #include "scene/dpi.h"
 
@@ -18,10 +19,9 @@ constexpr int shadowDistance = 2;
 /// A system without Georgia takes another face with serifs.
 FontHandle titleFont(int dpi) {
     constexpr int points = 28;
-    constexpr int pointsPerInch = 72;
     constexpr wchar_t name[] = L"Georgia";
     LOGFONTW face{};
-    face.lfHeight = -MulDiv(points, dpi, pointsPerInch);
+    face.lfHeight = fontHeight(points, dpi);
     face.lfWeight = FW_NORMAL;
     face.lfCharSet = DEFAULT_CHARSET;
     face.lfQuality = ANTIALIASED_QUALITY;

@@ -9,6 +9,7 @@
 #include "platform/win/pixels.h"
 #include "platform/win/regions.h"
 #include "scene/pixelImages.h"
+#include "widgets/ButtonDesign.h"
 #include "widgets/dpi.h"
 #include "widgets/lookColors.h"
 
@@ -25,7 +26,6 @@ constexpr int clientWidth = 400;
 constexpr PixelRect logoPlace{20, 20, 100, 100};
 constexpr int firstBlock = 116;
 constexpr int blockHeight = 48;
-constexpr int buttonHeight = 24;
 constexpr int margin = 16;
 
 int buttonTopFor(const ProgramFacts& facts) {
@@ -37,7 +37,7 @@ int buttonTopFor(const ProgramFacts& facts) {
 
 frmAbout::frmAbout(ProgramFacts facts, LinkOpener openLink)
     : facts_(std::move(facts)), openLink_(std::move(openLink)) {
-    open({L"frmAbout", {clientWidth, buttonTopFor(facts_) + buttonHeight + margin}});
+    open({L"frmAbout", {clientWidth, buttonTopFor(facts_) + textButtonHeight + margin}});
 }
 
 std::unique_ptr<Label> frmAbout::makeLabel(int id, std::string_view name, Color color) const {
@@ -92,7 +92,8 @@ void frmAbout::layOut() {
     place(lblVersionInfo_->handle(), {176, 80, clientWidth - 20, 96});
     placeBlock(mail_, placeBlock(homepage_, firstBlock));
     const int top = buttonTopFor(facts_);
-    place(*cmdClose_, {clientWidth - margin - 88, top, clientWidth - margin, top + buttonHeight});
+    place(*cmdClose_,
+          {clientWidth - margin - 88, top, clientWidth - margin, top + textButtonHeight});
 }
 
 void frmAbout::SetRuntimeTexts() {

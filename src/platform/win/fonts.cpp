@@ -10,10 +10,9 @@ namespace ormala {
 namespace {
 
 FontHandle tahoma(int dpi, int points, int weight, BYTE quality) {
-    constexpr int pointsPerInch = 72;
     constexpr wchar_t name[] = L"Tahoma";
     LOGFONTW face{};
-    face.lfHeight = -MulDiv(points, dpi, pointsPerInch);
+    face.lfHeight = fontHeight(points, dpi);
     face.lfWeight = weight;
     face.lfCharSet = DEFAULT_CHARSET;
     face.lfQuality = quality;
@@ -22,6 +21,11 @@ FontHandle tahoma(int dpi, int points, int weight, BYTE quality) {
 }
 
 }  // namespace
+
+int fontHeight(int points, int dpi) {
+    constexpr int pointsPerInch = 72;
+    return -MulDiv(points, dpi, pointsPerInch);
+}
 
 FontHandle controlFont(int dpi, FontLook look, int points) {
     return tahoma(dpi, points, look == FontLook::bold ? FW_BOLD : FW_NORMAL, CLEARTYPE_QUALITY);

@@ -8,6 +8,9 @@ namespace ormala {
 
 enum class FontLook { normal, bold };
 
+/// Of a font of that size as the system counts it: letters without the room above them.
+int fontHeight(int points, int dpi);
+
 /// The type of all windows of controls: Tahoma at so many points, smoothed for the screen.
 FontHandle controlFont(int dpi, FontLook look, int points = 8);
 

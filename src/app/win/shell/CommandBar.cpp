@@ -13,10 +13,6 @@ enum ControlId { idGround = 100, idPath, idInfo };
 
 constexpr int pictureSize = 16;
 
-bool isToggle(Command command) {
-    return ViewState().isOn(command).has_value();
-}
-
 }  // namespace
 
 CommandBar::CommandBar(const Window& parent)
@@ -46,13 +42,7 @@ void CommandBar::makeButton(HWND parent, const CommandDesign& design) {
     made->setBackColor(dark::off);
     made->setPlaneFace(toolbarCaption.plane);
     made->setForeColor(toolbarCaption.text);
-    if (design.command <= Command::pauseMode) {
-        constexpr int oneOfSeveral = 2;
-        made->setControlType(oneOfSeveral);
-    } else if (isToggle(design.command)) {
-        constexpr int toggle = 1;
-        made->setControlType(toggle);
-    }
+    made->setControlType(controlTypeOf(design.command));
     made->setCornerStyle(design.cornerStyle);
     growth_.add(*made);
     clicks_.push_back(

@@ -13,14 +13,8 @@ Answer DocumentDialogs::ask(const std::string& question) {
     const int pressed =
         MessageBoxW(owner_, wide(question).c_str(), wide(applicationTitle).c_str(),
                     MB_YESNOCANCEL | MB_ICONQUESTION | MB_TOPMOST | MB_SETFOREGROUND);
-    switch (pressed) {
-        case IDYES:
-            return Answer::yes;
-        case IDNO:
-            return Answer::no;
-        default:
-            return Answer::cancel;
-    }
+    const Answer refusal = pressed == IDNO ? Answer::no : Answer::cancel;
+    return pressed == IDYES ? Answer::yes : refusal;
 }
 
 std::string DocumentDialogs::pickFile(bool forSaving) {

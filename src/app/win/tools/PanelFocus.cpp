@@ -36,9 +36,7 @@ PanelFocus::PanelFocus(const Ports& ports)
       } {}
 
 void PanelFocus::keepInList() {
-    if (holdsFocus(ports_.list.handle())) {
-        SetFocus(ports_.list.handle());
-    }
+    passFocus(ports_.list.handle(), ports_.list.handle());
 }
 
 void PanelFocus::panelSelected(PanelWindow& panel) {
@@ -92,6 +90,12 @@ void PanelFocus::giveFocusToPanel() {
                                                                  : ports_.list.handle());
 }
 
+void PanelFocus::passFocus(HWND from, HWND to) {
+    if (holdsFocus(from)) {
+        focusWithoutSelecting(to);
+    }
+}
+
 void PanelFocus::focusWithoutSelecting(HWND window) {
     const bool former = std::exchange(restoringFocus_, true);
     SetFocus(window);
@@ -133,9 +137,7 @@ void PanelFocus::removeNow(HWND window) {
     if (focused_ == window) {
         focused_ = follower;
     }
-    if (holdsFocus(window)) {
-        focusWithoutSelecting(follower);
-    }
+    passFocus(window, follower);
     ports_.tools.RemovePanel(panel->core());
 }
 

@@ -41,6 +41,8 @@ class PanelFocus : public PanelHost {
     /// The control window has got the keyboard: the panel that had it last gets it again.
     void giveFocusToPanel();
     void SetFocusToSelectedControl();
+    /// From a window that has it, itself or in a part of it.
+    void passFocus(HWND from, HWND to);
     void focusWithoutSelecting(HWND window);
     void EnsurePanelVisible(const PanelWindow& panel);
     void ensureControlVisible(HWND control);

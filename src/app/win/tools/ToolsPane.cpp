@@ -144,9 +144,7 @@ void ToolsPane::refresh() {
 }
 
 void ToolsPane::beginBusy(const std::string& info, bool hourglass) {
-    if (hourglass) {
-        SetCursor(LoadCursorW(nullptr, IDC_WAIT));
-    }
+    SetCursor(LoadCursorW(nullptr, hourglass ? IDC_WAIT : IDC_ARROW));
     focus_.keepInList();
     list_.setBulkUpdate(true);
     ports_.window.bar().showInfo(info);

@@ -1,69 +1,21 @@
 #include "app/win/view/ScreenShot.h"
 
-#include <dwmapi.h>
-
 #include <utility>
 
 #include "platform/win/OffScreen.h"
+#include "platform/win/screenRest.h"
 
 namespace ormala {
 
 namespace {
 
-/// Paints what has to be painted, and lets the other programs and the composition of the desktop
-/// show what was covered. Input waits, so that no command comes in between.
-void letScreenSettle() {
-    constexpr ULONGLONG patience = 120;
-    const ULONGLONG end = GetTickCount64() + patience;
-    for (ULONGLONG now = GetTickCount64(); now < end; now = GetTickCount64()) {
-        MSG message{};
-        if (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE) !=
-            FALSE) {
-            DispatchMessageW(&message);
-        } else {
-            MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(end - now),
-                                      QS_PAINT | QS_SENDMESSAGE);
-        }
-    }
-    DwmFlush();
-}
-
 /// How long a window manager may take to pass the keyboard on after a window has come back.
 constexpr ULONGLONG restingTime = 400;
 
-bool userActedSince(DWORD tick) {
-    LASTINPUTINFO last{};
-    last.cbSize = sizeof last;
-    return GetLastInputInfo(&last) != FALSE && static_cast<LONG>(last.dwTime - tick) > 0;
-}
-
 }  // namespace
 
-KeptFocus::KeptFocus(frmWorksheet& worksheet)
-    : worksheet_(worksheet),
-      front_(GetForegroundWindow()),
-      focus_(GetFocus()),
-      begin_(GetTickCount()) {
-    worksheet_.setFocusHeld(true);
-}
-
-KeptFocus::~KeptFocus() {
-    worksheet_.setFocusHeld(false);
-}
-
-bool KeptFocus::giveBack() const {
-    if (userActedSince(begin_)) {
-        return false;
-    }
-    if (IsWindow(focus_) != FALSE && GetFocus() != focus_) {
-        SetForegroundWindow(front_);
-        SetFocus(focus_);
-    }
-    return true;
-}
-
 void ScreenShot::take(frmWorksheet& worksheet) {
-    focus_.emplace(worksheet);
+    focus_.emplace([&worksheet](bool held) { worksheet.setFocusHeld(held); });
     {
         const OffScreen aside(control_);
         letScreenSettle();

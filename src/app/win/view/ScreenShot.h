@@ -6,31 +6,11 @@
 
 #include "app/shotNotes.h"
 #include "base/Event.h"
+#include "platform/win/KeptFocus.h"
 #include "platform/win/clipboard.h"
 #include "worksheet/win/frmWorksheet.h"
 
 namespace ormala {
-
-/// Who has the keyboard while a window goes off all screens and comes back, since a window manager
-/// may pass the keyboard on. The tools on the worksheet learn nothing of that.
-class KeptFocus {
-  public:
-    /// The worksheet must outlive it.
-    explicit KeptFocus(frmWorksheet& worksheet);
-    KeptFocus(const KeptFocus&) = delete;
-    KeptFocus& operator=(const KeptFocus&) = delete;
-    ~KeptFocus();
-
-    /// Gives the keyboard back to who had it. False, and nothing is done, once the user has pressed
-    /// a key or moved the mouse, who may want it elsewhere.
-    bool giveBack() const;
-
-  private:
-    frmWorksheet& worksheet_;
-    HWND front_;
-    HWND focus_;
-    DWORD begin_;
-};
 
 /// Puts what the screen shows where the worksheet lies on the clipboard, without the control
 /// window, which is moved out of the way meanwhile. Nothing on the worksheet looks different for
