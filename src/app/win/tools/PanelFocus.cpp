@@ -41,12 +41,14 @@ void PanelFocus::keepInList() {
 
 void PanelFocus::panelSelected(PanelWindow& panel) {
     focused_ = panel.handle();
-    if (GetActiveWindow() != ports_.window.handle()) {
-        // The keyboard stays with the tool, and what its panel shows stays in sight.
-        ports_.view.raiseAboveAll();
-    } else if (IsChild(focused_, GetFocus()) == FALSE) {
+    const bool active = GetActiveWindow() == ports_.window.handle();
+    // Otherwise the keyboard stays with the tool.
+    if (active && IsChild(focused_, GetFocus()) == FALSE) {
         SetFocus(focused_);
     }
+    // What its panel shows stays in sight, also where a window manager lets the worksheet come up
+    // above an active window.
+    ports_.view.raiseAboveAll();
     EnsurePanelVisible(panel);
 }
 
