@@ -76,21 +76,18 @@ LensOptions frmLens::options() const {
 }
 
 void frmLens::setOptions(const LensOptions& options) {
-    const int factor = options.factor;
     options_ = options;
-    // Each setter lays out with the factor that is in force, which must be one.
-    options_.factor = std::clamp(factor, leastFactor, mostFactor);
-    setRulTOn(options.topScales);
-    setRulLOn(options.topScales);
-    ruler(LensScale::top).setOrigin(options.topOrigin);
-    ruler(LensScale::left).setOrigin(options.topOrigin);
-    setRulBOn(options.bottomScales);
-    setRulROn(options.bottomScales);
-    ruler(LensScale::bottom).setOrigin(options.bottomOrigin);
-    ruler(LensScale::right).setOrigin(options.bottomOrigin);
-    setSticked(options.sticked);
-    setFactor(factor);
-    SetMenuCheckBoxes();
+    for (const LensScale scale : {LensScale::top, LensScale::left}) {
+        ruler(scale).setOn(options.topScales);
+        ruler(scale).setOrigin(options.topOrigin);
+    }
+    for (const LensScale scale : {LensScale::bottom, LensScale::right}) {
+        ruler(scale).setOn(options.bottomScales);
+        ruler(scale).setOrigin(options.bottomOrigin);
+    }
+    setLayered(options.sticked && LensMode_ == Mode::edit);
+    // Lays out once for all of them.
+    setFactor(options.factor);
 }
 
 void frmLens::runTimer(bool shown) {

@@ -1,6 +1,7 @@
 #include "worksheet/win/frmWorksheet.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "language/MlStringModule.h"
 #include "platform/win/dayTime.h"
@@ -108,13 +109,15 @@ void frmWorksheet::setClickable(bool clickable) {
 }
 
 void frmWorksheet::setAlpha(int alpha) {
-    transparency_.alpha = alpha;
-    ApplyLayered();
+    if (std::exchange(transparency_.alpha, alpha) != alpha) {
+        ApplyLayered();
+    }
 }
 
 void frmWorksheet::setClickAlpha(int alpha) {
-    transparency_.clickAlpha = alpha;
-    ApplyLayered();
+    if (std::exchange(transparency_.clickAlpha, alpha) != alpha) {
+        ApplyLayered();
+    }
 }
 
 void frmWorksheet::setBackground(COLORREF color) {

@@ -46,9 +46,11 @@ void PanelFocus::panelSelected(PanelWindow& panel) {
     if (active && IsChild(focused_, GetFocus()) == FALSE) {
         SetFocus(focused_);
     }
-    // What its panel shows stays in sight, also where a window manager lets the worksheet come up
-    // above an active window.
-    ports_.view.raiseAboveAll();
+    if (!ports_.list.bulkUpdate()) {
+        // What its panel shows stays in sight, also where a window manager lets the worksheet come
+        // up above an active window.
+        ports_.view.raiseAboveAll();
+    }
     EnsurePanelVisible(panel);
 }
 

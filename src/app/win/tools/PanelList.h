@@ -38,6 +38,7 @@ class PanelList : public PictureBox {
     [[nodiscard]] PixelRect placeInContent(HWND panel) const;
     /// While many panels come and go the list stays hidden.
     void setBulkUpdate(bool bulkUpdate);
+    [[nodiscard]] bool bulkUpdate() const { return bulkUpdate_; }
 
     /// Scrolls so that a panel of the content shows, its head if not all of it.
     void EnsurePanelVisible(int panelTop, int panelHeight);

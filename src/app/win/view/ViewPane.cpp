@@ -186,13 +186,14 @@ void ViewPane::raiseAboveAll() {
 void ViewPane::putWindowsAside(bool aside) {
     // Below it lies the program that the drag is for.
     ports_.worksheet.setTransparentToMouse(aside);
-    lens_.setAside(aside);
     if (aside) {
         frameAside_ = ports_.resizer.isVisible();
         ports_.resizer.hide();
     } else if (frameAside_) {
         ports_.resizer.show();
     }
+    // In front of the frame, where it was.
+    lens_.setAside(aside);
 }
 
 }  // namespace ormala
