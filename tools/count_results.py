@@ -5,8 +5,8 @@ With --suite FILE it tells about one suite and fails if one of its tests did. A 
 with an error code and no failed test, or without a file, crashed: that is a failure of its own,
 which is remembered in a file beside the results. A test that was left out has failed, but for those
 few that a system may be unable to run: they are told of and not counted.
-With --sum DIRECTORY it prints the line "N passed, N failed" over all suites, and fails if a test
-failed or if none ran.
+With --sum DIRECTORY it prints what each failed test said, then the line "N passed, N failed" over all
+suites, and fails if a test failed or if none ran.
 """
 
 import argparse
@@ -17,6 +17,10 @@ import xml.etree.ElementTree as ElementTree
 
 # What a system may lack that tools/setup cannot give it.
 MAY_BE_LEFT_OUT = {"help.chromium"}
+
+# Of what a failed test said.
+MOST_LINES = 40
+LAST_LINES = 10
 
 
 def left_out(case):
@@ -61,6 +65,28 @@ def tell_excused(path):
         print(f"   left out: {full_name(case)}" + (f": {said}" if said else ""))
 
 
+def what_it_said(case):
+    """The failures in a test's output, or the end of it if there are none, as after a time limit."""
+    failure = case.find("failure")
+    said = case.findtext("system-out") or (failure.text if failure is not None else "") or ""
+    told, telling = [], False
+    for line in said.splitlines():
+        if line.startswith("[") or line.rstrip().endswith("Failure"):
+            telling = not line.startswith("[") or "FAILED" in line
+        if telling and line.strip():
+            told.append(line.rstrip())
+    return told[:MOST_LINES] or said.rstrip().splitlines()[-LAST_LINES:]
+
+
+def tell_failures(directory):
+    for path in sorted(directory.glob("*.xml")):
+        for case in cases_of(path) or []:
+            if not passes(case) and not excused(case):
+                print(f"failed: {full_name(case)} ({path.stem})")
+                for line in what_it_said(case):
+                    print(f"   {line}")
+
+
 def crash_mark(path):
     return path.with_suffix(".crashed")
 
@@ -79,6 +105,7 @@ def report_suite(path, exit_code):
 
 
 def report_sum(directory, failed_steps):
+    tell_failures(directory)
     passed, failed = 0, failed_steps
     for path in sorted(directory.glob("*.xml")):
         counted = count(path)

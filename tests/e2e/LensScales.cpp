@@ -18,30 +18,60 @@ int designedLength(int value, int factor) {
 
 }  // namespace
 
-void LensScales::expectColumns(std::string_view scale, int first) const {
-    const ScreenRect image = lens_.part("picLens").rect();
-    const ScreenRect strip = lens_.part(scale).rect();
-    const bool above = strip.bottom <= image.top;
-    const Picture seen = screen::capture(strip);
-    for (int i = 0; i < compared(image.width()); ++i) {
-        const ScreenPoint start{image.left + i * factor_ + middle(),
-                                above ? strip.bottom - 1 : strip.top};
-        EXPECT_EQ(run(seen, start, {0, above ? -1 : 1}), length(first + i))
-            << scale << " at " << first + i;
-    }
+testing::AssertionResult LensScales::columnsAre(std::string_view scale, int first) const {
+    return ticksAre(first, [&] {
+        const ScreenRect image = lens_.part("picLens").rect();
+        const ScreenRect strip = lens_.part(scale).rect();
+        const bool above = strip.bottom <= image.top;
+        const Picture seen = screen::capture(strip);
+        std::vector<int> lengths;
+        for (int i = 0; i < compared(image.width()); ++i) {
+            const ScreenPoint start{image.left + i * factor_ + middle(),
+                                    above ? strip.bottom - 1 : strip.top};
+            lengths.push_back(run(seen, start, {0, above ? -1 : 1}));
+        }
+        return lengths;
+    });
 }
 
-void LensScales::expectRows(std::string_view scale, int first) const {
-    const ScreenRect image = lens_.part("picLens").rect();
-    const ScreenRect strip = lens_.part(scale).rect();
-    const bool before = strip.right <= image.left;
-    const Picture seen = screen::capture(strip);
-    for (int i = 0; i < compared(image.height()); ++i) {
-        const ScreenPoint start{before ? strip.right - 1 : strip.left,
-                                image.top + i * factor_ + middle()};
-        EXPECT_EQ(run(seen, start, {before ? -1 : 1, 0}), length(first + i))
-            << scale << " at " << first + i;
+testing::AssertionResult LensScales::rowsAre(std::string_view scale, int first) const {
+    return ticksAre(first, [&] {
+        const ScreenRect image = lens_.part("picLens").rect();
+        const ScreenRect strip = lens_.part(scale).rect();
+        const bool before = strip.right <= image.left;
+        const Picture seen = screen::capture(strip);
+        std::vector<int> lengths;
+        for (int i = 0; i < compared(image.height()); ++i) {
+            const ScreenPoint start{before ? strip.right - 1 : strip.left,
+                                    image.top + i * factor_ + middle()};
+            lengths.push_back(run(seen, start, {before ? -1 : 1, 0}));
+        }
+        return lengths;
+    });
+}
+
+testing::AssertionResult LensScales::ticksAre(int first,
+                                              const std::function<std::vector<int>()>& seen) const {
+    std::vector<int> lengths;
+    std::size_t wrong = 0;
+    const bool equal = waitUntil([&] {
+        lengths = seen();
+        wrong = 0;
+        while (wrong < lengths.size() &&
+               lengths[wrong] == length(first + static_cast<int>(wrong))) {
+            ++wrong;
+        }
+        return !lengths.empty() && wrong == lengths.size();
+    });
+    if (equal) {
+        return testing::AssertionSuccess();
     }
+    if (lengths.empty()) {
+        return testing::AssertionFailure() << "there are no ticks";
+    }
+    const int value = first + static_cast<int>(wrong);
+    return testing::AssertionFailure()
+           << "the tick of " << value << " is " << lengths[wrong] << " long, not " << length(value);
 }
 
 int LensScales::middle() const {

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <functional>
 #include <string_view>
+#include <vector>
 
 #include "e2e/LensScene.h"
 
@@ -13,12 +17,14 @@ class LensScales {
     LensScales(const LensWindow& lens, int factor, bool grid)
         : lens_(lens), factor_(factor), grid_(grid) {}
 
-    // Compares the ticks along the whole image with those of the numbers from `first` on, for a
+    // Wait until the ticks along the whole image are those of the numbers from `first` on, for a
     // scale above or below it and for one at its left or right.
-    void expectColumns(std::string_view scale, int first) const;
-    void expectRows(std::string_view scale, int first) const;
+    [[nodiscard]] testing::AssertionResult columnsAre(std::string_view scale, int first) const;
+    [[nodiscard]] testing::AssertionResult rowsAre(std::string_view scale, int first) const;
 
   private:
+    [[nodiscard]] testing::AssertionResult ticksAre(
+        int first, const std::function<std::vector<int>()>& seen) const;
     /// The enlarged pixels. The last line of a grid lies outside of the image.
     [[nodiscard]] int compared(int imageLength) const {
         return (imageLength + (grid_ && factor_ > 1 ? 1 : 0)) / factor_;

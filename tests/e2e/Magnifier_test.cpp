@@ -259,10 +259,10 @@ TEST(Magnifier, ScalesCountFromTheWorksheetAndFromTheImage) {
         scene.scene.mouse.moveTo(cursor);
         ASSERT_TRUE(scene.lens.showsScreen(cursor, 4));
         const LensView view = scene.lens.view(cursor, 4);
-        scales.expectColumns("picRulTop", view.source.left - sheet.x);
-        scales.expectRows("picRulLeft", view.source.top - sheet.y);
-        scales.expectColumns("picRulBottom", 0);
-        scales.expectRows("picRulRight", 0);
+        EXPECT_TRUE(scales.columnsAre("picRulTop", view.source.left - sheet.x));
+        EXPECT_TRUE(scales.rowsAre("picRulLeft", view.source.top - sheet.y));
+        EXPECT_TRUE(scales.columnsAre("picRulBottom", 0));
+        EXPECT_TRUE(scales.rowsAre("picRulRight", 0));
     }
 }
 
@@ -272,10 +272,10 @@ TEST(Magnifier, ScalesCountFromTheScreens) {
     const LensView view = scene.lens.view(LensScene::spot, 4);
     const ScreenRect all = screen::virtualScreen();
     const LensScales scales(scene.lens, 4, false);
-    scales.expectColumns("picRulTop", view.source.left);
-    scales.expectRows("picRulLeft", view.source.top);
-    scales.expectColumns("picRulBottom", view.source.left - all.left);
-    scales.expectRows("picRulRight", view.source.top - all.top);
+    EXPECT_TRUE(scales.columnsAre("picRulTop", view.source.left));
+    EXPECT_TRUE(scales.rowsAre("picRulLeft", view.source.top));
+    EXPECT_TRUE(scales.columnsAre("picRulBottom", view.source.left - all.left));
+    EXPECT_TRUE(scales.rowsAre("picRulRight", view.source.top - all.top));
 }
 
 TEST(Magnifier, ScalesOfFactorOneHaveTicksAtTheFivesOnly) {
@@ -283,17 +283,15 @@ TEST(Magnifier, ScalesOfFactorOneHaveTicksAtTheFivesOnly) {
     ASSERT_TRUE(scene.lens.showsScreen(LensScene::spot, 1));
     const LensView view = scene.lens.view(LensScene::spot, 1);
     const LensScales scales(scene.lens, 1, false);
-    scales.expectColumns("picRulTop", view.source.left);
-    scales.expectRows("picRulRight", 0);
+    EXPECT_TRUE(scales.columnsAre("picRulTop", view.source.left));
+    EXPECT_TRUE(scales.rowsAre("picRulRight", 0));
 }
 
 TEST(Magnifier, ScalesWithAGridHaveTheirTicksBetweenItsLines) {
     LensScene scene(with(pausedBareLens(), {{"LensFactor", 10}, {"LensGridOn", -1}}));
-    const LensView view = scene.lens.view(LensScene::spot, 10, true);
-    screen::waitUntilStill(view.image);
     const LensScales scales(scene.lens, 10, true);
-    scales.expectColumns("picRulBottom", 0);
-    scales.expectRows("picRulRight", 0);
+    EXPECT_TRUE(scales.columnsAre("picRulBottom", 0));
+    EXPECT_TRUE(scales.rowsAre("picRulRight", 0));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 #include <vector>
 
 namespace ormala::test {
@@ -91,36 +92,46 @@ Picture SheetScene::picture() {
 }
 
 void SheetScene::expectPattern(Color line) {
-    const Picture seen = picture();
     if (model.angle == 0) {
-        expectUnturned(seen, line);
+        const LinePlaces expected{sectionPixels(model.center.x, model.halfWidth),
+                                  sectionPixels(model.center.y, model.halfHeight)};
+        LinePlaces seen;
+        waitUntil([&] {
+            seen = linePlaces(picture(), line);
+            return seen == expected;
+        });
+        EXPECT_EQ(seen.inRow, expected.inRow);
+        EXPECT_EQ(seen.inColumn, expected.inColumn);
     } else {
-        expectTurned(seen, line);
+        std::string fault;
+        waitUntil([&] {
+            fault = faultOfTurned(picture(), line);
+            return fault.empty();
+        });
+        EXPECT_EQ(fault, "");
     }
 }
 
-void SheetScene::expectUnturned(const Picture& picture, Color line) const {
+SheetScene::LinePlaces SheetScene::linePlaces(const Picture& picture, Color line) const {
     const ScreenPoint origin = picture.rect().origin();
     // Between the grips: a quarter from the corner, where only the pattern's lines cross.
     const int row = origin.y + pixelOf(model.center.y - model.halfHeight / 2);
     const int column = origin.x + pixelOf(model.center.x - model.halfWidth / 2);
-    std::vector<int> inRow;
+    LinePlaces places;
     for (int x = picture.rect().left; x < picture.rect().right; ++x) {
         if (hasColor(picture, {x, row}, line)) {
-            inRow.push_back(x - origin.x);
+            places.inRow.push_back(x - origin.x);
         }
     }
-    std::vector<int> inColumn;
     for (int y = picture.rect().top; y < picture.rect().bottom; ++y) {
         if (hasColor(picture, {column, y}, line)) {
-            inColumn.push_back(y - origin.y);
+            places.inColumn.push_back(y - origin.y);
         }
     }
-    EXPECT_EQ(inRow, sectionPixels(model.center.x, model.halfWidth));
-    EXPECT_EQ(inColumn, sectionPixels(model.center.y, model.halfHeight));
+    return places;
 }
 
-void SheetScene::expectTurned(const Picture& picture, Color line) const {
+std::string SheetScene::faultOfTurned(const Picture& picture, Color line) const {
     const ScreenPoint origin = picture.rect().origin();
     const auto lineIsNear = [&](Spot spot) {
         for (int dx = -1; dx <= 1; ++dx) {
@@ -138,15 +149,18 @@ void SheetScene::expectTurned(const Picture& picture, Color line) const {
     const double inner = 2 * section - 1;
     for (const double along : {-0.85, -0.6, -0.4, 0.4, 0.6, 0.85}) {
         for (const double across : {-1.0, -inner, inner, 1.0}) {
-            EXPECT_TRUE(lineIsNear(model.at(along, across))) << along << ", " << across;
-            EXPECT_TRUE(lineIsNear(model.at(across, along))) << across << ", " << along;
+            if (!lineIsNear(model.at(along, across)) || !lineIsNear(model.at(across, along))) {
+                return "no line at " + std::to_string(along) + ", " + std::to_string(across);
+            }
         }
     }
     const double beyond = 1 + 5 / std::min(model.halfWidth, model.halfHeight);
     for (const double along : {-0.6, 0.6}) {
-        EXPECT_FALSE(lineIsNear(model.at(along, beyond)));
-        EXPECT_FALSE(lineIsNear(model.at(beyond, along)));
+        if (lineIsNear(model.at(along, beyond)) || lineIsNear(model.at(beyond, along))) {
+            return "a line beyond the side at " + std::to_string(along);
+        }
     }
+    return {};
 }
 
 }  // namespace ormala::test

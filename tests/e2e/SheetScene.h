@@ -2,6 +2,8 @@
 
 #include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "e2e/StencilModel.h"
 #include "e2e/support/Desktop.h"
@@ -54,8 +56,18 @@ class SheetScene {
     void expectPattern() { expectPattern(lineColor()); }
 
   private:
-    void expectUnturned(const Picture& picture, Color line) const;
-    void expectTurned(const Picture& picture, Color line) const;
+    /// Pixels of the worksheet that have the colour of a line, in one row and one column that cross
+    /// the unturned pattern between its grips.
+    struct LinePlaces {
+        std::vector<int> inRow;
+        std::vector<int> inColumn;
+
+        bool operator==(const LinePlaces&) const = default;
+    };
+
+    [[nodiscard]] LinePlaces linePlaces(const Picture& picture, Color line) const;
+    /// What is wrong with the turned pattern; empty if nothing is.
+    [[nodiscard]] std::string faultOfTurned(const Picture& picture, Color line) const;
     void putMeasureAside();
     void start();
 

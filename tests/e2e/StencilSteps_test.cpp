@@ -79,15 +79,15 @@ class StencilSteps : public testing::Test {
             ASSERT_NO_FATAL_FAILURE(expectAndUndo(expected[i], moveButton(i)));
         }
     }
-    /// How long a held button takes from its fourth step to its sixteenth.
-    [[nodiscard]] std::chrono::steady_clock::duration timeOfSteps(int stepLength) const {
-        const auto reached = [&](int steps) {
-            return waitUntil([&] { return sides().left >= start.left + steps * stepLength; });
-        };
-        EXPECT_TRUE(reached(4));
+    /// How long the second button, held from now on, takes for its first sixteen steps.
+    [[nodiscard]] std::chrono::steady_clock::duration timeOfSteps(int stepLength) {
+        constexpr int steps = 16;
         const auto begin = std::chrono::steady_clock::now();
-        EXPECT_TRUE(reached(16));
-        return std::chrono::steady_clock::now() - begin;
+        scene.mouse.press();
+        EXPECT_TRUE(waitUntil([&] { return sides().left >= start.left + steps * stepLength; }));
+        const auto time = std::chrono::steady_clock::now() - begin;
+        scene.mouse.release();
+        return time;
     }
 
     PanelScene scene{ToolSet().stencil({start.left, start.top, start.right, start.bottom}).file(),
@@ -171,19 +171,21 @@ TEST_F(StencilSteps, AHeldButtonRepeatsAndIsOneStepOfUndo) {
 }
 
 TEST_F(StencilSteps, AHeldButtonIsSlowerWithAModifier) {
+    // After a pause of 11 ticks of 40 ms a step comes with each tick, or with one in three: 1.0 or
+    // 2.1 s. A busy machine can only add to that, so that the plain button has several tries.
+    constexpr milliseconds between{1600};
+    constexpr int tries = 5;
     scene.mouse.moveTo(panel.control(moveButton(1)).center());
-    scene.mouse.press();
-    const auto plain = timeOfSteps(1);
-    scene.mouse.release();
-    panel.press("cmdUndo");
-    expectSides(start, "undo");
-    scene.mouse.moveTo(panel.control(moveButton(1)).center());
+    bool fast = false;
+    for (int i = 0; i < tries && !fast; ++i) {
+        fast = timeOfSteps(1) < between;
+        panel.press("cmdUndo");
+        expectSides(start, "undo");
+        scene.mouse.moveTo(panel.control(moveButton(1)).center());
+    }
+    EXPECT_TRUE(fast);
     const HeldKeys keys(Modifiers::Ctrl);
-    scene.mouse.press();
-    const auto onGrid = timeOfSteps(40);
-    scene.mouse.release();
-    // One step in three ticks.
-    EXPECT_GT(onGrid, plain * 2);
+    EXPECT_GT(timeOfSteps(40), between);
 }
 
 TEST_F(StencilSteps, AHeldButtonStopsWhenItLosesTheKeyboard) {
@@ -192,9 +194,12 @@ TEST_F(StencilSteps, AHeldButtonStopsWhenItLosesTheKeyboard) {
     EXPECT_TRUE(waitUntil([&] { return sides().top > start.top + 3; }));
     scene.backdrop().window().activate();
     EXPECT_TRUE(waitUntil([&] { return panel.isEnabled("cmdUndo"); }));
-    const Sides stopped = sides();
-    pause(milliseconds{300});
-    EXPECT_EQ(sides(), stopped);
+    // The read-outs come last.
+    EXPECT_TRUE(waitUntil([&] {
+        const Sides stopped = sides();
+        pause(milliseconds{300});
+        return sides() == stopped;
+    }));
     scene.mouse.release();
 }
 

@@ -44,11 +44,26 @@ class CountResults(unittest.TestCase):
 
     def test_a_failed_test_fails_its_suite_and_the_sum(self):
         self.assertFalse(self.suite("one", PASSED + FAILED, exit_code=8))
-        self.assertEqual(self.sum(), (False, "1 passed, 1 failed\n"))
+        self.assertEqual(self.sum(), (False, "failed: Suite.Bad (one)\n1 passed, 1 failed\n"))
+
+    def test_what_a_failed_test_said_stands_before_the_sum(self):
+        said = ("[ RUN      ] Suite.Bad\nplace.cpp:7: Failure\n  Actual: 1\nExpected: 2\n\n"
+                "[  FAILED  ] Suite.Bad\n[ RUN      ] Suite.Good\nnothing to tell\n")
+        self.suite("one", FAILED.replace("</testcase>", f"<system-out>{said}</system-out></testcase>"))
+        self.assertEqual(self.sum()[1], "failed: Suite.Bad (one)\n   place.cpp:7: Failure\n"
+                         "     Actual: 1\n   Expected: 2\n   [  FAILED  ] Suite.Bad\n"
+                         "0 passed, 1 failed\n")
+
+    def test_a_test_that_hung_tells_its_last_lines(self):
+        said = "\n".join(f"line {i}" for i in range(100))
+        self.suite("one", FAILED.replace("</testcase>", f"<system-out>{said}</system-out></testcase>"))
+        told = self.sum()[1].splitlines()
+        self.assertEqual(told[1], "   line 90")
+        self.assertEqual(told[-2:], ["   line 99", "0 passed, 1 failed"])
 
     def test_a_test_that_did_not_run_is_failed(self):
         self.assertFalse(self.suite("one", PASSED + SKIPPED))
-        self.assertEqual(self.sum(), (False, "1 passed, 1 failed\n"))
+        self.assertEqual(self.sum(), (False, "failed: Left (one)\n1 passed, 1 failed\n"))
 
     def test_what_a_system_may_lack_is_told_of_and_not_counted(self):
         printed = io.StringIO()
@@ -62,7 +77,8 @@ class CountResults(unittest.TestCase):
     def test_what_a_system_may_lack_can_fail(self):
         failed = EXCUSED.replace(' status="notrun"', "").replace("skipped", "failure")
         self.assertFalse(self.suite("one", PASSED + failed))
-        self.assertEqual(self.sum(), (False, "1 passed, 1 failed\n"))
+        self.assertEqual(self.sum(), (False, "failed: help.chromium (one)\n   There is none.\n"
+                                             "1 passed, 1 failed\n"))
 
     def test_a_crash_is_a_failure_of_its_own(self):
         self.assertFalse(self.suite("no file", None, exit_code=5))

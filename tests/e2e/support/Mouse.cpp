@@ -60,10 +60,18 @@ DesktopWindow target() {
     return DesktopWindow(WindowFromPoint({point.x, point.y}));
 }
 
-/// Lets the input arrive: an echo of an earlier move can otherwise overtake it.
+/// Returns when the display has done all that it was told before. Of requests by several ways it
+/// may handle the last one first, but not twice in a row.
+void waitForDisplay() {
+    screen::pixel({0, 0});
+    screen::pixel({0, 0});
+}
+
+/// Lets the input arrive. The display tells each move of the pointer to the program's window too,
+/// and a late echo of an earlier one would take the pointer back for a moment.
 void letArrive() {
     target().settle();
-    pause(milliseconds(1));
+    waitForDisplay();
     target().settle();
 }
 
