@@ -35,6 +35,11 @@ class Event {
         return Subscription(std::move(owned));
     }
 
+    /// Whether there is a subscription.
+    [[nodiscard]] bool isHeard() const {
+        return std::ranges::any_of(*handlers_, [](const auto& entry) { return !entry.expired(); });
+    }
+
     void raise(Args... args) const {
         const std::vector<std::weak_ptr<Handler>> present = *handlers_;
         for (const auto& entry : present) {

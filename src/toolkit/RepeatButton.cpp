@@ -11,7 +11,7 @@ constexpr int ticksBetweenFixedSteps = 2;
 
 }  // namespace
 
-RepeatButton::RepeatButton(Event<>& clock, Action finished)
+RepeatButton::RepeatButton(Clock& clock, Action finished)
     : clock_(clock), finished_(std::move(finished)) {}
 
 void RepeatButton::press(int shift, Action step) {

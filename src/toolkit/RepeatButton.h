@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "base/Event.h"
+#include "base/Clock.h"
 #include "widgets/HeldTicks.h"
 
 namespace ormala {
@@ -14,7 +14,7 @@ class RepeatButton {
     using Action = std::function<void()>;
 
     /// `clock` ticks every 40 ms and must outlive it. `finished` is called at the end of each run.
-    RepeatButton(Event<>& clock, Action finished);
+    RepeatButton(Clock& clock, Action finished);
 
     /// The mouse has pressed the button, with these modifiers for the whole run.
     void press(int shift, Action step);
@@ -36,7 +36,7 @@ class RepeatButton {
     void end(Holder holder);
     void tick();
 
-    Event<>& clock_;
+    Clock& clock_;
     Action finished_;
     Action step_;
     Subscription ticks_;

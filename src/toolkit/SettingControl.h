@@ -21,7 +21,7 @@ struct PanelPorts {
     PanelView& view;
     LookDialogs& dialogs;
     /// The shared clock of held buttons, 40 ms.
-    Event<>& tmrFast;
+    Clock& tmrFast;
     /// Shows and hides a tool on the worksheet.
     std::function<void(const OverlayItem& tool, bool visible)> setVisible;
     /// The time of day.

@@ -39,7 +39,7 @@ void Aids::UpdateCrossHair() {
 }
 
 void Aids::tick() {
-    if (crossHairMoves_.refused()) {
+    if (wantsTick()) {
         UpdateCrossHair();
     }
 }

@@ -24,7 +24,7 @@ CrossHairLine verticalLine(PixelPoint cursor, const PixelRect& worksheet);
 /// only while the worksheet takes the mouse.
 class Aids {
   public:
-    /// How often the cross hair moves at most, and the clock of `tick`: in milliseconds.
+    /// How often the cross hair moves at most: in milliseconds.
     static constexpr int crossHairInterval = 20;
 
     /// All must outlive the aids; the options are read at each use.
@@ -42,7 +42,9 @@ class Aids {
     void SyncCrossHair() const;
     /// The mouse has moved.
     void UpdateCrossHair();
-    /// The last move of a fast hand came too early for the cross hair.
+    /// Whether the last move of a fast hand came too early for the cross hair, which `tick` then
+    /// makes up for.
+    [[nodiscard]] bool wantsTick() const { return crossHairMoves_.refused() && showsCrossHair(); }
     void tick();
     /// Hides the cross hair for the time of a screen shot.
     void setAside(bool aside);

@@ -124,6 +124,15 @@ bool SheetMouse::keyChanged(int key, int shift) {
     return true;
 }
 
+int SheetMouse::interval() const {
+    // A little more than a tenth of a second, so that no look comes too early.
+    constexpr int outsideInterval = 110;
+    if (!sheet_.EditMode()) {
+        return 0;
+    }
+    return aids_.wantsTick() ? Aids::crossHairInterval : outsideInterval;
+}
+
 void SheetMouse::tick() {
     if (sheet_.EditMode() && outsideLooks_.due(port_.now())) {
         lookOutside();

@@ -28,8 +28,10 @@ class SheetMouse {
     /// drag goes on with other ones from where the mouse is. True for a modifier's key in a drag,
     /// which goes no further.
     bool keyChanged(int key, int shift);
-    /// Every `Aids::crossHairInterval`, as long as the worksheet is there: looks for a mouse that
-    /// is outside, ten times a second.
+    /// How soon `tick` has something to do, in milliseconds; 0 for never, as things are. A
+    /// worksheet that is hidden needs none.
+    [[nodiscard]] int interval() const;
+    /// Looks for a mouse that is outside, ten times a second at most.
     void tick();
 
     [[nodiscard]] bool holding() const { return holder_ != nullptr || background_; }

@@ -45,7 +45,7 @@ class SetMeasureTest : public testing::Test {
     FakePanelView view_;
     std::map<const OverlayItem*, bool> visible_;
     float now_ = 36000;
-    Event<> tmrFast_;
+    Clock tmrFast_{[](bool) {}};
     FakePanelCommands commands_;
     ctlSetMeasure panel_{tool_,
                          {view_, commands_, tmrFast_,

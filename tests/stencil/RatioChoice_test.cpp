@@ -26,7 +26,7 @@ class RatioChoiceTest : public testing::Test {
   protected:
     // The captions are translated when the ratios are made.
     const ManualLanguage language_{languageEnglish};
-    const TextForm form_;
+    const TextForm form_{};
     SpecialRatios ratios_{&translated, form_};
     RatioChoice choice_{ratios_, form_};
 };

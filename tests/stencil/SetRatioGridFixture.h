@@ -44,7 +44,7 @@ class SetRatioGridFixture : public testing::Test {
     }
     void tick(int times) {
         for (int i = 0; i < times; ++i) {
-            tmrFast_.raise();
+            tmrFast_.tick();
         }
     }
     /// The mouse goes down on a button that steps, or the space bar on it.
@@ -77,7 +77,7 @@ class SetRatioGridFixture : public testing::Test {
     std::map<const OverlayItem*, bool> visible_;
     float now_ = 36000;
     FakePanelCommands commands_;
-    Event<> tmrFast_;
+    Clock tmrFast_{[](bool) {}};
     std::unique_ptr<ctlSetRatioGrid> panel_ = std::make_unique<ctlSetRatioGrid>(
         tool_,
         PanelPorts{view_, commands_, tmrFast_,

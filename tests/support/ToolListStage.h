@@ -82,7 +82,7 @@ class StagedToolList : private PanelFactory {
     SpecialRatios ratios_{[](int, std::string_view text) { return std::string(text); }, {}};
     ToolMaker maker_{settings, ratios_};
     FakePanelCommands commands_;
-    Event<> tmrFast_;
+    Clock tmrFast_{[](bool) {}};
 
   public:
     Sheet sheet{port_, host_, maker_};

@@ -19,13 +19,13 @@ class RepeatButtonTest : public testing::Test {
     }
     void tick(int times = 1) {
         for (int i = 0; i < times; ++i) {
-            clock_.raise();
+            clock_.tick();
         }
     }
 
     int steps_ = 0;
     int runs_ = 0;
-    Event<> clock_;
+    Clock clock_{[](bool) {}};
     std::unique_ptr<RepeatButton> button_ =
         std::make_unique<RepeatButton>(clock_, [this] { ++runs_; });
 };

@@ -44,9 +44,17 @@ void expectOfControl(const char* name) {
 TEST(Capture, OfEveryControlEndsWithAMoveWithoutAButton) {
     expectOfControl<ZelvikButtonXP>("cmdUndo");
     expectOfControl<ctlSlider>("sldTransEditMode");
-    expectOfControl<Scroll>("scrInner");
     expectOfControl<ctlLineSelect>("LineSelect");
     expectOfControl<LinkLabel>("lblWeb");
+}
+
+TEST(Capture, OfTheScrollBarEndsSoToo) {
+    TestWindow holder;
+    Clock clock([](bool) {});
+    Scroll bar(holder.handle(), 7, "scrInner", clock);
+    bar.setDpi(96);
+    bar.place({20, 20, 220, 60});
+    expectCaptureForAButtonOnly(bar.handle(), "scrInner");
 }
 
 TEST(Capture, OfTheColourControlEndsSoToo) {

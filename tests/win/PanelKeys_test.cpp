@@ -191,9 +191,9 @@ TEST_F(PanelKeys, NoButtonGrowsWhileTheWindowTakesNoInput) {
     EXPECT_TRUE(test::waitUntil([&] { return width() > rest.right - rest.left; }));
     EnableWindow(settings_.handle(), FALSE);
     EXPECT_TRUE(test::waitUntil([&] { return width() == rest.right - rest.left; }));
-    constexpr UINT_PTR tmrButtonBig = 2;
+    constexpr UINT_PTR tmrButtonBigOfPanel = 1;
     for (int tick = 0; tick < 3; ++tick) {
-        SendMessageW(stencil(), WM_TIMER, tmrButtonBig, 0);
+        SendMessageW(stencil(), WM_TIMER, tmrButtonBigOfPanel, 0);
         EXPECT_EQ(width(), rest.right - rest.left);
     }
     EnableWindow(settings_.handle(), TRUE);

@@ -56,7 +56,7 @@ class PanelStage : private PanelHost {
                           settings_.textForm};
     ManualMeasures others_;
     FakePanelCommands commands_;
-    Event<> tmrFast_;
+    Clock tmrFast_{[](bool) {}};
     Event<int> fontSizeChange_;
     int made_ = 0;
 };

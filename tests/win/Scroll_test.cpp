@@ -82,7 +82,7 @@ class ScrollTest : public testing::Test {
     }
     void tick(int times) {
         for (int i = 0; i < times; ++i) {
-            bar_->tick();
+            clock_.tick();
         }
     }
     /// What the bar shows once it has painted.
@@ -104,8 +104,17 @@ class ScrollTest : public testing::Test {
         return count;
     }
 
+    /// Whether the bar listens to the clock, which then runs.
+    [[nodiscard]] bool isHeld() {
+        clock_.tick();
+        return running_;
+    }
+
     Holder holder_;
-    std::unique_ptr<Scroll> bar_ = std::make_unique<Scroll>(holder_.handle(), 7, "scrInner");
+    bool running_ = false;
+    Clock clock_{[this](bool running) { running_ = running; }};
+    std::unique_ptr<Scroll> bar_ =
+        std::make_unique<Scroll>(holder_.handle(), 7, "scrInner", clock_);
 };
 
 std::string textOf(HWND window) {
@@ -155,14 +164,14 @@ TEST_F(ScrollTest, ButtonsStandWhereTheLayoutHasThem) {
 
 TEST_F(ScrollTest, HeldArrowStepsWithTheClockOfItsOwner) {
     mouse(part("cmdBR"), WM_LBUTTONDOWN, 8, 8);
-    EXPECT_TRUE(bar_->wantsTicks());
+    EXPECT_TRUE(running_);
     EXPECT_EQ(GetCapture(), bar_->handle());
     tick(10);
     EXPECT_EQ(bar_->Value(), 0);
     tick(3);
     EXPECT_EQ(bar_->Value(), -30);
     mouse(bar_->handle(), WM_LBUTTONUP, 8, 192);
-    EXPECT_FALSE(bar_->wantsTicks());
+    EXPECT_FALSE(isHeld());
     EXPECT_EQ(GetCapture(), nullptr);
     EXPECT_EQ(bar_->Value(), -30);
 }
@@ -225,7 +234,7 @@ TEST_F(ScrollTest, KeysStepOnEveryButton) {
 TEST_F(ScrollTest, LostCaptureEndsWhatIsHeld) {
     mouse(part("cmdBR"), WM_LBUTTONDOWN, 8, 8);
     SetCapture(holder_.handle());
-    EXPECT_FALSE(bar_->wantsTicks());
+    EXPECT_FALSE(isHeld());
     EXPECT_EQ(bar_->Value(), 0);
     ReleaseCapture();
 }
@@ -235,7 +244,7 @@ TEST_F(ScrollTest, DisabledBarHasNoThumbAndTakesNoFocus) {
     mouse(part("cmdBR"), WM_LBUTTONDOWN, 8, 8);
     bar_->setEnabled(false);
     EXPECT_FALSE(bar_->Enabled());
-    EXPECT_FALSE(bar_->wantsTicks());
+    EXPECT_FALSE(isHeld());
     EXPECT_FALSE(IsWindowVisible(part("cmdMove")));
     EXPECT_FALSE(IsWindowEnabled(part("cmdTL")));
     EXPECT_FALSE(IsWindowEnabled(part("cmdBR")));

@@ -1,5 +1,7 @@
 #include "platform/win/callbackGuard.h"
 
+#include <gtest/gtest.h>
+
 #include <stdexcept>
 
 #include "platform/win/Window.h"

@@ -131,10 +131,13 @@ TEST_F(AidsTest, AMoveThatCameTooEarlyIsMadeUpForByTheClock) {
     ASSERT_EQ(window_.crossHairs.size(), 1U);
     window_.time += 0.01F;
     window_.mouse.at = {310, 210};
+    EXPECT_FALSE(aids_.wantsTick());
     aids_.UpdateCrossHair();
     EXPECT_EQ(window_.crossHairs.size(), 1U);
+    EXPECT_TRUE(aids_.wantsTick());
     window_.time += 0.02F;
     aids_.tick();
+    EXPECT_FALSE(aids_.wantsTick());
     ASSERT_EQ(window_.crossHairs.size(), 2U);
     EXPECT_EQ(window_.crossHairs.back().first.place.top, 210);
     window_.time += 1;

@@ -260,6 +260,13 @@ TEST_F(SheetMouseOutside, IsLookedForTenTimesASecond) {
     EXPECT_LE(told, 10);
 }
 
+TEST_F(SheetMouseOutside, TheClockIsSlowAndStandsStillWhereTheWorksheetDoesNotTakeTheMouse) {
+    EXPECT_GE(mouse_.interval(), 100);
+    EXPECT_LE(mouse_.interval(), 200);
+    sheet_.setEditMode(false);
+    EXPECT_EQ(mouse_.interval(), 0);
+}
+
 TEST_F(SheetMouseOutside, ReachesNoToolWhileTheWorksheetDoesNotTakeTheMouse) {
     sheet_.setEditMode(false);
     mouse_.tick();

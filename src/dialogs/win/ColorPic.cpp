@@ -10,7 +10,6 @@ namespace ormala {
 
 namespace {
 
-constexpr UINT_PTR Timer1 = 1;
 constexpr UINT blinkInterval = 30;
 
 /// The part of a field's shorter side that a line of the mark takes.
@@ -99,11 +98,7 @@ void ColorPic::draw(HDC context) {
 
 LRESULT ColorPic::onFocus(bool focused) {
     model_.setFocus(focused);
-    if (focused) {
-        SetTimer(handle(), Timer1, blinkInterval, nullptr);
-    } else {
-        KillTimer(handle(), Timer1);
-    }
+    Timer1_.start(handle(), focused ? blinkInterval : 0);
     invalidate();
     return 0;
 }

@@ -6,6 +6,7 @@
 
 #include "dialogs/ColorPicModel.h"
 #include "dialogs/win/PickerControl.h"
+#include "platform/win/Timer.h"
 
 namespace ormala {
 
@@ -65,6 +66,7 @@ class ColorPic : public PickerControl {
     void resize();
 
     ColorPicModel model_;
+    Timer Timer1_{1};
     bool leavesFocus_ = false;
     /// Of another window, at the press that has brought this one to the front.
     HWND formerFocus_ = nullptr;

@@ -11,10 +11,6 @@ namespace ormala {
 
 namespace {
 
-constexpr UINT tmrMainInterval = 15;
-/// A window that nobody sees needs no more than to know where the mouse is by and by.
-constexpr UINT hiddenInterval = 60;
-
 constexpr DWORD style = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_CLIPCHILDREN;
 /// A tool window has a small caption and no button on the task bar.
 constexpr DWORD extendedStyle = WS_EX_TOOLWINDOW | WS_EX_TOPMOST;
@@ -63,7 +59,6 @@ frmLens::frmLens(LensCommands& commands) : commands_(commands) {
     const PixelSize size = firstSize(handle());
     SetWindowPos(handle(), nullptr, 0, 0, size.width, size.height,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    runTimer(false);
 }
 
 LensOptions frmLens::options() const {
@@ -88,10 +83,6 @@ void frmLens::setOptions(const LensOptions& options) {
     setLayered(options.sticked && LensMode_ == Mode::edit);
     // Lays out once for all of them.
     setFactor(options.factor);
-}
-
-void frmLens::runTimer(bool shown) {
-    SetTimer(handle(), tmrMain, shown ? tmrMainInterval : hiddenInterval, nullptr);
 }
 
 void frmLens::show(HWND owner) {

@@ -10,6 +10,7 @@
 #include "magnifier/win/LensImage.h"
 #include "magnifier/win/LensRuler.h"
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/Timer.h"
 #include "platform/win/Window.h"
 #include "scene/Mode.h"
 #include "widgets/ctlFrame.h"
@@ -104,7 +105,6 @@ class frmLens : public Window {
     void setLayered(bool layered);
 
     void setDpi(int dpi);
-    void runTimer(bool shown);
     [[nodiscard]] LensFace face() const;
     [[nodiscard]] LensImageLook imageLook() const;
     void onTick();
@@ -133,6 +133,7 @@ class frmLens : public Window {
     Mode LensMode_ = Mode::edit;
     LONG_PTR OriginalExStyle_ = 0;
     int tickCount_ = 0;
+    Timer tmrMain_{tmrMain};
 
     int dpi_ = designDpi;
     ScaleGlyphs glyphs_;

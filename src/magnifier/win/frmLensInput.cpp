@@ -10,6 +10,13 @@
 
 namespace ormala {
 
+namespace {
+
+/// Between two frames.
+constexpr UINT tmrMainInterval = 15;
+
+}  // namespace
+
 std::optional<LRESULT> frmLens::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_PAINT:
@@ -20,7 +27,7 @@ std::optional<LRESULT> frmLens::onMessage(UINT message, WPARAM wParam, LPARAM lP
             onTick();
             return 0;
         case WM_SHOWWINDOW:
-            runTimer(wParam != FALSE);
+            tmrMain_.start(handle(), wParam != FALSE ? tmrMainInterval : 0);
             return std::nullopt;
         case WM_SIZE:
             return onSize();

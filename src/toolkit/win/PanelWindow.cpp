@@ -17,14 +17,6 @@ namespace ormala {
 
 namespace {
 
-constexpr UINT_PTR tmrButtonBig = 1;
-/// The timers of the panel have this number and higher ones.
-constexpr UINT_PTR firstPanelTimer = 2;
-
-constexpr UINT_PTR idOf(PanelTimer timer) {
-    return firstPanelTimer + static_cast<UINT_PTR>(timer);
-}
-
 /// Shows the popup menu once the event that asked for it is over: a menu has a message loop of its
 /// own, in which the asking tool may come to its end.
 constexpr UINT wmPopUpMenu = WM_APP + 1;
@@ -214,14 +206,12 @@ void PanelWindow::setDpi(int dpi) {
     layOut();
 }
 
-void PanelWindow::setSeen(bool seen) {
-    if (std::exchange(seen_, seen) == seen) {
+void PanelWindow::setGrowing(bool growing) {
+    if (growing == tmrButtonBig_.isRunning()) {
         return;
     }
-    if (seen) {
-        SetTimer(handle(), tmrButtonBig, core_->design().growthInterval, nullptr);
-    } else {
-        KillTimer(handle(), tmrButtonBig);
+    tmrButtonBig_.keep(handle(), growing ? core_->design().growthInterval : 0);
+    if (!growing) {
         growth_.reset(dpi_);
     }
 }
@@ -317,11 +307,7 @@ void PanelWindow::enable(const PanelEnabling& enabling) {
 }
 
 void PanelWindow::runTimer(PanelTimer timer, unsigned interval) {
-    if (interval > 0) {
-        SetTimer(handle(), idOf(timer), interval, nullptr);
-    } else {
-        KillTimer(handle(), idOf(timer));
-    }
+    timers_[static_cast<std::size_t>(timer)].start(handle(), interval);
 }
 
 void PanelWindow::showMenu(const std::string& removeText) {
@@ -349,10 +335,10 @@ LRESULT PanelWindow::onPaint() {
 }
 
 LRESULT PanelWindow::onTimer(WPARAM id) {
-    if (id == tmrButtonBig) {
+    if (id == tmrButtonBig_.number()) {
         growth_.tick(dpi_);
     } else {
-        core_->timerTicked(static_cast<PanelTimer>(id - firstPanelTimer));
+        core_->timerTicked(static_cast<PanelTimer>(id - timers_[0].number()));
     }
     return 0;
 }

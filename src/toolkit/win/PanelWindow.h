@@ -1,11 +1,13 @@
 #pragma once
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "base/Event.h"
+#include "platform/win/Timer.h"
 #include "toolkit/SettingControl.h"
 #include "toolkit/win/ButtonGrowth.h"
 #include "widgets/win/GradShape.h"
@@ -53,8 +55,8 @@ class PanelWindow : public Window, private PanelView {
     void setDpi(int dpi);
     /// In pixels of that monitor.
     [[nodiscard]] PixelSize size() const;
-    /// Whether the list shows some of the panel: only then it looks where the mouse is.
-    void setSeen(bool seen);
+    /// Whether small buttons grow under the mouse, which the panel then looks for.
+    void setGrowing(bool growing);
 
   private:
     /// One of the three, as its row in the design wants it.
@@ -99,7 +101,9 @@ class PanelWindow : public Window, private PanelView {
     std::vector<std::size_t> rowOf_;
     std::vector<Subscription> subscriptions_;
     ButtonGrowth growth_{*this};
-    bool seen_ = false;
+    Timer tmrButtonBig_{1};
+    /// In the order of their enumeration.
+    std::array<Timer, 2> timers_{Timer(2), Timer(3)};
     std::wstring menuText_;
     POINT menuPlace_{};
     /// Goes before all that it shows.

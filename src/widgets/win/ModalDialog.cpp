@@ -22,7 +22,6 @@ namespace {
 constexpr DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
 constexpr DWORD extendedStyle = WS_EX_TOPMOST | WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
 
-constexpr UINT_PTR tmrFocus = 1;
 constexpr UINT tmrFocusInterval = 300;
 
 void setOwner(HWND window, HWND owner) {
@@ -153,7 +152,7 @@ bool ModalDialog::showModal(HWND owner) {
 void ModalDialog::focusFirst() {
     focus_ = nullptr;
     if (design_.delayedFocus) {
-        SetTimer(handle(), tmrFocus, tmrFocusInterval, nullptr);
+        tmrFocus_.start(handle(), tmrFocusInterval);
     } else {
         focus_ = firstFocus();
     }
@@ -190,7 +189,7 @@ void ModalDialog::leave() {
         return;
     }
     shown_ = false;
-    KillTimer(handle(), tmrFocus);
+    tmrFocus_.stop();
     // First, so that the owner can take the activation.
     barrier_.reset();
     ShowWindow(handle(), SW_HIDE);
@@ -263,7 +262,7 @@ LRESULT ModalDialog::onDpiChanged(int dpi, const RECT& suggested) {
 }
 
 LRESULT ModalDialog::onTimer() {
-    KillTimer(handle(), tmrFocus);
+    tmrFocus_.stop();
     focus_ = firstFocus();
     if (GetActiveWindow() == handle()) {
         SetFocus(focus_);

@@ -9,6 +9,7 @@
 #include "modAPI/PixelRect.h"
 #include "platform/win/BackBuffer.h"
 #include "platform/win/InputBarrier.h"
+#include "platform/win/Timer.h"
 #include "platform/win/Window.h"
 #include "widgets/win/ZelvikButtonXP.h"
 #include "widgets/win/labeling.h"
@@ -96,6 +97,7 @@ class ModalDialog : public Window {
     bool shown_ = false;
     std::optional<InputBarrier> barrier_;
     HWND focus_ = nullptr;
+    Timer tmrFocus_{1};
     Subscription relabeling_;
     std::vector<Subscription> leaving_;
     /// The control IDs of the buttons made by `makeButton`.

@@ -51,7 +51,7 @@ std::optional<LRESULT> Scroll::Button::onMessage(UINT message, WPARAM wParam, LP
                                              : ZelvikButtonXP::onMessage(message, wParam, lParam);
 }
 
-Scroll::Scroll(HWND parent, int id, std::string_view name) {
+Scroll::Scroll(HWND parent, int id, std::string_view name, Clock& clock) : clock_(clock) {
     WindowDesign design;
     design.className = L"Scroll";
     design.style = WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN;
@@ -168,6 +168,7 @@ LRESULT Scroll::onEnable(bool enabled) {
         SetFocus(GetParent(handle()));
     }
     model_.setEnabled(enabled);
+    ticks_.reset();
     hover_ = ScrollPart::none;
     for (const auto& each : buttons_) {
         EnableWindow(each->handle(), enabled ? TRUE : FALSE);
@@ -180,6 +181,7 @@ LRESULT Scroll::onCaptureChanged() {
     if (captured_) {
         captured_ = false;
         model_.cancel();
+        ticks_.reset();
         refresh();
     }
     return 0;
@@ -203,6 +205,9 @@ void Scroll::press(PixelPoint point) {
     captured_ = true;
     hover_ = part;
     model_.press(part, point);
+    if (model_.wantsTicks()) {
+        ticks_ = clock_.subscribe([this] { model_.tick(); });
+    }
     refresh();
 }
 
@@ -219,6 +224,7 @@ void Scroll::release(PixelPoint point) {
         captured_ = false;
         ReleaseCapture();
         refresh();
+        ticks_.reset();
         model_.release(point);
     }
 }

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string_view>
 
+#include "base/Clock.h"
 #include "platform/win/BackBuffer.h"
 #include "widgets/ScrollModel.h"
 #include "widgets/win/ZelvikButtonXP.h"
@@ -11,12 +12,12 @@
 namespace ormala {
 
 /// The scroll bar in the program's own look: two arrows, a thumb and the track between them. It
-/// stands or lies by its shape. The owner keeps the time: while `wantsTicks` it calls `tick` every
-/// 40 ms.
+/// stands or lies by its shape.
 class Scroll : public Window {
   public:
-    /// A visible child of `parent` without a size. `name` is its control name.
-    Scroll(HWND parent, int id, std::string_view name);
+    /// A visible child of `parent` without a size. `name` is its control name. `clock` ticks every
+    /// 40 ms, and must outlive it.
+    Scroll(HWND parent, int id, std::string_view name, Clock& clock);
     ~Scroll() override { destroy(); }
 
     [[nodiscard]] bool Enabled() const { return model_.Enabled(); }
@@ -36,9 +37,6 @@ class Scroll : public Window {
 
     /// The resolution of the screen that it is drawn for; at first that of its window.
     void setDpi(int dpi);
-
-    [[nodiscard]] bool wantsTicks() const { return model_.wantsTicks(); }
-    void tick() { model_.tick(); }
 
     /// The value really changed. A handler may destroy the bar.
     Event<> Change;
@@ -79,6 +77,7 @@ class Scroll : public Window {
     [[nodiscard]] ScrollPart focusedPart() const;
     [[nodiscard]] Button& button(ScrollPart part) const;
 
+    Clock& clock_;
     ScrollModel model_;
     std::array<std::unique_ptr<Button>, 3> buttons_;
     BackBuffer buffer_;
@@ -89,6 +88,8 @@ class Scroll : public Window {
     Subscription relabeling_;
     Subscription placing_;
     Subscription following_;
+    /// While something is held.
+    Subscription ticks_;
 };
 
 }  // namespace ormala

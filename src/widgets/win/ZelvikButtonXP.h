@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "pictures/pictures.h"
+#include "platform/win/Timer.h"
 #include "platform/win/fonts.h"
 #include "widgets/ButtonDesign.h"
 #include "widgets/ButtonModel.h"
@@ -124,6 +125,7 @@ class ZelvikButtonXP : public PaintedControl, public ButtonEvents, private Butto
     Picture pictureHover_;
     /// The one that the system cuts the window to.
     RoundedBox shape_;
+    Timer OverTimer_{1};
     bool captured_ = false;
     bool focusedByPress_ = false;
 };

@@ -11,7 +11,6 @@ namespace ormala {
 
 namespace {
 
-constexpr UINT_PTR OverTimer = 1;
 constexpr UINT overInterval = 10;
 
 MouseArguments argumentsOf(int button, WPARAM wParam, LPARAM lParam) {
@@ -25,11 +24,7 @@ KeyArguments keyArguments(WPARAM wParam) {
 }  // namespace
 
 void ZelvikButtonXP::watchMouse(bool on) {
-    if (on) {
-        SetTimer(handle(), OverTimer, overInterval, nullptr);
-    } else {
-        KillTimer(handle(), OverTimer);
-    }
+    OverTimer_.start(handle(), on ? overInterval : 0);
 }
 
 void ZelvikButtonXP::captureMouse() {

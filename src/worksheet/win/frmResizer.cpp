@@ -13,9 +13,7 @@ namespace ormala {
 
 namespace {
 
-constexpr UINT_PTR tmrRefresh = 1;
 constexpr UINT tmrRefreshInterval = 222;
-constexpr UINT_PTR tmrSetSize = 2;
 constexpr UINT tmrSetSizeInterval = 87;
 
 /// Reads back where the worksheet lies, once what moved it is over.
@@ -131,7 +129,7 @@ void frmResizer::checkHole() {
             PositionWorksheet();
             break;
         case HoleKeeper::Step::putLater:
-            SetTimer(handle(), tmrSetSize, tmrSetSizeInterval, nullptr);
+            tmrSetSize_.start(handle(), tmrSetSizeInterval);
             break;
         case HoleKeeper::Step::rest:
             break;
@@ -297,7 +295,7 @@ LRESULT frmResizer::onSize(WPARAM wParam, LPARAM lParam) {
     const LRESULT result = DefWindowProcW(handle(), WM_SIZE, wParam, lParam);
     const PixelSize client = sizeOf(clientRectangle());
     FormFrame_.resize({0, 0, client.width, client.height});
-    SetTimer(handle(), tmrRefresh, tmrRefreshInterval, nullptr);
+    tmrRefresh_.start(handle(), tmrRefreshInterval);
     follow();
     return result;
 }
@@ -315,13 +313,13 @@ void frmResizer::onEnterSizeMove() {
     unseenDrag_.reset();
     if (held == HTCAPTION) {
         unseenDrag_ = cursor;
-        SetTimer(handle(), tmrSetSize, tmrSetSizeInterval, nullptr);
+        tmrSetSize_.start(handle(), tmrSetSizeInterval);
     }
 }
 
 void frmResizer::onExitSizeMove() {
     unseenDrag_.reset();
-    KillTimer(handle(), tmrSetSize);
+    tmrSetSize_.stop();
     const PixelSize size = sizeOf(rectangle());
     const PixelSize least = leastSizeOf(handle());
     if (size.width <= least.width || size.height <= least.height) {
@@ -334,7 +332,7 @@ void frmResizer::onExitSizeMove() {
 
 void frmResizer::followUnseen() {
     if (!unseenDrag_) {
-        KillTimer(handle(), tmrSetSize);
+        tmrSetSize_.stop();
         if (isVisible()) {
             PositionWorksheet();
         }
@@ -345,10 +343,10 @@ void frmResizer::followUnseen() {
 }
 
 LRESULT frmResizer::onTimer(WPARAM id) {
-    if (id == tmrSetSize) {
+    if (id == tmrSetSize_.number()) {
         followUnseen();
     } else {
-        KillTimer(handle(), tmrRefresh);
+        tmrRefresh_.stop();
         RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     }
     return 0;

@@ -2,6 +2,7 @@
 
 #include "base/Event.h"
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/Timer.h"
 #include "platform/win/Window.h"
 #include "widgets/ctlFrame.h"
 #include "worksheet/frameRules.h"
@@ -70,6 +71,8 @@ class frmResizer : public Window {
     ctlFrame FormFrame_;
     FrameSizeMemory size_;
     HoleKeeper keeper_;
+    Timer tmrRefresh_{1};
+    Timer tmrSetSize_{2};
     bool checking_ = false;
     Subscription worksheetMoved_;
     Subscription worksheetSized_;

@@ -14,8 +14,6 @@ namespace ormala {
 
 namespace {
 
-constexpr UINT_PTR tmrCrosshair = 1;
-
 RECT primaryWorkArea() {
     RECT area{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
@@ -70,11 +68,9 @@ frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
     CrossHairY_ = std::make_unique<frmCrossHair>(handle(), "CrossHairY");
     languageChanged_ =
         GetLanguageSupport().LanguageChange.subscribe([this] { tip_->setText(sheetTip_.text()); });
-    SetTimer(handle(), tmrCrosshair, Aids::crossHairInterval, nullptr);
 }
 
 frmWorksheet::~frmWorksheet() {
-    KillTimer(handle(), tmrCrosshair);
     CrossHairX_.reset();
     CrossHairY_.reset();
     tip_.reset();
@@ -105,6 +101,7 @@ void frmWorksheet::setClickable(bool clickable) {
     ApplyLayered();
     sheet_.setEditMode(clickable);
     aids_.editModeChanged();
+    keepTime();
     paintNow();
 }
 
@@ -230,12 +227,9 @@ void frmWorksheet::showTip(const OverlayItem& item, TipId tip) {
 
 void frmWorksheet::runTimer(Ticking& ticking, int interval, bool running) {
     const auto id = reinterpret_cast<UINT_PTR>(&ticking);
-    std::erase(timers_, &ticking);
+    timers_.erase(id);
     if (running) {
-        timers_.push_back(&ticking);
-        SetTimer(handle(), id, static_cast<UINT>(interval), nullptr);
-    } else {
-        KillTimer(handle(), id);
+        timers_.try_emplace(id, id).first->second.start(handle(), static_cast<UINT>(interval));
     }
 }
 

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <map>
 #include <memory>
-#include <vector>
 
 #include "base/Event.h"
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/Timer.h"
 #include "platform/win/TipWindow.h"
 #include "platform/win/Window.h"
 #include "scene/Command.h"
@@ -121,6 +122,7 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     LRESULT onMove(WPARAM wParam, LPARAM lParam);
     LRESULT onRelease(int button, WPARAM wParam, LPARAM lParam);
     LRESULT onTimer(WPARAM id);
+    void keepTime();
     LRESULT onResize();
     std::optional<LRESULT> onKey(WPARAM key);
     [[nodiscard]] bool takesKey(int key, int shift) const;
@@ -129,8 +131,10 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     GdiFonts fonts_;
     ForegroundMemory& foreground_;
     WorksheetCommands& commands_;
-    /// Before the sheet, since a tool stops its timer when it is destroyed.
-    std::vector<Ticking*> timers_;
+    Timer tmrCrosshair_{1};
+    /// Of the tools, by the places of their `Ticking`, which are their numbers too. Before the
+    /// sheet, since a tool stops its timer when it is destroyed.
+    std::map<UINT_PTR, Timer> timers_;
     Sheet sheet_;
     Aids aids_;
     SheetMouse mouse_;

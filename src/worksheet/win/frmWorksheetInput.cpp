@@ -71,6 +71,9 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
 /// What tells of another place of the window, or of other screens.
 std::optional<LRESULT> frmWorksheet::onPlaceMessage(UINT message, WPARAM wParam) {
     switch (message) {
+        case WM_WINDOWPOSCHANGED:
+            keepTime();
+            return std::nullopt;
         case WM_SIZE:
             return onResize();
         case WM_MOVE:
@@ -106,6 +109,7 @@ LRESULT frmWorksheet::onPress(int button, WPARAM wParam, LPARAM lParam) {
 LRESULT frmWorksheet::onMove(WPARAM wParam, LPARAM lParam) {
     mouse_.move(mouseInput(heldButtons(wParam), wParam, lParam));
     tip_->relay(WM_MOUSEMOVE, wParam, lParam);
+    keepTime();
     return paintNow();
 }
 
@@ -119,14 +123,18 @@ LRESULT frmWorksheet::onRelease(int button, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT frmWorksheet::onTimer(WPARAM id) {
-    const auto at = std::ranges::find_if(
-        timers_, [id](Ticking* ticking) { return reinterpret_cast<WPARAM>(ticking) == id; });
-    if (at != timers_.end()) {
-        (*at)->tick();
+    if (timers_.contains(id)) {
+        reinterpret_cast<Ticking*>(id)->tick();
     } else {
         mouse_.tick();
+        keepTime();
     }
     return paintNow();
+}
+
+/// The clock of the mouse runs as slowly as it may.
+void frmWorksheet::keepTime() {
+    tmrCrosshair_.keep(handle(), isVisible() ? static_cast<UINT>(mouse_.interval()) : 0);
 }
 
 LRESULT frmWorksheet::onResize() {

@@ -18,8 +18,6 @@ namespace ormala {
 
 namespace {
 
-constexpr UINT tmrButtonBigInterval = 44;
-
 WindowDesign settingsDesign() {
     WindowDesign design;
     design.className = L"frmSettings";
@@ -46,7 +44,6 @@ frmSettings::frmSettings(const Ports& ports) : ports_(ports) {
         parts_->bar.chosen.subscribe([this](Command command) { chosen.raise(command); });
     layOutControls();
     modeMenu_.addTo(handle());
-    SetTimer(handle(), tmrButtonBig, tmrButtonBigInterval, nullptr);
 }
 
 void frmSettings::RefreshRuntimeStrings() {
@@ -85,7 +82,7 @@ void frmSettings::raise() const {
 std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     using Result = std::optional<LRESULT>;
     using Handler = Result (*)(frmSettings&, WPARAM, LPARAM);
-    static constexpr std::array<std::pair<UINT, Handler>, 17> handlers{{
+    static constexpr std::array<std::pair<UINT, Handler>, 18> handlers{{
         {WM_ERASEBKGND, [](frmSettings& self, WPARAM w, LPARAM) { return self.onErase(w); }},
         {WM_SIZE, [](frmSettings& self, WPARAM w, LPARAM) { return self.onSize(w); }},
         {WM_GETMINMAXINFO,
@@ -113,6 +110,11 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
          [](frmSettings& self, WPARAM, LPARAM) {
              self.displayChanged.raise();
              return Result(0);
+         }},
+        {WM_SETCURSOR,
+         [](frmSettings& self, WPARAM, LPARAM) {
+             self.watch_.look(self.size_.dpi());
+             return Result();
          }},
         {WM_TIMER,
          [](frmSettings& self, WPARAM w, LPARAM) {
@@ -201,6 +203,7 @@ std::optional<LRESULT> frmSettings::onPlaced(LPARAM place) {
     if ((reinterpret_cast<const WINDOWPOS*>(place)->flags & SWP_NOZORDER) == 0) {
         orderChanged.raise();
     }
+    watch_.windowChanged(size_.dpi());
     return std::nullopt;
 }
 
@@ -214,6 +217,7 @@ std::optional<LRESULT> frmSettings::onSysCommand(WPARAM entry, LPARAM place) {
 
 void frmSettings::onTimer(UINT_PTR timer) {
     if (timer == tmrButtonBig) {
+        watch_.look(size_.dpi());
         parts_->bar.growButtons(size_.dpi());
     } else {
         ticked.raise(timer);

@@ -13,8 +13,10 @@
 #include "app/win/shell/ModeMenu.h"
 #include "app/win/shell/SettingsSize.h"
 #include "app/win/shell/WorksheetControls.h"
+#include "app/win/shell/settingsIds.h"
 #include "base/Event.h"
 #include "platform/win/Window.h"
+#include "toolkit/win/GrowthWatch.h"
 
 namespace ormala {
 
@@ -52,6 +54,10 @@ class frmSettings : public Window {
 
     /// By a button, a key or the system menu.
     Event<Command> chosen;
+    /// Whether the mouse is over the window or close to it.
+    [[nodiscard]] bool isMouseNear() const { return watch_.isMouseNear(); }
+    /// It has come, or has gone.
+    [[nodiscard]] Event<>& mouseNear() { return watch_.changed; }
     /// A timer of the window has come that is not its own.
     Event<UINT_PTR> ticked;
     /// The list has another place.
@@ -100,6 +106,7 @@ class frmSettings : public Window {
     std::unique_ptr<Parts> parts_;
     ModeMenu modeMenu_;
     DeferredCalls calls_;
+    GrowthWatch watch_{*this, tmrButtonBig};
     Subscription buttonPressed_;
 };
 

@@ -38,10 +38,10 @@ std::optional<LRESULT> PictureBox::onMessage(UINT message, WPARAM wParam, LPARAM
     return 1;
 }
 
-PanelList::PanelList(HWND parent, int id)
+PanelList::PanelList(HWND parent, int id, Clock& clock)
     : PictureBox(parent, id, "picOuter"),
       picInner_(handle(), idInner, "picInner"),
-      scrInner_(handle(), idScroll, "scrInner"),
+      scrInner_(handle(), idScroll, "scrInner", clock),
       scrolled_(scrInner_.Change.subscribe([this] { moveContent(); })) {
     setDpi(dpi_);
 }
@@ -127,12 +127,6 @@ void PanelList::EnsurePanelVisible(int panelTop, int panelHeight) {
 void PanelList::Scroll(bool down) {
     for (const int value : glideOfNotch(down, scrInner_.range(), scrInner_.SmallChange())) {
         scrInner_.setValue(value);
-    }
-}
-
-void PanelList::tick() {
-    if (scrInner_.wantsTicks()) {
-        scrInner_.tick();
     }
 }
 

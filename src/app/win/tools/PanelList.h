@@ -22,7 +22,8 @@ class PictureBox : public Window {
 /// lengths are pixels of the window's monitor.
 class PanelList : public PictureBox {
   public:
-    PanelList(HWND parent, int id);
+    /// `clock` ticks every 40 ms, and must outlive it.
+    PanelList(HWND parent, int id, Clock& clock);
     ~PanelList() override { destroy(); }
 
     /// The parent of the panels.
@@ -44,8 +45,6 @@ class PanelList : public PictureBox {
     void EnsurePanelVisible(int panelTop, int panelHeight);
     /// One notch of the wheel, as a glide.
     void Scroll(bool down);
-    /// The shared clock of 40 ms.
-    void tick();
 
     /// Another part of the content shows now.
     Event<> viewChanged;

@@ -56,7 +56,7 @@ std::unique_ptr<ListedPanel> PanelMaker::makePanel(ToolKind kind, OverlayItem& t
 std::unique_ptr<SettingControl> PanelMaker::makeCore(ToolKind kind, OverlayItem& tool,
                                                      PanelView& view) {
     PanelDialogs& dialogs = ports_.dialogs;
-    const PanelPorts ports{view, dialogs, tmrFast,
+    const PanelPorts ports{view, dialogs, ports_.tmrFast,
                            [&sheet = ports_.sheet](const OverlayItem& shown, bool visible) {
                                sheet.setVisible(shown, visible);
                            },

@@ -17,6 +17,8 @@ class PanelMaker : public PanelFactory {
     /// What panels show their tools by, and the dialogs that they open.
     struct Ports {
         const PanelList& list;
+        /// Of held buttons, 40 ms.
+        Clock& tmrFast;
         Sheet& sheet;
         PanelHost& host;
         PanelDialogs& dialogs;
@@ -30,9 +32,6 @@ class PanelMaker : public PanelFactory {
 
     std::unique_ptr<ListedPanel> makePanel(ToolKind kind, OverlayItem& tool) override;
     void setDpi(int dpi);
-
-    /// The shared clock of held buttons, 40 ms.
-    Event<> tmrFast;
 
     /// All panels, in the order of their making.
     [[nodiscard]] const std::vector<PanelWindow*>& panels() const { return panels_; }

@@ -13,9 +13,6 @@ namespace ormala {
 
 namespace {
 
-/// The shared clock of held buttons.
-constexpr UINT tmrFastInterval = 40;
-
 std::string automaticFile() {
     return toolsFilePath(GetSpecialFolder(folderApplicationData));
 }
@@ -26,12 +23,12 @@ ToolsPane::ToolsPane(const Ports& ports)
     : ports_(ports),
       messages_(ports.window.handle()),
       toolsFile_(ports.store, ports.codePage, fileMessages_),
-      list_(ports.window.handle(), idList),
+      list_(ports.window.handle(), idList, clock_),
       panelDialogs_({ports.window.handle(), ports.worksheet.handle(), ports.ratios, ports.state,
                      ports.codePage, [this](bool aside) { ports_.view.putWindowsAside(aside); }}),
       focus_({ports.window, ports.view, ports.focus, list_, panelMaker_, ports.worksheet.sheet(),
               tools_}),
-      panelMaker_({list_, ports.worksheet.sheet(), focus_, panelDialogs_,
+      panelMaker_({list_, clock_, ports.worksheet.sheet(), focus_, panelDialogs_,
                    ports.state.toolSettings(), ports.ratios, ports.globalEvents}),
       dialogs_(ports.window.handle(), ports.window.bar()),
       tools_({ports.worksheet.sheet(), panelMaker_, *this, messages_,
@@ -40,10 +37,10 @@ ToolsPane::ToolsPane(const Ports& ports)
       documents_({toolsFile_, ports.store, toolFile_, tools_, *this, dialogs_}),
       subscriptions_{list_.viewChanged.subscribe([this] { tellPanelsWhatShows(); }),
                      ports.window.ticked.subscribe([this](UINT_PTR timer) { onTimer(timer); }),
+                     ports.window.mouseNear().subscribe([this] { tellPanelsWhatShows(); }),
                      ports.window.listPlaced.subscribe([this] { takePlace(); }),
                      ports.window.dpiChanged.subscribe([this] { takeDpi(); })} {
     takeDpi();
-    SetTimer(ports_.window.handle(), tmrFast, tmrFastInterval, nullptr);
 }
 
 ToolsPane::~ToolsPane() = default;
@@ -88,15 +85,20 @@ void ToolsPane::UpdatePanelLayout(bool AdjustFormHeight, bool Force) {
 }
 
 void ToolsPane::tellPanelsWhatShows() {
+    const bool isNear = ports_.window.isMouseNear();
     for (PanelWindow* panel : panelMaker_.panels()) {
-        panel->setSeen(list_.shows(panel->handle()));
+        panel->setGrowing(isNear && list_.shows(panel->handle()));
     }
+}
+
+void ToolsPane::runClock(bool running) {
+    constexpr UINT interval = 40;
+    tmrFast_.keep(ports_.window.handle(), running ? interval : 0);
 }
 
 void ToolsPane::onTimer(UINT_PTR timer) {
     if (timer == tmrFast) {
-        list_.tick();
-        panelMaker_.tmrFast.raise();
+        clock_.tick();
     }
 }
 

@@ -62,6 +62,7 @@ class ToolsPane : private ToolListView, private BusyView {
     [[nodiscard]] Sheet& sheet() { return ports_.worksheet.sheet(); }
     void addTool(ToolKind kind);
     void stepHistory(bool back);
+    void runClock(bool running);
     void onTimer(UINT_PTR timer);
     void takePlace();
     void takeDpi();
@@ -72,6 +73,9 @@ class ToolsPane : private ToolListView, private BusyView {
     WindowsMessagePresenter fileMessages_{applicationTitle};
     PanelLayout layout_;
     INIFile toolsFile_;
+    Timer tmrFast_{tmrFast};
+    /// Of held buttons.
+    Clock clock_{[this](bool running) { runClock(running); }};
     PanelList list_;
     PanelDialogs panelDialogs_;
     PanelFocus focus_;
@@ -80,7 +84,7 @@ class ToolsPane : private ToolListView, private BusyView {
     ToolList tools_;
     ToolFile toolFile_;
     Documents documents_;
-    std::array<Subscription, 4> subscriptions_;
+    std::array<Subscription, 5> subscriptions_;
 };
 
 }  // namespace ormala

@@ -25,7 +25,7 @@ void ScreenShot::take(frmWorksheet& worksheet) {
     const ULONGLONG now = GetTickCount64();
     restUntil_ = now + restingTime;
     patientUntil_ = now + clipboardPatience;
-    SetTimer(control_, timer_, clipboardInterval, nullptr);
+    timer_.start(control_, clipboardInterval);
     deliver();
 }
 
@@ -37,7 +37,7 @@ void ScreenShot::tick() {
         deliver();
     }
     if (!focus_ && !picture_) {
-        KillTimer(control_, timer_);
+        timer_.stop();
     }
 }
 

@@ -7,6 +7,7 @@
 #include "app/shotNotes.h"
 #include "base/Event.h"
 #include "platform/win/KeptFocus.h"
+#include "platform/win/Timer.h"
 #include "platform/win/clipboard.h"
 #include "worksheet/win/frmWorksheet.h"
 
@@ -34,7 +35,7 @@ class ScreenShot {
     void tell(ShotOutcome outcome);
 
     HWND control_;
-    UINT_PTR timer_;
+    Timer timer_;
     /// Captured, and not yet on the clipboard.
     std::optional<ScreenPicture> picture_;
     ULONGLONG patientUntil_ = 0;

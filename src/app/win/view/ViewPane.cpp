@@ -97,14 +97,14 @@ void ViewPane::takeScreenShot() {
 void ViewPane::showNote(const std::string& text) {
     constexpr UINT readingTime = 4000;
     ports_.window.bar().showNote(text);
-    SetTimer(ports_.window.handle(), tmrNote, readingTime, nullptr);
+    tmrNote_.start(ports_.window.handle(), readingTime);
 }
 
 void ViewPane::onTimer(UINT_PTR timer) {
     if (timer == tmrClipboard) {
         shot_.tick();
     } else if (timer == tmrNote) {
-        KillTimer(ports_.window.handle(), tmrNote);
+        tmrNote_.stop();
         ports_.window.bar().showNote({});
     }
 }

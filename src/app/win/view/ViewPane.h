@@ -5,10 +5,12 @@
 
 #include "app/ViewState.h"
 #include "app/win/shell/frmSettings.h"
+#include "app/win/shell/settingsIds.h"
 #include "app/win/view/LensPane.h"
 #include "app/win/view/ScreenShot.h"
 #include "app/win/view/frmMenu.h"
 #include "dialogs/OptionsPort.h"
+#include "platform/win/Timer.h"
 #include "worksheet/win/frmResizer.h"
 
 namespace ormala {
@@ -80,6 +82,7 @@ class ViewPane : public OptionsPort {
     LensPane lens_;
     std::unique_ptr<frmOptions> frmOptions_;
     ScreenShot shot_;
+    Timer tmrNote_{tmrNote};
     bool takesScreenShot_ = false;
     /// Whether the frame is to be shown again that has been put aside.
     bool frameAside_ = false;
