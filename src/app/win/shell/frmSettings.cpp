@@ -116,11 +116,7 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
              self.watch_.look(self.size_.dpi());
              return Result();
          }},
-        {WM_TIMER,
-         [](frmSettings& self, WPARAM w, LPARAM) {
-             self.onTimer(w);
-             return Result(0);
-         }},
+        {WM_TIMER, [](frmSettings& self, WPARAM w, LPARAM) { return self.onTimer(w); }},
         {DeferredCalls::message,
          [](frmSettings& self, WPARAM, LPARAM) {
              self.calls_.runNext();
@@ -215,13 +211,14 @@ std::optional<LRESULT> frmSettings::onSysCommand(WPARAM entry, LPARAM place) {
     return result;
 }
 
-void frmSettings::onTimer(UINT_PTR timer) {
+std::optional<LRESULT> frmSettings::onTimer(UINT_PTR timer) {
     if (timer == tmrButtonBig) {
         watch_.look(size_.dpi());
         parts_->bar.growButtons(size_.dpi());
     } else {
         ticked.raise(timer);
     }
+    return 0;
 }
 
 std::optional<LRESULT> frmSettings::onCommand(WPARAM notification) {

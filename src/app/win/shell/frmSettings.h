@@ -97,7 +97,7 @@ class frmSettings : public Window {
     std::optional<LRESULT> onMouseActivate();
     std::optional<LRESULT> onPlaced(LPARAM place);
     std::optional<LRESULT> onSysCommand(WPARAM entry, LPARAM place);
-    void onTimer(UINT_PTR timer);
+    std::optional<LRESULT> onTimer(UINT_PTR timer);
     std::optional<LRESULT> onCommand(WPARAM notification);
     bool focusNextControl(int held);
 
