@@ -26,6 +26,9 @@ void addedTools();
 /// The control window on the screen with 33 panels: adding, loading, refreshing and scrolling them.
 void controlWindow();
 
+/// A drag with the magnifier shown, while the mouse moves faster than anybody can paint.
+void flood();
+
 /// From the start of the program to its painted worksheet.
 void start();
 

@@ -31,6 +31,9 @@ int main(int argc, char** argv) {
     if (wanted("panels")) {
         bench::controlWindow();
     }
+    if (wanted("flood")) {
+        bench::flood();
+    }
     if (wanted("start")) {
         bench::start();
     }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
@@ -30,7 +29,8 @@ class ControlId {
     constexpr ControlId(Control control) : number_(static_cast<ControlNumber>(control)) {}
 
     [[nodiscard]] constexpr std::size_t index() const { return number_; }
-    auto operator<=>(const ControlId&) const = default;
+    bool operator==(const ControlId&) const = default;
+    bool operator<(const ControlId& other) const { return number_ < other.number_; }
 
   private:
     ControlNumber number_;

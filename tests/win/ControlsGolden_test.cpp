@@ -40,7 +40,7 @@ PixelImage disc(PixelSize size) {
 /// All looks of the controls on one panel, in rows of buttons.
 class ControlsGolden : public testing::TestWithParam<int> {
   protected:
-    [[nodiscard]] int dpi() const { return GetParam(); }
+    [[nodiscard]] static int dpi() { return GetParam(); }
     [[nodiscard]] int scaled(int length) const { return scaledLength(length, dpi()); }
     [[nodiscard]] PixelRect box(int left, int top, int width, int height) const {
         return {scaled(left), scaled(top), scaled(left + width), scaled(top + height)};

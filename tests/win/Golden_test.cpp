@@ -12,15 +12,15 @@ namespace {
 
 /// Large enough for several blocks of a file.
 Picture sample(int width = 300, int height = 100) {
-    std::vector<Color> pixels;
-    for (int i = 0; i < width * height; ++i) {
-        pixels.push_back(static_cast<Color>(i * 977) & 0xFFFFFFU);
+    std::vector<Color> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    for (std::size_t i = 0; i < pixels.size(); ++i) {
+        pixels[i] = static_cast<Color>(i * 977) & 0xFFFFFFU;
     }
     return {{0, 0, width, height}, std::move(pixels)};
 }
 
 Picture plain(std::size_t others, Color color) {
-    std::vector<Color> pixels(100 * 10, 0x606060U);
+    std::vector<Color> pixels(1000, 0x606060U);
     std::fill_n(pixels.begin(), others, color);
     return {{0, 0, 100, 10}, std::move(pixels)};
 }

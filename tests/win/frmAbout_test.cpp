@@ -67,9 +67,9 @@ TEST_F(frmAboutTest, SpeaksGermanAfterAChangeOfLanguage) {
 }
 
 TEST_F(frmAboutTest, AClickOnALinkOpensIt) {
-    const LPARAM inside = MAKELPARAM(5, 5);
     untilReady()
-        .then([this, inside] {
+        .then([this] {
+            const LPARAM inside = MAKELPARAM(5, 5);
             for (const char* const link : {"lblLink", "lblMailLink"}) {
                 SendMessageW(part(link), WM_LBUTTONDOWN, MK_LBUTTON, inside);
                 SendMessageW(part(link), WM_LBUTTONUP, 0, inside);

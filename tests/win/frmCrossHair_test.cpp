@@ -47,8 +47,8 @@ class frmCrossHairTest : public testing::Test {
             return now.x == x && now.y == y;
         }));
     }
-    [[nodiscard]] bool visible(HWND window) const { return IsWindowVisible(window) != FALSE; }
-    [[nodiscard]] bool waitForPlace(HWND window, const PixelRect& place) const {
+    [[nodiscard]] static bool visible(HWND window) { return IsWindowVisible(window) != FALSE; }
+    [[nodiscard]] static bool waitForPlace(HWND window, const PixelRect& place) {
         return test::waitUntil([&] { return placeOf(window) == place; });
     }
 

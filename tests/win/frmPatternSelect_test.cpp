@@ -256,6 +256,7 @@ TEST_F(PatternSelectTest, TabGoesFromControlToControlAsTheyAreSeen) {
     player_.then([this] { EXPECT_EQ(GetFocus(), control("btnTab(0)")); }).key(VK_ESCAPE);
     (void)form_.SelectPattern(patterns_, tab_, nullptr);
     std::vector<std::string> seen;
+    seen.reserve(static_cast<std::size_t>(stops));
     for (int tab = 0; tab < 5; ++tab) {
         seen.push_back("btnTab(" + std::to_string(tab) + ")");
     }

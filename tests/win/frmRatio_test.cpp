@@ -55,7 +55,7 @@ class frmRatioTest : public testing::Test {
 
     EnglishTexts english_;
     TestWindow owner_;
-    const TextForm form_;
+    const TextForm form_{};
     SpecialRatios ratios_{&translated, form_};
     frmRatio dialog_{ratios_, form_};
     ModalPlayer player_;

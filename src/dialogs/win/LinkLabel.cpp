@@ -48,7 +48,7 @@ void LinkLabel::draw(HDC context) {
     }
 }
 
-LRESULT LinkLabel::click() {
+LRESULT LinkLabel::click() const {
     Click.raise();
     return 0;
 }

@@ -23,7 +23,7 @@ class LinkLabel : public LineOfText {
     void tellFacts(AccessibleFacts& facts) const override;
     [[nodiscard]] HFONT textFont() const override { return font_.get(); }
     void dpiChanged() override;
-    LRESULT click();
+    LRESULT click() const;
     LRESULT press();
     LRESULT release(LPARAM lParam);
     LRESULT showHand(LPARAM lParam);

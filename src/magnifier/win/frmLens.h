@@ -77,7 +77,7 @@ class frmLens : public Window {
     void mnuLensStick_Click() { setSticked(!Sticked()); }
 
     /// Lets the menu fetch its check marks.
-    void SetMenuCheckBoxes() { menuChanged.raise(); }
+    void SetMenuCheckBoxes() const { menuChanged.raise(); }
     [[nodiscard]] LensMenuState menuState() const;
 
     /// The menu has to show another state.

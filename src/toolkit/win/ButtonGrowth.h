@@ -35,7 +35,7 @@ class ButtonGrowth {
     [[nodiscard]] bool hasWork(PixelPoint mouse, int dpi) const;
     [[nodiscard]] std::vector<GrowingButton> buttons() const;
     void apply(const GrowthSteps& steps, int dpi);
-    void resize(Entry& entry, bool grown, int dpi);
+    static void resize(Entry& entry, bool grown, int dpi);
 
     const Window& panel_;
     std::vector<Entry> entries_;

@@ -33,8 +33,7 @@ int useLanguageOfSystem() {
 }
 
 SpecialRatios translatedRatios(const TextForm& form) {
-    return SpecialRatios(
-        [](int id, std::string_view defaultText) { return MlString(id, defaultText); }, form);
+    return {[](int id, std::string_view defaultText) { return MlString(id, defaultText); }, form};
 }
 
 }  // namespace

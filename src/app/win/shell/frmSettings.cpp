@@ -189,7 +189,7 @@ std::optional<LRESULT> frmSettings::onActivate(WPARAM kind, LPARAM otherWindow) 
     return std::nullopt;
 }
 
-std::optional<LRESULT> frmSettings::onMouseActivate() {
+std::optional<LRESULT> frmSettings::onMouseActivate() const {
     const DWORD place = GetMessagePos();
     pressed.raise({GET_X_LPARAM(place), GET_Y_LPARAM(place)});
     return std::nullopt;

@@ -94,7 +94,7 @@ class frmSettings : public Window {
     std::optional<LRESULT> onGetMinMaxInfo(LPARAM limits) const;
     std::optional<LRESULT> onDpiChanged(WPARAM dpi, LPARAM suggested);
     std::optional<LRESULT> onActivate(WPARAM kind, LPARAM otherWindow);
-    std::optional<LRESULT> onMouseActivate();
+    std::optional<LRESULT> onMouseActivate() const;
     std::optional<LRESULT> onPlaced(LPARAM place);
     std::optional<LRESULT> onSysCommand(WPARAM entry, LPARAM place);
     std::optional<LRESULT> onTimer(UINT_PTR timer);

@@ -7,6 +7,7 @@
 #include "app/win/shell/Program.h"
 #include "base/win/systemMessage.h"
 #include "platform/win/Accessible.h"
+#include "platform/win/FairMessages.h"
 #include "platform/win/callbackGuard.h"
 #include "platform/win/handles.h"
 #include "platform/win/text.h"
@@ -24,7 +25,8 @@ Handle<HANDLE, &CloseHandle> runningMark(bool& anotherRuns) {
 
 int runMessages(ormala::Program& program) {
     MSG message{};
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+    ormala::FairMessages messages;
+    while (messages.next(message)) {
         if (!program.preview(message)) {
             TranslateMessage(&message);
             DispatchMessageW(&message);

@@ -1,5 +1,7 @@
 #include "app/win/tools/PanelDialogs.h"
 
+#include <utility>
+
 #include "app/version.h"
 #include "app/win/tools/MouseAction.h"
 #include "dialogs/win/frmColor.h"
@@ -23,7 +25,7 @@ Dialog& made(std::unique_ptr<Dialog>& dialog, const Args&... args) {
 
 }  // namespace
 
-PanelDialogs::PanelDialogs(const Ports& ports) : ports_(ports) {}
+PanelDialogs::PanelDialogs(Ports ports) : ports_(std::move(ports)) {}
 
 PanelDialogs::~PanelDialogs() = default;
 

@@ -37,7 +37,7 @@ class PanelDialogs : public LookDialogs, public StencilCommands {
         std::function<void(bool aside)> putWindowsAside;
     };
 
-    explicit PanelDialogs(const Ports& ports);
+    explicit PanelDialogs(Ports ports);
     ~PanelDialogs() override;
 
     /// The dialog of a measuring tool's units, which changes the tool; false if it was cancelled.

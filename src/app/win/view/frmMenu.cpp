@@ -103,7 +103,7 @@ void frmMenu::showState(const ViewState& state) const {
     setEnabled(Command::lensGrid, factor != 1);
 }
 
-std::optional<Command> frmMenu::popUp(HMENU menu, HWND owner, POINT at) const {
+std::optional<Command> frmMenu::popUp(HMENU menu, HWND owner, POINT at) {
     // A menu whose owner is not in front stays open when the user clicks elsewhere.
     SetForegroundWindow(owner);
     const BOOL chosen =

@@ -30,7 +30,7 @@ class frmMenu : public Window {
 
     /// Shows one of the menus at a point of the screen until the user has chosen or left it. The
     /// owner gets the keyboard and has it afterwards.
-    std::optional<Command> popUp(HMENU menu, HWND owner, POINT at) const;
+    static std::optional<Command> popUp(HMENU menu, HWND owner, POINT at);
 
   private:
     std::optional<LRESULT> onMessage(UINT, WPARAM, LPARAM) override { return std::nullopt; }
