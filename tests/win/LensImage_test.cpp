@@ -30,7 +30,7 @@ class NotedCopies {
     NotedCopies& operator=(const NotedCopies&) = delete;
     ~NotedCopies() { replace(system()); }
 
-    [[nodiscard]] const std::vector<DWORD>& operations() const { return noted(); }
+    [[nodiscard]] static const std::vector<DWORD>& operations() { return noted(); }
 
   private:
     static std::vector<DWORD>& noted() {

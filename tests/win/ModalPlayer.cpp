@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+
 #include "platform/win/controlName.h"
 #include "platform/win/text.h"
 
@@ -44,7 +46,7 @@ ModalPlayer& ModalPlayer::key(int virtualKey) {
     });
 }
 
-ModalPlayer& ModalPlayer::untilActive(std::string className) {
+ModalPlayer& ModalPlayer::untilActive(const std::string& className) {
     return until(className + " is active", [className] {
         const HWND active = GetActiveWindow();
         return active != nullptr && IsWindowVisible(active) != FALSE &&
@@ -80,7 +82,7 @@ void ModalPlayer::playNext() {
 }
 
 void ModalPlayer::waitInVain(const std::string& what) {
-    if (++ticks_ * static_cast<int>(tickLength) > test::usualDeadline.count()) {
+    if (++ticks_ * static_cast<std::int64_t>(tickLength) > test::usualDeadline.count()) {
         ADD_FAILURE() << "Waited in vain for: " << what;
         givenUp_ = true;
     }

@@ -23,7 +23,7 @@ class ModalPlayer : private Window {
     /// A key goes down and up in the window that has the focus.
     ModalPlayer& key(int virtualKey);
     /// Waits for a visible window of the thread with this class, which is the active one.
-    ModalPlayer& untilActive(std::string className);
+    ModalPlayer& untilActive(const std::string& className);
 
     [[nodiscard]] bool done() const { return next_ == steps_.size(); }
 

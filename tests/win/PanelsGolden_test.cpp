@@ -33,7 +33,7 @@ class PanelsGolden : public testing::TestWithParam<LanguageAndDpi> {
         ground_ = std::make_unique<ControlPanel>(
             PixelSize{columns * size_.width, looks / columns * size_.height});
     }
-    void show(PanelWindow& panel, int look) {
+    void show(PanelWindow& panel, int look) const {
         panel.setDpi(GetParam().dpi);
         const int left = look % columns * size_.width;
         const int top = look / columns * size_.height;

@@ -93,7 +93,7 @@ class ScrollTest : public testing::Test {
     }
     /// How many pixels of a colour lie in a row, or in a column.
     static std::ptrdiff_t inRow(const PixelMap& map, int row, COLORREF color) {
-        const auto first = map.pixels.begin() + row * map.size.width;
+        const auto first = map.pixels.begin() + std::ptrdiff_t{row} * map.size.width;
         return std::count(first, first + map.size.width, color);
     }
     static std::ptrdiff_t inColumn(const PixelMap& map, int column, COLORREF color) {
