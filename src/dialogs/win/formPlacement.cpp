@@ -9,16 +9,11 @@ namespace ormala {
 
 namespace {
 
-WINDOWPLACEMENT systemPlacement(HWND window) {
+WindowPlacement placementOf(HWND window) {
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
     GetWindowPlacement(window, &placement);
-    return placement;
-}
-
-WindowPlacement placementOf(HWND window) {
-    const WINDOWPLACEMENT placement = systemPlacement(window);
-    return {static_cast<std::int32_t>(placement.showCmd), fromRect(placement.rcNormalPosition)};
+    return {static_cast<std::int32_t>(placement.showCmd), normalPlaceOf(window)};
 }
 
 /// There is none in a gap between screens of different sizes.
@@ -27,11 +22,8 @@ PixelRect onSomeScreen(const PixelRect& rect) {
     if (MonitorFromRect(&place, MONITOR_DEFAULTTONULL) != nullptr) {
         return rect;
     }
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST), &monitor);
     WindowPlacement placement{0, rect};
-    KeepRectInBounds(placement, fromRect(monitor.rcWork));
+    KeepRectInBounds(placement, fromRect(monitorAround(place).rcWork));
     return placement.rcNormalPosition;
 }
 
@@ -70,16 +62,18 @@ RestoredPlacement storedPlacement(HWND window, INIFile& options, const std::stri
     return restored;
 }
 
-void RestoreFormPlacement(HWND window, INIFile& options, const std::string& section, bool cascade) {
-    const RestoredPlacement restored = storedPlacement(window, options, section, cascade);
+void RestoreFormPlacement(HWND window, PlaceAcrossDpi& place, INIFile& options,
+                          const std::string& section, bool cascade) {
+    RestoredPlacement restored = storedPlacement(window, options, section, cascade);
     if (restored.maximise) {
         ShowWindow(window, SW_SHOWMAXIMIZED);
     }
-    // Neither shows the window nor changes its state.
-    WINDOWPLACEMENT placement = systemPlacement(window);
-    placement.showCmd = SW_HIDE;
-    placement.rcNormalPosition = toRect(restored.rect);
-    SetWindowPlacement(window, &placement);
+    place.restore([&] {
+        setNormalPlace(window, restored.rect);
+        // A size that is not the user's is another one at another resolution.
+        restored = storedPlacement(window, options, section, false);
+        return normalPlaceOf(window) == restored.rect;
+    });
     if (!restored.maximise) {
         // On a screen of another resolution it may have become larger than it was.
         bringOntoScreens(window);
@@ -88,21 +82,20 @@ void RestoreFormPlacement(HWND window, INIFile& options, const std::string& sect
 
 void bringOntoScreens(HWND window) {
     if (IsIconic(window) != FALSE) {
-        WINDOWPLACEMENT placement = systemPlacement(window);
-        placement.rcNormalPosition =
-            toRect(keptOnPresentScreens(fromRect(placement.rcNormalPosition)));
-        placement.showCmd = SW_SHOWMINNOACTIVE;
-        SetWindowPlacement(window, &placement);
+        setNormalPlace(window, keptOnPresentScreens(normalPlaceOf(window)));
         return;
     }
-    RECT present{};
-    GetWindowRect(window, &present);
-    const PixelRect former = fromRect(present);
-    const PixelRect place = keptOnPresentScreens(former);
-    if (place != former) {
+    placeSteadily([window] {
+        RECT present{};
+        GetWindowRect(window, &present);
+        const PixelRect place = keptOnPresentScreens(fromRect(present));
+        if (place == fromRect(present)) {
+            return true;
+        }
         SetWindowPos(window, nullptr, place.left, place.top, place.width(), place.height(),
                      SWP_NOZORDER | SWP_NOACTIVATE);
-    }
+        return false;
+    });
 }
 
 int dpiOf(HWND window) {

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "platform/win/PlaceAcrossDpi.h"
 #include "storage/WindowPlacement.h"
 
 namespace ormala {
@@ -17,8 +18,9 @@ RestoredPlacement storedPlacement(HWND window, INIFile& options, const std::stri
                                   bool cascade);
 
 void SaveFormPlacement(HWND window, INIFile& options, const std::string& section);
-/// Brings the window back to where it was stored; `cascade` as for `restoredPlacement`.
-void RestoreFormPlacement(HWND window, INIFile& options, const std::string& section, bool cascade);
+/// Brings a hidden window back to where it was stored; `cascade` as for `restoredPlacement`.
+void RestoreFormPlacement(HWND window, PlaceAcrossDpi& place, INIFile& options,
+                          const std::string& section, bool cascade);
 
 /// Brings a window back that has lost its screen while it was there. It stays hidden, minimised or
 /// behind others as it was.

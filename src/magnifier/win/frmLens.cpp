@@ -15,10 +15,6 @@ constexpr DWORD style = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME 
 /// A tool window has a small caption and no button on the task bar.
 constexpr DWORD extendedStyle = WS_EX_TOOLWINDOW | WS_EX_TOPMOST;
 
-PixelSize sizeOf(const RECT& rect) {
-    return {static_cast<int>(rect.right - rect.left), static_cast<int>(rect.bottom - rect.top)};
-}
-
 PixelSize firstSize(HWND window) {
     const UINT dpi = GetDpiForWindow(window);
     const PixelSize client = firstLensClient(static_cast<int>(dpi));
@@ -88,7 +84,7 @@ void frmLens::setOptions(const LensOptions& options) {
 void frmLens::show(HWND owner) {
     SetWindowLongPtrW(handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
     readBounds();
-    setVisible(true);
+    acrossDpi_.show(handle(), SW_SHOWNA);
     Update();
 }
 

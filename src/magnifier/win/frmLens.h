@@ -10,6 +10,7 @@
 #include "magnifier/win/LensImage.h"
 #include "magnifier/win/LensRuler.h"
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/PlaceAcrossDpi.h"
 #include "platform/win/Timer.h"
 #include "platform/win/Window.h"
 #include "scene/Mode.h"
@@ -38,6 +39,7 @@ class frmLens : public Window {
     /// Shows it in front of its owner, without activating it.
     void show(HWND owner);
     void hide() { setVisible(false); }
+    [[nodiscard]] PlaceAcrossDpi& acrossDpi() { return acrossDpi_; }
 
     /// 1 to 10; any other becomes the nearest one.
     [[nodiscard]] int Factor() const { return options_.factor; }
@@ -136,6 +138,7 @@ class frmLens : public Window {
     Timer tmrMain_{tmrMain};
 
     int dpi_ = designDpi;
+    PlaceAcrossDpi acrossDpi_;
     ScaleGlyphs glyphs_;
     GdiFonts fonts_{designDpi};
     ctlFrame FormFrame_;

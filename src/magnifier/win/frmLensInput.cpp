@@ -96,15 +96,14 @@ LRESULT frmLens::onGetMinMaxInfo(LPARAM lParam) const {
 }
 
 LRESULT frmLens::onDpiChanged(WPARAM wParam, LPARAM lParam) {
-    const RECT& place = *reinterpret_cast<const RECT*>(lParam);
+    const int former = dpi_;
     setDpi(LOWORD(wParam));
-    if (Sticked()) {
-        // Another size could bring it back onto the screen that it comes from, without end.
-        LayoutLens();
-        return 0;
+    if (!Sticked()) {
+        const RECT& suggested = *reinterpret_cast<const RECT*>(lParam);
+        acrossDpi_.take(handle(), acrossDpi_.at(handle(), former, dpi_, suggested));
     }
-    SetWindowPos(handle(), nullptr, place.left, place.top, place.right - place.left,
-                 place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    // Of one that follows the mouse another size could bring it back onto the screen that it comes
+    // from, without end.
     LayoutLens();
     return 0;
 }

@@ -9,6 +9,13 @@ int metricOr(int index, int fallback) {
     return value != 0 ? value : fallback;
 }
 
+MONITORINFO factsOf(HMONITOR handle) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(handle, &monitor);
+    return monitor;
+}
+
 }  // namespace
 
 RECT virtualScreen() {
@@ -19,10 +26,11 @@ RECT virtualScreen() {
 }
 
 MONITORINFO monitorAround(HWND window) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
-    return monitor;
+    return factsOf(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST));
+}
+
+MONITORINFO monitorAround(const RECT& place) {
+    return factsOf(MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST));
 }
 
 RECT workAreaAround(HWND window) {

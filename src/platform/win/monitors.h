@@ -6,6 +6,8 @@ namespace ormala {
 
 /// The monitor that the window is on, or is next to.
 MONITORINFO monitorAround(HWND window);
+/// The same for a place.
+MONITORINFO monitorAround(const RECT& place);
 
 /// The bounds of all screens together; those of the primary one where the system does not tell.
 RECT virtualScreen();

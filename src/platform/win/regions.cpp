@@ -71,4 +71,8 @@ PixelRect fromRect(const RECT& rect) {
             static_cast<int>(rect.bottom)};
 }
 
+PixelSize sizeOf(const RECT& rect) {
+    return {static_cast<int>(rect.right - rect.left), static_cast<int>(rect.bottom - rect.top)};
+}
+
 }  // namespace ormala

@@ -24,6 +24,7 @@ PixelRect boundsOf(HRGN region);
 
 RECT toRect(const PixelRect& rect);
 PixelRect fromRect(const RECT& rect);
+PixelSize sizeOf(const RECT& rect);
 
 /// Restricts drawing to a region for its lifetime.
 class ClipScope {

@@ -5,6 +5,7 @@
 
 #include "language/MlStringModule.h"
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/PlaceAcrossDpi.h"
 #include "platform/win/fills.h"
 #include "platform/win/fonts.h"
 #include "platform/win/monitors.h"
@@ -115,19 +116,18 @@ PixelSize ModalDialog::outerSize() const {
     return {outer.width(), outer.height()};
 }
 
-void ModalDialog::centreOn(HWND owner) {
+bool ModalDialog::centreOn(HWND owner) {
+    setDpi(static_cast<int>(GetDpiForWindow(handle())));
     const PixelRect box = placeOfDialog(outerSize(), placeOf(owner), workAreaOf(owner));
     SetWindowPos(handle(), HWND_TOPMOST, box.left, box.top, box.width(), box.height(),
                  SWP_NOACTIVATE);
+    return fromRect(rectangle()) == box && dpi_ == static_cast<int>(GetDpiForWindow(handle()));
 }
 
 /// The way to the owner's monitor may change the resolution, and with it the size.
 void ModalDialog::placeOver(HWND owner) {
     setOwner(handle(), owner);
-    setDpi(static_cast<int>(GetDpiForWindow(handle())));
-    centreOn(owner);
-    setDpi(static_cast<int>(GetDpiForWindow(handle())));
-    centreOn(owner);
+    placeSteadily([this, owner] { return centreOn(owner); });
 }
 
 bool ModalDialog::showModal(HWND owner) {

@@ -77,7 +77,7 @@ class ModalDialog : public Window {
     void setDpi(int dpi);
     [[nodiscard]] PixelSize outerSize() const;
     void placeOver(HWND owner);
-    void centreOn(HWND owner);
+    bool centreOn(HWND owner);
     void runMessages();
     void leave();
     void focusFirst();

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "base/Event.h"
+#include "modAPI/drawingColors.h"
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/PlaceAcrossDpi.h"
 #include "platform/win/Timer.h"
 #include "platform/win/Window.h"
 #include "widgets/ctlFrame.h"
@@ -21,8 +23,8 @@ class frmResizer : public Window {
 
     /// Composes the caption of the program's title and the language's word for the worksheet.
     void SetRuntimeTexts(std::string_view title);
-    /// Takes the place of an earlier run, in the coordinates of a window placement.
-    void restore(const RECT& place, bool maximised);
+    /// Takes the place of an earlier run, while it is hidden.
+    void restore(const PixelRect& place, bool maximised);
 
     /// Lays the worksheet into the frame, or lets it fill the screen if the frame is maximised. A
     /// worksheet that is hidden stays so.
@@ -43,6 +45,13 @@ class frmResizer : public Window {
     Event<PixelPoint> worksheetPlaced;
 
   private:
+    static constexpr COLORREF keyColor = static_cast<COLORREF>(sheetColor::frameKey);
+    static constexpr UINT_PTR tmrRefresh = 1;
+    static constexpr UINT_PTR tmrSetSize = 2;
+    static constexpr UINT tmrSetSizeInterval = 87;
+    /// Reads back where the worksheet lies, once what moved it is over.
+    static constexpr UINT wmCheckHole = WM_APP + 1;
+
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     void layerAnew();
@@ -63,12 +72,14 @@ class frmResizer : public Window {
     void onExitSizeMove();
     void followUnseen();
     LRESULT onTimer(WPARAM id);
-    LRESULT onDpiChanged(LPARAM lParam);
+    LRESULT onDpiChanged(int dpi, const RECT& suggested);
 
     frmWorksheet& worksheet_;
     WorksheetCommands& commands_;
     GdiFonts fonts_;
     ctlFrame FormFrame_;
+    int dpi_ = USER_DEFAULT_SCREEN_DPI;
+    PlaceAcrossDpi acrossDpi_;
     FrameSizeMemory size_;
     HoleKeeper keeper_;
     Timer tmrRefresh_{1};

@@ -24,9 +24,10 @@ Options OptionsKeeper::read(int localeLanguage) {
     return readOptions(file_, localeLanguage);
 }
 
-void OptionsKeeper::restorePlace(HWND window, const char* section, bool cascade) {
+void OptionsKeeper::restorePlace(HWND window, PlaceAcrossDpi& place, const char* section,
+                                 bool cascade) {
     const auto group = file_.group();
-    RestoreFormPlacement(window, file_, section, cascade);
+    RestoreFormPlacement(window, place, file_, section, cascade);
 }
 
 RestoredPlacement OptionsKeeper::place(HWND window, const char* section) {

@@ -7,6 +7,7 @@
 #include "app/Options.h"
 #include "app/version.h"
 #include "dialogs/win/WindowsMessagePresenter.h"
+#include "platform/win/PlaceAcrossDpi.h"
 #include "storage/INIFile.h"
 #include "storage/WindowPlacement.h"
 
@@ -20,8 +21,8 @@ class OptionsKeeper {
 
     /// What the last run left; `localeLanguage` is the language of a first start.
     Options read(int localeLanguage);
-    /// Brings a window back to where it was; `cascade` as for `restoredPlacement`.
-    void restorePlace(HWND window, const char* section, bool cascade);
+    /// Brings a hidden window back to where it was; `cascade` as for `restoredPlacement`.
+    void restorePlace(HWND window, PlaceAcrossDpi& place, const char* section, bool cascade);
     /// The same place for a window that takes it by itself.
     RestoredPlacement place(HWND window, const char* section);
 

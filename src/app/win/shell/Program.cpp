@@ -59,7 +59,7 @@ Program::Program(bool anotherRuns)
     throwKeptFailure();
     if (life_.started()) {
         // Shown last, so that it comes up in front of the worksheet and with the focus.
-        ShowWindow(settings_->handle(), SW_SHOWNORMAL);
+        settings_->size().acrossDpi().show(settings_->handle(), SW_SHOWNORMAL);
         SetPropW(settings_->handle(), readyProperty, settings_->handle());
     }
 }
@@ -73,12 +73,13 @@ void Program::makeWindows() {
     resizer_ = std::make_unique<frmResizer>(*worksheet_, *this);
     view_ = std::make_unique<ViewPane>(ViewPane::Ports{
         *settings_, *worksheet_, *resizer_, state_, [this](Command command) { execute(command); }});
-    optionsKeeper_.restorePlace(view_->lens().lens().handle(), lensSection, false);
+    frmLens& lens = view_->lens().lens();
+    optionsKeeper_.restorePlace(lens.handle(), lens.acrossDpi(), lensSection, false);
     tools_ = std::make_unique<ToolsPane>(ToolsPane::Ports{*settings_, *worksheet_, *view_, state_,
                                                           focus_, ratios_, store_, codePage_,
                                                           globalEvents_});
     const RestoredPlacement frame = optionsKeeper_.place(resizer_->handle(), frameSection);
-    resizer_->restore(toRect(frame.rect), frame.maximise);
+    resizer_->restore(frame.rect, frame.maximise);
     stage_ = std::make_unique<ModeStage>(
         ModeStage::Windows{*settings_, *worksheet_, *resizer_, *view_, state_});
     modes_ = std::make_unique<ModeSwitch>(*stage_, state_);
@@ -112,7 +113,8 @@ void Program::listen() {
 void Program::restoreLook(bool anotherRuns) {
     SetWindowPos(settings_->handle(), HWND_TOPMOST, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    optionsKeeper_.restorePlace(settings_->handle(), controlSection, anotherRuns);
+    optionsKeeper_.restorePlace(settings_->handle(), settings_->size().acrossDpi(), controlSection,
+                                anotherRuns);
     const Mode first = state_.options().mode;
     state_.setMode(Mode::edit);
     modes_->SetMode(first, false);

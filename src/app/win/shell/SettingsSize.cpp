@@ -5,6 +5,7 @@
 
 #include "dialogs/win/formPlacement.h"
 #include "platform/win/monitors.h"
+#include "platform/win/regions.h"
 
 namespace ormala {
 
@@ -25,14 +26,6 @@ WindowState stateOfSize(WPARAM kind) {
         return WindowState::minimised;
     }
     return kind == SIZE_MAXIMIZED ? WindowState::maximised : WindowState::normal;
-}
-
-/// Of a minimised window the one that it comes back to.
-RECT normalPlace(HWND window) {
-    WINDOWPLACEMENT placement{};
-    placement.length = sizeof placement;
-    GetWindowPlacement(window, &placement);
-    return placement.rcNormalPosition;
 }
 
 }  // namespace
@@ -73,17 +66,21 @@ void SettingsSize::limit(MINMAXINFO& limits) const {
     limits.ptMinTrackSize.y = layout().shortHeight + around.cy;
 }
 
-std::optional<int> SettingsSize::changeDpi(int dpi, int suggested) {
+std::optional<PixelRect> SettingsSize::changeDpi(int dpi, const RECT& suggested) {
     const SettingsHeight::Present former = present();
     const int formerDpi = std::exchange(dpi_, dpi);
-    return height_.movedToDpi(formerDpi, dpi_, former, suggested,
-                              layout().shortHeight + static_cast<int>(frame().cy));
-}
-
-void SettingsSize::takePlace(const RECT& leftTop, int height) const {
-    SetWindowPos(window_.handle(), nullptr, leftTop.left, leftTop.top,
-                 layout().width + static_cast<int>(frame().cx), height,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    PixelRect place = former.state == WindowState::minimised
+                          ? fromRect(suggested)
+                          : acrossDpi_.at(window_.handle(), formerDpi, dpi, suggested);
+    const SIZE around = frame();
+    const auto height = height_.movedToDpi(formerDpi, dpi, former, place.height(),
+                                           layout().shortHeight + static_cast<int>(around.cy));
+    if (!height) {
+        return std::nullopt;
+    }
+    place.right = place.left + layout().width + static_cast<int>(around.cx);
+    place.bottom = place.top + *height;
+    return place;
 }
 
 PanelLayout::Window SettingsSize::forPanels(Mode mode) const {
@@ -112,10 +109,10 @@ SIZE SettingsSize::frame() const {
 
 SettingsHeight::Present SettingsSize::present() const {
     const WindowState state = stateOf(window_.handle());
-    const RECT place =
-        state == WindowState::minimised ? normalPlace(window_.handle()) : window_.rectangle();
-    return {state, static_cast<int>(place.bottom - place.top),
-            layout().shortHeight + static_cast<int>(frame().cy)};
+    // Of a minimised window the one that it comes back to.
+    const PixelRect place = state == WindowState::minimised ? normalPlaceOf(window_.handle())
+                                                            : fromRect(window_.rectangle());
+    return {state, place.height(), layout().shortHeight + static_cast<int>(frame().cy)};
 }
 
 }  // namespace ormala

@@ -5,6 +5,7 @@
 #include "app/PanelLayout.h"
 #include "app/SettingsHeight.h"
 #include "app/settingsLayout.h"
+#include "platform/win/PlaceAcrossDpi.h"
 #include "platform/win/Window.h"
 
 namespace ormala {
@@ -31,11 +32,10 @@ class SettingsSize {
     /// minimised is due now.
     bool resized(WPARAM kind);
     void limit(MINMAXINFO& limits) const;
-    /// The window has come to another resolution, for which the system suggests an outer height:
-    /// the one that it takes there, nothing while it is minimised.
-    std::optional<int> changeDpi(int dpi, int suggested);
-    /// With its own width.
-    void takePlace(const RECT& leftTop, int height) const;
+    /// The window has come to another resolution, for which the system suggests a place: the one
+    /// that it takes there, nothing while it is minimised.
+    std::optional<PixelRect> changeDpi(int dpi, const RECT& suggested);
+    [[nodiscard]] PlaceAcrossDpi& acrossDpi() { return acrossDpi_; }
 
     /// For the list of panels, which may want another height of the window.
     [[nodiscard]] PanelLayout::Window forPanels(Mode mode) const;
@@ -46,6 +46,7 @@ class SettingsSize {
     [[nodiscard]] SettingsHeight::Present present() const;
 
     const Window& window_;
+    PlaceAcrossDpi acrossDpi_;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
     SettingsHeight height_;
 };

@@ -166,13 +166,12 @@ std::optional<LRESULT> frmSettings::onGetMinMaxInfo(LPARAM limits) const {
 }
 
 std::optional<LRESULT> frmSettings::onDpiChanged(WPARAM dpi, LPARAM suggested) {
-    const RECT& place = *reinterpret_cast<const RECT*>(suggested);
-    const auto height =
-        size_.changeDpi(static_cast<int>(HIWORD(dpi)), static_cast<int>(place.bottom - place.top));
+    const auto place =
+        size_.changeDpi(static_cast<int>(HIWORD(dpi)), *reinterpret_cast<const RECT*>(suggested));
     layOutControls();
     dpiChanged.raise();
-    if (height) {
-        size_.takePlace(place, *height);
+    if (place) {
+        size_.acrossDpi().take(handle(), *place);
     }
     InvalidateRect(handle(), nullptr, FALSE);
     return 0;
