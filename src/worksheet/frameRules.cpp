@@ -25,8 +25,12 @@ PixelRect worksheetInFrame(PixelSize client) {
     return {margin, margin, client.width - margin, client.height - margin};
 }
 
-PixelRect fullScreenPlace(const PixelRect& monitor, const PixelRect& free) {
-    PixelRect place = free;
+PixelRect fullScreenPlace(const PixelRect& monitor, const PixelRect& free, const HiddenBars& bars) {
+    const auto pixelAt = [](bool bar) { return bar ? 1 : 0; };
+    const PixelRect open{monitor.left + pixelAt(bars.left), monitor.top + pixelAt(bars.top),
+                         monitor.right - pixelAt(bars.right),
+                         monitor.bottom - pixelAt(bars.bottom)};
+    PixelRect place = free.intersected(open);
     if (place == monitor) {
         place.bottom -= 1;
     }

@@ -10,11 +10,21 @@ PixelRect defaultFramePlace(PixelSize screen);
 /// The worksheet's place in the frame's client area: five pixels inside, at any resolution.
 PixelRect worksheetInFrame(PixelSize client);
 
-/// Where a worksheet lies that fills its screen: all of what is `free` there for windows, but never
-/// the whole monitor. A window that covers one counts as a program in full screen: some window
-/// managers lift it above the windows that have to stay in front of the worksheet, and others put
-/// the task bar and all messages behind it.
-PixelRect fullScreenPlace(const PixelRect& monitor, const PixelRect& free);
+/// The edges of a monitor at which a bar hides until the mouse comes there.
+struct HiddenBars {
+    bool left = false;
+    bool top = false;
+    bool right = false;
+    bool bottom = false;
+};
+
+/// Where a worksheet lies that fills its screen: all of what is `free` there for windows, without
+/// the pixel at an edge by which a hidden bar is called, and never the whole monitor. A window that
+/// covers one counts as a program in full screen: some window managers lift it above the windows
+/// that have to stay in front of the worksheet, and others put the task bar and all messages behind
+/// it.
+PixelRect fullScreenPlace(const PixelRect& monitor, const PixelRect& free,
+                          const HiddenBars& bars = {});
 
 /// The least outer size that a user can give the frame.
 PixelSize leastFrameSize(int dpi);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 
 #include "language/MlStringModule.h"
@@ -277,6 +278,43 @@ TEST_F(Modes, FullScreenWorksheetFitsTheScreenAgainAfterItsChange) {
     EXPECT_TRUE(worksheetFillsScreen());
     EXPECT_TRUE(program_->worksheet().MaxSized());
     EXPECT_FALSE(program_->resizer().isVisible());
+}
+
+TEST_F(Modes, ShellKnowsBeforeTheFirstShowingThatTheWorksheetIsNoProgramInFullScreen) {
+    option("Options", "Mode", "2");
+    start();
+    EXPECT_FALSE(program_->worksheet().isVisible());
+    EXPECT_NE(GetPropW(program_->worksheet().handle(), L"NonRudeHWND"), nullptr);
+}
+
+TEST_F(Modes, FullScreenWorksheetFollowsAMovedTaskBar) {
+    start();
+    program_->resizer().maximise();
+    ASSERT_TRUE(worksheetFillsScreen());
+    const HWND worksheet = program_->worksheet().handle();
+    SetWindowPos(worksheet, nullptr, 0, 0, 800, 600, SWP_NOZORDER | SWP_NOACTIVATE);
+    SendMessageW(worksheet, WM_SETTINGCHANGE, SPI_SETMOUSE, 0);
+    EXPECT_EQ(widthOf(program_->worksheet().rectangle()), 800) << "no work area has changed";
+    SendMessageW(worksheet, WM_SETTINGCHANGE, SPI_SETWORKAREA, 0);
+    EXPECT_TRUE(worksheetFillsScreen());
+}
+
+TEST_F(Modes, FrameAndControlWindowComeBackWhenTheTaskBarTakesTheirPlace) {
+    start();
+    const std::array windows{settings_->handle(), program_->resizer().handle()};
+    const auto areOnAScreen = [&] {
+        return std::ranges::all_of(windows, [](HWND window) {
+            return MonitorFromWindow(window, MONITOR_DEFAULTTONULL) != nullptr;
+        });
+    };
+    program_->modes().SetMode(Mode::templateMode, false);
+    for (const HWND window : windows) {
+        SetWindowPos(window, nullptr, 9000, 7000, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    SendMessageW(settings_->handle(), WM_SETTINGCHANGE, SPI_SETMOUSE, 0);
+    EXPECT_FALSE(areOnAScreen());
+    SendMessageW(settings_->handle(), WM_SETTINGCHANGE, SPI_SETWORKAREA, 0);
+    EXPECT_TRUE(areOnAScreen());
 }
 
 TEST_F(Modes, MinimisedControlWindowStaysSoWhenTheScreensChange) {

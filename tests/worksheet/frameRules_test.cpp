@@ -73,6 +73,25 @@ TEST(FullScreenPlace, LeavesARowOfAMonitorWithoutATaskBar) {
               (PixelRect{-1280, -50, 0, 973}));
 }
 
+TEST(FullScreenPlace, LeavesThePixelByWhichAHiddenBarIsCalled) {
+    constexpr PixelRect monitor{-1280, -50, 0, 974};
+    EXPECT_EQ(fullScreenPlace(monitor, monitor, {true, false, false, false}),
+              (PixelRect{-1279, -50, 0, 974}));
+    EXPECT_EQ(fullScreenPlace(monitor, monitor, {false, true, false, false}),
+              (PixelRect{-1280, -49, 0, 974}));
+    EXPECT_EQ(fullScreenPlace(monitor, monitor, {false, false, true, false}),
+              (PixelRect{-1280, -50, -1, 974}));
+    EXPECT_EQ(fullScreenPlace(monitor, monitor, {false, false, false, true}),
+              (PixelRect{-1280, -50, 0, 973}));
+}
+
+TEST(FullScreenPlace, NeedsNoPixelWhereAnotherBarHasTheEdgeAnyway) {
+    EXPECT_EQ(fullScreenPlace({0, 0, 1920, 1080}, {0, 0, 1920, 1040}, {false, false, false, true}),
+              (PixelRect{0, 0, 1920, 1040}));
+    EXPECT_EQ(fullScreenPlace({0, 0, 1920, 1080}, {0, 0, 1920, 1040}, {false, true, false, false}),
+              (PixelRect{0, 1, 1920, 1040}));
+}
+
 using Step = HoleKeeper::Step;
 
 TEST(HoleKeeper, LeavesAWorksheetAloneThatLiesInTheHole) {

@@ -37,6 +37,17 @@ RECT workAreaAround(HWND window) {
     return monitorAround(window).rcWork;
 }
 
+bool tellsOfScreens(UINT message, WPARAM wParam) {
+    return message == WM_DISPLAYCHANGE ||
+           (message == WM_SETTINGCHANGE && wParam == SPI_SETWORKAREA);
+}
+
+void tellOfScreens(const Event<>& changed, UINT message, WPARAM wParam) {
+    if (tellsOfScreens(message, wParam)) {
+        changed.raise();
+    }
+}
+
 POINT cursorPlace() {
     POINT cursor{};
     GetCursorPos(&cursor);

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "base/Event.h"
+
 namespace ormala {
 
 /// The monitor that the window is on, or is next to.
@@ -14,6 +16,12 @@ RECT virtualScreen();
 
 /// What that monitor has for windows.
 RECT workAreaAround(HWND window);
+
+/// Whether a message says that the monitors, or what they have for windows, may be others than
+/// before.
+bool tellsOfScreens(UINT message, WPARAM wParam);
+/// Raises the event if so.
+void tellOfScreens(const Event<>& changed, UINT message, WPARAM wParam);
 
 /// Where the mouse is on the screens.
 POINT cursorPlace();

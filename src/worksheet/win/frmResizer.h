@@ -46,8 +46,6 @@ class frmResizer : public Window {
 
   private:
     static constexpr COLORREF keyColor = static_cast<COLORREF>(sheetColor::frameKey);
-    static constexpr UINT_PTR tmrRefresh = 1;
-    static constexpr UINT_PTR tmrSetSize = 2;
     static constexpr UINT tmrSetSizeInterval = 87;
     /// Reads back where the worksheet lies, once what moved it is over.
     static constexpr UINT wmCheckHole = WM_APP + 1;

@@ -8,7 +8,7 @@
 #include "platform/win/monitors.h"
 #include "platform/win/regions.h"
 #include "platform/win/windowOrder.h"
-#include "worksheet/frameRules.h"
+#include "worksheet/win/fullScreen.h"
 
 namespace ormala {
 
@@ -18,13 +18,6 @@ RECT primaryWorkArea() {
     RECT area{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
     return area;
-}
-
-RECT areaToFill(HWND window) {
-    const MONITORINFO monitor = monitorAround(window);
-    const bool isPrimary = (monitor.dwFlags & MONITORINFOF_PRIMARY) != 0;
-    return toRect(fullScreenPlace(fromRect(monitor.rcMonitor),
-                                  fromRect(isPrimary ? primaryWorkArea() : monitor.rcMonitor)));
 }
 
 void letGoOfMouse(HWND window) {
@@ -62,6 +55,7 @@ frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
     design.extendedStyle = WS_EX_LAYERED | WS_EX_TOPMOST;
     design.place = primaryWorkArea();
     create(design);
+    keepFromFullScreenMode(handle());
     takeDpi(GetDpiForWindow(handle()));
     tip_ = std::make_unique<TipWindow>(handle());
     CrossHairX_ = std::make_unique<frmCrossHair>(handle(), "CrossHairX");
@@ -74,6 +68,7 @@ frmWorksheet::~frmWorksheet() {
     CrossHairX_.reset();
     CrossHairY_.reset();
     tip_.reset();
+    forgetFullScreenMode(handle());
     destroy();
 }
 
@@ -177,9 +172,7 @@ void frmWorksheet::setMaxSized(bool maxSized) {
         ShowWindow(handle(), SW_SHOWNOACTIVATE);
     }
     if (maxSized) {
-        const RECT area = areaToFill(handle());
-        SetWindowPos(handle(), nullptr, area.left, area.top, area.right - area.left,
-                     area.bottom - area.top, SWP_NOZORDER | SWP_NOACTIVATE);
+        place(fullScreenPlaceAround(handle()));
     }
 }
 

@@ -62,8 +62,8 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     [[nodiscard]] int ClickAlpha() const { return transparency_.clickAlpha; }
     void setClickAlpha(int alpha);
     [[nodiscard]] bool MaxSized() const { return maxSized_; }
-    /// True: the window fills its screen and leaves the primary screen's task bar free; false: it
-    /// has the place that it is given. A window that is hidden stays so.
+    /// True: the window fills its screen and leaves a task bar there free; false: it has the place
+    /// that it is given. A window that is hidden stays so.
     void setMaxSized(bool maxSized);
     void setBackground(COLORREF color);
 

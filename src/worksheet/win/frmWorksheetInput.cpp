@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/win/monitors.h"
 #include "worksheet/win/frmWorksheet.h"
 
 // The messages of the worksheet.
@@ -84,10 +85,11 @@ std::optional<LRESULT> frmWorksheet::onPlaceMessage(UINT message, WPARAM wParam)
             takeDpi(HIWORD(wParam));
             return paintNow();
         case WM_DISPLAYCHANGE:
-            if (maxSized_ && isVisible()) {
+        case WM_SETTINGCHANGE:
+            if (tellsOfScreens(message, wParam) && maxSized_ && isVisible()) {
                 setMaxSized(true);
             }
-            return 0;
+            return std::nullopt;
         default:
             return std::nullopt;
     }

@@ -9,6 +9,7 @@
 #include "app/modes.h"
 #include "app/win/shell/settingsIds.h"
 #include "platform/win/fills.h"
+#include "platform/win/monitors.h"
 #include "platform/win/windowOrder.h"
 #include "scene/Input.h"
 #include "widgets/lookColors.h"
@@ -82,7 +83,7 @@ void frmSettings::raise() const {
 std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     using Result = std::optional<LRESULT>;
     using Handler = Result (*)(frmSettings&, WPARAM, LPARAM);
-    static constexpr std::array<std::pair<UINT, Handler>, 18> handlers{{
+    static constexpr std::array<std::pair<UINT, Handler>, 19> handlers{{
         {WM_ERASEBKGND, [](frmSettings& self, WPARAM w, LPARAM) { return self.onErase(w); }},
         {WM_SIZE, [](frmSettings& self, WPARAM w, LPARAM) { return self.onSize(w); }},
         {WM_GETMINMAXINFO,
@@ -107,10 +108,9 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
              return Result(0);
          }},
         {WM_DISPLAYCHANGE,
-         [](frmSettings& self, WPARAM, LPARAM) {
-             self.displayChanged.raise();
-             return Result(0);
-         }},
+         [](frmSettings& self, WPARAM w, LPARAM) { return self.onScreens(WM_DISPLAYCHANGE, w); }},
+        {WM_SETTINGCHANGE,
+         [](frmSettings& self, WPARAM w, LPARAM) { return self.onScreens(WM_SETTINGCHANGE, w); }},
         {WM_SETCURSOR,
          [](frmSettings& self, WPARAM, LPARAM) {
              self.watch_.look(self.size_.dpi());
@@ -175,6 +175,11 @@ std::optional<LRESULT> frmSettings::onDpiChanged(WPARAM dpi, LPARAM suggested) {
     }
     InvalidateRect(handle(), nullptr, FALSE);
     return 0;
+}
+
+std::optional<LRESULT> frmSettings::onScreens(UINT message, WPARAM setting) const {
+    tellOfScreens(displayChanged, message, setting);
+    return std::nullopt;
 }
 
 std::optional<LRESULT> frmSettings::onActivate(WPARAM kind, LPARAM otherWindow) {

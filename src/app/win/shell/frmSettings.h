@@ -64,6 +64,7 @@ class frmSettings : public Window {
     Event<> listPlaced;
     /// The window has come to another resolution.
     Event<> dpiChanged;
+    /// The monitors, or what they have for windows, may be others than before.
     Event<> displayChanged;
     /// A mouse button goes down at a place of the screen while the window is inactive. Before the
     /// activation that it brings.
@@ -93,6 +94,7 @@ class frmSettings : public Window {
     std::optional<LRESULT> onSize(WPARAM kind);
     std::optional<LRESULT> onGetMinMaxInfo(LPARAM limits) const;
     std::optional<LRESULT> onDpiChanged(WPARAM dpi, LPARAM suggested);
+    std::optional<LRESULT> onScreens(UINT message, WPARAM setting) const;
     std::optional<LRESULT> onActivate(WPARAM kind, LPARAM otherWindow);
     std::optional<LRESULT> onMouseActivate() const;
     std::optional<LRESULT> onPlaced(LPARAM place);
