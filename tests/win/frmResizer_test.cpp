@@ -42,6 +42,14 @@ class frmResizerTest : public testing::Test {
 
     PixelRect worksheet() { return fromRect(sheet_.window().rectangle()); }
 
+    /// As far as the frame's look has one besides its key.
+    int opacity() const {
+        BYTE alpha = 0;
+        DWORD flags = 0;
+        GetLayeredWindowAttributes(frame_.handle(), nullptr, &alpha, &flags);
+        return (flags & LWA_ALPHA) != 0 ? alpha : 255;
+    }
+
     bool settles() {
         return test::waitUntil([&] { return worksheet() == hole(); });
     }
@@ -182,9 +190,11 @@ TEST_F(frmResizerTest, CannotBeMadeSmallerThan200By124) {
 TEST_F(frmResizerTest, MaximiseButtonMakesTheWorksheetFullScreenWithoutAFrame) {
     const RECT before = frame_.rectangle();
     SendMessageW(frame_.handle(), WM_SYSCOMMAND, SC_MAXIMIZE | HTCAPTION, 0);
+    EXPECT_TRUE(frame_.isVisible()) << "the system's own call is still under way";
+    EXPECT_FALSE(sheet_.window().MaxSized());
+    EXPECT_TRUE(fillsScreen());
     EXPECT_TRUE(sheet_.window().MaxSized());
     EXPECT_FALSE(frame_.isVisible());
-    EXPECT_TRUE(fillsScreen());
     EXPECT_FALSE(IsZoomed(frame_.handle()));
     frame_.showNormal();
     EXPECT_TRUE(frame_.isVisible());
@@ -197,16 +207,58 @@ TEST_F(frmResizerTest, MaximiseButtonMakesTheWorksheetFullScreenWithoutAFrame) {
 TEST_F(frmResizerTest, MaximisedByTheSystemItGoesTheSameWay) {
     const RECT before = frame_.rectangle();
     ShowWindow(frame_.handle(), SW_SHOWMAXIMIZED);
-    EXPECT_TRUE(sheet_.window().MaxSized());
-    EXPECT_TRUE(test::waitUntil([&] { return !frame_.isVisible(); }));
-    EXPECT_FALSE(IsZoomed(frame_.handle()));
+    EXPECT_TRUE(IsZoomed(frame_.handle())) << "nothing is nested into the system's own call";
+    EXPECT_FALSE(sheet_.window().MaxSized());
+    EXPECT_EQ(opacity(), 0) << "a maximised frame is never seen";
     EXPECT_TRUE(fillsScreen());
+    EXPECT_TRUE(sheet_.window().MaxSized());
+    EXPECT_FALSE(frame_.isVisible());
+    EXPECT_FALSE(IsZoomed(frame_.handle()));
     frame_.showNormal();
     EXPECT_TRUE(test::waitUntil([&] {
         const RECT after = frame_.rectangle();
         return EqualRect(&after, &before) != FALSE;
     }));
     EXPECT_TRUE(settles());
+}
+
+TEST_F(frmResizerTest, DraggedToTheUpperEdgeItGoesTheSameWay) {
+    SendMessageW(frame_.handle(), WM_ENTERSIZEMOVE, 0, 0);
+    ShowWindow(frame_.handle(), SW_SHOWMAXIMIZED);
+    SendMessageW(frame_.handle(), WM_EXITSIZEMOVE, 0, 0);
+    EXPECT_TRUE(IsZoomed(frame_.handle()));
+    EXPECT_TRUE(fillsScreen());
+    EXPECT_FALSE(frame_.isVisible());
+    EXPECT_FALSE(IsZoomed(frame_.handle()));
+}
+
+TEST_F(frmResizerTest, MaximisedAndAtOnceRestoredItIsThereAsBefore) {
+    const RECT before = frame_.rectangle();
+    ShowWindow(frame_.handle(), SW_SHOWMAXIMIZED);
+    ShowWindow(frame_.handle(), SW_RESTORE);
+    EXPECT_TRUE(test::waitUntil([&] { return opacity() != 0; }));
+    EXPECT_TRUE(frame_.isVisible());
+    EXPECT_FALSE(sheet_.window().MaxSized());
+    EXPECT_TRUE(test::waitUntil([&] {
+        const RECT after = frame_.rectangle();
+        return EqualRect(&after, &before) != FALSE;
+    }));
+    EXPECT_TRUE(settles());
+}
+
+TEST_F(frmResizerTest, SnappedToAHalfOfTheScreenItTakesTheWorksheetAlong) {
+    RECT work{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    const int half = widthOf(work) / 2;
+    // Without a sizing loop, and repainted by the same call.
+    for (const int left : {0, half}) {
+        SetWindowPos(frame_.handle(), nullptr, static_cast<int>(work.left) + left,
+                     static_cast<int>(work.top), half, heightOf(work),
+                     quietly | SWP_FRAMECHANGED | SWP_NOCOPYBITS);
+        EXPECT_EQ(worksheet(), hole());
+        EXPECT_FALSE(sheet_.window().MaxSized());
+        EXPECT_TRUE(settles());
+    }
 }
 
 TEST_F(frmResizerTest, HiddenFrameOfAFullScreenWorksheetMayBeMoved) {

@@ -161,10 +161,34 @@ void frmResizer::maximise() {
     tellPlace();
 }
 
-void frmResizer::leaveMaximised() {
-    // Only a shown window can leave that state; it does so fully transparent.
-    leavingMaximised_ = true;
+void frmResizer::goFullScreenSoon() {
+    // The system is in the midst of a call of its own, which a frame that hides would upset.
+    if (!std::exchange(goingFullScreen_, true)) {
+        makeUnseen();
+        PostMessageW(handle(), wmFullScreen, FALSE, 0);
+    }
+}
+
+LRESULT frmResizer::onFullScreen(bool asked) {
+    goingFullScreen_ = false;
+    if (asked || IsZoomed(handle()) != FALSE) {
+        maximise();
+    } else if (isVisible()) {
+        // It has come back meanwhile.
+        layerAnew();
+        PositionWorksheet();
+    }
+    return 0;
+}
+
+void frmResizer::makeUnseen() const {
     SetLayeredWindowAttributes(handle(), keyColor, 0, LWA_COLORKEY | LWA_ALPHA);
+}
+
+void frmResizer::leaveMaximised() {
+    // Only a shown window can leave that state.
+    leavingMaximised_ = true;
+    makeUnseen();
     ShowWindow(handle(), SW_SHOWNOACTIVATE);
     ShowWindow(handle(), SW_HIDE);
     leavingMaximised_ = false;
@@ -182,9 +206,14 @@ void frmResizer::widenAndNarrow() {
 }
 
 void frmResizer::follow() {
+    if (leavingMaximised_) {
+        return;
+    }
     // The hidden frame of a full-screen worksheet can be moved too, by a change of screens.
     const bool fullScreen = worksheet_.MaxSized() && !isVisible();
-    if (!leavingMaximised_ && !fullScreen) {
+    if (IsZoomed(handle()) != FALSE) {
+        goFullScreenSoon();
+    } else if (!fullScreen) {
         PositionWorksheet();
     }
 }

@@ -49,6 +49,8 @@ class frmResizer : public Window {
     static constexpr UINT tmrSetSizeInterval = 87;
     /// Reads back where the worksheet lies, once what moved it is over.
     static constexpr UINT wmCheckHole = WM_APP + 1;
+    /// Goes full screen. wParam: asked for, and not because the system has maximised the frame.
+    static constexpr UINT wmFullScreen = WM_APP + 2;
 
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
@@ -60,6 +62,9 @@ class frmResizer : public Window {
     void layWorksheetInside(POINT shift = {0, 0});
     void checkHoleSoon();
     void checkHole();
+    void goFullScreenSoon();
+    LRESULT onFullScreen(bool asked);
+    void makeUnseen() const;
     void leaveMaximised();
     void tellPlace() const;
     LRESULT onHitTest(LPARAM lParam);
@@ -87,6 +92,8 @@ class frmResizer : public Window {
     Subscription worksheetSized_;
     /// While the user drags the title bar and no message tells of it: where the drag began.
     std::optional<POINT> unseenDrag_;
+    /// While it waits, maximised and unseen, until the system's own call is over.
+    bool goingFullScreen_ = false;
     /// While it returns from the maximised state, which it does unseen.
     bool leavingMaximised_ = false;
 };

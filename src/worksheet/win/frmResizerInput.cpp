@@ -41,11 +41,13 @@ std::optional<LRESULT> frmResizer::onMessage(UINT message, WPARAM wParam, LPARAM
         case wmCheckHole:
             checkHole();
             return 0;
+        case wmFullScreen:
+            return onFullScreen(wParam != FALSE);
         case WM_GETMINMAXINFO:
             return onGetMinMaxInfo(lParam);
         case WM_SYSCOMMAND:
             if ((wParam & 0xFFF0U) == SC_MAXIMIZE) {
-                maximise();
+                PostMessageW(handle(), wmFullScreen, TRUE, 0);
                 return 0;
             }
             return std::nullopt;
