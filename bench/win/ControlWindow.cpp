@@ -145,13 +145,13 @@ void turnWheel(ControlWindowStage& stage, const std::string& what) {
     constexpr int notches = 20;
     constexpr int steps = 8;
     std::vector<double> times;
-    for (const bool down : {false, true}) {
+    for (const int direction : {1, -1}) {
         for (int i = 0; i < 2 * notches; ++i) {
-            stage.pane().Scroll(!down);
+            stage.pane().Scroll(-direction);
         }
         for (int i = 0; i < notches; ++i) {
             times.push_back(elapsed([&] {
-                                stage.pane().Scroll(down);
+                                stage.pane().Scroll(direction);
                                 stage.paint();
                             }) /
                             steps);

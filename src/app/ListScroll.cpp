@@ -1,6 +1,7 @@
 #include "app/ListScroll.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "modAPI/rounding.h"
 
@@ -19,18 +20,33 @@ int valueShowing(int panelTop, int panelHeight, const ScrollRange& range) {
     return y + panelHeight > inside ? inside - (panelTop + panelHeight) : range.Value;
 }
 
-std::vector<int> glideOfNotch(bool down, const ScrollRange& range, int smallChange) {
-    constexpr int steps = 8;
+std::vector<int> glideOfNotches(int notches, const ScrollRange& range, int smallChange) {
+    constexpr int shownSteps = 8;
+    const bool down = notches < 0;
     const double stride = smallChange / 2.0 + range.LargeChange / 80.0;
     const int bound = down ? range.Max : range.Min;
+    const auto stepFrom = [&](int value) {
+        const auto next = static_cast<int>(RoundHalfAway(down ? value - stride : value + stride));
+        return down ? std::max(next, bound) : std::min(next, bound);
+    };
     std::vector<int> values;
     int value = range.Value;
-    for (int i = 0; i < steps && value != bound; ++i) {
-        const auto next = static_cast<int>(RoundHalfAway(down ? value - stride : value + stride));
-        value = down ? std::max(next, bound) : std::min(next, bound);
+    for (int shown = 0; notches != 0 && shown < shownSteps && value != bound; ++shown) {
+        for (int i = 0; i < std::abs(notches) && value != bound; ++i) {
+            value = stepFrom(value);
+        }
         values.push_back(value);
     }
     return values;
+}
+
+void glide(std::span<const int> values, const std::function<bool()>& isLate,
+           const std::function<void(int value)>& show) {
+    while (!values.empty()) {
+        values = isLate() ? values.last(1) : values;
+        show(values.front());
+        values = values.subspan(1);
+    }
 }
 
 }  // namespace ormala

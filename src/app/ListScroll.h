@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <span>
 #include <vector>
 
 #include "widgets/scrollLayout.h"
@@ -17,7 +19,13 @@ ScrollRange rangeOfList(int content, int inside);
 /// the range, which the bar keeps to.
 int valueShowing(int panelTop, int panelHeight, const ScrollRange& range);
 
-/// The values that one notch of the wheel glides through, in eight steps at most.
-std::vector<int> glideOfNotch(bool down, const ScrollRange& range, int smallChange);
+/// The values that these notches of the wheel glide through, in eight steps at most, however many
+/// notches came at once. Positive ones turn away from the user and lead up the list.
+std::vector<int> glideOfNotches(int notches, const ScrollRange& range, int smallChange);
+
+/// Shows the values one after the other, and leaves out all but the last one as soon as `isLate`
+/// says that the wheel has been turned further: a glide never falls behind the fingers.
+void glide(std::span<const int> values, const std::function<bool()>& isLate,
+           const std::function<void(int value)>& show);
 
 }  // namespace ormala

@@ -212,6 +212,24 @@ TEST(ToolList, WheelAndThumbAndArrowsScrollIt) {
     EXPECT_TRUE(waitUntil([&] { return contentTop(scene) == end; }));
 }
 
+TEST(ToolList, PartsOfANotchScrollItOnceTheyMakeOneAndATiltNever) {
+    PanelScene scene(manyStencils(12));
+    ASSERT_TRUE(scene.waitForPanels(12));
+    scene.mouse.moveTo(scene.panel(1).center());
+    scene.mouse.wheel(-1);
+    ASSERT_TRUE(waitUntil([&] { return contentTop(scene) < -50; }));
+    pause(milliseconds{300});
+    const int oneNotch = contentTop(scene);
+    // Three parts are none, the fourth one makes a notch; a turn back starts anew.
+    scene.mouse.tiltWheel(2);
+    scene.mouse.wheelByParts(-30, 3);
+    scene.mouse.wheelByParts(30, 3);
+    scene.mouse.wheelByParts(-30, 4);
+    EXPECT_TRUE(waitUntil([&] { return contentTop(scene) == 2 * oneNotch; }));
+    scene.mouse.wheel(3);
+    EXPECT_TRUE(waitUntil([&] { return contentTop(scene) == 0; }));
+}
+
 TEST(ToolList, WheelOverTheWorksheetScrollsItToo) {
     PanelScene scene(manyStencils(12));
     scene.mouse.moveTo(scene.onScreen({600, 500}));

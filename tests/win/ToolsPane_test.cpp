@@ -204,7 +204,7 @@ TEST_F(ToolsPaneTest, WithoutPanelsTheListIsEmptyAndTheWheelDoesNothing) {
     GetClientRect(namedChild(settings_.handle(), "picInner"), &inner);
     EXPECT_EQ(inner.bottom, 0);
     EXPECT_FALSE(IsWindowEnabled(namedChild(settings_.handle(), "scrInner")));
-    program_.tools().Scroll(true);
+    program_.tools().Scroll(-1);
     GetClientRect(namedChild(settings_.handle(), "picInner"), &inner);
     EXPECT_EQ(inner.bottom, 0);
 }

@@ -8,7 +8,7 @@ namespace ormala {
 
 MouseWheelHook* MouseWheelHook::current = nullptr;
 
-MouseWheelHook::MouseWheelHook(std::function<void(bool)> turned) : turned_(std::move(turned)) {
+MouseWheelHook::MouseWheelHook(std::function<void(int)> turned) : turned_(std::move(turned)) {
     current = this;
     hook_.reset(
         SetWindowsHookExW(WH_MOUSE, &MouseWheelHook::onMouse, nullptr, GetCurrentThreadId()));
@@ -19,12 +19,18 @@ MouseWheelHook::~MouseWheelHook() {
     current = nullptr;
 }
 
+void MouseWheelHook::turn(int turn) {
+    if (const int notches = notches_.add(turn); notches != 0) {
+        turned_(notches);
+    }
+}
+
 LRESULT CALLBACK MouseWheelHook::onMouse(int code, WPARAM message, LPARAM record) {
     if (code == HC_ACTION && message == WM_MOUSEWHEEL && current != nullptr) {
         const auto* mouse = reinterpret_cast<const MOUSEHOOKSTRUCTEX*>(record);
         const auto turn = static_cast<short>(HIWORD(mouse->mouseData));
         guarded(false, [turn] {
-            current->turned_(turn < 0);
+            current->turn(turn);
             return true;
         });
     }

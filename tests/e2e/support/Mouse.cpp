@@ -75,6 +75,13 @@ void letArrive() {
     target().settle();
 }
 
+void sendWheel(DWORD wheel, int turn) {
+    MOUSEINPUT mouse{};
+    mouse.dwFlags = wheel;
+    mouse.mouseData = static_cast<DWORD>(turn);
+    send(mouse);
+}
+
 std::string text(ScreenPoint point) {
     std::ostringstream out;
     out << point;
@@ -164,10 +171,19 @@ void Mouse::makeSureHeld(const HeldKeys& keys) {
 
 void Mouse::wheel(int notches, Modifiers modifiers) {
     const HeldKeys keys(modifiers);
-    MOUSEINPUT mouse{};
-    mouse.dwFlags = MOUSEEVENTF_WHEEL;
-    mouse.mouseData = static_cast<DWORD>(notches * WHEEL_DELTA);
-    send(mouse);
+    sendWheel(MOUSEEVENTF_WHEEL, notches * WHEEL_DELTA);
+    letArrive();
+}
+
+void Mouse::wheelByParts(int turn, int parts) {
+    for (int i = 0; i < parts; ++i) {
+        sendWheel(MOUSEEVENTF_WHEEL, turn);
+    }
+    letArrive();
+}
+
+void Mouse::tiltWheel(int notches) {
+    sendWheel(MOUSEEVENTF_HWHEEL, notches * WHEEL_DELTA);
     letArrive();
 }
 

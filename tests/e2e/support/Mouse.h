@@ -37,6 +37,10 @@ class Mouse {
               Modifiers modifiers = Modifiers::None, MouseButton button = MouseButton::Left);
     /// Turns the wheel where the pointer stands; positive notches turn it away from the user.
     void wheel(int notches, Modifiers modifiers = Modifiers::None);
+    /// The same in steps as small as a touchpad's; a notch is WHEEL_DELTA of them.
+    void wheelByParts(int turn, int parts);
+    /// Sweeps to the side; positive notches lead to the right.
+    void tiltWheel(int notches);
 
   private:
     /// Each move may let go of them.

@@ -83,7 +83,10 @@ void Program::makeWindows() {
     stage_ = std::make_unique<ModeStage>(
         ModeStage::Windows{*settings_, *worksheet_, *resizer_, *view_, state_});
     modes_ = std::make_unique<ModeSwitch>(*stage_, state_);
-    wheelHook_ = std::make_unique<MouseWheelHook>([this](bool down) { tools_->Scroll(down); });
+    wheelHook_ = std::make_unique<MouseWheelHook>([this](int notches) {
+        // Later, when what the hook sees is out of the queue, and only what follows it waits there.
+        settings_->later([this, notches] { tools_->Scroll(notches); });
+    });
 }
 
 void Program::listen() {

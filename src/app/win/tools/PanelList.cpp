@@ -15,6 +15,12 @@ namespace {
 
 enum ControlId { idInner = 1, idScroll };
 
+bool wheelWaits() {
+    MSG next{};
+    return PeekMessageW(&next, nullptr, WM_MOUSEWHEEL, WM_MOUSEWHEEL, PM_NOREMOVE | PM_QS_INPUT) !=
+           FALSE;
+}
+
 }  // namespace
 
 PictureBox::PictureBox(HWND parent, int id, std::string_view name) {
@@ -124,10 +130,9 @@ void PanelList::EnsurePanelVisible(int panelTop, int panelHeight) {
     moveContent();
 }
 
-void PanelList::Scroll(bool down) {
-    for (const int value : glideOfNotch(down, scrInner_.range(), scrInner_.SmallChange())) {
-        scrInner_.setValue(value);
-    }
+void PanelList::Scroll(int notches) {
+    glide(glideOfNotches(notches, scrInner_.range(), scrInner_.SmallChange()), wheelWaits,
+          [this](int value) { scrInner_.setValue(value); });
 }
 
 }  // namespace ormala

@@ -43,8 +43,8 @@ class PanelList : public PictureBox {
 
     /// Scrolls so that a panel of the content shows, its head if not all of it.
     void EnsurePanelVisible(int panelTop, int panelHeight);
-    /// One notch of the wheel, as a glide.
-    void Scroll(bool down);
+    /// Notches of the wheel, as a glide; positive ones turn away from the user.
+    void Scroll(int notches);
 
     /// Another part of the content shows now.
     Event<> viewChanged;

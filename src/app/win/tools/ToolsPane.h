@@ -45,7 +45,8 @@ class ToolsPane : private ToolListView, private BusyView {
     /// The same at the end: the open document is left.
     void save();
 
-    void Scroll(bool down) { list_.Scroll(down); }
+    /// Notches of the wheel; positive ones turn away from the user.
+    void Scroll(int notches) { list_.Scroll(notches); }
     /// A command of tools or documents; false for any other one.
     bool execute(Command command);
     /// Whether a message of the program ends here.
