@@ -43,13 +43,15 @@ class FileStore {
   public:
     virtual ~FileStore() = default;
 
-    /// A file that another program holds is tried again for up to a second.
+    /// A file that another program holds is tried again for up to two seconds.
     virtual ReadResult read(const std::string& path) = 0;
 
     /// The same without a second try.
     virtual ReadResult readAtOnce(const std::string& path) = 0;
 
-    /// Writes the whole file: whatever happens, it holds the old bytes or the new ones.
+    /// Writes the whole file: whatever happens, it holds the old bytes or the new ones. It keeps
+    /// the old one's access rights. A file that another program holds is tried again for two
+    /// seconds.
     virtual WriteResult replace(const std::string& path, std::string_view bytes) = 0;
 
     /// The same, and the old file, if there is one, stays beside it under a `keptName`. A folder
@@ -61,7 +63,7 @@ class FileStore {
 
     virtual RemoveResult remove(const std::string& path) = 0;
 
-    /// What `remove` would answer now, or within a second if another program holds the file; the
+    /// What `remove` would answer now, or within two seconds if another program holds the file; the
     /// file stays.
     virtual RemoveResult couldRemove(const std::string& path) = 0;
 

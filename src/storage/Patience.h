@@ -14,8 +14,9 @@ class WaitingClock {
     virtual void pause(std::chrono::milliseconds length) = 0;
 };
 
-/// How long a file that another program holds is asked for.
-inline constexpr std::chrono::milliseconds longestWaitForFile{1000};
+/// How long a file that another program holds is asked for. Virus scanners, indexers and programs
+/// that synchronise folders hold one for a moment.
+inline constexpr std::chrono::milliseconds longestWaitForFile{2000};
 
 /// Tries once, and then again after pauses that grow, until `attempt` gives true or `limit` is
 /// over; the last try is the one at its end. Returns what the last one gave.

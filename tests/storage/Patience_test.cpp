@@ -60,17 +60,17 @@ TEST_F(TryPatiently, ThePausesGrow) {
     }
 }
 
-TEST_F(TryPatiently, GivesUpAfterExactlyASecond) {
-    EXPECT_FALSE(tryUntil(milliseconds{1001}));
-    EXPECT_EQ(waited(), milliseconds{1000});
+TEST_F(TryPatiently, GivesUpAfterExactlyTwoSeconds) {
+    EXPECT_FALSE(tryUntil(milliseconds{2001}));
+    EXPECT_EQ(waited(), milliseconds{2000});
 }
 
-TEST_F(TryPatiently, TheLastTryIsAtTheEndOfTheSecond) {
-    EXPECT_TRUE(tryUntil(milliseconds{1000}));
+TEST_F(TryPatiently, TheLastTryIsAtTheEndOfTheTime) {
+    EXPECT_TRUE(tryUntil(milliseconds{2000}));
 }
 
 TEST_F(TryPatiently, TriesThatTakeTheirTimeCount) {
-    EXPECT_FALSE(tryUntil(milliseconds{100000}, milliseconds{600}));
+    EXPECT_FALSE(tryUntil(milliseconds{100000}, milliseconds{1200}));
     EXPECT_EQ(tries_, 2);
 }
 

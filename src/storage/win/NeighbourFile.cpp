@@ -8,7 +8,9 @@
 #include <vector>
 
 #include "base/Utf8.h"
+#include "storage/win/AccessRights.h"
 #include "storage/win/LongPath.h"
+#include "storage/win/SystemClock.h"
 
 namespace ormala {
 
@@ -19,39 +21,59 @@ struct CloseSearch {
 };
 using SearchHandle = std::unique_ptr<std::remove_pointer_t<HANDLE>, CloseSearch>;
 
+/// FileRenameInfoEx, by its documented number: not every header has it for the systems from which on
+/// it is known.
+constexpr auto renameInfoEx = static_cast<FILE_INFO_BY_HANDLE_CLASS>(22);
+
 /// A rename of an open file, as the system takes it: a head with the new path behind it.
 class RenameRequest {
   public:
     explicit RenameRequest(const std::wstring& path)
         : bytes_(sizeof(FILE_RENAME_INFO) + path.size() * sizeof(wchar_t)) {
-        auto* const request = reinterpret_cast<FILE_RENAME_INFO*>(bytes_.data());
-        request->ReplaceIfExists = TRUE;
-        request->FileNameLength = static_cast<DWORD>(path.size() * sizeof(wchar_t));
-        std::memcpy(request->FileName, path.data(), path.size() * sizeof(wchar_t));
+        request().FileNameLength = static_cast<DWORD>(path.size() * sizeof(wchar_t));
+        std::memcpy(request().FileName, path.data(), path.size() * sizeof(wchar_t));
     }
 
+    /// At first in the way that also replaces a file which another program has open and lets others
+    /// remove; older systems, and the file systems of some disks and servers, refuse that one.
     bool apply(HANDLE file) {
-        return SetFileInformationByHandle(file, FileRenameInfo, bytes_.data(),
-                                          static_cast<DWORD>(bytes_.size())) != 0;
+        request().Flags = FILE_RENAME_FLAG_REPLACE_IF_EXISTS | FILE_RENAME_FLAG_POSIX_SEMANTICS;
+        if (apply(file, renameInfoEx)) {
+            return true;
+        }
+        request().Flags = 0;
+        request().ReplaceIfExists = TRUE;
+        return apply(file, FileRenameInfo);
     }
 
   private:
+    FILE_RENAME_INFO& request() { return *reinterpret_cast<FILE_RENAME_INFO*>(bytes_.data()); }
+
+    bool apply(HANDLE file, FILE_INFO_BY_HANDLE_CLASS how) {
+        return SetFileInformationByHandle(file, how, bytes_.data(),
+                                          static_cast<DWORD>(bytes_.size())) != 0;
+    }
+
     std::vector<std::byte> bytes_;
 };
 
-/// Virus scanners and the like hold a file for a moment, so one failure isn't the last word.
+/// Whether a file that another program holds is one reason for such a failure.
+bool mayBeHeld(DWORD error) {
+    return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||
+           error == ERROR_ACCESS_DENIED || error == ERROR_USER_MAPPED_FILE;
+}
+
+/// Tries patiently while the file may be held. `GetLastError` tells why the last try failed.
 template <typename Attempt>
 bool insist(const Attempt& attempt) {
-    constexpr int attempts = 5;
-    constexpr DWORD pauseMilliseconds = 20;
-    for (int i = 1; !attempt(); ++i) {
-        const DWORD error = GetLastError();
-        if (i == attempts || (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED)) {
-            return false;
-        }
-        Sleep(pauseMilliseconds);
-    }
-    return true;
+    SystemClock clock;
+    DWORD error = ERROR_SUCCESS;
+    tryPatiently(clock, longestWaitForFile, [&] {
+        error = attempt() ? ERROR_SUCCESS : GetLastError();
+        return !mayBeHeld(error);
+    });
+    SetLastError(error);
+    return error == ERROR_SUCCESS;
 }
 
 /// The local time in the form of the settings files.
@@ -98,7 +120,11 @@ bool NeighbourFile::makeNeighbour() {
             break;
         }
     }
-    return noted(file_ != nullptr);
+    if (!noted(file_ != nullptr)) {
+        return false;
+    }
+    AccessRights::of(target_).giveTo(path_);
+    return true;
 }
 
 bool NeighbourFile::write(std::string_view bytes) {
@@ -146,7 +172,9 @@ bool NeighbourFile::keepOld() {
 
 void NeighbourFile::putOldBack() {
     if (!kept_.empty()) {
-        MoveFileExW(kept_.c_str(), target_.c_str(), MOVEFILE_WRITE_THROUGH);
+        insist([&] {
+            return MoveFileExW(kept_.c_str(), target_.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
+        });
     }
 }
 

@@ -2,9 +2,7 @@
 
 #include <windows.h>
 
-#include <chrono>
 #include <cstddef>
-#include <cstdint>
 #include <string_view>
 
 #include "base/win/systemMessage.h"
@@ -13,20 +11,11 @@
 #include "storage/win/FileHandle.h"
 #include "storage/win/LongPath.h"
 #include "storage/win/NeighbourFile.h"
+#include "storage/win/SystemClock.h"
 
 namespace ormala {
 
 namespace {
-
-class SystemClock : public WaitingClock {
-  public:
-    std::chrono::milliseconds now() override {
-        return std::chrono::milliseconds(static_cast<std::int64_t>(GetTickCount64()));
-    }
-    void pause(std::chrono::milliseconds length) override {
-        Sleep(static_cast<DWORD>(length.count()));
-    }
-};
 
 /// Devices answer with another type, and folders can't be opened this way.
 bool isFileOfReadableSize(HANDLE file) {
