@@ -21,8 +21,7 @@ struct CloseSearch {
 };
 using SearchHandle = std::unique_ptr<std::remove_pointer_t<HANDLE>, CloseSearch>;
 
-/// FileRenameInfoEx, by its documented number: not every header has it for the systems from which on
-/// it is known.
+/// FileRenameInfoEx, by its documented number: not every header has the name.
 constexpr auto renameInfoEx = static_cast<FILE_INFO_BY_HANDLE_CLASS>(22);
 
 /// A rename of an open file, as the system takes it: a head with the new path behind it.

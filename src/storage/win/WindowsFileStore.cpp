@@ -46,7 +46,6 @@ constexpr bool isMissing(DWORD error) {
 /// Tries to read once, and returns the system's error.
 DWORD readOnce(const std::wstring& path, ReadResult& result) {
     result = {};
-    constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const FileHandle file = openFile(path, GENERIC_READ, shareAll, OPEN_EXISTING);
     if (!file) {
         const DWORD error = GetLastError();
@@ -80,7 +79,6 @@ bool isDanglingLink(const std::wstring& path, DWORD attributes) {
     if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
         return false;
     }
-    constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     return !openFile(path, 0, shareAll, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS) &&
            isMissing(GetLastError());
 }
@@ -145,7 +143,6 @@ RemoveResult WindowsFileStore::remove(const std::string& path) {
 }
 
 RemoveResult WindowsFileStore::couldRemove(const std::string& path) {
-    constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const std::wstring target = longPath(path);
     if (!isReplaceable(target)) {
         return {false, systemMessage(ERROR_ACCESS_DENIED)};
