@@ -55,8 +55,8 @@ ctlRatioGrid& addStencils(TestSheet& sheet, PixelSize size) {
                         rgb(255, 159, 0))
             .setPatternList(fivePatterns(i));
     }
-    const double left = size.width / 2 - 300;
-    const double top = size.height / 2 - 200;
+    const double left = size.width / 2.0 - 300;
+    const double top = size.height / 2.0 - 200;
     ctlRatioGrid& front = sheet.addStencil({left, top, left + 599, top + 399}, 0, rgb(0, 191, 191));
     front.setPatternList(fivePatterns(2));
     UpdateWindow(sheet.window().handle());
@@ -84,8 +84,8 @@ ctlMeasure& addMeasures(TestSheet& sheet, PixelSize size) {
         const Point joint = places.corner();
         addMeasure(sheet, {a.x, a.y, joint.x, joint.y}, {b.x, b.y, joint.x, joint.y});
     }
-    const double left = size.width / 2 - 300;
-    const double top = size.height / 2 - 200;
+    const double left = size.width / 2.0 - 300;
+    const double top = size.height / 2.0 - 200;
     ctlMeasure& front =
         addMeasure(sheet, {left + 600, top, left, top}, {left, top + 400, left, top});
     UpdateWindow(sheet.window().handle());

@@ -111,7 +111,7 @@ TEST_F(Documents, ANameTypedWithoutItsExtensionIsAskedAboutBeforeItsFileIsReplac
     scene_.press("cmdSaveAs");
     const DesktopWindow dialog =
         waitForTopLevel(scene_.program().process().id(), "#32770", saveTitle);
-    scene_.typeFileName(dialog, file("plan"));
+    PanelScene::typeFileName(dialog, file("plan"));
     const DesktopWindow asked = overwriteQuestion(scene_.program());
     ASSERT_TRUE(asked.exists());
     asked.post(WM_COMMAND, IDNO);

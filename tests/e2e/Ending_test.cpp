@@ -11,7 +11,7 @@ namespace {
 /// A start on prepared files, which shows messages.
 class Ending : public testing::Test {
   protected:
-    void write(const std::filesystem::path& file, const std::string& bytes) {
+    static void write(const std::filesystem::path& file, const std::string& bytes) {
         std::filesystem::create_directories(file.parent_path());
         writeBytes(file, bytes);
     }

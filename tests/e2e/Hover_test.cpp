@@ -16,11 +16,11 @@ struct GripSizes {
 GripSizes gripSizes(const SheetScene& scene) {
     switch (GetDpiForWindow(scene.worksheet().handle())) {
         case 192:
-            return {17 * 17, 41 * 41, 9 + 12};
+            return {std::size_t{17} * 17, std::size_t{41} * 41, 9 + 12};
         case 144:
-            return {11 * 11, 29 * 29, 6 + 9};
+            return {std::size_t{11} * 11, std::size_t{29} * 29, 6 + 9};
         default:
-            return {7 * 7, 19 * 19, 4 + 6};
+            return {std::size_t{7} * 7, std::size_t{19} * 19, 4 + 6};
     }
 }
 
@@ -86,7 +86,7 @@ void expectTips(SheetScene& scene, const std::vector<std::pair<Spot, std::string
     for (const auto& [shares, text] : tips) {
         scene.stepAside();
         scene.mouse.moveTo(scene.onScreen(scene.model.gripPixel(shares.x, shares.y)));
-        EXPECT_TRUE(waitUntil([&] { return scene.program().tip() == text; }))
+        EXPECT_TRUE(waitUntil([&, &text = text] { return scene.program().tip() == text; }))
             << scene.program().tip() << " instead of " << text;
     }
     scene.stepAside();

@@ -57,10 +57,10 @@ class MenuScene {
         keyboard::press(VK_RETURN);
         popup.waitUntilHidden();
     }
-    [[nodiscard]] bool turnsOn(std::string_view toggle) {
+    [[nodiscard]] bool turnsOn(std::string_view toggle) const {
         return waitUntil([&] { return scene.control(toggle).send(BM_GETCHECK) == BST_CHECKED; });
     }
-    [[nodiscard]] bool turnsOff(std::string_view toggle) {
+    [[nodiscard]] bool turnsOff(std::string_view toggle) const {
         return waitUntil([&] { return scene.control(toggle).send(BM_GETCHECK) == BST_UNCHECKED; });
     }
     [[nodiscard]] DesktopWindow lens() { return scene.program().window("frmLens"); }

@@ -20,7 +20,7 @@ class OptionsScene {
     /// By its button.
     Dialog open() {
         scene.press("cmdOptions");
-        return Dialog(scene, "frmOptions");
+        return {scene, "frmOptions"};
     }
     /// On one of its pages.
     Dialog open(int page) {

@@ -33,7 +33,7 @@ class Shot {
     }
 
     /// Takes a shot and pastes it.
-    Picture take() {
+    Picture take() const {
         PanelScene::choose(scene.control("cmdScreenshot"));
         std::optional<Picture> pasted;
         EXPECT_TRUE(waitUntil([&] {
@@ -44,7 +44,7 @@ class Shot {
     }
 
     /// Where the control window covers a part of the worksheet, or where it covers none.
-    void putControlWindow(bool overWorksheet) {
+    void putControlWindow(bool overWorksheet) const {
         const ScreenRect sheet = scene.worksheet().rect();
         const int left = overWorksheet ? sheet.left + 40 : screen::primaryMonitor().right - 60;
         SetWindowPos(scene.settings().handle(), nullptr, left, sheet.top + 20, 0, 0,

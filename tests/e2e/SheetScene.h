@@ -47,7 +47,9 @@ class SheetScene {
     Picture picture();
 
     /// The colours on the screen in edit mode at the first transparency.
+    // NOLINTNEXTLINE(readability-convert-member-functions-to-static): of this scene
     [[nodiscard]] Color lineColor() const { return blended(stencilColor, backdropColor, 191); }
+    // NOLINTNEXTLINE(readability-convert-member-functions-to-static): of this scene
     [[nodiscard]] Color veil() const { return blended(veilColor, backdropColor, 191); }
 
     /// The pattern's lines lie where the model says: on exactly its pixels if it is unturned,

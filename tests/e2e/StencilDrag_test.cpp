@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "e2e/SheetScene.h"
 
 namespace ormala::test {
@@ -91,7 +93,7 @@ TEST(StencilDrag, SideGripStopsAtTheLeastSize) {
     // Seen from the left side, which stays: the width is 23 pixels.
     const Picture picture = scene.picture();
     const ScreenPoint origin = picture.rect().origin();
-    const int left = static_cast<int>(scene.model.center.x - scene.model.halfWidth + 0.5);
+    const auto left = static_cast<int>(std::lround(scene.model.center.x - scene.model.halfWidth));
     const int row = origin.y + static_cast<int>(scene.model.center.y - scene.model.halfHeight / 2);
     for (const int x : {left, left + 22}) {
         EXPECT_LE(channelDifference(picture.at({origin.x + x, row}), scene.lineColor()), 2) << x;

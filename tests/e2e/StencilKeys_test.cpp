@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "e2e/SheetScene.h"
 
 namespace ormala::test {
@@ -35,7 +37,7 @@ TEST(StencilKeys, ArrowsWithCtrlMoveOnTheGrid) {
     keyboard::press(VK_RIGHT, Modifiers::Ctrl);
     keyboard::press(VK_UP, Modifiers::Ctrl);
     const auto snapped = [](double value, int step, int origin) {
-        return static_cast<int>((value - origin) / step + 0.5) * step + origin;
+        return static_cast<int>(std::lround((value - origin) / step)) * step + origin;
     };
     scene.model.center.x = snapped(scene.model.center.x + 40, 40, 7);
     scene.model.center.y = snapped(scene.model.center.y - 30, 30, 0);
@@ -49,7 +51,9 @@ TEST(StencilKeys, HomeBringsTheStencilBackToTheCentre) {
     keyboard::press(VK_HOME);
     scene.expectPattern();
     keyboard::press(VK_HOME, Modifiers::Shift);
-    const auto snapped = [](double value) { return static_cast<int>(value / 50 + 0.5) * 50; };
+    const auto snapped = [](double value) {
+        return static_cast<int>(std::lround(value / 50)) * 50;
+    };
     scene.model.center = {static_cast<double>(snapped(first.center.x)),
                           static_cast<double>(snapped(first.center.y))};
     scene.expectPattern();

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "e2e/PanelScene.h"
 #include "e2e/SheetScene.h"
 
@@ -7,7 +9,7 @@ namespace ormala::test {
 namespace {
 
 int alphaOf(int transparency) {
-    return static_cast<int>((100 - transparency) * 255 / 100.0 + 0.5);
+    return static_cast<int>(std::lround((100 - transparency) * 255 / 100.0));
 }
 
 TEST(Veil, HasTheOpacityOfTheOptionsInEditMode) {

@@ -72,7 +72,8 @@ class ListGlide : public MouseWheel {
         shown_ = 0;
     }
 
-    PanelList list_{window_.handle(), 1};
+    Clock clock_{[](bool) {}};
+    PanelList list_{window_.handle(), 1, clock_};
     int shown_ = 0;
     const Subscription counting_ = list_.viewChanged.subscribe([this] { ++shown_; });
 };

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "support/win/Screen.h"
 #include "support/win/WideText.h"
@@ -49,8 +50,8 @@ int heldModifiers() {
 
 }  // namespace
 
-BackdropWindow::BackdropWindow(const BackdropLook& look, const BackdropExtras& extras)
-    : extras_(extras),
+BackdropWindow::BackdropWindow(const BackdropLook& look, BackdropExtras extras)
+    : extras_(std::move(extras)),
       rect_(coveredPart()),
       pixels_(paintedPixels(look, rect_)),
       resetMessage_(RegisterWindowMessageW(backdropResetMessage)) {

@@ -23,7 +23,7 @@ struct BackdropExtras {
 class BackdropWindow {
   public:
     /// Throws std::runtime_error if the window cannot be made.
-    BackdropWindow(const BackdropLook& look, const BackdropExtras& extras);
+    BackdropWindow(const BackdropLook& look, BackdropExtras extras);
     ~BackdropWindow();
     BackdropWindow(const BackdropWindow&) = delete;
     BackdropWindow& operator=(const BackdropWindow&) = delete;

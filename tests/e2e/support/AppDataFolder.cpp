@@ -84,7 +84,11 @@ AppDataFolder::AppDataFolder() {
 }
 
 AppDataFolder::~AppDataFolder() {
-    restore();
+    try {
+        restore();
+    } catch (const std::exception&) {
+        // The next run puts it back.
+    }
 }
 
 void AppDataFolder::restoreAfterCrash() {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 #include "e2e/support/DesktopWindow.h"
 #include "support/win/WideText.h"
@@ -60,9 +59,7 @@ HeldKeys::HeldKeys(Modifiers modifiers) {
 }
 
 HeldKeys::~HeldKeys() {
-    for (const WORD key : std::views::reverse(keys_)) {
-        keyboard::up(key);
-    }
+    std::for_each(keys_.rbegin(), keys_.rend(), &keyboard::up);
 }
 
 bool HeldKeys::holdAgain() const {

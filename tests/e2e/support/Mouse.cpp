@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cmath>
-#include <ranges>
 #include <sstream>
 
 #include "e2e/support/DesktopWindow.h"
@@ -91,8 +90,8 @@ std::string text(ScreenPoint point) {
 }  // namespace
 
 Mouse::~Mouse() {
-    for (const MouseButton button : std::views::reverse(std::vector(held_))) {
-        release(button);
+    while (!held_.empty()) {
+        release(held_.back());
     }
 }
 
