@@ -37,6 +37,8 @@ constexpr std::array rows{
     KeyRow{key::f12, any, magnifier, Command::lensOptions},
     KeyRow{key::menu, any, worksheet, Command::worksheetMenu},
     KeyRow{key::menu, any, magnifier, Command::lensMenu},
+    KeyRow{key::f10, modifier::shift, worksheet, Command::worksheetMenu},
+    KeyRow{key::f10, modifier::shift, magnifier, Command::lensMenu},
     KeyRow{key::tab, modifier::shift, worksheet, Command::previousTool},
     KeyRow{key::tab, any, worksheet, Command::nextTool},
     KeyRow{key::z, modifier::ctrl, control | worksheet, Command::undo},

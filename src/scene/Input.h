@@ -41,6 +41,7 @@ constexpr int f1 = 112;
 constexpr int f2 = 113;
 constexpr int f3 = 114;
 constexpr int f4 = 115;
+constexpr int f10 = 121;
 constexpr int f12 = 123;
 }  // namespace key
 

@@ -81,6 +81,16 @@ TEST(KeyTables, TheMenuKeyOpensTheMenuOfWorksheetAndMagnifier) {
     EXPECT_EQ(control(93, 0), std::nullopt);
 }
 
+TEST(KeyTables, ShiftAloneMakesF10TheMenuKey) {
+    EXPECT_EQ(worksheet(key::f10, modifier::shift), Command::worksheetMenu);
+    EXPECT_EQ(magnifier(key::f10, modifier::shift), Command::lensMenu);
+    EXPECT_EQ(control(key::f10, modifier::shift), std::nullopt);
+    for (const int held : {0, modifier::ctrl, modifier::shift | modifier::ctrl, modifier::alt}) {
+        EXPECT_EQ(worksheet(key::f10, held), std::nullopt) << held;
+        EXPECT_EQ(magnifier(key::f10, held), std::nullopt) << held;
+    }
+}
+
 TEST(KeyTables, TabGoesFromToolToToolAndWithShiftBack) {
     EXPECT_EQ(worksheet(key::tab, 0), Command::nextTool);
     EXPECT_EQ(worksheet(key::tab, modifier::shift), Command::previousTool);

@@ -156,6 +156,17 @@ TEST(Menus, TheMenuKeyOfTheWorksheetOpensItsMenu) {
     EXPECT_TRUE(menus.turnsOn("chkGrid"));
 }
 
+TEST(Menus, ShiftAndF10OnTheWorksheetOpenItsMenu) {
+    MenuScene menus;
+    menus.scene.mouse.click(menus.background());
+    keyboard::press(VK_F10, Modifiers::Shift);
+    const DesktopWindow popup = menus.menu();
+    menus.walkTo(Entry::grid);
+    keyboard::press(VK_RETURN);
+    popup.waitUntilHidden();
+    EXPECT_TRUE(menus.turnsOn("chkGrid"));
+}
+
 TEST(Menus, EscapeLeavesEverythingAsItWas) {
     MenuScene menus;
     const DesktopWindow popup = menus.openByMouse();

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <initializer_list>
 #include <optional>
 #include <string_view>
 
@@ -12,6 +11,7 @@
 #include "e2e/support/SettingsFile.h"
 #include "platform/win/regions.h"
 #include "support/win/Wait.h"
+#include "win/HeldKeys.h"
 
 namespace ormala {
 
@@ -22,25 +22,6 @@ inline int widthOf(const RECT& rect) {
 inline int heightOf(const RECT& rect) {
     return static_cast<int>(rect.bottom - rect.top);
 }
-
-/// Keys that the thread takes for held, for the time of one message.
-class HeldKeys {
-  public:
-    explicit HeldKeys(std::initializer_list<int> keys) {
-        GetKeyboardState(former_.data());
-        auto state = former_;
-        for (const int key : keys) {
-            state[static_cast<std::size_t>(key)] = 0x80;
-        }
-        SetKeyboardState(state.data());
-    }
-    HeldKeys(const HeldKeys&) = delete;
-    HeldKeys& operator=(const HeldKeys&) = delete;
-    ~HeldKeys() { SetKeyboardState(former_.data()); }
-
-  private:
-    std::array<BYTE, 256> former_{};
-};
 
 /// The program with an options file that a test can fill before the start.
 class ModesStage : public testing::Test {

@@ -78,8 +78,8 @@ TEST_F(ReleaseFile, IsAWindowProgramAtNoFixedAddress) {
 TEST_F(ReleaseFile, NeedsNothingButWindowsItself) {
     const std::vector<std::string> ofWindows{
         "ADVAPI32.dll", "COMCTL32.dll", "comdlg32.dll", "dwmapi.dll", "GDI32.dll",
-        "KERNEL32.dll", "msvcrt.dll",   "ole32.dll",    "OLEACC.dll", "OLEAUT32.dll",
-        "SHELL32.dll",  "SHLWAPI.dll",  "USER32.dll"};
+        "IMM32.dll",    "KERNEL32.dll", "msvcrt.dll",   "ole32.dll",  "OLEACC.dll",
+        "OLEAUT32.dll", "SHELL32.dll",  "SHLWAPI.dll",  "USER32.dll"};
     const auto libraries = importedLibraries();
     EXPECT_FALSE(libraries.empty());
     for (const std::string& library : libraries) {

@@ -1,10 +1,12 @@
 #include "magnifier/win/frmLens.h"
 
 #include <gtest/gtest.h>
+#include <imm.h>
 
 #include "language/MlStringModule.h"
 #include "win/AccessibleReader.h"
 #include "win/ControlPanel.h"
+#include "win/HeldKeys.h"
 #include "win/LensFixture.h"
 
 namespace ormala {
@@ -172,6 +174,16 @@ TEST_F(frmLensTest, KeysAskTheApplication) {
     ASSERT_EQ(commands_.menus.size(), 1U);
     EXPECT_EQ(commands_.menus[0],
               (PixelPoint{static_cast<int>(origin.x), static_cast<int>(origin.y)}));
+}
+
+TEST_F(frmLensTest, ShiftAndF10AreTheMenuKey) {
+    const HeldKeys held{VK_SHIFT};
+    EXPECT_EQ(SendMessageW(lens_.handle(), WM_SYSKEYDOWN, VK_F10, 0), 0);
+    EXPECT_EQ(commands_.executed, std::vector{Command::lensMenu});
+}
+
+TEST_F(frmLensTest, TakesNoInputMethod) {
+    EXPECT_EQ(ImmGetContext(lens_.handle()), nullptr);
 }
 
 TEST_F(frmLensTest, RightReleasePopsUpTheMenuAtTheMouseAnywhere) {

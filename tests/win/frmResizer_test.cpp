@@ -1,11 +1,13 @@
 #include "worksheet/win/frmResizer.h"
 
 #include <gtest/gtest.h>
+#include <imm.h>
 
 #include "language/MlStringModule.h"
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
 #include "support/win/Wait.h"
+#include "win/HeldKeys.h"
 #include "win/TestSheet.h"
 
 namespace ormala {
@@ -311,6 +313,16 @@ TEST_F(frmResizerTest, ModeKeysWorkInTheFrame) {
     const std::vector<Command> asked{Command::editMode, Command::pauseMode, Command::templateMode,
                                      Command::help};
     EXPECT_EQ(sheet_.commands.executed, asked);
+}
+
+TEST_F(frmResizerTest, TakesNoInputMethod) {
+    EXPECT_EQ(ImmGetContext(frame_.handle()), nullptr);
+}
+
+TEST_F(frmResizerTest, ShiftAndF10InTheFrameAreTheMenuKeyOfTheWorksheet) {
+    const HeldKeys held{VK_SHIFT};
+    SendMessageW(frame_.handle(), WM_SYSKEYDOWN, VK_F10, 0);
+    EXPECT_EQ(sheet_.commands.executed, std::vector{Command::worksheetMenu});
 }
 
 TEST_F(frmResizerTest, KeysDoNothingWhileTheWorksheetTakesNoMouse) {

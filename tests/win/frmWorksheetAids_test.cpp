@@ -5,6 +5,7 @@
 #include "platform/win/handles.h"
 #include "support/win/PaintCount.h"
 #include "support/win/Wait.h"
+#include "win/HeldKeys.h"
 #include "win/TestSheet.h"
 
 // Grid and compass of the worksheet, and what the mouse does on its background.
@@ -343,6 +344,18 @@ TEST(WorksheetBackground, RightButtonOnAToolShowsNoMenu) {
     sheet.mouse(WM_RBUTTONDOWN, MK_RBUTTON, 200, 175);
     sheet.mouse(WM_RBUTTONUP, 0, 200, 175);
     EXPECT_TRUE(sheet.commands.menusAt.empty());
+}
+
+TEST(WorksheetBackground, ShiftAndF10AreTheMenuKey) {
+    TestSheet sheet(sheetSize);
+    const HWND window = sheet.window().handle();
+    {
+        const HeldKeys held{VK_SHIFT};
+        EXPECT_EQ(SendMessageW(window, WM_SYSKEYDOWN, VK_F10, 0), 0);
+    }
+    EXPECT_EQ(sheet.commands.executed, std::vector{Command::worksheetMenu});
+    SendMessageW(window, WM_SYSKEYDOWN, VK_F10, 0);
+    EXPECT_EQ(sheet.commands.executed.size(), 1U) << "without Shift it is another key";
 }
 
 TEST(WorksheetBackground, MenuKeyAndF12AskForMenuAndTheSheetsOptions) {

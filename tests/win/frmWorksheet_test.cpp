@@ -1,6 +1,7 @@
 #include "worksheet/win/frmWorksheet.h"
 
 #include <gtest/gtest.h>
+#include <imm.h>
 
 #include <algorithm>
 #include <chrono>
@@ -154,6 +155,12 @@ TEST(frmWorksheet, FillsTheWorkAreaOfItsScreen) {
         const RECT place = sheet.window().rectangle();
         return EqualRect(&place, &work) != FALSE;
     }));
+}
+
+TEST(frmWorksheet, TakesNoInputMethod) {
+    const TestSheet sheet(sheetSize);
+    const HWND window = sheet.window().handle();
+    EXPECT_EQ(ImmGetContext(window), nullptr);
 }
 
 TEST(frmWorksheet, ModeKeysAskForTheirModes) {

@@ -5,6 +5,7 @@
 #include "language/MlStringModule.h"
 #include "magnifier/lensTexts.h"
 #include "magnifier/win/scaleFont.h"
+#include "platform/win/inputMethod.h"
 #include "platform/win/regions.h"
 
 namespace ormala {
@@ -45,6 +46,7 @@ frmLens::frmLens(LensCommands& commands) : commands_(commands) {
     design.extendedStyle = extendedStyle;
     design.place = {firstPlace.x, firstPlace.y, firstPlace.x, firstPlace.y};
     create(design);
+    takeNoInputMethod(handle());
     OriginalExStyle_ = GetWindowLongPtrW(handle(), GWL_EXSTYLE);
     bounds_ = commands_.RefreshScreenBounds();
     parts_ = std::make_unique<Parts>(handle());

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "language/MlStringModule.h"
+#include "platform/win/inputMethod.h"
 #include "platform/win/regions.h"
 
 namespace ormala {
@@ -30,6 +31,7 @@ frmResizer::frmResizer(frmWorksheet& worksheet, WorksheetCommands& commands)
     design.extendedStyle = WS_EX_LAYERED | WS_EX_TOPMOST;
     design.place = firstPlace();
     create(design);
+    takeNoInputMethod(handle());
     dpi_ = static_cast<int>(GetDpiForWindow(handle()));
     SetLayeredWindowAttributes(handle(), keyColor, firstAlpha, LWA_COLORKEY);
     worksheet_.setOwner(handle());

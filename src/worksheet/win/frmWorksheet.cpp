@@ -5,6 +5,7 @@
 
 #include "language/MlStringModule.h"
 #include "platform/win/dayTime.h"
+#include "platform/win/inputMethod.h"
 #include "platform/win/monitors.h"
 #include "platform/win/regions.h"
 #include "platform/win/windowOrder.h"
@@ -56,6 +57,7 @@ frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
     design.place = primaryWorkArea();
     create(design);
     keepFromFullScreenMode(handle());
+    takeNoInputMethod(handle());
     takeDpi(GetDpiForWindow(handle()));
     tip_ = std::make_unique<TipWindow>(handle());
     CrossHairX_ = std::make_unique<frmCrossHair>(handle(), "CrossHairX");
