@@ -11,6 +11,7 @@
 #include "e2e/support/AppDataFolder.h"
 #include "e2e/support/StageFailure.h"
 #include "support/win/Screen.h"
+#include "support/win/onlyUnderWine.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ bool allSuitesAreKnown() {
 
 int main(int count, char** arguments) {
     testing::InitGoogleTest(&count, arguments);
+    GTEST_FLAG_SET(filter, ormala::test::filterForThisSystem(GTEST_FLAG_GET(filter)));
     if (!allSuitesAreKnown()) {
         return EXIT_FAILURE;
     }

@@ -83,7 +83,10 @@ TEST_F(ReleaseFile, NeedsNothingButWindowsItself) {
     const auto libraries = importedLibraries();
     EXPECT_FALSE(libraries.empty());
     for (const std::string& library : libraries) {
-        EXPECT_NE(std::ranges::find(ofWindows, library), ofWindows.end()) << library;
+        // The run-time library of C that belongs to Windows 10 has many parts.
+        EXPECT_TRUE(library.starts_with("api-ms-win-crt-") ||
+                    std::ranges::find(ofWindows, library) != ofWindows.end())
+            << library;
     }
 }
 
