@@ -58,6 +58,15 @@ if(WIN32)
               WINVER=0x0A00
               _WIN32_WINNT=0x0A00
               NTDDI_VERSION=0x0A000007)
+  # An overwritten return address ends the program. GCC knows no control flow guard.
+  target_compile_options(ormala_options INTERFACE -fstack-protector-strong)
+  # The oldest system that it runs on, which also decides how the system measures window frames.
+  target_link_options(
+    ormala_options
+    INTERFACE
+    -fstack-protector-strong
+    -Wl,--major-os-version,10,--minor-os-version,0
+    -Wl,--major-subsystem-version,10,--minor-subsystem-version,0)
 endif()
 
 # ormala_library(<folder> SOURCES <files> [LINK <folders>]): the portable part of a source folder.

@@ -33,6 +33,7 @@ MINGW = "Organization: mingw-w64 project"
 COMPONENTS = (
     Component("libstdc++", "libstdc++.a", FSF, GCC, "gcc.txt", "https://gcc.gnu.org"),
     Component("libgcc", "libgcc.a", FSF, GCC, "gcc.txt", "https://gcc.gnu.org"),
+    Component("libssp", "libssp.a", FSF, GCC, "gcc.txt", "https://gcc.gnu.org"),
     Component("mingw-w64 runtime", "libmingwex.a", MINGW,
               "ZPL-2.1 AND LicenseRef-mingw-w64-runtime", "mingw-w64.txt",
               "https://www.mingw-w64.org"),

@@ -30,7 +30,7 @@ ALL_FILES = {f"Ormala-{VERSION}{kind}" for kind in (
             "", ".installer", ".locale.en-US", ".locale.de-DE")} | {"SHA256SUMS"}
 OWN_FILES = {"Ormala.exe", "Licence.txt", "Read me.txt", "Lies mich.txt"}
 LICENCES = {"licences/GPL-3.txt", "licences/gcc.txt", "licences/mingw-w64.txt", "licences/nsis.txt"}
-LINKED = {"libstdc++", "libgcc", "mingw-w64 runtime", "winpthreads"}
+LINKED = {"libstdc++", "libgcc", "libssp", "mingw-w64 runtime", "winpthreads"}
 SPDX_LICENCES = {"MIT", "GPL-3.0-or-later", "GCC-exception-3.1", "ZPL-2.1", "BSD-3-Clause", "Zlib"}
 
 

@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -45,15 +47,23 @@ class ReleaseFile : public testing::Test {
         return 0;
     }
 
-    std::vector<std::string> importedLibraries() const {
-        std::vector<std::string> names;
+    /// From the libraries that the system loads with the program to what it takes from each.
+    std::map<std::string, std::set<std::string>> imports() const {
+        std::map<std::string, std::set<std::string>> found;
         const auto& directory =
             headers_->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
         const auto* entry = at<IMAGE_IMPORT_DESCRIPTOR>(offsetOf(directory.VirtualAddress));
         for (; entry->Name != 0; ++entry) {
-            names.emplace_back(at<char>(offsetOf(entry->Name)));
+            auto& functions = found[at<char>(offsetOf(entry->Name))];
+            const auto* name = at<IMAGE_THUNK_DATA64>(offsetOf(entry->OriginalFirstThunk));
+            for (; name->u1.AddressOfData != 0; ++name) {
+                if (!IMAGE_SNAP_BY_ORDINAL64(name->u1.Ordinal)) {
+                    const auto address = static_cast<DWORD>(name->u1.AddressOfData);
+                    functions.insert(at<char>(offsetOf(address) + sizeof(WORD)));
+                }
+            }
         }
-        return names;
+        return found;
     }
 
     std::string bytes_;
@@ -75,25 +85,47 @@ TEST_F(ReleaseFile, IsAWindowProgramAtNoFixedAddress) {
     EXPECT_NE(headers_->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_BASERELOC].Size, 0U);
 }
 
-TEST_F(ReleaseFile, NeedsNothingButWindowsItself) {
-    const std::vector<std::string> ofWindows{
-        "ADVAPI32.dll", "COMCTL32.dll", "comdlg32.dll", "dwmapi.dll", "GDI32.dll",
-        "IMM32.dll",    "KERNEL32.dll", "msvcrt.dll",   "ole32.dll",  "OLEACC.dll",
-        "OLEAUT32.dll", "SHELL32.dll",  "SHLWAPI.dll",  "USER32.dll"};
-    const auto libraries = importedLibraries();
+TEST_F(ReleaseFile, ImportsOnlyWhatWindowsNeverTakesFromTheProgramsFolder) {
+    // The system's list of known libraries; the manifest gives the common controls a place of their
+    // own.
+    const std::set<std::string> known{"ADVAPI32.dll", "COMCTL32.dll", "comdlg32.dll", "GDI32.dll",
+                                      "IMM32.dll",    "KERNEL32.dll", "msvcrt.dll",   "ole32.dll",
+                                      "OLEAUT32.dll", "SHELL32.dll",  "SHLWAPI.dll",  "USER32.dll"};
+    const auto libraries = imports();
     EXPECT_FALSE(libraries.empty());
-    for (const std::string& library : libraries) {
-        // The run-time library of C that belongs to Windows 10 has many parts.
-        EXPECT_TRUE(library.starts_with("api-ms-win-crt-") ||
-                    std::ranges::find(ofWindows, library) != ofWindows.end())
-            << library;
+    for (const auto& [library, functions] : libraries) {
+        EXPECT_TRUE(known.contains(library)) << library;
+        EXPECT_FALSE(functions.empty()) << library;
     }
+}
+
+TEST_F(ReleaseFile, LoadsWhatElseItNeedsFromTheSystemsFolder) {
+    const auto functions = imports()["KERNEL32.dll"];
+    EXPECT_TRUE(functions.contains("SetDefaultDllDirectories"));
+    EXPECT_TRUE(functions.contains("LoadLibraryExW"));
+}
+
+TEST_F(ReleaseFile, RunsOnWindows10AndLaterOnly) {
+    EXPECT_EQ(headers_->OptionalHeader.MajorSubsystemVersion, 10);
+    EXPECT_EQ(headers_->OptionalHeader.MinorSubsystemVersion, 0);
+    EXPECT_EQ(headers_->OptionalHeader.MajorOperatingSystemVersion, 10);
+    std::size_t systems = 0;
+    const std::string mark = "<supportedOS ";
+    for (auto at = bytes_.find(mark); at != std::string::npos; at = bytes_.find(mark, at + 1)) {
+        ++systems;
+    }
+    EXPECT_EQ(systems, 1U);
+    EXPECT_NE(bytes_.find("<supportedOS Id=\"{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}\""),
+              std::string::npos);
+}
+
+TEST_F(ReleaseFile, GuardsItsReturnAddresses) {
+    EXPECT_NE(bytes_.find("stack smashing detected"), std::string::npos);
 }
 
 TEST_F(ReleaseFile, AsksForPerMonitorResolutionAndCommonControls6) {
     EXPECT_NE(bytes_.find("PerMonitorV2"), std::string::npos);
     EXPECT_NE(bytes_.find("Microsoft.Windows.Common-Controls"), std::string::npos);
-    EXPECT_NE(bytes_.find("8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a"), std::string::npos);
 }
 
 TEST_F(ReleaseFile, TellsItsVersion) {

@@ -7,6 +7,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/win/SystemLibrary.h"
 #include "platform/win/text.h"
 
 namespace ormala {
@@ -212,13 +213,18 @@ std::optional<LRESULT> answerAccessible(HWND window, WPARAM wParam, LPARAM lPara
     if (static_cast<LONG>(lParam) != static_cast<LONG>(OBJID_CLIENT)) {
         return std::nullopt;
     }
+    static const SystemLibrary library(L"oleacc.dll");
+    auto* const makeStandard =
+        library.function<decltype(CreateStdAccessibleObject)>("CreateStdAccessibleObject");
+    auto* const handOver = library.function<decltype(LresultFromObject)>("LresultFromObject");
     IAccessible* plain = nullptr;
     void** const receiver = reinterpret_cast<void**>(&plain);
-    if (FAILED(CreateStdAccessibleObject(window, OBJID_CLIENT, accessibleInterface, receiver))) {
+    if (makeStandard == nullptr || handOver == nullptr ||
+        FAILED(makeStandard(window, OBJID_CLIENT, accessibleInterface, receiver))) {
         return std::nullopt;
     }
     const ComPointer<IAccessible> control(AccessibleControl::make(window, plain));
-    return LresultFromObject(accessibleInterface, wParam, control.get());
+    return handOver(accessibleInterface, wParam, control.get());
 }
 
 }  // namespace ormala

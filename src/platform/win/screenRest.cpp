@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include <dwmapi.h>
+#include "platform/win/composition.h"
 
 namespace ormala {
 
@@ -19,7 +19,7 @@ void letScreenSettle() {
                                       QS_PAINT | QS_SENDMESSAGE);
         }
     }
-    DwmFlush();
+    waitForComposition();
 }
 
 }  // namespace ormala

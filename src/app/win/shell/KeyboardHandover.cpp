@@ -1,19 +1,11 @@
 #include "app/win/shell/KeyboardHandover.h"
 
-#include <dwmapi.h>
-
 #include "app/keyboardHeir.h"
+#include "platform/win/composition.h"
 
 namespace ormala {
 
 namespace {
-
-/// The system keeps some windows of suspended programs shown, but out of sight.
-bool isCloaked(HWND window) {
-    DWORD cloaked = 0;
-    return SUCCEEDED(DwmGetWindowAttribute(window, DWMWA_CLOAKED, &cloaked, sizeof cloaked)) &&
-           cloaked != 0;
-}
 
 TopWindow describe(HWND window) {
     constexpr LONG_PTR aside = WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE;

@@ -16,6 +16,12 @@ namespace {
 
 using ormala::Handle;
 
+/// Libraries that are loaded later, also by others in this process, come from the system's folder
+/// or one that their program has named; never from the folder of this program or the current one.
+void trustSystemFoldersOnly() {
+    SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32 | LOAD_LIBRARY_SEARCH_USER_DIRS);
+}
+
 /// Marks that the program runs, for as long as the process lives.
 Handle<HANDLE, &CloseHandle> runningMark(bool& anotherRuns) {
     Handle<HANDLE, &CloseHandle> mutex(CreateMutexW(nullptr, FALSE, L"OrmalaTessin_Mutex"));
@@ -58,6 +64,7 @@ void tell(const std::exception& failure) {
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+    trustSystemFoldersOnly();
     constexpr int failed = 1;
     const ormala::AccessibleThread accessible;
     bool anotherRuns = false;
