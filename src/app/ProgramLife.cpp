@@ -52,7 +52,7 @@ bool ProgramLife::queryEndOfSession(bool critical) {
     return mayEnd;
 }
 
-void ProgramLife::endOfSession(bool ending) {
+void ProgramLife::endOfSession(bool ending, bool mustClose) {
     if (!running()) {
         return;
     }
@@ -61,6 +61,10 @@ void ProgramLife::endOfSession(bool ending) {
     if (ending) {
         // Also after the announcement: the user may have gone on meanwhile.
         ending_.keep(!told);
+    }
+    if (ending && mustClose) {
+        phase_ = Phase::ended;
+        ending_.quit();
     }
 }
 

@@ -43,8 +43,10 @@ class ProgramLife {
     /// Whether the session of the system may end. What there is is saved first. `critical` says
     /// that it ends in any case.
     bool queryEndOfSession(bool critical);
-    /// The answer of all programs. One that lives on although the session ends goes on as before.
-    void endOfSession(bool ending);
+    /// The answer of all programs. One that lives on although the session ends goes on as before;
+    /// `mustClose` says that it has to end itself, to be replaced or to free what it holds, and
+    /// then nothing is asked.
+    void endOfSession(bool ending, bool mustClose);
 
     /// A failure that nobody has handled: saves what can be saved. Throws what the saving throws.
     void fail();

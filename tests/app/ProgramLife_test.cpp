@@ -63,14 +63,14 @@ TEST_F(ProgramLifeTest, AStartThatIsToldToEndEndsAndSavesNothing) {
     EXPECT_FALSE(life_.running());
     EXPECT_EQ(ending_.taken(), Steps{"quit"});
     life_.close();
-    life_.endOfSession(true);
+    life_.endOfSession(true, false);
     life_.fail();
     EXPECT_EQ(ending_.taken(), Steps{});
 }
 
 TEST_F(ProgramLifeTest, TheEndOfASessionDuringTheStartSavesNothingAndStopsNothing) {
     EXPECT_TRUE(life_.queryEndOfSession(false));
-    life_.endOfSession(true);
+    life_.endOfSession(true, false);
     EXPECT_EQ(ending_.taken(), Steps{});
     EXPECT_TRUE(life_.started());
 }
@@ -124,7 +124,7 @@ TEST_F(RunningProgram, ADeniedEndOfTheSessionKeepsItsReasonUntilTheSystemAnswers
     ending_.confirms = false;
     EXPECT_FALSE(life_.queryEndOfSession(false));
     EXPECT_EQ(ending_.taken(), (Steps{"keep", "reason: changes", "ask"}));
-    life_.endOfSession(false);
+    life_.endOfSession(false, false);
     EXPECT_EQ(ending_.taken(), Steps{"no reason"});
 }
 
@@ -150,35 +150,60 @@ TEST_F(RunningProgram, TheEndOfTheSessionAsksNothingOverTheQuestionOfAClose) {
 TEST_F(RunningProgram, ChangesBetweenTheAnnouncementAndTheEndAreSavedToo) {
     life_.queryEndOfSession(false);
     ending_.taken();
-    life_.endOfSession(true);
+    life_.endOfSession(true, false);
     EXPECT_EQ(ending_.taken(), (Steps{"no reason", "keep quietly"}));
 }
 
 TEST_F(RunningProgram, AnEndThatNobodyHasAnnouncedTellsOfItsFailures) {
-    life_.endOfSession(true);
+    life_.endOfSession(true, false);
     EXPECT_EQ(ending_.taken(), (Steps{"no reason", "keep"}));
 }
 
 TEST_F(RunningProgram, ASessionThatGoesOnIsNotSaved) {
     life_.queryEndOfSession(false);
     ending_.taken();
-    life_.endOfSession(false);
+    life_.endOfSession(false, false);
     EXPECT_EQ(ending_.taken(), Steps{"no reason"});
 }
 
 TEST_F(RunningProgram, AProgramThatLivesOnAfterItsSessionAsksAndSavesAsBefore) {
-    life_.endOfSession(true);
+    life_.endOfSession(true, false);
     ending_.taken();
     EXPECT_TRUE(life_.running());
     life_.close();
     EXPECT_EQ(ending_.taken(), (Steps{"ask", "save", "quit"}));
 }
 
+TEST_F(RunningProgram, AProgramThatHasToCloseSavesAndEndsWithoutASecondQuestion) {
+    EXPECT_TRUE(life_.queryEndOfSession(false));
+    ending_.taken();
+    life_.endOfSession(true, true);
+    EXPECT_EQ(ending_.taken(), (Steps{"no reason", "keep quietly", "quit"}));
+    EXPECT_FALSE(life_.running());
+    life_.close();
+    EXPECT_EQ(ending_.taken(), Steps{});
+}
+
+TEST_F(RunningProgram, AProgramThatHasToCloseGoesOnIfTheOthersRefuse) {
+    life_.queryEndOfSession(false);
+    ending_.taken();
+    life_.endOfSession(false, true);
+    EXPECT_EQ(ending_.taken(), Steps{"no reason"});
+    EXPECT_TRUE(life_.running());
+}
+
+TEST_F(RunningProgram, AProgramThatHasToCloseDuringItsQuestionSavesOnce) {
+    ending_.duringQuestion = [this] { life_.endOfSession(true, true); };
+    EXPECT_FALSE(life_.queryEndOfSession(false));
+    EXPECT_EQ(ending_.taken(),
+              (Steps{"keep", "reason: changes", "ask", "no reason", "keep quietly", "quit"}));
+}
+
 TEST_F(RunningProgram, TheSessionCanEndAfterTheProgramHas) {
     life_.close();
     ending_.taken();
     EXPECT_TRUE(life_.queryEndOfSession(false));
-    life_.endOfSession(true);
+    life_.endOfSession(true, false);
     EXPECT_EQ(ending_.taken(), Steps{});
 }
 

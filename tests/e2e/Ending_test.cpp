@@ -78,5 +78,16 @@ TEST_F(Ending, AProgramThatOutlivesItsSessionSavesWhatComesLater) {
     EXPECT_TRUE(SettingsFile::read(scene.data().toolsFile()).hasSection("Tool 2"));
 }
 
+TEST_F(Ending, AProgramThatHasToMakeRoomForAnUpdateSavesAndEnds) {
+    PanelScene scene(ToolSet().stencil({100, 100, 300, 300}).file());
+    scene.press("cmdAddMeasure");
+    ASSERT_TRUE(scene.waitForPanels(2));
+    const DesktopWindow window = scene.program().settings();
+    EXPECT_EQ(window.send(WM_QUERYENDSESSION, 0, ENDSESSION_CLOSEAPP), 1);
+    EXPECT_TRUE(window.send(WM_ENDSESSION, TRUE, ENDSESSION_CLOSEAPP).has_value());
+    EXPECT_EQ(scene.program().waitForExit(), 0U);
+    EXPECT_TRUE(SettingsFile::read(scene.data().toolsFile()).hasSection("Tool 2"));
+}
+
 }  // namespace
 }  // namespace ormala::test

@@ -105,6 +105,10 @@ TEST_F(ReleaseFile, LoadsWhatElseItNeedsFromTheSystemsFolder) {
     EXPECT_TRUE(functions.contains("LoadLibraryExW"));
 }
 
+TEST_F(ReleaseFile, AsksToBeStartedAgainAfterAnUpdate) {
+    EXPECT_TRUE(imports()["KERNEL32.dll"].contains("RegisterApplicationRestart"));
+}
+
 TEST_F(ReleaseFile, RunsOnWindows10AndLaterOnly) {
     EXPECT_EQ(headers_->OptionalHeader.MajorSubsystemVersion, 10);
     EXPECT_EQ(headers_->OptionalHeader.MinorSubsystemVersion, 0);

@@ -128,9 +128,9 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
              return Result(self.ports_.life.queryEndOfSession((l & ENDSESSION_CRITICAL) != 0));
          }},
         {WM_ENDSESSION,
-         [](frmSettings& self, WPARAM w, LPARAM) {
+         [](frmSettings& self, WPARAM w, LPARAM l) {
              // The windows stay, since a message of one of them may be in hand at this moment.
-             self.ports_.life.endOfSession(w != FALSE);
+             self.ports_.life.endOfSession(w != FALSE, (l & ENDSESSION_CLOSEAPP) != 0);
              return Result(0);
          }},
     }};

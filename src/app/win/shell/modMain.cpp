@@ -22,6 +22,13 @@ void trustSystemFoldersOnly() {
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32 | LOAD_LIBRARY_SEARCH_USER_DIRS);
 }
 
+/// Has the system start the program again where an update has ended it, or a failure that could not
+/// be kept. The tools of the run come back by themselves and no text of the command line is read;
+/// an empty one would take a registration back.
+void registerForRestart() {
+    RegisterApplicationRestart(L"/restarted", 0);
+}
+
 /// Marks that the program runs, for as long as the process lives.
 Handle<HANDLE, &CloseHandle> runningMark(bool& anotherRuns) {
     Handle<HANDLE, &CloseHandle> mutex(CreateMutexW(nullptr, FALSE, L"OrmalaTessin_Mutex"));
@@ -65,6 +72,7 @@ void tell(const std::exception& failure) {
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     trustSystemFoldersOnly();
+    registerForRestart();
     constexpr int failed = 1;
     const ormala::AccessibleThread accessible;
     bool anotherRuns = false;
