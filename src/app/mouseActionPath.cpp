@@ -44,10 +44,4 @@ MouseActionPath mouseActionPath(const Rect& rectBound, PixelPoint origin,
     return {cutToMonitors(first, monitors), cutToMonitors(last, monitors)};
 }
 
-int absoluteMouseCoordinate(int pixel, int origin, int size) {
-    constexpr std::int64_t fullRange = 65536;
-    // Rounded up: the system cuts off what is left of a pixel.
-    return static_cast<int>((fullRange * (pixel - origin) + size - 1) / size);
-}
-
 }  // namespace ormala

@@ -20,8 +20,4 @@ struct MouseActionPath {
 MouseActionPath mouseActionPath(const Rect& rectBound, PixelPoint origin,
                                 std::span<const PixelRect> monitors);
 
-/// The absolute coordinate, in 1/65536 of all monitors together, that the system turns back into
-/// the same pixel. They begin at `origin` and are `size` pixels long in that direction.
-int absoluteMouseCoordinate(int pixel, int origin, int size);
-
 }  // namespace ormala

@@ -294,6 +294,9 @@ constexpr TextRow englishRows[] = {
     {581, "Memory"},
     {582, "A dialog is still open."},
     {583, "There may be tools that are not saved yet."},
+    {610,
+     "Windows does not let Ormala use the mouse in the program below.%n"
+     "That program may run as administrator."},
 };
 
 }  // namespace

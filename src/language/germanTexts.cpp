@@ -293,6 +293,9 @@ constexpr TextRow germanRows[] = {
     {581, "Arbeitsspeicher"},
     {582, "Ein Dialog ist noch geöffnet."},
     {583, "Es gibt vielleicht Werkzeuge, die noch nicht gespeichert sind."},
+    {610,
+     "Windows lässt Ormala die Maus im Programm darunter nicht benutzen.%n"
+     "Vielleicht läuft es als Administrator."},
 };
 
 }  // namespace

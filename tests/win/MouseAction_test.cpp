@@ -129,8 +129,17 @@ class MouseActionTest : public testing::Test {
 
     void play() {
         sheet_.window().setTransparentToMouse(true);
-        applyMouseAction(stencil_, sheet_.window().handle(), control_.handle());
+        taken_ = applyMouseAction(stencil_, sheet_.window().handle(), control_.handle(), system_);
         sheet_.window().setTransparentToMouse(false);
+    }
+
+    /// Plays the action with a system that takes so many records and passes none of them on.
+    void playWithSystemThatTakes(UINT count) {
+        system_.send = [this, count](std::span<INPUT> records) {
+            sent_.assign(records.begin(), records.end());
+            return count;
+        };
+        play();
     }
 
     std::vector<Target::Noted> wanted() {
@@ -140,6 +149,9 @@ class MouseActionTest : public testing::Test {
         return {{WM_LBUTTONDOWN, {left + 100, top + 100}}, {WM_LBUTTONUP, {left + 300, top + 250}}};
     }
 
+    DragSystem system_ = windowsDragSystem();
+    std::vector<INPUT> sent_;
+    bool taken_ = false;
     Target target_{{0, 0, 900, 700}};
     Control control_;
     TestSheet sheet_{{640, 480}};
@@ -152,6 +164,7 @@ TEST_F(MouseActionTest, DragsInTheProgramBelowInEditModeAndPutsEverythingBack) {
     const Rect rectangle = stencil_.RectBound();
     ASSERT_TRUE(sheet_.window().Clickable());
     play();
+    EXPECT_TRUE(taken_);
     EXPECT_EQ(target_.buttons(), wanted());
     EXPECT_GE(target_.dragMoves(), 1);
     EXPECT_TRUE(test::waitUntil([&] {
@@ -179,6 +192,51 @@ TEST_F(MouseActionTest, DoesNotWaitForEverForAProgramThatHangs) {
     const ULONGLONG start = GetTickCount64();
     play();
     EXPECT_LT(GetTickCount64() - start, 2700U);
+}
+
+TEST_F(MouseActionTest, SendsNothingIntoAProgramThatTheSystemShields) {
+    const PixelPoint before = cursor();
+    const RECT former = control_.rectangle();
+    std::vector<HWND> asked;
+    system_.admits = [&asked](HWND window) {
+        asked.push_back(window);
+        return false;
+    };
+    playWithSystemThatTakes(3);
+    EXPECT_FALSE(taken_);
+    EXPECT_EQ(asked, std::vector<HWND>{target_.window()});
+    EXPECT_TRUE(sent_.empty());
+    EXPECT_EQ(cursor(), before);
+    const RECT now = control_.rectangle();
+    EXPECT_TRUE(EqualRect(&now, &former));
+}
+
+TEST_F(MouseActionTest, TellsWhenTheSystemTakesNotAllOfTheInput) {
+    const PixelPoint before = cursor();
+    playWithSystemThatTakes(0);
+    EXPECT_FALSE(taken_);
+    playWithSystemThatTakes(2);
+    EXPECT_FALSE(taken_);
+    EXPECT_TRUE(test::waitUntil([&] { return cursor() == before; }));
+}
+
+TEST_F(MouseActionTest, SpeaksToAProgramOfTheSameRights) {
+    EXPECT_TRUE(system_.admits(target_.window()));
+}
+
+TEST_F(MouseActionTest, PressesTheUsersMainButtonOnAnyMonitor) {
+    for (const bool swapped : {false, true}) {
+        system_.areButtonsSwapped = [swapped] { return swapped; };
+        playWithSystemThatTakes(3);
+        EXPECT_TRUE(taken_);
+        ASSERT_EQ(sent_.size(), 3U);
+        constexpr DWORD move = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK;
+        const DWORD down = swapped ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN;
+        const DWORD up = swapped ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP;
+        EXPECT_EQ(sent_[0].mi.dwFlags, down);
+        EXPECT_EQ(sent_[1].mi.dwFlags, move);
+        EXPECT_EQ(sent_[2].mi.dwFlags, up);
+    }
 }
 
 }  // namespace

@@ -4,9 +4,11 @@
 #include <vector>
 
 #include "app/win/shell/Program.h"
+#include "app/win/tools/PanelDialogs.h"
 #include "app/win/tools/ToolsPane.h"
 #include "e2e/support/AppDataFolder.h"
 #include "measure/ctlMeasure.h"
+#include "platform/win/StandardControl.h"
 #include "stencil/ctlRatioGrid.h"
 #include "support/MemoryCodePage.h"
 #include "win/EnglishTexts.h"
@@ -108,6 +110,30 @@ TEST_F(PanelDialogsTest, FrameAndMagnifierComeBackAfterTheMouseAction) {
         SendMessageW(namedChild(stencilPanel(), "cmdSendMouseInput"), BM_CLICK, 0, 0);
         EXPECT_EQ(shown(), std::pair(true, lens));
     }
+}
+
+TEST_F(PanelDialogsTest, AMouseActionThatTheSystemRefusesIsTold) {
+    DragSystem refusing = windowsDragSystem();
+    refusing.admits = [](HWND) { return false; };
+    std::vector<bool> asides;
+    const MemoryCodePage codePage;
+    const SpecialRatios ratios([](int, std::string_view text) { return std::string(text); }, {});
+    PanelDialogs dialogs({settings_.handle(), program_.worksheet().handle(), ratios,
+                          program_.state(), codePage,
+                          [&asides](bool aside) { asides.push_back(aside); }, refusing});
+    std::string message;
+    player_.untilActive("#32770").then([&] {
+        constexpr int textId = 65535;
+        message = textOf(GetDlgItem(GetActiveWindow(), textId));
+        PostMessageW(GetActiveWindow(), WM_COMMAND, IDOK, 0);
+    });
+    static_cast<StencilCommands&>(dialogs).applyMouseAction(stencil());
+    EXPECT_TRUE(player_.done());
+    EXPECT_EQ(message.rfind("Windows does not let Ormala use the mouse in the program below.", 0),
+              0U)
+        << message;
+    // The message comes when the windows are back.
+    EXPECT_EQ(asides, (std::vector{true, false}));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "app/version.h"
 #include "app/win/tools/MouseAction.h"
+#include "dialogs/win/WindowsMessagePresenter.h"
 #include "dialogs/win/frmColor.h"
 #include "dialogs/win/frmLineStyle.h"
 #include "measure/win/frmUnit.h"
@@ -48,8 +49,16 @@ std::optional<double> PanelDialogs::EditRatio(double present) {
 void PanelDialogs::applyMouseAction(ctlRatioGrid& stencil) {
     // None of the program's windows may lie under the drag.
     ports_.putWindowsAside(true);
-    ormala::applyMouseAction(stencil, ports_.worksheet, ports_.owner);
+    const bool taken =
+        ormala::applyMouseAction(stencil, ports_.worksheet, ports_.owner, ports_.dragSystem);
     ports_.putWindowsAside(false);
+    if (!taken) {
+        WindowsMessagePresenter(applicationTitle)
+            .showError(MlFormat(MlString(610,
+                                         "Windows does not let Ormala use the mouse in the program "
+                                         "below.%nThat program may run as administrator."),
+                                {}));
+    }
 }
 
 bool PanelDialogs::SelectUnits(ctlMeasure& tool) {

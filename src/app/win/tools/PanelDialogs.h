@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "app/ViewState.h"
+#include "platform/win/sentDrag.h"
 #include "stencil/SpecialRatios.h"
 #include "stencil/StencilCommands.h"
 #include "storage/CodePage.h"
@@ -35,6 +36,8 @@ class PanelDialogs : public LookDialogs, public StencilCommands {
         const CodePage& codePage;
         /// Hides the windows that would lie under a drag on the screen, or shows them again.
         std::function<void(bool aside)> putWindowsAside;
+        /// By which the automatic mouse action drags.
+        DragSystem dragSystem = windowsDragSystem();
     };
 
     explicit PanelDialogs(Ports ports);
