@@ -1,5 +1,7 @@
 #include "platform/win/Window.h"
 
+#include <tpcshrd.h>
+
 #include <cstdint>
 #include <system_error>
 
@@ -39,6 +41,12 @@ void registerClass(const WindowDesign& design, WNDPROC procedure) {
     RegisterClassExW(&made);
 }
 
+/// What a finger does on the window comes as a mouse, and not as panning, zooming or turning.
+void blockGestures(HWND window) {
+    GESTURECONFIG all{0, 0, GC_ALLGESTURES};
+    SetGestureConfig(window, 0, 1, &all, sizeof all);
+}
+
 /// Ends a capture that has outlived its button, whose release fell where no event came from. Until
 /// then no other window would get the mouse. A menu, which needs no button, keeps it.
 bool endsCapture(HWND window, WPARAM held) {
@@ -62,6 +70,7 @@ bool endsCapture(HWND window, WPARAM held) {
 
 void Window::create(const WindowDesign& design) {
     registerClass(design, &Window::dispatch);
+    takesTouchAtOnce_ = design.takesTouchAtOnce;
     const RECT& place = design.place;
     CreateWindowExW(design.extendedStyle, design.className, L"", design.style, place.left,
                     place.top, place.right - place.left, place.bottom - place.top, design.owner,
@@ -69,6 +78,9 @@ void Window::create(const WindowDesign& design) {
     if (handle_ == nullptr) {
         throw std::system_error(static_cast<int>(GetLastError()), std::system_category(),
                                 narrow(design.className));
+    }
+    if (takesTouchAtOnce_) {
+        blockGestures(handle_);
     }
 }
 
@@ -113,6 +125,9 @@ LRESULT CALLBACK Window::dispatch(HWND handle, UINT message, WPARAM wParam, LPAR
         }
         if (window == nullptr) {
             return 0;
+        }
+        if (message == WM_TABLET_QUERYSYSTEMGESTURESTATUS && window->takesTouchAtOnce_) {
+            return TABLET_DISABLE_PRESSANDHOLD | TABLET_DISABLE_FLICKS;
         }
         const auto handled = [&] { return window->onMessage(message, wParam, lParam); };
         if (const auto result = guarded(std::nullopt, handled)) {

@@ -21,6 +21,9 @@ struct WindowDesign {
     /// The control ID of a child; 0 for any other window.
     int id = 0;
     RECT place{0, 0, 0, 0};
+    /// A pen or a finger presses as soon as it touches. The system else waits for whether it stays,
+    /// which it takes for the right button, or goes on, which it takes for scrolling.
+    bool takesTouchAtOnce = false;
 };
 
 /// The base of all windows. The object owns its handle: `create` makes it once the object stands,
@@ -59,6 +62,7 @@ class Window {
     void destroyed();
 
     HWND handle_ = nullptr;
+    bool takesTouchAtOnce_ = false;
 };
 
 constexpr bool isMouseMessage(UINT message) {

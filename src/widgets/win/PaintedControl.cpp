@@ -13,6 +13,8 @@ void PaintedControl::open(HWND parent, int id, std::string_view name, const Kind
     design.style = WS_CHILD | WS_VISIBLE | kind.style;
     design.owner = parent;
     design.id = id;
+    // What the keyboard can work; a text leaves the touch to the panel that it lies on.
+    design.takesTouchAtOnce = (kind.style & WS_TABSTOP) != 0;
     create(design);
     setControlName(handle(), name);
     setDpi(static_cast<int>(GetDpiForWindow(handle())));

@@ -55,6 +55,7 @@ frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
     design.style = WS_POPUP | WS_SYSMENU;
     design.extendedStyle = WS_EX_LAYERED | WS_EX_TOPMOST;
     design.place = primaryWorkArea();
+    design.takesTouchAtOnce = true;
     create(design);
     keepFromFullScreenMode(handle());
     takeNoInputMethod(handle());

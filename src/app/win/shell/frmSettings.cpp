@@ -1,7 +1,5 @@
 #include "app/win/shell/frmSettings.h"
 // Needs the system's basic types, which come with the window.
-#include <windowsx.h>
-
 #include <algorithm>
 #include <array>
 
@@ -194,8 +192,9 @@ std::optional<LRESULT> frmSettings::onActivate(WPARAM kind, LPARAM otherWindow) 
 }
 
 std::optional<LRESULT> frmSettings::onMouseActivate() const {
-    const DWORD place = GetMessagePos();
-    pressed.raise({GET_X_LPARAM(place), GET_Y_LPARAM(place)});
+    // The press itself is not fetched yet: the place of a message would be that of the one before,
+    // from which a tap of a pen or a finger may be far away.
+    pressed.raise(cursorPlace());
     return std::nullopt;
 }
 
