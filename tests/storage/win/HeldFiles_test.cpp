@@ -42,6 +42,19 @@ class HeldFiles : public testing::Test {
         return contents(folder_.path(std::string(name.begin(), name.end())));
     }
 
+    /// Writes a file that another program lets go long after the first tries.
+    WriteResult writtenWhileLetGo(WriteResult (WindowsFileStore::*write)(const std::string&,
+                                                                         std::string_view)) {
+        HeldFile holder(widePath_, FILE_SHARE_READ);
+        std::thread other([&holder] {
+            Sleep(1200);
+            holder.release();
+        });
+        const WriteResult result = (store_.*write)(path_, "new");
+        other.join();
+        return result;
+    }
+
     TemporaryFolder folder_;
     WindowsFileStore store_;
     const std::string path_ = folder_.path("a.ini");
@@ -84,35 +97,15 @@ TEST_F(HeldFiles, CouldBeRemovedWhenTheyAreLetGoSoon) {
     EXPECT_TRUE(result.removed) << result.description;
 }
 
-/// Lets a held file go while something is done with it, long after the first tries.
-class LettingGo {
-  public:
-    explicit LettingGo(HeldFile& holder)
-        : other_([&holder] {
-              Sleep(1200);
-              holder.release();
-          }) {}
-    ~LettingGo() { other_.join(); }
-    LettingGo(const LettingGo&) = delete;
-    LettingGo& operator=(const LettingGo&) = delete;
-
-  private:
-    std::thread other_;
-};
-
 TEST_F(HeldFiles, AreReplacedWhenTheyAreLetGoWithinTwoSeconds) {
-    HeldFile holder(widePath_, FILE_SHARE_READ);
-    const LettingGo other(holder);
-    const WriteResult result = store_.replace(path_, "new");
+    const WriteResult result = writtenWhileLetGo(&WindowsFileStore::replace);
     EXPECT_TRUE(result.written) << result.description;
     EXPECT_EQ(contents(path_), "new");
     EXPECT_EQ(folder_.entries(), 1);
 }
 
 TEST_F(HeldFiles, AreKeptWhenTheyAreLetGoWithinTwoSeconds) {
-    HeldFile holder(widePath_, FILE_SHARE_READ);
-    const LettingGo other(holder);
-    const WriteResult result = store_.replaceKeeping(path_, "new");
+    const WriteResult result = writtenWhileLetGo(&WindowsFileStore::replaceKeeping);
     EXPECT_TRUE(result.written) << result.description;
     EXPECT_EQ(contents(path_), "new");
     EXPECT_EQ(kept(), "old");
