@@ -94,10 +94,26 @@ class ModalDialogTest : public testing::Test {
     ModalDialogTest() {
         MlSetLanguage(languageEnglish, {});
         SetForegroundWindow(owner_.handle());
+        restsAt(place_);
     }
     ~ModalDialogTest() override { MlSetLanguage(languageEnglish, {}); }
 
-    Bystander owner_{{300, 200, 700, 500}};
+    /// A window manager may move the owner for a moment after it is shown or placed.
+    void restsAt(const RECT& place) {
+        constexpr test::milliseconds rest{40};
+        const auto stands = [&] {
+            const RECT now = owner_.rectangle();
+            return EqualRect(&now, &place) != FALSE;
+        };
+        EXPECT_TRUE(test::waitUntil([&] {
+            const bool stood = stands();
+            test::pause(rest);
+            return stood && stands();
+        }));
+    }
+
+    const RECT place_{300, 200, 700, 500};
+    Bystander owner_{place_};
     TestDialog dialog_;
     ModalPlayer player_;
 };
@@ -171,6 +187,7 @@ TEST_F(ModalDialogTest, StandsTopmostInTheMiddleOfItsOwner) {
 
 TEST_F(ModalDialogTest, StaysInTheWorkAreaBesideAnOwnerAtTheEdge) {
     SetWindowPos(owner_.handle(), nullptr, -150, -100, 200, 150, SWP_NOZORDER);
+    restsAt({-150, -100, 50, 50});
     player_.untilActive("TestDialog")
         .then([this] {
             EXPECT_EQ(dialog_.rectangle().left, 0);

@@ -106,9 +106,15 @@ TEST_F(PanelKeys, TheFocusedButtonOfAHalfHiddenPanelIsScrolledIntoView) {
     const HWND last = GetWindow(GetWindow(inner(), GW_CHILD), GW_HWNDLAST);
     for (const HWND panel : {stencil(), last}) {
         SetFocus(panel);
-        SetFocus(namedChild(panel, "cmdPause"));
+        const HWND button = namedChild(panel, "cmdPause");
+        // What is still on its way to the window may take the focus elsewhere.
+        ASSERT_TRUE(test::waitUntil([button] {
+            SetFocus(button);
+            test::pause(test::milliseconds{1});
+            return GetFocus() == button;
+        }));
         for (int notch = 0; notch < 20; ++notch) {
-            program_.tools().Scroll(panel != last);
+            program_.tools().Scroll(panel != last ? -1 : 1);
         }
         ASSERT_FALSE(isInView(GetFocus()));
         ASSERT_TRUE(press(VK_TAB));

@@ -135,7 +135,7 @@ TEST_F(ScreenReader, NamesAllOfTheControlWindowWith33ToolsWhereverTheListStands)
         expectSpoken("cmdTL", "Up", ROLE_SYSTEM_PUSHBUTTON);
         expectSpoken("cmdMove", "Scroll position", ROLE_SYSTEM_INDICATOR);
         expectSpoken("cmdBR", "Down", ROLE_SYSTEM_PUSHBUTTON);
-        program.tools().Scroll(true);
+        program.tools().Scroll(-1);
     }
 }
 

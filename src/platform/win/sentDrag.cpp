@@ -60,6 +60,20 @@ class Limit {
     ULONGLONG end_;
 };
 
+/// The windows that have just gone aside bare others, and these may still tell the system where they
+/// found the mouse. So it is put there until it stays.
+void putMouse(PixelPoint place, HWND target) {
+    constexpr DWORD answerTime = 100;
+    constexpr int tries = 10;
+    POINT cursor{};
+    for (int i = 0; i < tries && (i == 0 || cursor.x != place.x || cursor.y != place.y); ++i) {
+        SetCursorPos(place.x, place.y);
+        SendMessageTimeoutW(target, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, answerTime, nullptr);
+        Sleep(2);
+        GetCursorPos(&cursor);
+    }
+}
+
 /// The system has taken what was sent out of its queue: the pointer has arrived, and the button,
 /// told by its place on the device, is up again.
 bool isTaken(PixelPoint to, bool swapped) {
@@ -97,7 +111,7 @@ bool sendDrag(HWND target, PixelPoint from, PixelPoint to, const DragSystem& sys
         return false;
     }
     SetForegroundWindow(GetAncestor(target, GA_ROOT));
-    SetCursorPos(from.x, from.y);
+    putMouse(from, target);
     const bool swapped = system.areButtonsSwapped();
     auto records = recordsOfDrag(to, swapped);
     // One call, so that no other input comes between.
