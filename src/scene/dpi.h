@@ -17,4 +17,14 @@ constexpr int lineWidthAt(int dpi) {
     return std::max(1, dpi / designDpi);
 }
 
+/// The size of text that users can change, in per cent.
+constexpr int normalTextSize = 100;
+
+/// The resolution for controls whose text the user wants at so many per cent of its size. Layouts
+/// follow up to half as much again.
+constexpr int textScaledDpi(int dpi, int percent) {
+    constexpr int most = 150;
+    return (dpi * std::clamp(percent, normalTextSize, most) + normalTextSize / 2) / normalTextSize;
+}
+
 }  // namespace ormala

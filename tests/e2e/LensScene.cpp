@@ -15,10 +15,6 @@ int sourceStart(int cursor, int length, int low, int high) {
     return std::min(std::max(cursor - length / 2, low), high - length);
 }
 
-void walkDown(int entries) {
-    keyboard::press(VK_DOWN, Modifiers::None, entries);
-}
-
 }  // namespace
 
 void LensWindow::moveTo(ScreenPoint origin) const {
@@ -94,18 +90,14 @@ void LensScene::restart() {
     lens.window().waitUntilVisible();
 }
 
-DesktopWindow LensScene::shownMenu() {
-    return waitForTopLevel(scene.program().process().id(), "#32768");
-}
-
 DesktopWindow LensScene::openMenu() {
     scene.mouse.click(lens.part("picLens").center(), MouseButton::Right);
-    return shownMenu();
+    return scene.menus().wait();
 }
 
 void LensScene::chooseFromMenu(LensEntry entry) {
-    const DesktopWindow menu = shownMenu();
-    walkDown(static_cast<int>(entry));
+    const DesktopWindow menu = scene.menus().wait();
+    scene.menus().walkDown(static_cast<int>(entry));
     keyboard::press(VK_RETURN);
     menu.waitUntilHidden();
 }
@@ -117,9 +109,9 @@ void LensScene::choose(LensEntry entry) {
 
 void LensScene::chooseFactor(int factor) {
     const DesktopWindow menu = openMenu();
-    walkDown(static_cast<int>(LensEntry::magnification));
-    keyboard::press(VK_RIGHT);
-    walkDown(factor - 1);
+    scene.menus().walkDown(static_cast<int>(LensEntry::magnification));
+    scene.menus().press(VK_RIGHT);
+    scene.menus().walkDown(factor - 1);
     keyboard::press(VK_RETURN);
     menu.waitUntilHidden();
     requireSoon("factor", [&] {

@@ -77,7 +77,6 @@ class LensScene {
 
   private:
     DesktopWindow openMenu();
-    DesktopWindow shownMenu();
 };
 
 }  // namespace ormala::test

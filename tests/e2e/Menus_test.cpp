@@ -36,12 +36,10 @@ class MenuScene {
         scene.mouse.click(background(), MouseButton::Right);
         return menu();
     }
-    [[nodiscard]] DesktopWindow menu() {
-        return waitForTopLevel(scene.program().process().id(), "#32768");
-    }
+    [[nodiscard]] DesktopWindow menu() { return scene.menus().wait(); }
     template <typename Item>
     void walkTo(Item entry) {
-        keyboard::press(VK_DOWN, Modifiers::None, static_cast<int>(entry));
+        scene.menus().walkDown(static_cast<int>(entry));
     }
     void choose(Entry entry) {
         const DesktopWindow popup = openByMouse();
@@ -52,7 +50,7 @@ class MenuScene {
     void choose(LensEntry entry) {
         const DesktopWindow popup = openByMouse();
         walkTo(Entry::lens);
-        keyboard::press(VK_RIGHT);
+        scene.menus().press(VK_RIGHT);
         walkTo(static_cast<int>(entry) - 1);
         keyboard::press(VK_RETURN);
         popup.waitUntilHidden();
@@ -210,9 +208,9 @@ TEST(Menus, TheMagnificationIsChosenInTheSubmenuOfTheSubmenu) {
     MenuScene menus(options);
     const DesktopWindow popup = menus.openByMouse();
     menus.walkTo(Entry::lens);
-    keyboard::press(VK_RIGHT);
+    menus.scene.menus().press(VK_RIGHT);
     menus.walkTo(static_cast<int>(LensEntry::magnification) - 1);
-    keyboard::press(VK_RIGHT);
+    menus.scene.menus().press(VK_RIGHT);
     menus.walkTo(6);
     keyboard::press(VK_RETURN);
     popup.waitUntilHidden();

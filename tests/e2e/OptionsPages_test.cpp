@@ -154,10 +154,11 @@ constexpr const char* lensTicks[] = {"chkCursorVisible", "chkHotSpotVisible", "c
 void chooseOnWorksheet(PanelScene& scene, LensEntry entry) {
     constexpr int magnifierSubmenu = 7;
     scene.mouse.click(scene.onScreen({40, 40}), MouseButton::Right);
-    const DesktopWindow menu = waitForTopLevel(scene.program().process().id(), "#32768");
-    keyboard::press(VK_DOWN, Modifiers::None, magnifierSubmenu);
-    keyboard::press(VK_RIGHT);
-    keyboard::press(VK_DOWN, Modifiers::None, static_cast<int>(entry) - 1);
+    const ShownMenus menus = scene.menus();
+    const DesktopWindow menu = menus.wait();
+    menus.walkDown(magnifierSubmenu);
+    menus.press(VK_RIGHT);
+    menus.walkDown(static_cast<int>(entry) - 1);
     keyboard::press(VK_RETURN);
     menu.waitUntilHidden();
 }

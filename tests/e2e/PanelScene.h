@@ -40,6 +40,7 @@ class PanelScene {
 
     [[nodiscard]] const AppDataFolder& data() const { return data_; }
     [[nodiscard]] const Backdrop& backdrop() const { return backdrop_; }
+    [[nodiscard]] ShownMenus menus() const { return ShownMenus(program_->process().id()); }
     [[nodiscard]] Program& program() { return *program_; }
     [[nodiscard]] DesktopWindow worksheet() const { return program_->worksheet(); }
     [[nodiscard]] DesktopWindow settings() const { return program_->settings(); }
@@ -81,6 +82,10 @@ class PanelScene {
 
     Backdrop backdrop_;
     AppDataFolder data_;
+    /// A window manager that is busy may have put the worksheet in front of the control window in
+    /// the course of the start. Both ways, since what the system takes for done it does not do.
+    void bringControlWindowForward() const;
+
     std::unique_ptr<Program> program_;
 };
 

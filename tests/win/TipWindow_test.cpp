@@ -7,6 +7,7 @@
 #include "platform/win/text.h"
 #include "support/stencilGripIndex.h"
 #include "win/TestSheet.h"
+#include "win/TestWindow.h"
 
 namespace ormala {
 namespace {
@@ -57,6 +58,28 @@ TEST(TipWindow, SaysWhatTheGripUnderTheMouseDoes) {
         sheet.mouse(WM_MOUSEMOVE, 0, 600, 20);
         EXPECT_EQ(tipOf(sheet.window().handle()), "");
     }
+}
+
+TEST(TipWindow, HasTheSizeOfTheSystemsTipsOnEachMonitor) {
+    TestWindow owner;
+    TipWindow tip(owner.handle());
+    const auto textHeight = [&tip] {
+        LOGFONTW face{};
+        GetObjectW(reinterpret_cast<HFONT>(SendMessageW(tip.handle(), WM_GETFONT, 0, 0)),
+                   sizeof face, &face);
+        return face.lfHeight;
+    };
+    const auto widest = [&tip] { return SendMessageW(tip.handle(), TTM_GETMAXTIPWIDTH, 0, 0); };
+    tip.setDpi(96);
+    const LONG height = textHeight();
+    EXPECT_NE(height, 0);
+    EXPECT_EQ(widest(), 400);
+    tip.setDpi(144);
+    EXPECT_NEAR(textHeight(), height * 1.5, 1);
+    EXPECT_EQ(widest(), 600);
+    // A text takes the resolution of the monitor that the owner is on now.
+    tip.setText("Move");
+    EXPECT_EQ(widest(), MulDiv(400, static_cast<int>(GetDpiForWindow(owner.handle())), 96));
 }
 
 TEST(TipWindow, SpeaksGerman) {

@@ -5,6 +5,7 @@
 #include "language/MlStringModule.h"
 #include "magnifier/lensTexts.h"
 #include "magnifier/win/scaleFont.h"
+#include "platform/win/composition.h"
 #include "platform/win/inputMethod.h"
 #include "platform/win/regions.h"
 
@@ -47,6 +48,7 @@ frmLens::frmLens(LensCommands& commands) : commands_(commands) {
     design.place = {firstPlace.x, firstPlace.y, firstPlace.x, firstPlace.y};
     create(design);
     takeNoInputMethod(handle());
+    showWithoutFading(handle());
     OriginalExStyle_ = GetWindowLongPtrW(handle(), GWL_EXSTYLE);
     bounds_ = commands_.RefreshScreenBounds();
     parts_ = std::make_unique<Parts>(handle());

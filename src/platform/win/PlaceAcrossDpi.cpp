@@ -76,8 +76,11 @@ PixelRect PlaceAcrossDpi::at(HWND window, int formerDpi, int dpi, const RECT& su
     return {there.left, there.top, there.left + size.width, there.top + size.height};
 }
 
-void PlaceAcrossDpi::take(HWND window, const PixelRect& place) {
-    SetWindowPos(window, nullptr, place.left, place.top, place.width(), place.height(),
+void PlaceAcrossDpi::take(HWND window, const std::optional<PixelRect>& place) {
+    if (!place) {
+        return;
+    }
+    SetWindowPos(window, nullptr, place->left, place->top, place->width(), place->height(),
                  SWP_NOZORDER | SWP_NOACTIVATE);
     const PixelRect now = placeOf(window);
     size_.took({now.width(), now.height()});

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <functional>
+#include <optional>
 
 #include "modAPI/SizeAcrossDpi.h"
 
@@ -31,8 +32,8 @@ class PlaceAcrossDpi {
 
     /// Where the window is to lie at `dpi`, as WM_DPICHANGED tells with a suggested place.
     PixelRect at(HWND window, int formerDpi, int dpi, const RECT& suggested);
-    /// Puts it there.
-    void take(HWND window, const PixelRect& place);
+    /// Puts it there, if there is a place.
+    void take(HWND window, const std::optional<PixelRect>& place);
 
   private:
     SizeAcrossDpi size_;

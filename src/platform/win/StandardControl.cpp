@@ -8,6 +8,7 @@
 #include "platform/win/Window.h"
 #include "platform/win/callbackGuard.h"
 #include "platform/win/controlName.h"
+#include "platform/win/darkControls.h"
 #include "platform/win/text.h"
 
 namespace ormala {
@@ -28,6 +29,7 @@ void StandardControl::create(HWND parent, const ControlDesign& design) {
                                 narrow(design.className));
     }
     setControlName(handle_, design.name);
+    darkenControl(handle_);
     attach(handle_);
 }
 

@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 #include "platform/win/Window.h"
 #include "platform/win/text.h"
 
@@ -11,7 +13,7 @@ namespace {
 
 /// Long enough to read the longest of the tips, in milliseconds.
 constexpr int readingTime = 15000;
-/// Longer texts break into lines.
+/// Longer texts break into lines. In pixels at 96 DPI.
 constexpr int widest = 400;
 
 TTTOOLINFOW toolOf(HWND owner) {
@@ -36,11 +38,28 @@ TipWindow::TipWindow(HWND owner) : owner_(owner) {
                                   WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT,
                                   CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr,
                                   GetModuleHandleW(nullptr), nullptr));
-    SendMessageW(handle(), TTM_SETMAXTIPWIDTH, 0, widest);
+    setDpi(GetDpiForWindow(owner));
     SendMessageW(handle(), TTM_SETDELAYTIME, TTDT_AUTOPOP, MAKELPARAM(readingTime, 0));
 }
 
+void TipWindow::setDpi(UINT dpi) {
+    if (std::exchange(dpi_, dpi) == dpi) {
+        return;
+    }
+    SendMessageW(handle(), TTM_SETMAXTIPWIDTH, 0,
+                 MulDiv(widest, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI));
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    if (SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi) !=
+        FALSE) {
+        FontHandle font(CreateFontIndirectW(&metrics.lfStatusFont));
+        SendMessageW(handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+        font_ = std::move(font);
+    }
+}
+
 void TipWindow::setText(const std::string& text) {
+    setDpi(GetDpiForWindow(owner_));
     TTTOOLINFOW tool = toolOf(owner_);
     // Made anew for each text, so that the wait for the tip begins anew too.
     SendMessageW(handle(), TTM_DELTOOLW, 0, pointerParam(&tool));

@@ -18,10 +18,15 @@ class TipWindow {
     /// An empty text shows nothing.
     void setText(const std::string& text);
     void relay(UINT message, WPARAM wParam, LPARAM lParam);
+    /// The text has the size of the system's own tips on a monitor of that resolution. At first and
+    /// with each text that of the owner's monitor is taken.
+    void setDpi(UINT dpi);
     [[nodiscard]] HWND handle() const { return window_.get(); }
 
   private:
     HWND owner_;
+    UINT dpi_ = 0;
+    FontHandle font_;
     Handle<HWND, &DestroyWindow> window_;
     std::wstring text_;
 };

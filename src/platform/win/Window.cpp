@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "platform/win/callbackGuard.h"
+#include "platform/win/composition.h"
 #include "platform/win/controlName.h"
 #include "platform/win/text.h"
 #include "scene/Input.h"
@@ -81,6 +82,9 @@ void Window::create(const WindowDesign& design) {
     }
     if (takesTouchAtOnce_) {
         blockGestures(handle_);
+    }
+    if ((design.style & WS_CAPTION) == WS_CAPTION) {
+        darkenFrame(handle_);
     }
 }
 

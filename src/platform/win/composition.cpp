@@ -13,6 +13,14 @@ const SystemLibrary& library() {
     return composition;
 }
 
+void turnOn(HWND window, DWORD attribute) {
+    const BOOL on = TRUE;
+    if (auto* const set =
+            library().function<decltype(DwmSetWindowAttribute)>("DwmSetWindowAttribute")) {
+        set(window, attribute, &on, sizeof on);
+    }
+}
+
 }  // namespace
 
 void waitForComposition() {
@@ -26,6 +34,16 @@ bool isCloaked(HWND window) {
     DWORD cloaked = 0;
     return ask != nullptr && SUCCEEDED(ask(window, DWMWA_CLOAKED, &cloaked, sizeof cloaked)) &&
            cloaked != 0;
+}
+
+void darkenFrame(HWND window) {
+    // DWMWA_USE_IMMERSIVE_DARK_MODE, which older headers do not know.
+    constexpr DWORD darkMode = 20;
+    turnOn(window, darkMode);
+}
+
+void showWithoutFading(HWND window) {
+    turnOn(window, DWMWA_TRANSITIONS_FORCEDISABLED);
 }
 
 }  // namespace ormala

@@ -28,7 +28,7 @@ int fontHeight(int points, int dpi) {
 }
 
 FontHandle controlFont(int dpi, FontLook look, int points) {
-    return tahoma(dpi, points, look == FontLook::bold ? FW_BOLD : FW_NORMAL, CLEARTYPE_QUALITY);
+    return tahoma(dpi, points, look == FontLook::bold ? FW_BOLD : FW_NORMAL, DEFAULT_QUALITY);
 }
 
 SharedFont sharedControlFont(int dpi, FontLook look, int points) {

@@ -60,8 +60,8 @@ class Limit {
     ULONGLONG end_;
 };
 
-/// The windows that have just gone aside bare others, and these may still tell the system where they
-/// found the mouse. So it is put there until it stays.
+/// The windows that have just gone aside bare others, and these may still tell the system where
+/// they found the mouse. So it is put there until it stays.
 void putMouse(PixelPoint place, HWND target) {
     constexpr DWORD answerTime = 100;
     constexpr int tries = 10;

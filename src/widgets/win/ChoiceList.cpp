@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/controlDpi.h"
 #include "platform/win/fills.h"
 #include "platform/win/handles.h"
 #include "platform/win/text.h"
@@ -17,10 +18,6 @@ namespace {
 
 /// From the left edge to the text, in pixels at 96 DPI.
 constexpr int indent = 4;
-
-int dpiAt(HWND window) {
-    return static_cast<int>(GetDpiForWindow(window));
-}
 
 void drawCell(HDC context, const std::wstring& text, RECT area) {
     DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &area,
@@ -79,7 +76,7 @@ void ChoiceList::drawRow(const DRAWITEMSTRUCT& item) const {
     SetBkMode(item.hDC, TRANSPARENT);
     SetTextColor(item.hDC, colorRef(chosen ? dark::onText : dark::text));
     RECT area = item.rcItem;
-    area.left += scaledLength(indent, dpiAt(handle()));
+    area.left += scaledLength(indent, controlDpi(handle()));
     const std::size_t tab = row.find(L'\t');
     drawCell(item.hDC, row.substr(0, tab), area);
     if (tab != std::wstring::npos) {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/win/controlDpi.h"
 #include "platform/win/fills.h"
 #include "platform/win/handles.h"
 #include "platform/win/text.h"
@@ -172,7 +173,7 @@ LRESULT ComboField::onPaint() {
     GetClientRect(handle(), &client);
     const COMBOBOXINFO parts = partsOf(handle());
     const bool focused = GetFocus() == field_.handle();
-    const int dpi = static_cast<int>(GetDpiForWindow(handle()));
+    const int dpi = controlDpi(handle());
     paintField(scope.context(), client, isEnabled(), focused, dpi);
     paintArrow(scope.context(), parts.rcButton);
     return 0;

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/controlDpi.h"
 #include "platform/win/fills.h"
 #include "platform/win/handles.h"
 #include "platform/win/text.h"
@@ -35,7 +36,7 @@ LRESULT GroupBox::onPaint() {
     fillRect(context, client, dark::ground);
     RECT frame = client;
     frame.top += metrics.tmHeight / 2;
-    const int line = lineWidthAt(static_cast<int>(GetDpiForWindow(handle())));
+    const int line = lineWidthAt(controlDpi(handle()));
     fillRect(context, frame, dark::outline);
     InflateRect(&frame, -line, -line);
     fillRect(context, frame, dark::ground);

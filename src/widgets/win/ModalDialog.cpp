@@ -6,6 +6,7 @@
 #include "language/MlStringModule.h"
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/PlaceAcrossDpi.h"
+#include "platform/win/controlDpi.h"
 #include "platform/win/fills.h"
 #include "platform/win/fonts.h"
 #include "platform/win/monitors.h"
@@ -70,7 +71,13 @@ void ModalDialog::open(const Design& design) {
     makeControls();
     ApplyLanguage();
     relabeling_ = GetLanguageSupport().LanguageChange.subscribe([this] { ApplyLanguage(); });
-    setDpi(static_cast<int>(GetDpiForWindow(handle())));
+    takeDpi(GetDpiForWindow(handle()));
+}
+
+/// Of its monitor.
+void ModalDialog::takeDpi(UINT dpi) {
+    frameDpi_ = dpi;
+    setDpi(controlDpi(static_cast<int>(dpi)));
 }
 
 void ModalDialog::setDpi(int dpi) {
@@ -111,17 +118,17 @@ std::unique_ptr<ZelvikButtonXP> ModalDialog::makeButton(int id, std::string_view
 PixelSize ModalDialog::outerSize() const {
     RECT rect{0, 0, scaledLength(design_.client.width, dpi_),
               scaledLength(design_.client.height, dpi_)};
-    AdjustWindowRectExForDpi(&rect, style, FALSE, extendedStyle, static_cast<UINT>(dpi_));
+    AdjustWindowRectExForDpi(&rect, style, FALSE, extendedStyle, frameDpi_);
     const PixelRect outer = fromRect(rect);
     return {outer.width(), outer.height()};
 }
 
 bool ModalDialog::centreOn(HWND owner) {
-    setDpi(static_cast<int>(GetDpiForWindow(handle())));
+    takeDpi(GetDpiForWindow(handle()));
     const PixelRect box = placeOfDialog(outerSize(), placeOf(owner), workAreaOf(owner));
     SetWindowPos(handle(), HWND_TOPMOST, box.left, box.top, box.width(), box.height(),
                  SWP_NOACTIVATE);
-    return fromRect(rectangle()) == box && dpi_ == static_cast<int>(GetDpiForWindow(handle()));
+    return fromRect(rectangle()) == box && frameDpi_ == GetDpiForWindow(handle());
 }
 
 /// The way to the owner's monitor may change the resolution, and with it the size.
@@ -253,12 +260,20 @@ LRESULT ModalDialog::onNextControl(WPARAM wParam, bool isNamed) {
     return 0;
 }
 
-LRESULT ModalDialog::onDpiChanged(int dpi, const RECT& suggested) {
-    setDpi(dpi);
+LRESULT ModalDialog::onDpiChanged(UINT dpi, const RECT& suggested) {
+    takeDpi(dpi);
     const PixelSize size = outerSize();
     SetWindowPos(handle(), nullptr, suggested.left, suggested.top, size.width, size.height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
     return 0;
+}
+
+/// The size of text may be another one.
+void ModalDialog::onSettingChange() {
+    readTextSize();
+    if (shown_ && dpi_ != controlDpi(handle())) {
+        onDpiChanged(frameDpi_, rectangle());
+    }
 }
 
 LRESULT ModalDialog::onTimer() {
@@ -289,6 +304,9 @@ std::optional<LRESULT> ModalDialog::onMessage(UINT message, WPARAM wParam, LPARA
             return MAKELRESULT(defaultButton(), DC_HASDEFID);
         case WM_DPICHANGED:
             return onDpiChanged(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+        case WM_SETTINGCHANGE:
+            onSettingChange();
+            return std::nullopt;
         case WM_TIMER:
             return onTimer();
         default:

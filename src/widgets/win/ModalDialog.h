@@ -74,7 +74,9 @@ class ModalDialog : public Window {
     /// Draws what is no child on the ground, in pixels of the present resolution.
     virtual void paint(HDC /*context*/) {}
 
+    void takeDpi(UINT dpi);
     void setDpi(int dpi);
+    void onSettingChange();
     [[nodiscard]] PixelSize outerSize() const;
     void placeOver(HWND owner);
     bool centreOn(HWND owner);
@@ -86,10 +88,12 @@ class ModalDialog : public Window {
     LRESULT onActivate(bool active);
     LRESULT onCommand(int id, int notification);
     LRESULT onNextControl(WPARAM wParam, bool isNamed);
-    LRESULT onDpiChanged(int dpi, const RECT& suggested);
+    LRESULT onDpiChanged(UINT dpi, const RECT& suggested);
     LRESULT onTimer();
 
     Design design_;
+    /// Of the monitor, and what the controls are laid out for.
+    UINT frameDpi_ = USER_DEFAULT_SCREEN_DPI;
     int dpi_ = 0;
     FontHandle font_;
     BackBuffer buffer_;

@@ -1,6 +1,7 @@
 #include "widgets/win/PaintedControl.h"
 
 #include "platform/win/BackBuffer.h"
+#include "platform/win/controlDpi.h"
 #include "platform/win/controlName.h"
 #include "platform/win/regions.h"
 
@@ -17,7 +18,7 @@ void PaintedControl::open(HWND parent, int id, std::string_view name, const Kind
     design.takesTouchAtOnce = (kind.style & WS_TABSTOP) != 0;
     create(design);
     setControlName(handle(), name);
-    setDpi(static_cast<int>(GetDpiForWindow(handle())));
+    setDpi(controlDpi(handle()));
 }
 
 void PaintedControl::setDpi(int dpi) {
@@ -66,7 +67,7 @@ std::optional<LRESULT> PaintedControl::onMessage(UINT message, WPARAM wParam, LP
         case WM_GETFONT:
             return reinterpret_cast<LRESULT>(textFont());
         case WM_DPICHANGED_AFTERPARENT:
-            setDpi(static_cast<int>(GetDpiForWindow(handle())));
+            setDpi(controlDpi(handle()));
             return 0;
         case WM_GETOBJECT:
             return answerAccessible(handle(), wParam, lParam);

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "language/MlStringModule.h"
+#include "platform/win/controlDpi.h"
 #include "platform/win/controlName.h"
 #include "platform/win/regions.h"
 #include "scene/dpi.h"
@@ -67,7 +68,7 @@ Scroll::Scroll(HWND parent, int id, std::string_view name, Clock& clock) : clock
     following_ = model_.Change.subscribe([this] { Change.raise(); });
     relabeling_ = GetLanguageSupport().LanguageChange.subscribe([this] { ApplyLanguage(); });
     ApplyLanguage();
-    setDpi(static_cast<int>(GetDpiForWindow(handle())));
+    setDpi(controlDpi(handle()));
 }
 
 void Scroll::ApplyLanguage() {
@@ -266,7 +267,7 @@ std::optional<LRESULT> Scroll::onMessage(UINT message, WPARAM wParam, LPARAM lPa
         case WM_CAPTURECHANGED:
             return onCaptureChanged();
         case WM_DPICHANGED_AFTERPARENT:
-            setDpi(static_cast<int>(GetDpiForWindow(handle())));
+            setDpi(controlDpi(handle()));
             return 0;
         default:
             return mouseMessage(handle(), message, lParam);

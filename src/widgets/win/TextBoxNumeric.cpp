@@ -7,6 +7,7 @@
 
 #include "modAPI/colors.h"
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/controlDpi.h"
 #include "platform/win/controlName.h"
 #include "platform/win/regions.h"
 #include "widgets/dpi.h"
@@ -145,7 +146,7 @@ std::optional<LRESULT> TextBoxNumeric::Box::onMessage(UINT message, WPARAM wPara
 
 void TextBoxNumeric::placeBox() {
     const RECT client = clientRectangle();
-    const int inset = scaledLength(padding, static_cast<int>(GetDpiForWindow(handle())));
+    const int inset = scaledLength(padding, controlDpi(handle()));
     const auto font = reinterpret_cast<HFONT>(SendMessageW(tb_.handle(), WM_GETFONT, 0, 0));
     const WindowContext context(tb_.handle());
     const Selected selected(context.get(), font != nullptr ? font : GetStockObject(SYSTEM_FONT));
@@ -159,8 +160,7 @@ void TextBoxNumeric::placeBox() {
 LRESULT TextBoxNumeric::onPaint() {
     const PaintScope scope(handle());
     const bool focused = GetFocus() == tb_.handle();
-    paintField(scope.context(), clientRectangle(), Enabled(), focused,
-               static_cast<int>(GetDpiForWindow(handle())));
+    paintField(scope.context(), clientRectangle(), Enabled(), focused, controlDpi(handle()));
     return 0;
 }
 

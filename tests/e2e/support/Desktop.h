@@ -26,6 +26,7 @@
 #include "e2e/support/Program.h"
 #include "e2e/support/SecondMonitor.h"
 #include "e2e/support/SettingsFile.h"
+#include "e2e/support/ShownMenus.h"
 #include "e2e/support/StageFailure.h"
 #include "support/win/ChildProcess.h"
 #include "support/win/Picture.h"

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "dialogs/win/formPlacement.h"
+#include "platform/win/controlDpi.h"
 #include "platform/win/monitors.h"
 #include "platform/win/regions.h"
 
@@ -31,7 +32,8 @@ WindowState stateOfSize(WPARAM kind) {
 }  // namespace
 
 void SettingsSize::placeFirst() {
-    dpi_ = dpiOf(window_.handle());
+    frameDpi_ = dpiOf(window_.handle());
+    dpi_ = controlDpi(frameDpi_);
     const SIZE around = frame();
     const int width = layout().width + static_cast<int>(around.cx);
     SetWindowPos(window_.handle(), nullptr, GetSystemMetrics(SM_CXSCREEN) - width - firstDistance,
@@ -66,14 +68,29 @@ void SettingsSize::limit(MINMAXINFO& limits) const {
     limits.ptMinTrackSize.y = layout().shortHeight + around.cy;
 }
 
-std::optional<PixelRect> SettingsSize::changeDpi(int dpi, const RECT& suggested) {
+std::optional<PixelRect> SettingsSize::changeDpi(int frameDpi, const RECT& suggested) {
     const SettingsHeight::Present former = present();
-    const int formerDpi = std::exchange(dpi_, dpi);
-    PixelRect place = former.state == WindowState::minimised
-                          ? fromRect(suggested)
-                          : acrossDpi_.at(window_.handle(), formerDpi, dpi, suggested);
+    const int formerFrame = std::exchange(frameDpi_, frameDpi);
+    const int formerDpi = std::exchange(dpi_, controlDpi(frameDpi));
+    return fitted(former.state == WindowState::minimised
+                      ? fromRect(suggested)
+                      : acrossDpi_.at(window_.handle(), formerFrame, frameDpi, suggested),
+                  formerDpi, former);
+}
+
+std::optional<PixelRect> SettingsSize::changeTextSize() {
+    const SettingsHeight::Present former = present();
+    const int formerDpi = std::exchange(dpi_, controlDpi(frameDpi_));
+    PixelRect place = fromRect(window_.rectangle());
+    place.bottom = place.top + MulDiv(place.height(), dpi_, formerDpi);
+    return fitted(place, formerDpi, former);
+}
+
+/// With the width of the layout, and the height that the mode wants.
+std::optional<PixelRect> SettingsSize::fitted(PixelRect place, int formerDpi,
+                                              const SettingsHeight::Present& former) {
     const SIZE around = frame();
-    const auto height = height_.movedToDpi(formerDpi, dpi, former, place.height(),
+    const auto height = height_.movedToDpi(formerDpi, dpi_, former, place.height(),
                                            layout().shortHeight + static_cast<int>(around.cy));
     if (!height) {
         return std::nullopt;
@@ -103,7 +120,7 @@ SIZE SettingsSize::frame() const {
     RECT around{0, 0, 0, 0};
     AdjustWindowRectExForDpi(&around, static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE)),
                              FALSE, static_cast<DWORD>(GetWindowLongPtrW(window, GWL_EXSTYLE)),
-                             static_cast<UINT>(dpi_));
+                             static_cast<UINT>(frameDpi_));
     return {around.right - around.left, around.bottom - around.top};
 }
 

@@ -17,6 +17,7 @@ class SettingsSize {
     /// Of a window that must outlive it and has no handle yet.
     explicit SettingsSize(const Window& window) : window_(window) {}
 
+    /// What the controls are laid out for: the resolution of the monitor, times the size of text.
     [[nodiscard]] int dpi() const { return dpi_; }
     [[nodiscard]] SettingsLayout layout() const { return SettingsLayout(dpi_); }
 
@@ -34,7 +35,9 @@ class SettingsSize {
     void limit(MINMAXINFO& limits) const;
     /// The window has come to another resolution, for which the system suggests a place: the one
     /// that it takes there, nothing while it is minimised.
-    std::optional<PixelRect> changeDpi(int dpi, const RECT& suggested);
+    std::optional<PixelRect> changeDpi(int frameDpi, const RECT& suggested);
+    /// The same for another size of text.
+    std::optional<PixelRect> changeTextSize();
     [[nodiscard]] PlaceAcrossDpi& acrossDpi() { return acrossDpi_; }
 
     /// For the list of panels, which may want another height of the window.
@@ -42,11 +45,15 @@ class SettingsSize {
     void takeHeight(int height) const;
 
   private:
+    [[nodiscard]] std::optional<PixelRect> fitted(PixelRect place, int formerDpi,
+                                                  const SettingsHeight::Present& former);
     [[nodiscard]] SIZE frame() const;
     [[nodiscard]] SettingsHeight::Present present() const;
 
     const Window& window_;
     PlaceAcrossDpi acrossDpi_;
+    /// Of the monitor.
+    int frameDpi_ = USER_DEFAULT_SCREEN_DPI;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
     SettingsHeight height_;
 };

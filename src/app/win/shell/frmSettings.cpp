@@ -6,6 +6,7 @@
 #include "app/keyTables.h"
 #include "app/modes.h"
 #include "app/win/shell/settingsIds.h"
+#include "platform/win/controlDpi.h"
 #include "platform/win/fills.h"
 #include "platform/win/monitors.h"
 #include "platform/win/windowOrder.h"
@@ -164,18 +165,23 @@ std::optional<LRESULT> frmSettings::onGetMinMaxInfo(LPARAM limits) const {
 }
 
 std::optional<LRESULT> frmSettings::onDpiChanged(WPARAM dpi, LPARAM suggested) {
-    const auto place =
-        size_.changeDpi(static_cast<int>(HIWORD(dpi)), *reinterpret_cast<const RECT*>(suggested));
-    layOutControls();
-    dpiChanged.raise();
-    if (place) {
-        size_.acrossDpi().take(handle(), *place);
-    }
-    InvalidateRect(handle(), nullptr, FALSE);
+    takeLayout(
+        size_.changeDpi(static_cast<int>(HIWORD(dpi)), *reinterpret_cast<const RECT*>(suggested)));
     return 0;
 }
 
-std::optional<LRESULT> frmSettings::onScreens(UINT message, WPARAM setting) const {
+void frmSettings::takeLayout(const std::optional<PixelRect>& place) {
+    layOutControls();
+    dpiChanged.raise();
+    size_.acrossDpi().take(handle(), place);
+    InvalidateRect(handle(), nullptr, FALSE);
+}
+
+std::optional<LRESULT> frmSettings::onScreens(UINT message, WPARAM setting) {
+    readTextSize();
+    if (controlDpi(handle()) != size_.dpi()) {
+        takeLayout(size_.changeTextSize());
+    }
     tellOfScreens(displayChanged, message, setting);
     return std::nullopt;
 }

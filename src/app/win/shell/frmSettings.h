@@ -94,7 +94,9 @@ class frmSettings : public Window {
     std::optional<LRESULT> onSize(WPARAM kind);
     std::optional<LRESULT> onGetMinMaxInfo(LPARAM limits) const;
     std::optional<LRESULT> onDpiChanged(WPARAM dpi, LPARAM suggested);
-    std::optional<LRESULT> onScreens(UINT message, WPARAM setting) const;
+    /// Lays all out anew, at a place if there is one.
+    void takeLayout(const std::optional<PixelRect>& place);
+    std::optional<LRESULT> onScreens(UINT message, WPARAM setting);
     std::optional<LRESULT> onActivate(WPARAM kind, LPARAM otherWindow);
     std::optional<LRESULT> onMouseActivate() const;
     std::optional<LRESULT> onPlaced(LPARAM place);
