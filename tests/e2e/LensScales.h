@@ -25,6 +25,9 @@ class LensScales {
   private:
     [[nodiscard]] testing::AssertionResult ticksAre(
         int first, const std::function<std::vector<int>()>& seen) const;
+    /// Whether the magnifier went on while it was looked at, beside the mouse.
+    [[nodiscard]] bool hasMoved(const ScreenRect& image, std::string_view scale,
+                                const ScreenRect& strip) const;
     /// The enlarged pixels. The last line of a grid lies outside of the image.
     [[nodiscard]] int compared(int imageLength) const {
         return (imageLength + (grid_ && factor_ > 1 ? 1 : 0)) / factor_;
