@@ -28,18 +28,9 @@ class FullScreen {
     }
     [[nodiscard]] ScreenPoint aside() const { return scene.onScreen({60, 700}); }
 
-    /// By itself, or at the latest by one click: some window managers bring the window with the
-    /// keyboard forward when all is done, and tell nobody.
-    [[nodiscard]] bool controlWindowIsInFront() {
-        constexpr milliseconds patience{3000};
-        const auto isShown = [this] {
-            return difference(screen::capture(probe(scene.settings())), control_).empty();
-        };
-        if (waitUntil(isShown, patience)) {
-            return true;
-        }
-        scene.mouse.click(scene.settings().at(2, 2));
-        return waitUntil(isShown);
+    [[nodiscard]] bool controlWindowIsInFront() const {
+        return waitUntil(
+            [&] { return difference(screen::capture(probe(scene.settings())), control_).empty(); });
     }
     void clickOnSheet() {
         scene.mouse.click(aside());

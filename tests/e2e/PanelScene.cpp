@@ -82,7 +82,6 @@ PanelScene::PanelScene(const SettingsFile& tools, const SettingsFile& options,
 void PanelScene::start() {
     program_ = std::make_unique<Program>(data_);
     program_->waitUntilReady();
-    bringControlWindowForward();
 }
 
 void PanelScene::restart() {
@@ -139,17 +138,6 @@ bool PanelScene::says(const DesktopWindow& panel, std::string_view name, std::st
     }
     ADD_FAILURE() << name << " says '" << label.text() << "', not '" << expected << "'";
     return false;
-}
-
-void PanelScene::bringControlWindowForward() const {
-    constexpr UINT order = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
-    const HWND control = settings().handle();
-    if (worksheet().isVisible() && !settings().isMinimised()) {
-        SetWindowPos(control, worksheet().handle(), 0, 0, 0, 0, order);
-        SetWindowPos(control, HWND_TOP, 0, 0, 0, 0, order);
-        settings().settle();
-        screen::waitUntilStill(settings().rect(), milliseconds{50});
-    }
 }
 
 void PanelScene::press(const DesktopWindow& control) {

@@ -82,10 +82,6 @@ class PanelScene {
 
     Backdrop backdrop_;
     AppDataFolder data_;
-    /// A window manager that is busy may have put the worksheet in front of the control window in
-    /// the course of the start. Both ways, since what the system takes for done it does not do.
-    void bringControlWindowForward() const;
-
     std::unique_ptr<Program> program_;
 };
 

@@ -11,4 +11,22 @@ inline void raiseWithoutActivating(HWND window, HWND after = HWND_TOP) {
                  SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
 }
 
+/// Raises a window that is to be in front of `other`, also where the display has another order than
+/// the system: one that the system has in front of `other` is put behind it first, since a call
+/// that changes nothing does not reach a window manager that has raised `other` by itself. A
+/// minimised window is left alone: even without being moved it could forget where it stood.
+inline void raiseAgainOver(HWND window, HWND other) {
+    if (IsIconic(window) != FALSE) {
+        return;
+    }
+    HWND above = GetWindow(other, GW_HWNDPREV);
+    while (above != nullptr && above != window) {
+        above = GetWindow(above, GW_HWNDPREV);
+    }
+    if (above == window) {
+        raiseWithoutActivating(window, other);
+    }
+    raiseWithoutActivating(window);
+}
+
 }  // namespace ormala

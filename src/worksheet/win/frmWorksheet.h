@@ -88,6 +88,8 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     /// while the worksheet does not take the mouse.
     bool KeyDown(int key, int shift);
 
+    /// Raised when the window has become the active one, which brings it to the front.
+    Event<> activated;
     /// Raised when the window has a new size.
     Event<> resized;
     /// Raised when the window has moved.

@@ -53,6 +53,11 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
         case WM_SYSCOMMAND:
             // Releasing Alt after a drag must not open a menu that takes the keys away.
             return (wParam & 0xFFF0U) == SC_KEYMENU ? std::optional<LRESULT>(0) : std::nullopt;
+        case WM_ACTIVATE:
+            if (LOWORD(wParam) != WA_INACTIVE) {
+                activated.raise();
+            }
+            return std::nullopt;
         case WM_SETFOCUS:
             sheet_.windowGotFocus();
             return paintNow();

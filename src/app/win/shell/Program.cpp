@@ -12,6 +12,7 @@
 #include "platform/win/callbackGuard.h"
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
+#include "platform/win/windowOrder.h"
 
 namespace ormala {
 
@@ -96,11 +97,12 @@ void Program::listen() {
     keep(settings_->chosen.subscribe([this](Command command) { execute(command); }));
     keep(settings_->orderChanged.subscribe([this] { view_->lens().raise(true); }));
     keep(settings_->displayChanged.subscribe([this] { bringAllOntoScreens(); }));
-    keep(settings_->deactivated.subscribe([this](HWND other) {
-        if (other == worksheet_->handle()) {
-            // A worksheet that comes to the front must not cover the panels.
-            settings_->later([this] { view_->raiseAboveAll(); });
-        }
+    keep(worksheet_->activated.subscribe([this] {
+        // A worksheet that comes to the front must not cover the panels.
+        settings_->later([this] {
+            raiseAgainOver(settings_->handle(), worksheet_->handle());
+            view_->raiseAboveAll();
+        });
     }));
     keep(worksheet_->resized.subscribe([this] { modes_->worksheetResized(); }));
     keep(resizer_->worksheetPlaced.subscribe([this](PixelPoint) {

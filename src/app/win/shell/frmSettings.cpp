@@ -190,7 +190,6 @@ std::optional<LRESULT> frmSettings::onActivate(WPARAM kind, LPARAM otherWindow) 
     const HWND other = reinterpret_cast<HWND>(otherWindow);
     if (LOWORD(kind) == WA_INACTIVE) {
         ports_.focus.controlDeactivated();
-        deactivated.raise(other);
     } else {
         ports_.focus.controlActivated(handle(), isOfThisThread(other));
     }

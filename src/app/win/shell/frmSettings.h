@@ -73,8 +73,6 @@ class frmSettings : public Window {
     Event<> keyboardArrived;
     /// The Tab key has given it to a control.
     Event<HWND> tabbed;
-    /// Another window, perhaps of another program, has become the active one.
-    Event<HWND> deactivated;
     /// Its place among the other windows may be another one.
     Event<> orderChanged;
 
