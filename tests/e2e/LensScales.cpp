@@ -19,41 +19,31 @@ int designedLength(int value, int factor) {
 }  // namespace
 
 testing::AssertionResult LensScales::columnsAre(std::string_view scale, int first) const {
-    return ticksAre(first, [&] {
-        const ScreenRect image = lens_.part("picLens").rect();
-        const ScreenRect strip = lens_.part(scale).rect();
-        const bool above = strip.bottom <= image.top;
-        const Picture seen = screen::capture(strip);
-        std::vector<int> lengths;
-        if (hasMoved(image, scale, strip)) {
-            return lengths;
-        }
-        for (int i = 0; i < compared(image.width()); ++i) {
-            const ScreenPoint start{image.left + i * factor_ + middle(),
-                                    above ? strip.bottom - 1 : strip.top};
-            lengths.push_back(run(seen, start, {0, above ? -1 : 1}));
-        }
-        return lengths;
-    });
+    return ticksAre(first, [&] { return lengthsOn(scale, true); });
 }
 
 testing::AssertionResult LensScales::rowsAre(std::string_view scale, int first) const {
-    return ticksAre(first, [&] {
-        const ScreenRect image = lens_.part("picLens").rect();
-        const ScreenRect strip = lens_.part(scale).rect();
-        const bool before = strip.right <= image.left;
-        const Picture seen = screen::capture(strip);
-        std::vector<int> lengths;
-        if (hasMoved(image, scale, strip)) {
-            return lengths;
-        }
-        for (int i = 0; i < compared(image.height()); ++i) {
-            const ScreenPoint start{before ? strip.right - 1 : strip.left,
-                                    image.top + i * factor_ + middle()};
-            lengths.push_back(run(seen, start, {before ? -1 : 1, 0}));
-        }
+    return ticksAre(first, [&] { return lengthsOn(scale, false); });
+}
+
+std::vector<int> LensScales::lengthsOn(std::string_view scale, bool across) const {
+    const ScreenRect image = lens_.part("picLens").rect();
+    const ScreenRect strip = lens_.part(scale).rect();
+    const Picture seen = screen::capture(strip);
+    std::vector<int> lengths;
+    if (hasMoved(image, scale, strip)) {
         return lengths;
-    });
+    }
+    const bool before = across ? strip.bottom <= image.top : strip.right <= image.left;
+    const int away = before ? -1 : 1;
+    for (int i = 0; i < compared(across ? image.width() : image.height()); ++i) {
+        const int along = i * factor_ + middle();
+        const ScreenPoint start =
+            across ? ScreenPoint{image.left + along, before ? strip.bottom - 1 : strip.top}
+                   : ScreenPoint{before ? strip.right - 1 : strip.left, image.top + along};
+        lengths.push_back(run(seen, start, across ? ScreenPoint{0, away} : ScreenPoint{away, 0}));
+    }
+    return lengths;
 }
 
 testing::AssertionResult LensScales::ticksAre(int first,

@@ -25,6 +25,8 @@ class LensScales {
   private:
     [[nodiscard]] testing::AssertionResult ticksAre(
         int first, const std::function<std::vector<int>()>& seen) const;
+    /// The ticks from the image's side on; none if the magnifier went on meanwhile.
+    [[nodiscard]] std::vector<int> lengthsOn(std::string_view scale, bool across) const;
     /// Whether the magnifier went on while it was looked at, beside the mouse.
     [[nodiscard]] bool hasMoved(const ScreenRect& image, std::string_view scale,
                                 const ScreenRect& strip) const;

@@ -42,7 +42,7 @@ class CopiedProgram {
 TEST(OwnFolder, NothingInItIsTakenForALibraryOfWindows) {
     const AppDataFolder data;
     const CopiedProgram copy;
-    for (const char* name : {"dwmapi.dll", "oleacc.dll"}) {
+    for (const char* name : {"dwmapi.dll", "oleacc.dll", "wtsapi32.dll"}) {
         std::ofstream(copy.folder() / name, std::ios::binary) << "no library";
     }
     const Program program(data);

@@ -15,6 +15,7 @@
 #include "storage/win/WindowsCodePage.h"
 #include "win/ModalPlayer.h"
 #include "win/ModesStage.h"
+#include "win/ReplacedImport.h"
 
 // Frames and standard controls are dark, as the windows of the program are.
 
@@ -33,11 +34,7 @@ class NotedLook {
     NotedLook() {
         attributes().clear();
         themes().clear();
-        replace(&find);
     }
-    NotedLook(const NotedLook&) = delete;
-    NotedLook& operator=(const NotedLook&) = delete;
-    ~NotedLook() { replace(system()); }
 
     [[nodiscard]] static bool isOn(HWND window, DWORD attribute) {
         return std::ranges::count(attributes(), std::pair{window, attribute}) == 1;
@@ -45,6 +42,8 @@ class NotedLook {
     [[nodiscard]] static std::wstring themeOf(HWND window) { return themes()[window]; }
 
   private:
+    using Replaced = test::ReplacedImport<importedGetProcAddress>;
+
     static std::vector<std::pair<HWND, DWORD>>& attributes() {
         static std::vector<std::pair<HWND, DWORD>> noted;
         return noted;
@@ -52,17 +51,6 @@ class NotedLook {
     static std::map<HWND, std::wstring>& themes() {
         static std::map<HWND, std::wstring> noted;
         return noted;
-    }
-    static decltype(&GetProcAddress) system() {
-        static const auto own = importedGetProcAddress;
-        return own;
-    }
-    static void replace(decltype(&GetProcAddress) function) {
-        system();
-        DWORD former = 0;
-        VirtualProtect(&importedGetProcAddress, sizeof importedGetProcAddress, PAGE_READWRITE,
-                       &former);
-        importedGetProcAddress = function;
     }
     static HRESULT WINAPI noteAttribute(HWND window, DWORD attribute, LPCVOID value, DWORD size) {
         if (size == sizeof(BOOL) && *static_cast<const BOOL*>(value) != FALSE) {
@@ -82,8 +70,10 @@ class NotedLook {
             return function(&noteAttribute);
         }
         return std::string_view(name) == "SetWindowTheme" ? function(&noteTheme)
-                                                          : system()(library, name);
+                                                          : Replaced::system()(library, name);
     }
+
+    Replaced replaced_{&find};
 };
 
 class DarkWindows : public ModesStage {

@@ -7,6 +7,7 @@
 
 #include "magnifier/win/pointers.h"
 #include "win/LensFixture.h"
+#include "win/ReplacedImport.h"
 
 namespace ormala {
 
@@ -22,38 +23,26 @@ constexpr UINT quietly = SWP_NOZORDER | SWP_NOACTIVATE;
 /// Notes the raster operations of all copies that are made from the screen or another window.
 class NotedCopies {
   public:
-    NotedCopies() {
-        noted().clear();
-        replace(&note);
-    }
-    NotedCopies(const NotedCopies&) = delete;
-    NotedCopies& operator=(const NotedCopies&) = delete;
-    ~NotedCopies() { replace(system()); }
+    NotedCopies() { noted().clear(); }
 
     [[nodiscard]] static const std::vector<DWORD>& operations() { return noted(); }
 
   private:
+    using Replaced = test::ReplacedImport<importedBitBlt>;
+
     static std::vector<DWORD>& noted() {
         static std::vector<DWORD> operations;
         return operations;
-    }
-    static decltype(&BitBlt) system() {
-        static const auto own = importedBitBlt;
-        return own;
-    }
-    static void replace(decltype(&BitBlt) function) {
-        system();
-        DWORD former = 0;
-        VirtualProtect(&importedBitBlt, sizeof importedBitBlt, PAGE_READWRITE, &former);
-        importedBitBlt = function;
     }
     static BOOL WINAPI note(HDC to, int x, int y, int width, int height, HDC from, int fromX,
                             int fromY, DWORD operation) {
         if (GetObjectType(from) == OBJ_DC) {
             noted().push_back(operation);
         }
-        return system()(to, x, y, width, height, from, fromX, fromY, operation);
+        return Replaced::system()(to, x, y, width, height, from, fromX, fromY, operation);
     }
+
+    Replaced replaced_{&note};
 };
 
 class LensImageTest : public LensFixture {

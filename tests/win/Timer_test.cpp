@@ -1,6 +1,7 @@
 #include "platform/win/Timer.h"
 
 #include <gtest/gtest.h>
+#include <wtsapi32.h>
 
 #include <optional>
 
@@ -58,6 +59,25 @@ TEST(Timer, StopsAtTheEndOfItsObject) {
         timer.start(window.handle(), 10);
     }
     EXPECT_FALSE(KillTimer(window.handle(), 5));
+}
+
+TEST(Timer, RestsWithAllOthersAndGoesOnAfterwards) {
+    TickingWindow window;
+    Timer timer(5);
+    Timer stopped(6);
+    timer.start(window.handle(), 10);
+    stopped.start(window.handle(), 10);
+    Timer::restAll(true);
+    stopped.stop();
+    test::pause(test::milliseconds{30});
+    const int last = window.ticks;
+    // Starting it anew doesn't wake it.
+    timer.start(window.handle(), 20);
+    test::pause(test::milliseconds{60});
+    EXPECT_EQ(window.ticks, last);
+    Timer::restAll(false);
+    EXPECT_TRUE(test::waitUntil([&] { return window.ticks > last + 1; }));
+    EXPECT_FALSE(KillTimer(window.handle(), 6));
 }
 
 TEST(Timer, TellsHowOftenAllOfThemWakeTheProgram) {
@@ -127,6 +147,23 @@ TEST_F(IdleProgram, With33PanelsAndTheMouseElsewhereItIsWokenTwentyTimesASecondA
     RECT place{};
     GetWindowRect(button, &place);
     EXPECT_EQ(place.right - place.left, rest.right - rest.left);
+}
+
+TEST_F(IdleProgram, WhileTheScreenIsLockedNoTimerTicks) {
+    startWith(2);
+    const double unlocked = Timer::wakeUps();
+    EXPECT_GT(unlocked, 60);
+    const auto change = [this](WPARAM what) {
+        SendMessageW(settings_->handle(), WM_WTSSESSION_CHANGE, what, 0);
+    };
+    change(WTS_SESSION_LOCK);
+    EXPECT_EQ(Timer::wakeUps(), 0);
+    // Whatever asks for a timer meanwhile gets it afterwards.
+    program_->execute(Command::lens);
+    program_->execute(Command::lens);
+    EXPECT_EQ(Timer::wakeUps(), 0);
+    change(WTS_SESSION_UNLOCK);
+    EXPECT_TRUE(test::waitUntil([&] { return Timer::wakeUps() >= unlocked; })) << Timer::wakeUps();
 }
 
 TEST_F(IdleProgram, TheMagnifierHasATimerOnlyWhileItIsShown) {

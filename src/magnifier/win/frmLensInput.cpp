@@ -4,6 +4,7 @@
 #include "magnifier/win/frmLens.h"
 #include "platform/win/Accessible.h"
 #include "platform/win/fills.h"
+#include "platform/win/monitors.h"
 #include "platform/win/regions.h"
 
 // The messages of the magnifier.
@@ -114,9 +115,7 @@ void frmLens::onActivate() const {
 }
 
 LRESULT frmLens::onRightRelease() {
-    POINT mouse{};
-    GetCursorPos(&mouse);
-    commands_.showLensMenu({static_cast<int>(mouse.x), static_cast<int>(mouse.y)});
+    commands_.showLensMenu(mousePoint());
     return 0;
 }
 

@@ -1,31 +1,32 @@
 #include "platform/win/Timer.h"
 
-#include <atomic>
+#include <set>
 #include <utility>
 
 namespace ormala {
 
-namespace {
+/// What all timers have in common. They belong to one thread, that of the windows.
+struct Timer::Clockwork {
+    std::set<Timer*> running;
+    bool rests = false;
+};
 
-/// Ticks of all running timers in a thousand seconds.
-std::atomic<long>& allTicks() {
-    static std::atomic<long> ticks = 0;
-    return ticks;
+Timer::Clockwork& Timer::clockwork() {
+    static Clockwork all;
+    return all;
 }
-
-long ticksOf(UINT interval) {
-    constexpr long milliseconds = 1000L * 1000L;
-    return interval == 0 ? 0 : milliseconds / static_cast<long>(interval);
-}
-
-}  // namespace
 
 void Timer::start(HWND window, UINT interval) {
-    allTicks() += ticksOf(interval) - ticksOf(std::exchange(interval_, interval));
+    Clockwork& all = clockwork();
+    interval_ = interval;
     if (interval != 0) {
         window_ = window;
-        SetTimer(window, number_, interval, nullptr);
+        all.running.insert(this);
+        if (!all.rests) {
+            SetTimer(window, number_, interval, nullptr);
+        }
     } else if (window_ != nullptr) {
+        all.running.erase(this);
         KillTimer(std::exchange(window_, nullptr), number_);
     }
 }
@@ -36,8 +37,28 @@ void Timer::keep(HWND window, UINT interval) {
     }
 }
 
+void Timer::restAll(bool rest) {
+    Clockwork& all = clockwork();
+    if (std::exchange(all.rests, rest) == rest) {
+        return;
+    }
+    for (const Timer* timer : all.running) {
+        if (rest) {
+            KillTimer(timer->window_, timer->number_);
+        } else {
+            SetTimer(timer->window_, timer->number_, timer->interval_, nullptr);
+        }
+    }
+}
+
 double Timer::wakeUps() {
-    return static_cast<double>(allTicks()) / 1000.0;
+    constexpr double millisecondsOfASecond = 1000.0;
+    const Clockwork& all = clockwork();
+    double sum = 0;
+    for (const Timer* timer : all.running) {
+        sum += all.rests ? 0 : millisecondsOfASecond / timer->interval_;
+    }
+    return sum;
 }
 
 }  // namespace ormala

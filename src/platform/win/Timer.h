@@ -23,10 +23,16 @@ class Timer {
     [[nodiscard]] UINT_PTR number() const { return number_; }
     [[nodiscard]] bool isRunning() const { return interval_ != 0; }
 
+    /// No timer of the process ticks until they are told to go on; those that run by then, also by
+    /// having been started meanwhile, begin anew.
+    static void restAll(bool rest);
     /// How often all running timers of the process wake it up, a second.
     [[nodiscard]] static double wakeUps();
 
   private:
+    struct Clockwork;
+    static Clockwork& clockwork();
+
     HWND window_ = nullptr;
     UINT_PTR number_;
     UINT interval_ = 0;

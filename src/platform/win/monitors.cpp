@@ -54,4 +54,9 @@ POINT cursorPlace() {
     return cursor;
 }
 
+PixelPoint mousePoint() {
+    const POINT cursor = cursorPlace();
+    return {static_cast<int>(cursor.x), static_cast<int>(cursor.y)};
+}
+
 }  // namespace ormala

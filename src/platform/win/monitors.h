@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "base/Event.h"
+#include "modAPI/PixelRect.h"
 
 namespace ormala {
 
@@ -25,5 +26,6 @@ void tellOfScreens(const Event<>& changed, UINT message, WPARAM wParam);
 
 /// Where the mouse is on the screens.
 POINT cursorPlace();
+PixelPoint mousePoint();
 
 }  // namespace ormala

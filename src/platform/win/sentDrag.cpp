@@ -70,15 +70,14 @@ void putMouse(PixelPoint place, HWND target) {
         SetCursorPos(place.x, place.y);
         SendMessageTimeoutW(target, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, answerTime, nullptr);
         Sleep(2);
-        GetCursorPos(&cursor);
+        cursor = cursorPlace();
     }
 }
 
 /// The system has taken what was sent out of its queue: the pointer has arrived, and the button,
 /// told by its place on the device, is up again.
 bool isTaken(PixelPoint to, bool swapped) {
-    POINT cursor{};
-    GetCursorPos(&cursor);
+    const POINT cursor = cursorPlace();
     return cursor.x == to.x && cursor.y == to.y &&
            GetAsyncKeyState(swapped ? VK_RBUTTON : VK_LBUTTON) >= 0;
 }

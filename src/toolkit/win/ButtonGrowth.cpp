@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/win/monitors.h"
 #include "platform/win/regions.h"
 
 namespace ormala {
@@ -56,9 +57,7 @@ void ButtonGrowth::tick(int dpi) {
         }
         return;
     }
-    POINT cursor{};
-    GetCursorPos(&cursor);
-    const PixelPoint mouse{static_cast<int>(cursor.x), static_cast<int>(cursor.y)};
+    const PixelPoint mouse = mousePoint();
     if (!hasWork(mouse, dpi)) {
         return;
     }

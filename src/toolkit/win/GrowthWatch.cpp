@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/win/monitors.h"
 #include "platform/win/regions.h"
 #include "toolkit/GrowButtonNearMouse.h"
 
@@ -12,12 +13,6 @@ namespace {
 /// Milliseconds between two looks.
 constexpr UINT nearInterval = 44;
 constexpr UINT farInterval = 200;
-
-PixelPoint mousePlace() {
-    POINT mouse{};
-    GetCursorPos(&mouse);
-    return {static_cast<int>(mouse.x), static_cast<int>(mouse.y)};
-}
 
 }  // namespace
 
@@ -31,10 +26,16 @@ void GrowthWatch::windowChanged(int dpi) {
     }
 }
 
+void GrowthWatch::mouseCame(int dpi) {
+    if (!near_) {
+        look(dpi);
+    }
+}
+
 void GrowthWatch::look(int dpi) {
     const bool seen = isSeen();
     const PixelRect place = fromRect(window_.rectangle());
-    const bool isNear = growthHasWork({seen, place, place, false}, mousePlace(), dpi);
+    const bool isNear = growthHasWork({seen, place, place, false}, mousePoint(), dpi);
     timer_.keep(window_.handle(), !seen ? 0 : isNear ? nearInterval : farInterval);
     if (std::exchange(near_, isNear) != isNear) {
         changed.raise();

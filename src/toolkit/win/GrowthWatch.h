@@ -15,7 +15,9 @@ class GrowthWatch {
 
     /// The window may have been shown, hidden, minimised or brought back.
     void windowChanged(int dpi);
-    /// Looks where the mouse is: at each tick, and whenever it may have come.
+    /// The mouse is over the window, at any time while it is.
+    void mouseCame(int dpi);
+    /// Looks where the mouse is: at each tick.
     void look(int dpi);
 
     [[nodiscard]] bool isMouseNear() const { return near_; }

@@ -7,6 +7,7 @@
 #include "language/MlStringModule.h"
 #include "platform/win/controlName.h"
 #include "platform/win/fills.h"
+#include "platform/win/monitors.h"
 #include "platform/win/text.h"
 #include "scene/Input.h"
 #include "widgets/dpi.h"
@@ -312,7 +313,7 @@ void PanelWindow::runTimer(PanelTimer timer, unsigned interval) {
 
 void PanelWindow::showMenu(const std::string& removeText) {
     menuText_ = wide(removeText);
-    GetCursorPos(&menuPlace_);
+    menuPlace_ = cursorPlace();
     PostMessageW(handle(), wmPopUpMenu, 0, 0);
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "language/MlStringModule.h"
+#include "platform/win/FairMessages.h"
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/PlaceAcrossDpi.h"
 #include "platform/win/controlDpi.h"
@@ -166,9 +167,10 @@ void ModalDialog::focusFirst() {
 }
 
 void ModalDialog::runMessages() {
+    FairMessages messages;
     while (shown_ && handle() != nullptr) {
         MSG message{};
-        if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+        if (!messages.next(message)) {
             cancelled_ = true;
             leave();
             // The end of the program is for the loop outside too.

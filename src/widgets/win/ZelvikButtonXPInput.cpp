@@ -1,6 +1,7 @@
 #include <oleacc.h>
 #include <windowsx.h>
 
+#include "platform/win/monitors.h"
 #include "platform/win/text.h"
 #include "scene/dpi.h"
 #include "widgets/buttonShape.h"
@@ -36,9 +37,7 @@ void ZelvikButtonXP::captureMouse() {
 }
 
 void ZelvikButtonXP::lookForMouse() {
-    POINT mouse{};
-    GetCursorPos(&mouse);
-    if (WindowFromPoint(mouse) != handle()) {
+    if (WindowFromPoint(cursorPlace()) != handle()) {
         model_.mouseIsElsewhere(heldModifiersOfMouse(0));
     }
 }

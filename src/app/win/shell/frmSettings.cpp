@@ -1,5 +1,7 @@
 #include "app/win/shell/frmSettings.h"
-// Needs the system's basic types, which come with the window.
+
+#include <wtsapi32.h>
+
 #include <algorithm>
 #include <array>
 
@@ -34,7 +36,10 @@ bool isOfThisThread(HWND window) {
 }  // namespace
 
 frmSettings::Parts::Parts(const frmSettings& window, clsGlobalEvents& globalEvents)
-    : bar(window), look(window.handle()), fontSizeBox(window.handle(), globalEvents) {}
+    : bar(window),
+      look(window.handle()),
+      fontSizeBox(window.handle(), globalEvents),
+      screenLock(window.handle()) {}
 
 frmSettings::frmSettings(const Ports& ports) : ports_(ports) {
     create(settingsDesign());
@@ -82,7 +87,7 @@ void frmSettings::raise() const {
 std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     using Result = std::optional<LRESULT>;
     using Handler = Result (*)(frmSettings&, WPARAM, LPARAM);
-    static constexpr std::array<std::pair<UINT, Handler>, 19> handlers{{
+    static constexpr std::array<std::pair<UINT, Handler>, 20> handlers{{
         {WM_ERASEBKGND, [](frmSettings& self, WPARAM w, LPARAM) { return self.onErase(w); }},
         {WM_SIZE, [](frmSettings& self, WPARAM w, LPARAM) { return self.onSize(w); }},
         {WM_GETMINMAXINFO,
@@ -112,8 +117,13 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
          [](frmSettings& self, WPARAM w, LPARAM) { return self.onScreens(WM_SETTINGCHANGE, w); }},
         {WM_SETCURSOR,
          [](frmSettings& self, WPARAM, LPARAM) {
-             self.watch_.look(self.size_.dpi());
+             self.watch_.mouseCame(self.size_.dpi());
              return Result();
+         }},
+        {WM_WTSSESSION_CHANGE,
+         [](frmSettings& self, WPARAM w, LPARAM) {
+             self.parts_->screenLock.take(w);
+             return Result(0);
          }},
         {WM_TIMER, [](frmSettings& self, WPARAM w, LPARAM) { return self.onTimer(w); }},
         {DeferredCalls::message,

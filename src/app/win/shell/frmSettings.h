@@ -15,6 +15,7 @@
 #include "app/win/shell/WorksheetControls.h"
 #include "app/win/shell/settingsIds.h"
 #include "base/Event.h"
+#include "platform/win/ScreenLock.h"
 #include "platform/win/Window.h"
 #include "toolkit/win/GrowthWatch.h"
 
@@ -85,6 +86,7 @@ class frmSettings : public Window {
         CommandBar bar;
         WorksheetControls look;
         FontSizeBox fontSizeBox;
+        ScreenLock screenLock;
     };
 
     std::optional<LRESULT> onClose();

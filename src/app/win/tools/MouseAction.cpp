@@ -40,8 +40,7 @@ MouseActionPath pathOf(const ctlRatioGrid& stencil, HWND worksheet) {
 bool applyMouseAction(ctlRatioGrid& stencil, HWND worksheet, HWND control,
                       const DragSystem& system) {
     const MouseActionPath path = pathOf(stencil, worksheet);
-    POINT saved{};
-    GetCursorPos(&saved);
+    const POINT saved = cursorPlace();
     stencil.ShowMouseAction();
     bool taken = false;
     {

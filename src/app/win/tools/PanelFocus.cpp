@@ -1,4 +1,5 @@
 #include "app/win/tools/PanelFocus.h"
+#include "platform/win/monitors.h"
 
 #include <algorithm>
 #include <utility>
@@ -124,8 +125,7 @@ void PanelFocus::ensureControlVisible(HWND control) {
 
 void PanelFocus::removePanel(PanelWindow& panel, bool byMouse) {
     if (byMouse) {
-        POINT mouse{};
-        GetCursorPos(&mouse);
+        const POINT mouse = cursorPlace();
         pressGuard_.removed({mouse.x, mouse.y}, GetTickCount());
     }
     ports_.window.later([this, window = panel.handle()] { removeNow(window); });
