@@ -115,11 +115,7 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
          [](frmSettings& self, WPARAM w, LPARAM) { return self.onScreens(WM_DISPLAYCHANGE, w); }},
         {WM_SETTINGCHANGE,
          [](frmSettings& self, WPARAM w, LPARAM) { return self.onScreens(WM_SETTINGCHANGE, w); }},
-        {WM_SETCURSOR,
-         [](frmSettings& self, WPARAM, LPARAM) {
-             self.watch_.mouseCame(self.size_.dpi());
-             return Result();
-         }},
+        {WM_SETCURSOR, [](frmSettings& self, WPARAM, LPARAM) { return self.onMouseOver(); }},
         {WM_WTSSESSION_CHANGE,
          [](frmSettings& self, WPARAM w, LPARAM) {
              self.parts_->screenLock.take(w);
@@ -193,6 +189,11 @@ std::optional<LRESULT> frmSettings::onScreens(UINT message, WPARAM setting) {
         takeLayout(size_.changeTextSize());
     }
     tellOfScreens(displayChanged, message, setting);
+    return std::nullopt;
+}
+
+std::optional<LRESULT> frmSettings::onMouseOver() {
+    watch_.mouseCame(size_.dpi());
     return std::nullopt;
 }
 

@@ -97,6 +97,7 @@ class frmSettings : public Window {
     /// Lays all out anew, at a place if there is one.
     void takeLayout(const std::optional<PixelRect>& place);
     std::optional<LRESULT> onScreens(UINT message, WPARAM setting);
+    std::optional<LRESULT> onMouseOver();
     std::optional<LRESULT> onActivate(WPARAM kind, LPARAM otherWindow);
     std::optional<LRESULT> onMouseActivate() const;
     std::optional<LRESULT> onPlaced(LPARAM place);
