@@ -34,21 +34,37 @@ std::int64_t ticks(const FILETIME& time) {
     return (std::int64_t{time.dwHighDateTime} << 32) | std::int64_t{time.dwLowDateTime};
 }
 
+/// A busy Wine refuses a start now and then with an internal error, which tells nothing of the
+/// program.
+PROCESS_INFORMATION startSuspended(const std::filesystem::path& program, std::wstring line) {
+    constexpr int tries = 5;
+    constexpr milliseconds between{200};
+    const std::wstring folder = program.parent_path().wstring();
+    STARTUPINFOW start{};
+    start.cb = sizeof(start);
+    PROCESS_INFORMATION started{};
+    for (int i = 0; i < tries; ++i) {
+        if (CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED,
+                           nullptr, folder.empty() ? nullptr : folder.c_str(), &start,
+                           &started) != 0) {
+            return started;
+        }
+        if (GetLastError() != ERROR_INTERNAL_ERROR) {
+            break;
+        }
+        pause(between);
+        SetLastError(ERROR_INTERNAL_ERROR);
+    }
+    throw std::runtime_error("cannot start " + narrow(program.wstring()) + ", error " +
+                             std::to_string(GetLastError()));
+}
+
 }  // namespace
 
 ChildProcess::ChildProcess(const std::filesystem::path& program,
                            const std::vector<std::wstring>& arguments)
     : job_(jobThatEndsWithItsHandle()) {
-    std::wstring line = commandLine(program, arguments);
-    const std::wstring folder = program.parent_path().wstring();
-    STARTUPINFOW start{};
-    start.cb = sizeof(start);
-    PROCESS_INFORMATION started{};
-    if (CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED,
-                       nullptr, folder.empty() ? nullptr : folder.c_str(), &start, &started) == 0) {
-        throw std::runtime_error("cannot start " + narrow(program.wstring()) + ", error " +
-                                 std::to_string(GetLastError()));
-    }
+    const PROCESS_INFORMATION started = startSuspended(program, commandLine(program, arguments));
     process_.reset(started.hProcess);
     id_ = started.dwProcessId;
     const KernelHandle thread(started.hThread);
