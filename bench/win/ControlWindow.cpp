@@ -102,6 +102,59 @@ void addPanels(ControlWindowStage& stage, ToolKind kind, const std::string& what
            {median(firsts), "the first panel made", 2});
 }
 
+/// As many windows as a panel has, each with a text, until they are painted.
+class BareWindows {
+  public:
+    BareWindows(HWND parent, int count) {
+        for (int i = 0; i < count; ++i) {
+            constexpr int side = 16;
+            constexpr int perRow = 16;
+            windows_.push_back(CreateWindowExW(0, L"STATIC", L"12345", WS_CHILD | WS_VISIBLE,
+                                               i % perRow * side, i / perRow * side, side, side,
+                                               parent, nullptr, nullptr, nullptr));
+            UpdateWindow(windows_.back());
+        }
+        GdiFlush();
+    }
+    BareWindows(const BareWindows&) = delete;
+    BareWindows& operator=(const BareWindows&) = delete;
+    ~BareWindows() {
+        for (HWND window : windows_) {
+            DestroyWindow(window);
+        }
+    }
+
+  private:
+    std::vector<HWND> windows_;
+};
+
+int windowsOf(HWND panel) {
+    int count = 1;
+    for (HWND child = GetWindow(panel, GW_CHILD); child != nullptr;
+         child = GetWindow(child, GW_HWNDNEXT)) {
+        ++count;
+    }
+    return count;
+}
+
+/// Beside that of the first one, which has its window already.
+void makePanel(ControlWindowStage& stage) {
+    std::vector<double> made;
+    std::vector<double> bare;
+    for (int i = 0; i < runs; ++i) {
+        stage.list().RemoveAllTools();
+        stage.add(ToolKind::stencil);
+        ControlWindowStage::settle();
+        made.push_back(elapsed([&] { stage.add(ToolKind::stencil); }));
+        const HWND panel = stage.lastStencilPanel();
+        const int count = windowsOf(panel);
+        ControlWindowStage::settle();
+        bare.push_back(elapsed([&] { const BareWindows windows(panel, count); }));
+    }
+    report("making one stencil panel", median(made), "ms",
+           {median(bare), "as many bare windows of the system", 2});
+}
+
 void loadPanels(ControlWindowStage& stage, ToolKind kind, const std::string& what) {
     const test::TemporaryFolder folder;
     const std::string path = test::narrow((folder.path() / "tools.OM").wstring());
@@ -176,6 +229,7 @@ void idlePanels() {
 
 void controlWindow() {
     ControlWindowStage stage;
+    makePanel(stage);
     addPanels(stage, ToolKind::stencil, "stencil");
     refreshPanel(stage);
     turnWheel(stage, "stencils");

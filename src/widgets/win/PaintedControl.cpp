@@ -35,8 +35,8 @@ PixelSize PaintedControl::size() const {
 }
 
 void PaintedControl::invalidate() const {
-    // Without a window it would be all windows.
-    if (handle() != nullptr) {
+    // Without a window it would be all windows; what is not seen is painted whole when it is shown.
+    if (handle() != nullptr && IsWindowVisible(handle()) != FALSE) {
         InvalidateRect(handle(), nullptr, FALSE);
     }
 }

@@ -113,7 +113,7 @@ void ZelvikButtonXP::applyShape() {
     shape_ = shape;
     RegionHandle region = regionOf(regionOfShape(shape));
     // The system owns it from now on.
-    if (SetWindowRgn(handle(), region.get(), TRUE) != 0) {
+    if (SetWindowRgn(handle(), region.get(), IsWindowVisible(handle())) != 0) {
         region.release();
     }
 }
