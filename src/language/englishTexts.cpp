@@ -297,6 +297,27 @@ constexpr TextRow englishRows[] = {
     {610,
      "Windows does not let Ormala use the mouse in the program below.%n"
      "That program may run as administrator."},
+    {611, "Stencil %0"},
+    {612, "center grip"},
+    {613, "top side grip"},
+    {614, "right side grip"},
+    {615, "bottom side grip"},
+    {616, "left side grip"},
+    {617, "top right corner grip"},
+    {618, "bottom right corner grip"},
+    {619, "bottom left corner grip"},
+    {620, "top left corner grip"},
+    {621, "top right rotation grip"},
+    {622, "bottom right rotation grip"},
+    {623, "bottom left rotation grip"},
+    {624, "top left rotation grip"},
+    {625, "first end of line a"},
+    {626, "first end of line b"},
+    {627, "second end of line a"},
+    {628, "second end of line b"},
+    {629, "center of line a"},
+    {630, "center of line b"},
+    {631, "common point of both lines"},
 };
 
 }  // namespace

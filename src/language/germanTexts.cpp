@@ -296,6 +296,27 @@ constexpr TextRow germanRows[] = {
     {610,
      "Windows lässt Ormala die Maus im Programm darunter nicht benutzen.%n"
      "Vielleicht läuft es als Administrator."},
+    {611, "Schablone %0"},
+    {612, "Griff in der Mitte"},
+    {613, "Griff der oberen Seite"},
+    {614, "Griff der rechten Seite"},
+    {615, "Griff der unteren Seite"},
+    {616, "Griff der linken Seite"},
+    {617, "Griff der Ecke rechts oben"},
+    {618, "Griff der Ecke rechts unten"},
+    {619, "Griff der Ecke links unten"},
+    {620, "Griff der Ecke links oben"},
+    {621, "Drehgriff rechts oben"},
+    {622, "Drehgriff rechts unten"},
+    {623, "Drehgriff links unten"},
+    {624, "Drehgriff links oben"},
+    {625, "erstes Ende der Linie a"},
+    {626, "erstes Ende der Linie b"},
+    {627, "zweites Ende der Linie a"},
+    {628, "zweites Ende der Linie b"},
+    {629, "Mitte der Linie a"},
+    {630, "Mitte der Linie b"},
+    {631, "gemeinsamer Punkt beider Linien"},
 };
 
 }  // namespace

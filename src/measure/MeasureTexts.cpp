@@ -1,5 +1,6 @@
 #include "measure/MeasureTexts.h"
 
+#include "language/MlStringModule.h"
 #include "modAPI/textForms.h"
 
 namespace ormala {
@@ -35,6 +36,23 @@ std::string bothAnglesText(const MeasureState& state, int number, const MeasureU
                            const TextForm& form) {
     return angleText(AngleBToA(state), number, units, form) + " (" +
            FormatAngle(AngleAToB(state), units.AngleMode, form) + ")";
+}
+
+std::string measureName(int number) {
+    return MlString(325, "Measurement Tool ") + std::to_string(number);
+}
+
+std::string measureGripName(MeasureGrip grip) {
+    constexpr int firstName = 625;
+    return MlString(firstName + static_cast<int>(grip), {});
+}
+
+std::string measuredText(const MeasureState& state, const MeasureUnits& units,
+                         const TextForm& form) {
+    return "a = " + lengthText(state, PixelLengthA(state), units, form) +
+           ", b = " + lengthText(state, PixelLengthB(state), units, form) +
+           ", a:b = " + FormatRatio(RatioAToB(state), form) +
+           ", ab = " + FormatAngle(AngleAToB(state), units.AngleMode, form);
 }
 
 }  // namespace ormala

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "measure/MeasureTexts.h"
 #include "modAPI/rounding.h"
 #include "modAPI/transforms.h"
 #include "scene/strokes.h"
@@ -156,6 +157,19 @@ Point ctlMeasure::dragState() {
 
 TipId ctlMeasure::tipOf(int /*grip*/) const {
     return 0;
+}
+
+SpokenTool ctlMeasure::words(int /*ordinal*/) const {
+    return {measureName(signs_.Number), measuredText(state_, signs_.units, settings_.textForm),
+            moveText(IntersectPoint()), 0};
+}
+
+std::string ctlMeasure::gripName(int grip) const {
+    return measureGripName(static_cast<MeasureGrip>(grip));
+}
+
+std::string ctlMeasure::gripValue(int grip) const {
+    return moveText(measureGripPoint(static_cast<MeasureGrip>(grip), state_));
 }
 
 void ctlMeasure::keyDown(int key, int shift) {

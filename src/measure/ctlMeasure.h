@@ -81,6 +81,10 @@ class ctlMeasure : public GripTool {
     void drag(const MouseInput& input) override;
     void hideAids() override { aids_.hide(); }
     [[nodiscard]] TipId tipOf(int grip) const override;
+    /// Called by its number.
+    [[nodiscard]] SpokenTool words(int ordinal) const override;
+    [[nodiscard]] std::string gripName(int grip) const override;
+    [[nodiscard]] std::string gripValue(int grip) const override;
     void addItemsTo(DirtyRegion& region, const PixelRect& area) const override;
 
     void load(const MeasureState& state);

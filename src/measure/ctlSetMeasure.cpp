@@ -5,6 +5,7 @@
 
 #include "language/MlStringModule.h"
 #include "measure/MeasureReadOuts.h"
+#include "measure/MeasureTexts.h"
 #include "measure/measurePanelDesign.h"
 #include "modAPI/drawingColors.h"
 
@@ -61,7 +62,7 @@ void ctlSetMeasure::setNumber(int number) {
 }
 
 ControlText ctlSetMeasure::title() const {
-    return {CommonControl::lblTitle, MlString(325, "Measurement Tool ") + std::to_string(Number())};
+    return {CommonControl::lblTitle, measureName(Number())};
 }
 
 void ctlSetMeasure::setConnected(bool connected) {

@@ -170,4 +170,12 @@ bool SameNumberText(double a, double b) {
     return first == decimalOf(b) && (std::signbit(a) == std::signbit(b) || first.digits.empty());
 }
 
+std::string onOneLine(std::string text) {
+    const std::string_view end = lineBreak;
+    for (auto at = text.find(end); at != std::string::npos; at = text.find(end, at)) {
+        text.replace(at, end.size(), ", ");
+    }
+    return text;
+}
+
 }  // namespace ormala

@@ -11,6 +11,9 @@ inline constexpr int significantDigits = 15;
 inline constexpr const char* lineBreak = "\r\n";
 inline constexpr std::string_view hexDigits = "0123456789ABCDEF";
 
+/// The lines as parts of a sentence.
+std::string onOneLine(std::string text);
+
 /// What the user's locale and language put into the text of a number.
 struct TextForm {
     std::string decimalSeparator = ".";

@@ -6,6 +6,7 @@
 #include "scene/Canvas.h"
 #include "scene/DirtyRegion.h"
 #include "scene/Input.h"
+#include "scene/SpokenTool.h"
 
 namespace ormala {
 
@@ -43,6 +44,10 @@ class ToolControl {
     /// outer end does both for all of them. See `ToolChanges`.
     virtual void beginChanges() = 0;
     virtual void endChanges() = 0;
+    /// What is read aloud; `ordinal` counts the tools of its kind, from 1.
+    [[nodiscard]] virtual SpokenTool spoken(int ordinal) const = 0;
+    /// Of the grips that are shown.
+    [[nodiscard]] virtual std::vector<SpokenGrip> spokenGrips(int ordinal) const = 0;
 };
 
 /// For several changes of a tool at once, from its making to its end. The tool must outlive it.

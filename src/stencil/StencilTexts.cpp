@@ -1,5 +1,7 @@
 #include "stencil/StencilTexts.h"
 
+#include <array>
+
 #include "language/MlStringModule.h"
 #include "modAPI/constants.h"
 
@@ -37,6 +39,29 @@ std::string sizeText(const Rect& rectBound, const SpecialRatios& ratios, const T
                              MlString(324, "  ratio = ") + FormatRatio(ratio, form);
     const std::string name = specialRatioText(ratio, ratios);
     return name.empty() ? text : text + "\r\n" + name;
+}
+
+std::string stencilName(int ordinal) {
+    const std::array<std::string, 1> arguments{std::to_string(ordinal)};
+    return MlFormat(MlString(611, "Stencil %0"), arguments);
+}
+
+std::string stencilGripName(StencilGrip grip) {
+    constexpr int centerName = 612;
+    constexpr int firstSideName = 613;
+    constexpr int firstCornerName = 617;
+    constexpr int firstRotationName = 621;
+    switch (grip.kind) {
+        case StencilGripKind::size:
+            return MlString(firstSideName + grip.number, {});
+        case StencilGripKind::sizeCorner:
+            return MlString(firstCornerName + grip.number, {});
+        case StencilGripKind::rotate:
+            return MlString(firstRotationName + grip.number, {});
+        case StencilGripKind::move:
+            break;
+    }
+    return MlString(centerName, {});
 }
 
 }  // namespace ormala

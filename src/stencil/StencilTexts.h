@@ -4,10 +4,11 @@
 
 #include "modAPI/textForms.h"
 #include "stencil/SpecialRatios.h"
+#include "stencil/StencilGrips.h"
 #include "stencil/StencilState.h"
 
-// What a stencil's panel and the read-out beside a grip during a drag have in common, and the
-// latter.
+// What a stencil's panel and the read-out beside a grip during a drag have in common, the latter,
+// and what stencil and grips are called where they are read aloud.
 
 namespace ormala {
 
@@ -20,5 +21,10 @@ std::string rotationText(double angle, const TextForm& form);
 std::string specialRatioText(double ratio, const SpecialRatios& ratios);
 /// Size and ratio in pixels; a second line names the special ratio, if it is one.
 std::string sizeText(const Rect& rectBound, const SpecialRatios& ratios, const TextForm& form);
+
+/// Stencils are counted from 1.
+std::string stencilName(int ordinal);
+/// A turned stencil's sides and corners are still called after where they were.
+std::string stencilGripName(StencilGrip grip);
 
 }  // namespace ormala

@@ -62,12 +62,17 @@ class ctlRatioGrid : public GripTool {
     void drag(const MouseInput& input) override;
     void hideAids() override { aids_.hide(); }
     [[nodiscard]] TipId tipOf(int grip) const override;
+    [[nodiscard]] SpokenTool words(int ordinal) const override;
+    [[nodiscard]] std::string gripName(int grip) const override;
+    [[nodiscard]] std::string gripValue(int grip) const override;
     void addItemsTo(DirtyRegion& region, const PixelRect& area) const override;
     void playMouseAction();
 
     void setDefaultState();
     void load(const StencilState& state);
     [[nodiscard]] std::string dragState(const GripDrag& held);
+    /// What the read-out beside such a grip says of the state.
+    [[nodiscard]] std::string gripText(StencilGripKind kind) const;
     void moveCenterByKey(int dx, int dy, bool byGrid);
     void PositionGrips();
     [[nodiscard]] bool turned() const;

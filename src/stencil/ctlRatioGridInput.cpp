@@ -68,13 +68,15 @@ std::string ctlRatioGrid::dragState(const GripDrag& held) {
     const bool moves = !leavesAsPressed(held);
     switch (held.grip.kind) {
         case StencilGripKind::move:
-            return moveText(moves ? DragMove(state_, held, settings_.grid)
-                                  : RectCenter(state_.RectBound));
+            if (moves) {
+                return moveText(DragMove(state_, held, settings_.grid));
+            }
+            break;
         case StencilGripKind::rotate:
             if (moves) {
                 DragRotate(state_, held);
             }
-            return rotationText(state_.RotationAngle, settings_.textForm);
+            break;
         case StencilGripKind::size:
             if (moves) {
                 DragSize(state_, held);
@@ -86,7 +88,33 @@ std::string ctlRatioGrid::dragState(const GripDrag& held) {
             }
             break;
     }
-    return sizeText(state_.RectBound, ratios_, settings_.textForm);
+    return gripText(held.grip.kind);
+}
+
+std::string ctlRatioGrid::gripText(StencilGripKind kind) const {
+    switch (kind) {
+        case StencilGripKind::move:
+            return moveText(RectCenter(state_.RectBound));
+        case StencilGripKind::rotate:
+            return rotationText(state_.RotationAngle, settings_.textForm);
+        default:
+            return sizeText(state_.RectBound, ratios_, settings_.textForm);
+    }
+}
+
+SpokenTool ctlRatioGrid::words(int ordinal) const {
+    return {stencilName(ordinal), gripText(StencilGripKind::move),
+            onOneLine(gripText(StencilGripKind::size)) + ", " +
+                onOneLine(gripText(StencilGripKind::rotate)),
+            0};
+}
+
+std::string ctlRatioGrid::gripName(int grip) const {
+    return stencilGripName(stencilGrip(grip));
+}
+
+std::string ctlRatioGrid::gripValue(int grip) const {
+    return onOneLine(gripText(stencilGrip(grip).kind));
 }
 
 void ctlRatioGrid::keyDown(int key, int shift) {

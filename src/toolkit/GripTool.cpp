@@ -100,6 +100,26 @@ void GripTool::endChanges() {
     layOut();
 }
 
+SpokenTool GripTool::spoken(int ordinal) const {
+    SpokenTool tool = words(ordinal);
+    for (int i = 0; i < grips_.count(); ++i) {
+        tool.grips += grips_[i].inUse() ? 1 : 0;
+    }
+    return tool;
+}
+
+std::vector<SpokenGrip> GripTool::spokenGrips(int ordinal) const {
+    std::vector<SpokenGrip> shown;
+    const std::string owner = words(ordinal).name + ", ";
+    for (int i = 0; i < grips_.count(); ++i) {
+        if (grips_[i].inUse()) {
+            shown.push_back(
+                {owner + gripName(i), gripValue(i), grips_[i].pixels(), grips_.active() == i});
+        }
+    }
+    return shown;
+}
+
 void GripTool::refresh() {
     if (changing()) {
         return;

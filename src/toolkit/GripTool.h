@@ -24,6 +24,8 @@ class GripTool : public ToolControl, public OverlayItem {
     void LoseFocus() override;
     void beginChanges() override { ++openChanges_; }
     void endChanges() override;
+    [[nodiscard]] SpokenTool spoken(int ordinal) const override;
+    [[nodiscard]] std::vector<SpokenGrip> spokenGrips(int ordinal) const override;
 
     [[nodiscard]] ToolControl& control() override { return *this; }
     [[nodiscard]] bool HitTest(double x, double y) const override;
@@ -54,6 +56,11 @@ class GripTool : public ToolControl, public OverlayItem {
     /// What only a drag shows is not to be seen any more.
     virtual void hideAids() = 0;
     [[nodiscard]] virtual TipId tipOf(int grip) const = 0;
+    /// What the tool says of itself, without its grips.
+    [[nodiscard]] virtual SpokenTool words(int ordinal) const = 0;
+    [[nodiscard]] virtual std::string gripName(int grip) const = 0;
+    /// Where it is or what it has made of the tool, as a drag of it reads out.
+    [[nodiscard]] virtual std::string gripValue(int grip) const = 0;
     /// The pixels that `draw` covers beside the grips, cut to `area`.
     virtual void addItemsTo(DirtyRegion& region, const PixelRect& area) const = 0;
 

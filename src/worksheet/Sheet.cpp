@@ -17,7 +17,7 @@ OverlayItem* Sheet::add(ToolKind kind, bool visible, std::optional<ToolChanges>&
     const OverlayItem* former = front();
     OverlayItem& item = *made;
     changes.emplace(item.control());
-    elements(kind).push_back({std::move(made), visible});
+    elements(kind).push_back({std::move(made), visible, ++lastId_, visible});
     zOrder_.push_back(&item);
     item.resize(size_);
     item.control().setEditMode(editMode_);
@@ -72,6 +72,7 @@ void Sheet::RemoveControl(const OverlayItem& item) {
             continue;
         }
         setVisible(*at, false);
+        at->inUse = false;
         if (at != array.begin()) {
             std::erase(zOrder_, &item);
             array.erase(at);
@@ -93,6 +94,7 @@ void Sheet::setVisible(Element& element, bool visible) {
     if (element.visible != visible) {
         const OverlayItem* former = front();
         element.visible = visible;
+        element.inUse = element.inUse || visible;
         port_.repaintTool(*element.item);
         frontMayDifferFrom(former);
         if (!visible) {
@@ -225,10 +227,20 @@ void Sheet::setFocusHeld(bool held, bool windowHasFocus) {
 
 std::vector<OverlayItem*> Sheet::visibleInArrayOrder() const {
     std::vector<OverlayItem*> visible;
+    for (const Shown& tool : shown()) {
+        visible.push_back(tool.item);
+    }
+    return visible;
+}
+
+std::vector<Sheet::Shown> Sheet::shown() const {
+    std::vector<Shown> visible;
     for (const Elements& array : arrays_) {
+        int ordinal = 0;
         for (const Element& element : array) {
+            ordinal += element.inUse ? 1 : 0;
             if (element.visible) {
-                visible.push_back(element.item.get());
+                visible.push_back({element.item.get(), element.id, ordinal});
             }
         }
     }

@@ -57,6 +57,17 @@ class Sheet {
     /// All visible tools, kind by kind, each kind in its array's order.
     [[nodiscard]] std::vector<OverlayItem*> visibleInArrayOrder() const;
 
+    /// A visible tool by its names.
+    struct Shown {
+        OverlayItem* item;
+        /// No other tool of the program ever has it.
+        int id;
+        /// Among those of its kind that are in use, hidden ones too, from 1.
+        int ordinal;
+    };
+    /// In the same order.
+    [[nodiscard]] std::vector<Shown> shown() const;
+
     void SelectControl(const OverlayItem& item);
     [[nodiscard]] OverlayItem* selected() const;
     void SetFocusToSelectedControl();
@@ -75,6 +86,10 @@ class Sheet {
     /// The tool that commands of the keyboard mean: the one with the focus while the window has it,
     /// else the selected one; null without one.
     [[nodiscard]] OverlayItem* toolOfKeys() const { return windowFocused_ ? focused_ : selected(); }
+    /// The tool that the keys go to at this moment; null without one.
+    [[nodiscard]] OverlayItem* toolWithKeyboard() const {
+        return windowFocused_ ? focused_ : nullptr;
+    }
 
     /// Tells every tool whether the worksheet takes the mouse.
     void setEditMode(bool editMode);
@@ -94,6 +109,9 @@ class Sheet {
     struct Element {
         std::unique_ptr<OverlayItem> item;
         bool visible = false;
+        int id = 0;
+        /// Not so: element 0 before it is first shown and after its removal.
+        bool inUse = false;
     };
     using Elements = std::vector<Element>;
 
@@ -112,6 +130,7 @@ class Sheet {
     std::array<Elements, kinds> arrays_;
     std::vector<OverlayItem*> zOrder_;
     OverlayItem* focused_ = nullptr;
+    int lastId_ = 0;
     bool editMode_ = false;
     bool windowFocused_ = false;
     bool focusHeld_ = false;

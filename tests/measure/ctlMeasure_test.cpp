@@ -6,6 +6,7 @@
 
 #include "measure/MeasureOnSheet.h"
 #include "modAPI/constants.h"
+#include "support/ManualLanguage.h"
 #include "support/OwnToolSettings.h"
 #include "support/RecordingCanvas.h"
 
@@ -285,6 +286,30 @@ TEST(CtlMeasure, VisiblePartOfAHugeLineIsExact) {
     EXPECT_EQ(lines[0].points[1].x, lines[0].points[1].y);
     EXPECT_LE(lines[0].points[0].x, 0);
     EXPECT_GE(lines[0].points[1].x, 1000);
+}
+
+TEST(CtlMeasure, SaysWhatItMeasuresAndWhereItsGripsAre) {
+    const ManualLanguage english(languageEnglish);
+    MeasureOnSheet stage;
+    stage.tool.setNumber(4);
+    stage.tool.setLineA({100, 50, 100, 149});
+    stage.tool.setLineB({149, 149, 100, 149});
+    const SpokenTool said = stage.tool.spoken(1);
+    EXPECT_EQ(said.name, "Measurement Tool 4");
+    EXPECT_EQ(said.value, "a = 100.0, b = 50.0, a:b = 2.000, ab = 270.00°");
+    EXPECT_EQ(said.description, "X = 100  Y = 149");
+    // Two free ends and the common point.
+    ASSERT_EQ(said.grips, 3);
+    const auto grips = stage.tool.spokenGrips(1);
+    ASSERT_EQ(grips.size(), 3U);
+    EXPECT_EQ(grips[0].name, "Measurement Tool 4, first end of line a");
+    EXPECT_EQ(grips[0].value, "X = 100  Y = 50");
+    EXPECT_EQ(grips[0].place, stage.grip(endA1).pixels());
+    EXPECT_EQ(grips[1].value, "X = 149  Y = 149");
+    EXPECT_EQ(grips[2].name, "Measurement Tool 4, common point of both lines");
+    stage.tool.setConnected(false);
+    EXPECT_EQ(stage.tool.spoken(1).grips, 6);
+    EXPECT_EQ(stage.tool.spokenGrips(1)[4].name, "Measurement Tool 4, center of line a");
 }
 
 }  // namespace

@@ -141,5 +141,10 @@ TEST(SameNumberText, IgnoresWhatFifteenDigitsDoNotShow) {
     EXPECT_TRUE(SameNumberText(1e308, 1e308));
 }
 
+TEST(OnOneLine, JoinsAllLines) {
+    EXPECT_EQ(onOneLine("one\r\ntwo\r\nthree"), "one, two, three");
+    EXPECT_EQ(onOneLine("one"), "one");
+}
+
 }  // namespace
 }  // namespace ormala

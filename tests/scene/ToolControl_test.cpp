@@ -15,6 +15,8 @@ class QuietTool : public ToolControl {
     void LoseFocus() override {}
     void beginChanges() override {}
     void endChanges() override {}
+    [[nodiscard]] SpokenTool spoken(int) const override { return {}; }
+    [[nodiscard]] std::vector<SpokenGrip> spokenGrips(int) const override { return {}; }
 };
 
 TEST(MouseSource, FreeMouseIsHeldAwayFromNobody) {

@@ -49,5 +49,18 @@ TEST(SizeText, SpeaksTheUsersLanguage) {
     EXPECT_NE(text.find("1,500"), std::string::npos);
 }
 
+TEST(StencilNames, TellEachGripOfBothLanguages) {
+    const ManualLanguage english(languageEnglish);
+    EXPECT_EQ(stencilName(3), "Stencil 3");
+    EXPECT_EQ(stencilGripName({StencilGripKind::move, 0}), "center grip");
+    EXPECT_EQ(stencilGripName({StencilGripKind::size, 0}), "top side grip");
+    EXPECT_EQ(stencilGripName({StencilGripKind::size, 3}), "left side grip");
+    EXPECT_EQ(stencilGripName({StencilGripKind::sizeCorner, 0}), "top right corner grip");
+    EXPECT_EQ(stencilGripName({StencilGripKind::rotate, 3}), "top left rotation grip");
+    const ManualLanguage german(languageGerman);
+    EXPECT_EQ(stencilName(3), "Schablone 3");
+    EXPECT_EQ(stencilGripName({StencilGripKind::sizeCorner, 2}), "Griff der Ecke links unten");
+}
+
 }  // namespace
 }  // namespace ormala

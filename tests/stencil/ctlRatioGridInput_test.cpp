@@ -344,5 +344,44 @@ TEST(CtlRatioGridInput, EndAndDeleteGoToThePanelAndOtherKeysNowhere) {
     EXPECT_EQ(stage.state(), before);
 }
 
+TEST(CtlRatioGridSpoken, TellsWhereItIsAndWhatItsGripsHaveMade) {
+    StencilOnSheet stage;
+    stage.settings.textForm.decimalSeparator = ",";
+    stage.tool.setRectBound({100, 50, 399, 249});
+    const SpokenTool said = stage.tool.spoken(2);
+    EXPECT_EQ(said.name, "Stencil 2");
+    EXPECT_EQ(said.value, "X = 249  Y = 149");
+    EXPECT_EQ(said.description, "300 x 200  ratio = 1,500, 3:2  (chemical photo), 0,0°, 0,000 rad");
+    EXPECT_EQ(said.grips, stencilGripCount);
+    const auto grips = stage.tool.spokenGrips(2);
+    ASSERT_EQ(grips.size(), static_cast<std::size_t>(stencilGripCount));
+    EXPECT_EQ(grips[0].name, "Stencil 2, center grip");
+    EXPECT_EQ(grips[0].value, "X = 249  Y = 149");
+    EXPECT_EQ(grips[0].place, stage.grip(StencilGripKind::move).pixels());
+    EXPECT_EQ(grips[1].value, "300 x 200  ratio = 1,500, 3:2  (chemical photo)");
+    EXPECT_EQ(grips[stencilGripCount - 1].value, "0,0°, 0,000 rad");
+    EXPECT_FALSE(grips[0].held);
+}
+
+TEST(CtlRatioGridSpoken, ValueIsThatOfTheReadOutAndFollowsTheArrowKeys) {
+    StencilOnSheet stage;
+    const Point from = stage.gripAt(StencilGripKind::move);
+    stage.press(from);
+    stage.dragTo({from.x + 7, from.y});
+    EXPECT_EQ(stage.tool.aids().lblInfo().Caption(), stage.tool.spoken(1).value);
+    EXPECT_TRUE(stage.tool.spokenGrips(1)[0].held);
+    stage.release({from.x + 7, from.y});
+    stage.tool.setRectBound({100, 50, 399, 249});
+    stage.tool.keyDown(key::right, 0);
+    EXPECT_EQ(stage.tool.spoken(1).value, "X = 250  Y = 149");
+}
+
+TEST(CtlRatioGridSpoken, HasNoGripsOutsideEditMode) {
+    StencilOnSheet stage;
+    stage.tool.setEditMode(false);
+    EXPECT_EQ(stage.tool.spoken(1).grips, 0);
+    EXPECT_TRUE(stage.tool.spokenGrips(1).empty());
+}
+
 }  // namespace
 }  // namespace ormala

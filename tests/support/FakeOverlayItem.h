@@ -50,6 +50,15 @@ class FakeOverlayItem : public OverlayItem, private ToolControl {
     void draw(Canvas& /*canvas*/) const override {}
     const DirtyRegion& footprint() const override { return footprint_; }
 
+    /// What it says of itself, after its ordinal, and of its grips.
+    SpokenTool words;
+    std::vector<SpokenGrip> spokenOfGrips;
+    /// What it covers.
+    void cover(const PixelRect& place) {
+        footprint_.clear();
+        footprint_.add(place);
+    }
+
     /// Changes are under way.
     int openChanges = 0;
 
@@ -69,6 +78,13 @@ class FakeOverlayItem : public OverlayItem, private ToolControl {
     void setEditMode(bool editMode) override { editMode_ = editMode; }
     void beginChanges() override { ++openChanges; }
     void endChanges() override { --openChanges; }
+    SpokenTool spoken(int ordinal) const override {
+        SpokenTool said = words;
+        said.name = name.substr(0, name.find(' ') + 1) + std::to_string(ordinal);
+        said.grips = static_cast<int>(spokenOfGrips.size());
+        return said;
+    }
+    std::vector<SpokenGrip> spokenGrips(int /*ordinal*/) const override { return spokenOfGrips; }
     void LoseFocus() override {
         focused = false;
         ++focusLosses;

@@ -139,6 +139,16 @@ TEST_F(ScreenReader, NamesAllOfTheControlWindowWith33ToolsWhereverTheListStands)
     }
 }
 
+TEST_F(ScreenReader, NamesEachWindowThatCanBeSwitchedTo) {
+    const test::AppDataFolder folder;
+    Program program(false);
+    program.execute(Command::lens);
+    EXPECT_EQ(AccessibleReader(program.settings().handle()).name(), "Ormala - Edit");
+    EXPECT_EQ(AccessibleReader(program.worksheet().handle()).name(), "Ormala Worksheet");
+    EXPECT_EQ(AccessibleReader(program.resizer().handle()).name(), "Ormala Worksheet");
+    EXPECT_FALSE(AccessibleReader(program.view().lens().lens().handle()).name().empty());
+}
+
 TEST_F(ScreenReader, NamesAllOfTheDialogOfColors) {
     const TestWindow owner;
     frmColor dialog;

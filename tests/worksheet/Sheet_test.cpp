@@ -242,5 +242,53 @@ TEST_F(SheetTest, TheSizeReachesEveryToolAlsoHiddenOnes) {
     EXPECT_EQ(shown.size, (PixelSize{640, 480}));
 }
 
+using Ordinals = std::vector<int>;
+
+/// Of the visible tools, kind by kind.
+Ordinals ordinals(const Sheet& sheet) {
+    Ordinals numbers;
+    for (const Sheet::Shown& tool : sheet.shown()) {
+        numbers.push_back(tool.ordinal);
+    }
+    return numbers;
+}
+
+TEST_F(SheetTest, ToolsInUseAreCountedKindByKind) {
+    addFirst(ToolKind::stencil, true);
+    const FakeOverlayItem& second = add(stencil);
+    add(stencil);
+    add(measurement);
+    EXPECT_EQ(ordinals(sheet_), (Ordinals{1, 2, 3, 1}));
+    // A hidden tool keeps its number, a removed one doesn't.
+    sheet_.setVisible(second, false);
+    EXPECT_EQ(ordinals(sheet_), (Ordinals{1, 3, 1}));
+    sheet_.RemoveControl(second);
+    EXPECT_EQ(ordinals(sheet_), (Ordinals{1, 2, 1}));
+}
+
+TEST_F(SheetTest, ElementZeroCountsWhileItIsInUse) {
+    const FakeOverlayItem& first = addFirst(ToolKind::stencil, false);
+    add(stencil);
+    EXPECT_EQ(ordinals(sheet_), Ordinals{1});
+    sheet_.setVisible(first, true);
+    EXPECT_EQ(ordinals(sheet_), (Ordinals{1, 2}));
+    sheet_.setVisible(first, false);
+    EXPECT_EQ(ordinals(sheet_), Ordinals{2});
+    sheet_.setVisible(first, true);
+    sheet_.RemoveControl(first);
+    EXPECT_EQ(ordinals(sheet_), Ordinals{1});
+}
+
+TEST_F(SheetTest, NoToolEverHasTheIdOfAnother) {
+    const FakeOverlayItem& former = add(stencil);
+    add(stencil);
+    const int id = sheet_.shown().back().id;
+    EXPECT_NE(sheet_.shown().front().id, id);
+    sheet_.RemoveControl(*sheet_.shown().back().item);
+    add(stencil);
+    EXPECT_NE(sheet_.shown().back().id, id);
+    EXPECT_EQ(sheet_.shown().front().item, &former);
+}
+
 }  // namespace
 }  // namespace ormala

@@ -47,7 +47,9 @@ frmResizer::~frmResizer() {
 }
 
 void frmResizer::SetRuntimeTexts(std::string_view title) {
-    setCaption(std::string(title) + MlString(264, " Worksheet"));
+    const std::string caption = std::string(title) + MlString(264, " Worksheet");
+    setCaption(caption);
+    worksheet_.setCaption(caption);
 }
 
 void frmResizer::restore(const PixelRect& place, bool maximised) {

@@ -63,8 +63,10 @@ frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
     tip_ = std::make_unique<TipWindow>(handle());
     CrossHairX_ = std::make_unique<frmCrossHair>(handle(), "CrossHairX");
     CrossHairY_ = std::make_unique<frmCrossHair>(handle(), "CrossHairY");
-    languageChanged_ =
-        GetLanguageSupport().LanguageChange.subscribe([this] { tip_->setText(sheetTip_.text()); });
+    languageChanged_ = GetLanguageSupport().LanguageChange.subscribe([this] {
+        tip_->setText(sheetTip_.text());
+        tellScreenReaders();
+    });
 }
 
 frmWorksheet::~frmWorksheet() {
@@ -204,7 +206,19 @@ void frmWorksheet::invalidate(const DirtyRegion& region, bool atRest) {
     InvalidateRgn(handle(), changed.get(), FALSE);
 }
 
+void frmWorksheet::tellScreenReaders() {
+    if (!mouse_.holding()) {
+        teller_.later(handle());
+    }
+}
+
+void frmWorksheet::repaintTool(const OverlayItem& item) {
+    invalidate(item.footprint(), true);
+    tellScreenReaders();
+}
+
 void frmWorksheet::repaint(const OverlayItem& item, const DirtyRegion& region) {
+    tellScreenReaders();
     if (!region.empty() && sheet_.isVisible(item)) {
         invalidate(region, &item != sheet_.front());
     }

@@ -14,9 +14,11 @@
 #include "worksheet/ForegroundMemory.h"
 #include "worksheet/Sheet.h"
 #include "worksheet/SheetMouse.h"
+#include "worksheet/SheetParts.h"
 #include "worksheet/SheetTip.h"
 #include "worksheet/transparency.h"
 #include "worksheet/win/SheetPainter.h"
+#include "worksheet/win/SheetTeller.h"
 #include "worksheet/win/frmCrossHair.h"
 
 namespace ormala {
@@ -100,7 +102,7 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
 
     bool wasInFront() const override;
     void rememberForeground() override;
-    void repaintTool(const OverlayItem& item) override { invalidate(item.footprint(), true); }
+    void repaintTool(const OverlayItem& item) override;
 
     float now() const override;
     Pointer pointer() const override;
@@ -120,6 +122,9 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     /// Of the monitor that the window is on.
     void takeDpi(UINT dpi);
     std::optional<LRESULT> onPlaceMessage(UINT message, WPARAM wParam);
+    std::optional<LRESULT> onScreenReader(UINT message, WPARAM wParam, LPARAM lParam);
+    /// What screen readers know of the tools may have changed. A drag is told of at its end.
+    void tellScreenReaders();
     LRESULT onPress(int button, WPARAM wParam, LPARAM lParam);
     LRESULT onMove(WPARAM wParam, LPARAM lParam);
     LRESULT onRelease(int button, WPARAM wParam, LPARAM lParam);
@@ -140,6 +145,8 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     Sheet sheet_;
     Aids aids_;
     SheetMouse mouse_;
+    SheetParts parts_{sheet_};
+    SheetTeller teller_{parts_};
     SheetPainter painter_;
     SheetTip sheetTip_;
     std::unique_ptr<TipWindow> tip_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/win/AccessibleTree.h"
 #include "platform/win/monitors.h"
 #include "worksheet/win/frmWorksheet.h"
 
@@ -60,17 +61,36 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
             return std::nullopt;
         case WM_SETFOCUS:
             sheet_.windowGotFocus();
+            teller_.windowGotFocus();
+            tellScreenReaders();
             return paintNow();
         case WM_KILLFOCUS:
             sheet_.windowLostFocus();
+            tellScreenReaders();
             return paintNow();
         case WM_TIMER:
             return onTimer(wParam);
         case WM_CLOSE:
             commands_.closeProgram();
             return 0;
+        case WM_GETOBJECT:
+        case accessiblePartsMessage:
+        case SheetTeller::timeToTell:
+            return onScreenReader(message, wParam, lParam);
         default:
             return onPlaceMessage(message, wParam);
+    }
+}
+
+std::optional<LRESULT> frmWorksheet::onScreenReader(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_GETOBJECT:
+            return answerAccessibleTree(handle(), wParam, lParam);
+        case accessiblePartsMessage:
+            return answerPartsQuestion(parts_, lParam);
+        default:
+            teller_.tell(handle());
+            return 0;
     }
 }
 
@@ -126,6 +146,7 @@ LRESULT frmWorksheet::onRelease(int button, WPARAM wParam, LPARAM lParam) {
     if (stillHeld == 0 && GetCapture() == handle()) {
         ReleaseCapture();
     }
+    tellScreenReaders();
     return paintNow();
 }
 
