@@ -35,7 +35,7 @@ def checksums(data):
 def kind_of(name):
     if name.endswith(".exe"):
         return "BINARY"
-    return "IMAGE" if name.endswith(".png") else "TEXT"
+    return "IMAGE" if name.endswith(".webp") else "TEXT"
 
 
 def file_entry(name, data):

@@ -1,10 +1,12 @@
-"""Ormala on the screen of a stage, for tools/help_pictures: prepared files, windows, mouse, pictures.
+"""Ormala on the screen of a stage, for pictures of it: prepared files, windows, mouse, pictures.
 
 Nothing here waits for a time: a window is waited for until it is there, a picture until it no
-longer changes.
+longer changes. All places and sizes are in pixels at 96 DPI. The screen has SCALE times as many: two
+for the help, so that its pictures are sharp on a fine screen too.
 """
 
 import contextlib
+import os
 import pathlib
 import re
 import shutil
@@ -13,6 +15,7 @@ import tempfile
 import time
 from typing import NamedTuple
 
+SCALE = int(os.environ.get("ORMALA_PICTURE_SCALE", "2"))
 TIMEOUT_SECONDS = 20
 POLL_SECONDS = 0.1
 # A window of the program's own, as `xwininfo -tree` lists it: its place on the screen comes last.
@@ -22,6 +25,8 @@ WINDOW = re.compile(r'(0x[0-9a-f]+) (?:"(.*)"|\(has no name\)): \("ormala\.exe".
 AWAY = 1270, 790
 MARK_FONT = "DejaVu-Sans-Bold"
 MARK_RADIUS = 9
+# Without a loss, in a third less than the best PNG.
+COMPRESSION = ("-define", "webp:lossless=true", "-define", "webp:method=6")
 
 
 class Missing(Exception):
@@ -29,16 +34,14 @@ class Missing(Exception):
 
 
 class Box(NamedTuple):
-    """In pixels of the screen."""
-
-    x: int
-    y: int
-    width: int
-    height: int
+    x: float
+    y: float
+    width: float
+    height: float
 
     @property
     def middle(self):
-        return self.x + self.width // 2, self.y + self.height // 2
+        return self.x + self.width / 2, self.y + self.height / 2
 
     def inset(self, left, top, width, height):
         """A part, by its place in this box."""
@@ -49,7 +52,9 @@ class Box(NamedTuple):
 
     @property
     def geometry(self):
-        return f"{self.width}x{self.height}{self.x:+d}{self.y:+d}"
+        """Of the screen."""
+        x, y, width, height = (round(value * SCALE) for value in self)
+        return f"{width}x{height}{x:+d}{y:+d}"
 
 
 class XWindow(NamedTuple):
@@ -77,7 +82,7 @@ def windows():
     """Those of the program that show, the one behind first."""
     found = []
     for number, title, *numbers in WINDOW.findall(waited_for("The windows", window_tree)):
-        width, height, x, y = map(int, numbers)
+        width, height, x, y = (int(value) / SCALE for value in numbers)
         if width > 1 and shows(number):
             found.append(XWindow(number, title, Box(x, y, width, height)))
     return found[::-1]
@@ -126,7 +131,7 @@ def pixels(box):
 class Mouse:
     @staticmethod
     def move(x, y):
-        run("xdotool", "mousemove", "--sync", str(round(x)), str(round(y)))
+        run("xdotool", "mousemove", "--sync", str(round(x * SCALE)), str(round(y * SCALE)))
 
     @staticmethod
     def press(button=1):
@@ -138,7 +143,7 @@ class Mouse:
 
     def hover(self, x, y):
         """Until what is there answers to the mouse, as a grip or a small button does by growing."""
-        around = Box(round(x), round(y), 1, 1).grown(12)
+        around = Box(x, y, 1, 1).grown(12)
         before = pixels(around)
         self.move(x, y)
         waited_for(f"The grown control at {x}, {y}", lambda: pixels(around) != before)
@@ -254,8 +259,9 @@ class Ormala:
         """Gives the control window the keyboard."""
         run("xdotool", "windowactivate", "--sync", self.main.number)
 
-    def opened_by(self, what, action):
-        """The window that comes up by the action, once it rests."""
+    def opened_by(self, what, action, tabs=0):
+        """The window that comes up by the action, once it rests. What blinks as long as it has the
+        keyboard loses that first, by so many presses of the Tab key."""
         before = {w.number for w in windows()}
         action()
 
@@ -265,33 +271,39 @@ class Ormala:
 
         box = waited_for(what, newest).box
         self.mouse.move(*AWAY)
+        if tabs:
+            first_look = pixels(box)
+            waited_for("What blinks", lambda: pixels(box) != first_look)
+            run("xdotool", "key", *["Tab"] * tabs)
         with tempfile.TemporaryDirectory() as folder:
             still_shot(box, pathlib.Path(folder, "rest.ppm"))
         # It may have been moved or sized since.
         return newest().box
 
 
-def quantised(source, target, colors=255, marks=(), margin=0):
-    """A small picture for the pages. `marks` are (x, y, text) in the picture, which may lie in
-    the margin, and (x, y, text, to x, to y) for one with a line."""
-    # Only what lies in the margin is translucent, and keeps its own colours.
+def saved(source, target, marks=(), margin=0):
+    """A picture for the pages, in all its colours. `marks` are (x, y, text) in the picture, which
+    may lie in the margin."""
+    # Only what lies in the margin is translucent.
     command = ["convert", str(source)]
     if margin:
-        command += ["-bordercolor", "none", "-border", str(margin)]
-    for x, y, text, *end in marks:
-        x, y = x + margin, y + margin
-        if end:
-            command += ["-stroke", "#b39b00", "-strokewidth", "1", "-draw",
-                        f"line {x},{y} {end[0] + margin},{end[1] + margin}"]
-        command += ["-stroke", "#1f1f1f", "-strokewidth", "1", "-fill", "#ffe600", "-draw",
-                    f"circle {x},{y} {x + MARK_RADIUS},{y}"]
-        shift = 4 * len(text)
-        command += ["-stroke", "none", "-fill", "#1f1f1f", "-font", MARK_FONT, "-pointsize", "11",
-                    "-draw", f"text {x - shift},{y + 4} '{text}'"]
-    command += ["-strip", "+dither", "-colors", str(colors), "-define",
-                "png:compression-level=9", "-define", "png:compression-filter=0",
-                f"PNG8:{target}"]
+        command += ["-bordercolor", "none", "-border", str(margin * SCALE)]
+    for x, y, text in marks:
+        x, y, radius = (x + margin) * SCALE, (y + margin) * SCALE, MARK_RADIUS * SCALE
+        command += ["-stroke", "#1f1f1f", "-strokewidth", str(SCALE), "-fill", "#ffe600", "-draw",
+                    f"circle {x},{y} {x + radius},{y}"]
+        shift = 4 * SCALE * len(text)
+        command += ["-stroke", "none", "-fill", "#1f1f1f", "-font", MARK_FONT, "-pointsize",
+                    str(11 * SCALE), "-draw", f"text {x - shift},{y + 4 * SCALE} '{text}'"]
+    command += ["-strip", *COMPRESSION, str(target)]
     run(*command)
+
+
+def size_of(path):
+    """In pixels of the screen."""
+    answer = subprocess.run(["identify", "-format", "%w %h", str(path)], check=True,
+                            capture_output=True, text=True, timeout=TIMEOUT_SECONDS)
+    return tuple(map(int, answer.stdout.split()))
 
 
 def side_by_side(sources, target, gap=8):
@@ -305,10 +317,10 @@ def side_by_side(sources, target, gap=8):
 
 
 def column(box, x):
-    """The colours of a column of the box once it rests, top to bottom."""
+    """The colours of a column of the box once it rests, top to bottom, in pixels of the screen."""
     with tempfile.TemporaryDirectory() as folder:
         path = pathlib.Path(folder, "column.ppm")
-        still_shot(Box(box.x + x, box.y, 1, box.height), path)
+        still_shot(Box(box.x + x, box.y, 1 / SCALE, box.height), path)
         data = path.read_bytes()
-    values = data[-3 * box.height:]
+    values = data[-3 * round(box.height * SCALE):]
     return [values[i:i + 3] for i in range(0, len(values), 3)]

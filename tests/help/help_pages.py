@@ -19,10 +19,11 @@ HEADING = re.compile(r"h[1-6]")
 ADDRESS = re.compile(r"\s*([a-z][a-z0-9+.-]*:|//)", re.IGNORECASE)
 CSS_REFERENCE = re.compile(r"url\(|@import|expression\(", re.IGNORECASE)
 REFERRING = ("href", "src", "srcset", "action", "poster", "data")
-PNG_BEGINS = b"\x89PNG\r\n\x1a\n"
+# How many pixels of a picture are shown as one, so that it is sharp on a fine screen too.
+PIXELS_AS_ONE = 2
 # All pictures together: the help lies beside a program of a few megabytes.
 PICTURE_BYTES = 1_500_000
-OF_A_LANGUAGE = re.compile(r".*_([a-z]{2})\.png")
+OF_A_LANGUAGE = re.compile(r".*_([a-z]{2})\.webp")
 FORBIDDEN = ("script", "iframe", "object", "embed", "style", "base", "form", "link")
 
 
@@ -61,7 +62,7 @@ def outline(root):
             rows = sum(child.tag in ("li", "tr") for child in element.iter())
             lines.append(f"{element.tag} of {rows}")
         elif element.tag == "img":
-            lines.append("img " + re.sub(r"_[a-z]{2}(?=\.png$)", "", element.get("src", "")))
+            lines.append("img " + re.sub(r"_[a-z]{2}(?=\.webp$)", "", element.get("src", "")))
     return lines
 
 
@@ -70,10 +71,17 @@ def language_of(name):
 
 
 def size_of_picture(data):
-    """(width, height) of a PNG, None for anything else."""
-    if not data.startswith(PNG_BEGINS) or data[12:16] != b"IHDR" or len(data) < 24:
+    """(width, height) of a picture in WebP without a loss, None for anything else."""
+    if data[:4] != b"RIFF" or data[8:12] != b"WEBP":
         return None
-    return struct.unpack(">II", data[16:24])
+    at = 12
+    while at + 8 <= len(data):
+        kind, length = struct.unpack_from("<4sI", data, at)
+        if kind == b"VP8L" and at + 13 <= len(data) and data[at + 8] == 0x2F:
+            bits = struct.unpack_from("<I", data, at + 9)[0]
+            return (bits & 0x3FFF) + 1, (bits >> 14 & 0x3FFF) + 1
+        at += 8 + length + length % 2
+    return None
 
 
 def complaints_about_head(name, root):
@@ -124,12 +132,26 @@ def complaints_about_pictures(name, root, files):
             continue
         size = size_of_picture(data)
         if not size:
-            yield f"{source} is no PNG."
-        elif (element.get("width"), element.get("height")) != tuple(map(str, size)):
-            yield f"{name} doesn't say that {source} has {size[0]} x {size[1]} pixels."
+            yield f"{source} is no WebP without a loss."
+            continue
+        shown = tuple(str(side // PIXELS_AS_ONE) for side in size)
+        if (element.get("width"), element.get("height")) != shown:
+            yield f"{name} doesn't show {source} with {shown[0]} x {shown[1]} pixels."
         spoken = OF_A_LANGUAGE.fullmatch(source)
         if spoken and spoken[1] != language_of(name):
             yield f"{name} shows {source}, a picture of another language."
+
+
+def complaints_about_language_links(name, root, pages):
+    """Who reads a section can go on reading it in each other language."""
+    for element in root.iter():
+        if element.tag not in ("h2", "h3") or not element.get("id"):
+            continue
+        links = {link.get("href"): link.get("hreflang") for link in element.iter("a")}
+        for other in sorted(set(pages) - {name}):
+            target = f"{other}#{element.get('id')}"
+            if links.get(target) != language_of(other):
+                yield f"{name} has no link to {target} in its heading."
 
 
 def complaints_about_outlines(pages):
@@ -164,6 +186,7 @@ def complaints(files):
     for name, root in pages.items():
         found += complaints_about_head(name, root)
         found += complaints_about_pictures(name, root, files)
+        found += complaints_about_language_links(name, root, pages)
     if pages:
         found += complaints_about_outlines(pages)
     used = {value.partition("#")[0] for root in pages.values() for value in references(root)}
@@ -193,7 +216,7 @@ def complaints_about_program(files, tables):
 
 
 def read(path):
-    return path.read_bytes() if path.suffix == ".png" else path.read_text(encoding="utf-8")
+    return path.read_bytes() if path.suffix == ".webp" else path.read_text(encoding="utf-8")
 
 
 def main():

@@ -6,9 +6,16 @@ import unittest
 import help_pages
 
 
-def picture(width, height, length=24):
-    return (help_pages.PNG_BEGINS + b"\0\0\0\rIHDR" + struct.pack(">II", width, height)).ljust(
+def picture(width, height, length=32):
+    """As it begins, of as many pixels of the page."""
+    bits = (2 * width - 1) | (2 * height - 1) << 14
+    return (b"RIFF\0\0\0\0WEBP" + b"VP8L\x0a\0\0\0\x2f" + struct.pack("<I", bits)).ljust(
         length, b"\0")
+
+
+def heading(other, anchor, level=2):
+    return (f'<h{level} id="{anchor}">A <a href="help_{other}.html#{anchor}" '
+            f'hreflang="{other}">A</a></h{level}>')
 
 
 def page(language, body, head=""):
@@ -33,12 +40,13 @@ class HelpPages(unittest.TestCase):
             self.assertIn(words, sentence)
 
     def test_good_pages_have_no_complaints(self):
-        body = ('<h1>Help</h1><h2 id="a">A</h2><a href="#a">A</a><a href="help_de.html#a">A</a>'
+        body = ('<h1>Help</h1>{}<a href="#a">A</a><a href="help_de.html#a">A</a>'
                 '<img src="a.svg" alt="A" />')
-        files = pages(body)
+        files = pages(body.format(heading("en", "a")), body.format(heading("de", "a")))
         files["a.svg"] = '<svg xmlns="http://www.w3.org/2000/svg"><path d="M0 0" /></svg>'
         files["help.css"] = "p { margin: 0; }"
-        files["help_en.html"] = page("en", body, '<link rel="stylesheet" href="help.css" />')
+        files["help_en.html"] = page("en", body.format(heading("de", "a")),
+                                     '<link rel="stylesheet" href="help.css" />')
         self.assertEqual(help_pages.complaints(files), [])
 
     def test_an_open_element_is_not_well_formed(self):
@@ -62,14 +70,15 @@ class HelpPages(unittest.TestCase):
         self.assert_complaint(files, "no title")
 
     def test_the_anchors_are_the_same(self):
-        self.assert_complaint(pages('<h2 id="a">A</h2>', '<h2 id="b">A</h2>'), "h2 a")
+        found = help_pages.complaints(pages(heading("en", "a"), heading("de", "b")))
+        self.assertTrue(any("h2 a" in sentence for sentence in found), found)
 
     def test_the_levels_of_headings_are_the_same(self):
-        self.assert_complaint(pages('<h2 id="a">A</h2>', '<h3 id="a">A</h3>'), "h3 a")
+        self.assert_complaint(pages(heading("en", "a"), heading("de", "a", 3)), "h3 a")
 
     def test_no_language_has_more_headings(self):
-        self.assert_complaint(pages('<h2 id="a">A</h2>', '<h2 id="a">A</h2><h2 id="b">B</h2>'),
-                              "1 parts")
+        files = pages(heading("en", "a"), heading("de", "a") + "<h1>B</h1>")
+        self.assert_complaint(files, "1 parts")
 
     def test_no_language_has_more_rows_in_a_table(self):
         row = "<tr><td>A</td></tr>"
@@ -80,7 +89,14 @@ class HelpPages(unittest.TestCase):
         self.assert_both_complain("<h2>A</h2>", "without an anchor")
 
     def test_an_anchor_is_there_once(self):
-        self.assert_both_complain('<h2 id="a">A</h2><p id="a">B</p>', "twice")
+        self.assert_both_complain('<p id="a">A</p><p id="a">B</p>', "twice")
+
+    def test_a_section_leads_to_itself_in_the_other_language(self):
+        good = heading("en", "a")
+        for bad in ('<h2 id="a">A</h2>', good.replace("en.html#a", "en.html"),
+                    good.replace('hreflang="en"', 'hreflang="fr"')):
+            self.assert_complaint(pages(bad, heading("de", "a")),
+                                  "help_de.html has no link to help_en.html#a")
 
     def test_an_address_is_outside(self):
         for address in ("https://example.org/", "//example.org/a.css", "file:///C:/a",
@@ -88,7 +104,7 @@ class HelpPages(unittest.TestCase):
             self.assert_both_complain(f'<a href="{address}">A</a>', "outside")
 
     def test_a_missing_file_is_found(self):
-        self.assert_both_complain('<img src="a.png" alt="A" />', "a.png, which is not there")
+        self.assert_both_complain('<img src="a.webp" alt="A" />', "a.webp, which is not there")
 
     def test_a_missing_anchor_is_found(self):
         self.assert_both_complain('<a href="#a">A</a>', "an anchor that is not there")
@@ -96,8 +112,8 @@ class HelpPages(unittest.TestCase):
 
     def test_a_file_without_use_is_found(self):
         files = pages("<p>A</p>")
-        files["a.png"] = ""
-        self.assert_complaint(files, "a.png is used by no page")
+        files["a.webp"] = ""
+        self.assert_complaint(files, "a.webp is used by no page")
 
     def test_scripts_are_out(self):
         self.assert_both_complain("<script>a()</script>", "<script>")
@@ -108,45 +124,45 @@ class HelpPages(unittest.TestCase):
         files["a.svg"] = "<svg />"
         self.assertEqual(len(help_pages.complaints(files)), 2)
 
-    def files_with_picture(self, image, data, source="a.png"):
+    def files_with_picture(self, image, data, source="a.webp"):
         files = pages(image)
         files[source] = data
         return files
 
     def test_a_picture_has_its_size(self):
-        image = '<img src="a.png" width="20" height="10" alt="A" />'
+        image = '<img src="a.webp" width="20" height="10" alt="A" />'
         self.assertEqual(help_pages.complaints(self.files_with_picture(image, picture(20, 10))), [])
-        for data, words in ((picture(21, 10), "21 x 10"), (b"GIF89a", "no PNG")):
+        for data, words in ((picture(21, 10), "21 x 10"), (b"GIF89a", "no WebP")):
             found = help_pages.complaints(self.files_with_picture(image, data))
             self.assertEqual(len(found), 2, found)
             self.assertIn(words, found[0])
 
     def test_a_picture_without_its_size_is_found(self):
-        files = self.files_with_picture('<img src="a.png" alt="A" />', picture(20, 10))
+        files = self.files_with_picture('<img src="a.webp" alt="A" />', picture(20, 10))
         self.assertEqual(len(help_pages.complaints(files)), 2)
 
     def test_a_picture_with_words_is_of_the_language_of_the_page(self):
-        image = '<img src="a_de.png" width="1" height="1" alt="A" />'
-        files = self.files_with_picture(image, picture(1, 1), "a_de.png")
+        image = '<img src="a_de.webp" width="1" height="1" alt="A" />'
+        files = self.files_with_picture(image, picture(1, 1), "a_de.webp")
         self.assert_complaint(files, "another language")
         files["help_en.html"] = files["help_en.html"].replace("a_de", "a_en")
-        files["a_en.png"] = picture(1, 1)
+        files["a_en.webp"] = picture(1, 1)
         self.assertEqual(help_pages.complaints(files), [])
 
     def test_all_languages_show_the_same_pictures(self):
-        image = '<img src="a.png" width="1" height="1" alt="A" />'
+        image = '<img src="a.webp" width="1" height="1" alt="A" />'
         files = pages(image, "<p>A</p>")
-        files["a.png"] = picture(1, 1)
+        files["a.webp"] = picture(1, 1)
         self.assert_complaint(files, "1 parts and help_en.html has 0")
 
     def test_the_pictures_are_small_together(self):
-        image = '<img src="a.png" width="1" height="1" alt="A" />'
+        image = '<img src="a.webp" width="1" height="1" alt="A" />'
         self.assert_complaint(self.files_with_picture(image, picture(1, 1, 1_500_001)),
                               "1500001 bytes")
 
     def test_a_style_sheet_takes_nothing_from_outside(self):
         link = '<link rel="stylesheet" href="a.css" />'
-        for text in ("p { background: url(a.png); }", '@import "b.css";', "/* //a */"):
+        for text in ("p { background: url(a.webp); }", '@import "b.css";', "/* //a */"):
             files = {"help_en.html": page("en", "<p>A</p>", link), "a.css": text}
             self.assert_complaint(files, "a.css refers to something outside")
 
