@@ -11,6 +11,9 @@ void dragStep(PixelSize sheetSize);
 /// Moves across the sheet of stencils on which no grip changes.
 void hoverMoves(PixelSize sheetSize);
 
+/// A change of the picture in template mode, by a key and by pixels with their opacity.
+void templatePicture(PixelSize size);
+
 /// A repaint of the background grid in steps of 5 pixels, beside one without it.
 void gridRepaint();
 

@@ -15,6 +15,9 @@ int main(int argc, char** argv) {
         if (wanted("hover")) {
             bench::hoverMoves(size);
         }
+        if (wanted("template")) {
+            bench::templatePicture(size);
+        }
     }
     if (wanted("grid")) {
         bench::gridRepaint();

@@ -128,7 +128,7 @@ void SheetPainter::refreshRest() {
     drawToolsAtRest(rest_.context(), area);
 }
 
-void SheetPainter::paintThroughBuffer(HDC context, HRGN region, const PixelRect& area) {
+void SheetPainter::drawInBuffer(HRGN region, const PixelRect& area) {
     refreshRest();
     {
         const ClipScope clip(shown_.context(), region);
@@ -138,8 +138,6 @@ void SheetPainter::paintThroughBuffer(HDC context, HRGN region, const PixelRect&
     // Unclipped: outside the region the tool's pixels are there already, and clipping each stroke
     // costs more than drawing it.
     drawFront(shown_.context(), area);
-    BitBlt(context, area.left, area.top, area.width(), area.height(), shown_.context(), area.left,
-           area.top, SRCCOPY);
 }
 
 void SheetPainter::paintDirectly(HDC context, const PixelRect& area) const {
@@ -152,15 +150,21 @@ void SheetPainter::paintDirectly(HDC context, const PixelRect& area) const {
     drawFront(context, area);
 }
 
-void SheetPainter::paint(HWND window) {
+void SheetPainter::paint(HWND window, SheetLayers& layers) {
     const RegionHandle region = updateRegionOf(window);
+    PixelRect area = boundsOf(region.get());
+    if (buffered_ && !area.empty()) {
+        drawInBuffer(region.get(), area);
+    }
+    if (layers.prepare(shown_)) {
+        area = {0, 0, size_.width, size_.height};
+    }
     const PaintScope scope(window);
-    const PixelRect area = boundsOf(region.get());
     if (area.empty()) {
         return;
     }
     if (buffered_) {
-        paintThroughBuffer(scope.context(), region.get(), area);
+        layers.show(scope.context(), shown_, area);
     } else {
         paintDirectly(scope.context(), area);
     }

@@ -7,6 +7,7 @@
 #include "worksheet/Aids.h"
 #include "worksheet/GridRows.h"
 #include "worksheet/Sheet.h"
+#include "worksheet/win/SheetLayers.h"
 
 namespace ormala {
 
@@ -28,7 +29,9 @@ class SheetPainter {
     /// The layer at rest is to be drawn anew in this region before it is shown the next time.
     void restChanged(HRGN region);
     /// The whole work of a WM_PAINT.
-    void paint(HWND window);
+    void paint(HWND window, SheetLayers& layers);
+    /// What was shown last; empty without memory for it.
+    [[nodiscard]] const BackBuffer& picture() const { return shown_; }
 
   private:
     void allChanged();
@@ -40,7 +43,7 @@ class SheetPainter {
     void drawToolsAtRest(HDC context, const PixelRect& area) const;
     void drawFront(HDC context, const PixelRect& area) const;
     void paintDirectly(HDC context, const PixelRect& area) const;
-    void paintThroughBuffer(HDC context, HRGN region, const PixelRect& area);
+    void drawInBuffer(HRGN region, const PixelRect& area);
 
     const Sheet& sheet_;
     const Aids& aids_;

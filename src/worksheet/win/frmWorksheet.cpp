@@ -6,6 +6,7 @@
 #include "language/MlStringModule.h"
 #include "platform/win/dayTime.h"
 #include "platform/win/inputMethod.h"
+#include "platform/win/keyedWindows.h"
 #include "platform/win/monitors.h"
 #include "platform/win/regions.h"
 #include "platform/win/windowOrder.h"
@@ -57,6 +58,8 @@ frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
     design.place = primaryWorkArea();
     design.takesTouchAtOnce = true;
     create(design);
+    layers_.emplace(handle(),
+                    cutsKeyedWindowsAsShapes() ? std::optional(mostRunsOfShape) : std::nullopt);
     keepFromFullScreenMode(handle());
     takeNoInputMethod(handle());
     takeDpi(GetDpiForWindow(handle()));
@@ -83,8 +86,7 @@ void frmWorksheet::setOwner(HWND owner) {
 
 void frmWorksheet::ApplyLayered() {
     const LayeredLook look = layeredLook(transparency_, aids_.background());
-    SetWindowLongPtrW(handle(), GWL_EXSTYLE, static_cast<LONG_PTR>(look.extendedStyle));
-    SetLayeredWindowAttributes(handle(), look.colorKey, static_cast<BYTE>(look.alpha), look.flags);
+    layers_->apply(look, painter_.picture());
 }
 
 void frmWorksheet::setTransparentToMouse(bool transparent) {

@@ -17,6 +17,7 @@
 #include "worksheet/SheetParts.h"
 #include "worksheet/SheetTip.h"
 #include "worksheet/transparency.h"
+#include "worksheet/win/SheetLayers.h"
 #include "worksheet/win/SheetPainter.h"
 #include "worksheet/win/SheetTeller.h"
 #include "worksheet/win/frmCrossHair.h"
@@ -148,6 +149,7 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     SheetParts parts_{sheet_};
     SheetTeller teller_{parts_};
     SheetPainter painter_;
+    std::optional<SheetLayers> layers_;
     SheetTip sheetTip_;
     std::unique_ptr<TipWindow> tip_;
     Subscription languageChanged_;

@@ -22,7 +22,7 @@ MouseInput mouseInput(int button, WPARAM wParam, LPARAM lParam) {
 std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_PAINT:
-            painter_.paint(handle());
+            painter_.paint(handle(), *layers_);
             return 0;
         case WM_ERASEBKGND:
             return 1;
