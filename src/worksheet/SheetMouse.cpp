@@ -126,11 +126,11 @@ bool SheetMouse::keyChanged(int key, int shift) {
 
 int SheetMouse::interval() const {
     // A little more than a tenth of a second, so that no look comes too early.
-    constexpr int outsideInterval = 110;
+    constexpr int tickOutside = 110;
     if (!sheet_.EditMode()) {
         return 0;
     }
-    return aids_.wantsTick() ? Aids::crossHairInterval : outsideInterval;
+    return aids_.wantsTick() ? Aids::crossHairInterval : tickOutside;
 }
 
 void SheetMouse::tick() {
