@@ -53,9 +53,12 @@ std::optional<LRESULT> frmResizer::onMessage(UINT message, WPARAM wParam, LPARAM
             return std::nullopt;
         case WM_KEYDOWN:
         case WM_SYSKEYDOWN:
-            return worksheet_.KeyDown(static_cast<int>(wParam), heldModifiers())
-                       ? std::optional<LRESULT>(0)
-                       : std::nullopt;
+            if (worksheet_.KeyDown(static_cast<int>(wParam), heldModifiers())) {
+                return 0;
+            }
+            // Who changes windows by the keyboard comes here, and means the tools.
+            SendMessageW(worksheet_.handle(), message, wParam, lParam);
+            return std::nullopt;
         case WM_TIMER:
             return onTimer(wParam);
         case WM_DPICHANGED:
