@@ -38,5 +38,22 @@ TEST(FuzzCorpus, ToolFileHoldsToItsRules) {
     EXPECT_GT(runCorpus("ToolFile", fuzzToolFile), 5);
 }
 
+TEST(FuzzCorpus, ToolKeysHoldToTheirRules) {
+    EXPECT_GT(runCorpus("ToolKeys", fuzzToolKeys), 5);
+    EXPECT_GT(runCorpus("ToolFile", fuzzToolKeys), 5);
+}
+
+TEST(FuzzCorpus, RunningListHoldsToItsRules) {
+    EXPECT_GT(runCorpus("ToolFile", fuzzRunningList), 5);
+}
+
+TEST(FuzzCorpus, NumericTextHoldsToItsRules) {
+    EXPECT_GT(runCorpus("NumericText", fuzzNumericText), 5);
+}
+
+TEST(FuzzCorpus, WindowPlacementHoldsToItsRules) {
+    EXPECT_GT(runCorpus("WindowPlacement", fuzzWindowPlacement), 5);
+}
+
 }  // namespace
 }  // namespace ormala

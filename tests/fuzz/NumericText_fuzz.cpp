@@ -1,0 +1,6 @@
+#include "fuzz/Targets.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    ormala::fuzzNumericText(data, size);
+    return 0;
+}
