@@ -46,6 +46,7 @@ class Monkey {
     [[nodiscard]] std::vector<std::string> panelTexts() const;
     void expectSavedTools() const;
     void endAndCompare();
+    void end();
     [[nodiscard]] std::string trace() const;
 
     std::uint32_t seed_;
