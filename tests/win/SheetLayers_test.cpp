@@ -4,7 +4,9 @@
 
 #include "support/win/Screen.h"
 #include "support/win/Wait.h"
+#include "support/win/onlyUnderWine.h"
 #include "win/LayeredPicture.h"
+#include "win/TestSheet.h"
 
 namespace ormala {
 namespace {
@@ -135,6 +137,36 @@ TEST(SheetLayers, AVeilIsTheSystemsAgain) {
     EXPECT_EQ(flags, static_cast<DWORD>(LWA_ALPHA));
     window.layers->apply(LayeredPicture::keyedLook(200), window.picture);
     EXPECT_TRUE(window.layers->byPixels());
+}
+
+TEST(SheetLayers, TheWorksheetChangesItsWayWithItsModeAndItsSize) {
+    TestSheet sheet({900, 700});
+    constexpr COLORREF point = RGB(1, 200, 30);
+    sheet.aids.grid = {true, 1, 2, static_cast<Color>(point), {5, 5, 0, 0}};
+    sheet.window().aidsChanged();
+    const HWND window = sheet.window().handle();
+    const bool cutsShapes = test::runsUnderWine();
+    const auto isKeyed = [&] {
+        return GetLayeredWindowAttributes(window, nullptr, nullptr, nullptr) != FALSE;
+    };
+    const auto resize = [&](int width, int height) {
+        SetWindowPos(window, nullptr, 20, 20, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+        UpdateWindow(window);
+    };
+    EXPECT_TRUE(isKeyed());
+    sheet.window().setClickable(false);
+    EXPECT_EQ(isKeyed(), !cutsShapes);
+    resize(300, 200);
+    EXPECT_TRUE(isKeyed());
+    resize(900, 700);
+    EXPECT_EQ(isKeyed(), !cutsShapes);
+    resize(950, 750);
+    EXPECT_EQ(isKeyed(), !cutsShapes);
+    EXPECT_TRUE(test::waitUntil([] {
+        return static_cast<COLORREF>(test::screen::pixel({20 + 940, 20 + 740})) == point;
+    }));
+    sheet.window().setClickable(true);
+    EXPECT_TRUE(isKeyed());
 }
 
 }  // namespace
