@@ -87,11 +87,6 @@ std::optional<Color> fixedPen(LensOverlay overlay, int mode) {
     }
 }
 
-Color plainColor(Color color, SystemColorLookup systemColor) {
-    const ColorParts parts = ColorComponents(color, systemColor);
-    return rgb(parts.red, parts.green, parts.blue);
-}
-
 }  // namespace
 
 RasterPen overlayPen(LensOverlay overlay, int mode, Color chosen, SystemColorLookup systemColor) {

@@ -24,8 +24,25 @@ int mixed(int a, int b, double strength, double part) {
 
 }  // namespace
 
+Color plainColor(Color color, SystemColorLookup systemColor) {
+    if (color >= 0) {
+        return color;
+    }
+    const auto role = roleOf(color);
+    if (!role) {
+        return systemColor(color & 0xFF);
+    }
+    return systemColor.highContrast() ? systemColor(*role) : color & figures;
+}
+
+Color plainTextColor(Color text, Color ground, SystemColorLookup systemColor) {
+    const auto role = roleOf(ground);
+    return systemColor.highContrast() && role ? systemColor(textRoleOn(*role))
+                                              : plainColor(text, systemColor);
+}
+
 ColorParts ColorComponents(Color color, SystemColorLookup systemColor) {
-    return partsOf(color < 0 ? systemColor(color & 0xFF) : color);
+    return partsOf(plainColor(color, systemColor));
 }
 
 float Luminance(Color color) {
@@ -52,6 +69,9 @@ Color GradientColor(int step, int steps, Color colorA, Color colorB, double redu
 
 Color OffsetColor(Color color, int delta, SystemColorLookup systemColor) {
     const ColorParts parts = ColorComponents(color, systemColor);
+    if (color < 0 && systemColor.highContrast()) {
+        return rgb(parts.red, parts.green, parts.blue);
+    }
     const auto moved = [delta](int part) { return std::clamp(part + delta, 0, 255); };
     return rgb(moved(parts.red), moved(parts.green), moved(parts.blue));
 }

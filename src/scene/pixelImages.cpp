@@ -1,7 +1,10 @@
 #include "scene/pixelImages.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
+
+#include "modAPI/drawingColors.h"
 
 namespace ormala {
 
@@ -72,6 +75,25 @@ PixelImage greyed(PixelImage image) {
                 static_cast<int>(channel(pixel, 0)));
         const auto grey = static_cast<std::uint32_t>(std::lround(Luminance(color) * fullChannel));
         pixel = (pixel & fullChannel << 24U) | grey << 16U | grey << 8U | grey;
+    }
+    return image;
+}
+
+PixelImage inTwoColors(PixelImage image, Color dark, Color light) {
+    const float darkest = Luminance(pictureInk::ink);
+    // The darkest of the other inks.
+    const float brightEnough = Luminance(pictureInk::red);
+    const std::uint32_t darkPixel = opaquePixel(dark);
+    const std::uint32_t lightPixel = opaquePixel(light);
+    for (std::uint32_t& pixel : image.argb) {
+        const auto channelOf = [pixel](unsigned shift) {
+            return static_cast<int>(channel(pixel, shift));
+        };
+        const float bright = Luminance(rgb(channelOf(16), channelOf(8), channelOf(0)));
+        const float part = std::clamp((bright - darkest) / (brightEnough - darkest), 0.0F, 1.0F);
+        const auto opacity = static_cast<std::uint32_t>(std::lround(255 * part));
+        const std::uint32_t mixed = blended(darkPixel, lightPixel, opacity);
+        pixel = (pixel & ~colorBits) | (mixed & colorBits);
     }
     return image;
 }

@@ -32,6 +32,10 @@ void blendOnto(PixelImage& ground, const PixelImage& picture, PixelPoint place);
 /// In grey of the same brightness.
 PixelImage greyed(PixelImage image);
 
+/// A drawing in light with dark edges, as one in two plain colours: what is dark in one, and all
+/// else in the other.
+PixelImage inTwoColors(PixelImage image, Color dark, Color light);
+
 /// With that part of its opacity, from 0 to 255.
 PixelImage faded(PixelImage image, int opacity);
 

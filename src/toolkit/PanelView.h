@@ -29,10 +29,10 @@ struct PanelLook {
     bool operator==(const PanelLook&) const = default;
 };
 
-inline constexpr PanelLook unselectedLook{dark::ground, dark::quietText, dark::deepestEdge,
+inline constexpr PanelLook unselectedLook{dark::ground, dark::quietText, dark::titleEnd,
                                           dark::ground, dark::ground};
-inline constexpr PanelLook selectedLook{dark::selectedGround, dark::text, dark::selectedGround,
-                                        dark::selectedGround, dark::selectedGround};
+inline constexpr PanelLook selectedLook{dark::selectedGround, dark::text, dark::selectedTitle,
+                                        dark::selectedTitle, dark::selectedGround};
 
 /// A button that shows a colour or a state.
 struct ButtonLook {

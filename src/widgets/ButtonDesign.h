@@ -13,6 +13,11 @@ inline constexpr int textButtonHeight = 24;
 /// the button is on, or a lamp that is lit.
 enum class ButtonSign { none, tick, lamp };
 
+/// What becomes of a button's picture in high contrast: a drawing in light and dark is shown in the
+/// colours of the button, mere lines in that of its text, and what shows what the user measures
+/// with stays what it is.
+enum class PictureKind { drawing, lines, preview };
+
 /// How a button is to look, as its owner has set it. Colours may be system colours; lengths are
 /// pixels at 96 DPI.
 struct ButtonDesign {
@@ -34,6 +39,7 @@ struct ButtonDesign {
     Color ForeColor = systemButtonText;
     /// Shows the picture in grey while the mouse is not over the button.
     bool GreyPicture = false;
+    PictureKind Kind = PictureKind::drawing;
     /// A face without gradient.
     bool PlaneFace = false;
     bool UseCornerStyle = true;

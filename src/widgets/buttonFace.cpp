@@ -71,7 +71,12 @@ FaceColors shadedColors(const ButtonDesign& design, const ButtonState& state,
                          : FaceColors{offset(raisedTop), offset(raisedBottom)};
 }
 
-std::optional<Color> markColor(const ButtonDesign& design, const ButtonState& state) {
+std::optional<Color> markColor(const ButtonDesign& design, const ButtonState& state,
+                               SystemColorLookup systemColor) {
+    if (systemColor.highContrast()) {
+        const bool marked = state.enabled && (state.hover || state.focused);
+        return marked ? std::optional(inkOf(design, state, systemColor)) : std::nullopt;
+    }
     if (state.enabled && state.hover) {
         return design.XPDefaultColors ? dark::hoverMark : design.XPColor_Hover;
     }
@@ -81,16 +86,23 @@ std::optional<Color> markColor(const ButtonDesign& design, const ButtonState& st
     return std::nullopt;
 }
 
+Color edgeColor(const ButtonState& state, SystemColorLookup systemColor) {
+    if (!state.enabled && systemColor.highContrast()) {
+        return plainColor(dark::dimOutline, systemColor);
+    }
+    return OffsetColor(dark::outline, state.enabled ? 0 : disabledOffset, systemColor);
+}
+
 void paintShaded(PixelImage& image, const ButtonDesign& design, const ButtonState& state, int dpi,
                  SystemColorLookup systemColor) {
     const int line = lineWidthAt(dpi);
     const RoundedBox outer = buttonShape(design, image.size, dpi);
-    const Color edge = OffsetColor(dark::outline, state.enabled ? 0 : disabledOffset, systemColor);
+    const Color edge = edgeColor(state, systemColor);
     const FaceColors face = shadedColors(design, state, systemColor);
     fillShape(image, outer, {edge, edge}, systemColor);
     const RoundedBox inner = outer.shrunk(line);
     fillShape(image, inner, face, systemColor);
-    if (const auto mark = markColor(design, state)) {
+    if (const auto mark = markColor(design, state, systemColor)) {
         const PixelImage unmarked = image;
         fillShape(image, inner, {*mark, *mark}, systemColor);
         copyShape(image, inner.shrunk(markLines * line), unmarked);
@@ -99,7 +111,7 @@ void paintShaded(PixelImage& image, const ButtonDesign& design, const ButtonStat
 
 Color flatBack(const ButtonDesign& design, const ButtonState& state,
                SystemColorLookup systemColor) {
-    if (!state.enabled || !(state.hover || state.pressed)) {
+    if (systemColor.highContrast() || !state.enabled || !(state.hover || state.pressed)) {
         return OffsetColor(design.BackColor, 0, systemColor);
     }
     if (!design.XPDefaultColors) {
@@ -116,7 +128,7 @@ void paintFlat(PixelImage& image, const ButtonDesign& design, const ButtonState&
     const Color back = flatBack(design, state, systemColor);
     PixelRect box{0, 0, image.size.width, image.size.height};
     if (state.enabled && (state.hover || state.pressed)) {
-        fillBox(image, box, opaquePixel(OffsetColor(design.ForeColor, 0, systemColor)));
+        fillBox(image, box, opaquePixel(inkOf(design, state, systemColor)));
         box = box.grown(-lineWidthAt(dpi));
     }
     fillBox(image, box, opaquePixel(back));
@@ -139,8 +151,19 @@ PixelImage buttonFace(const ButtonDesign& design, const ButtonState& state, Pixe
     return image;
 }
 
+Color inkOf(const ButtonDesign& design, const ButtonState& state, SystemColorLookup systemColor) {
+    return !state.enabled && systemColor.highContrast()
+               ? plainColor(dark::dimText, systemColor)
+               : plainTextColor(design.ForeColor, design.BackColor, systemColor);
+}
+
 PixelImage pictureInState(const PixelImage& picture, const ButtonDesign& design,
-                          const ButtonState& state) {
+                          const ButtonState& state, SystemColorLookup systemColor) {
+    if (systemColor.highContrast() && design.Kind != PictureKind::preview) {
+        const Color ink = inkOf(design, state, systemColor);
+        const bool lines = design.Kind == PictureKind::lines;
+        return inTwoColors(picture, lines ? ink : plainColor(design.BackColor, systemColor), ink);
+    }
     if (!state.enabled) {
         return faded(greyed(picture), disabledOpacity);
     }
@@ -183,8 +206,9 @@ void paintSign(PixelImage& face, const PixelRect& place, const ButtonDesign& des
     constexpr int fine = 4;
     const double side = place.width();
     const double line = 2 * lineWidthAt(dpi) / side;
-    const Color ink = state.enabled ? OffsetColor(design.ForeColor, 0, systemColor)
-                                    : OffsetColor(dark::outline, 0, systemColor);
+    const Color ink = state.enabled || systemColor.highContrast()
+                          ? inkOf(design, state, systemColor)
+                          : plainColor(dark::outline, systemColor);
     PixelImage drawn = filledImage({place.width(), place.height()}, 0);
     for (int y = 0; y < place.height(); ++y) {
         for (int x = 0; x < place.width(); ++x) {

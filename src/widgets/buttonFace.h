@@ -11,9 +11,13 @@ namespace ormala {
 PixelImage buttonFace(const ButtonDesign& design, const ButtonState& state, PixelSize size, int dpi,
                       SystemColorLookup systemColor);
 
-/// The picture as the state wants it shown: in grey, or faded.
+/// Of caption and sign of a button that is enabled, and in high contrast of all that stands out
+/// from its face.
+Color inkOf(const ButtonDesign& design, const ButtonState& state, SystemColorLookup systemColor);
+
+/// The picture as the state wants it shown: in grey, or faded, and in high contrast by its kind.
 PixelImage pictureInState(const PixelImage& picture, const ButtonDesign& design,
-                          const ButtonState& state);
+                          const ButtonState& state, SystemColorLookup systemColor);
 
 /// Draws the sign of a button at its place on the face.
 void paintSign(PixelImage& face, const PixelRect& place, const ButtonDesign& design,

@@ -4,46 +4,62 @@
 
 namespace ormala {
 
-/// The colours of all windows of controls, by what they are for.
+/// The colours of all windows of controls, by what they are for: in figures, and the role whose
+/// colour of the system stands for them in high contrast.
 namespace dark {
 /// Of windows and panels, of the selected panel, and of fields for entering something.
-inline constexpr Color ground = rgb(96, 96, 96);
-inline constexpr Color selectedGround = rgb(74, 74, 74);
-inline constexpr Color fieldGround = rgb(74, 74, 74);
+inline constexpr Color ground = roleColor(rgb(96, 96, 96), ColorRole::window);
+inline constexpr Color selectedGround = roleColor(rgb(74, 74, 74), ColorRole::window);
+inline constexpr Color fieldGround = roleColor(rgb(74, 74, 74), ColorRole::window);
 /// Of a field that is disabled, whose text the system draws in grey.
-inline constexpr Color dimField = rgb(64, 64, 64);
+inline constexpr Color dimField = roleColor(rgb(64, 64, 64), ColorRole::window);
 /// Behind pictures, and where the light falls.
-inline constexpr Color liftedGround = rgb(104, 104, 104);
-inline constexpr Color toolbarTop = rgb(124, 124, 124);
-inline constexpr Color deepestEdge = rgb(31, 31, 31);
+inline constexpr Color liftedGround = roleColor(rgb(104, 104, 104), ColorRole::window);
+inline constexpr Color toolbarTop = roleColor(rgb(124, 124, 124), ColorRole::window);
+inline constexpr Color deepestEdge = roleColor(rgb(31, 31, 31), ColorRole::windowText);
+
+/// Behind the heads of panels, at their darker ends, and of the selected one.
+inline constexpr Color titleEnd = roleColor(rgb(31, 31, 31), ColorRole::window);
+inline constexpr Color selectedTitle = roleColor(rgb(74, 74, 74), ColorRole::highlight);
 
 /// Of texts and values, of headings, and of what is disabled.
-inline constexpr Color text = pictureInk::accent;
-inline constexpr Color quietText = rgb(255, 255, 192);
-inline constexpr Color dimText = rgb(150, 150, 150);
+inline constexpr Color text = roleColor(pictureInk::accent, ColorRole::windowText);
+inline constexpr Color quietText = roleColor(rgb(255, 255, 192), ColorRole::windowText);
+inline constexpr Color dimText = roleColor(rgb(150, 150, 150), ColorRole::grayText);
+
+/// Of links, and of what throws a shadow on the ground.
+inline constexpr Color link = roleColor(pictureInk::accent, ColorRole::hotlight);
+inline constexpr Color textShadow = roleColor(rgb(64, 64, 64), ColorRole::window);
 
 /// Of a button or a row that is on, of the text on it, and of one that is off.
-inline constexpr Color on = pictureInk::frame;
-inline constexpr Color onText = rgb(31, 31, 31);
-inline constexpr Color off = rgb(112, 112, 112);
-inline constexpr Color pressed = rgb(84, 84, 84);
+inline constexpr Color on = roleColor(pictureInk::frame, ColorRole::highlight);
+inline constexpr Color onText = roleColor(rgb(31, 31, 31), ColorRole::highlightText);
+inline constexpr Color off = roleColor(rgb(112, 112, 112), ColorRole::buttonFace);
+inline constexpr Color pressed = roleColor(rgb(84, 84, 84), ColorRole::buttonFace);
 
-inline constexpr Color outline = rgb(64, 64, 64);
-inline constexpr Color dimOutline = rgb(84, 84, 84);
-inline constexpr Color hoverMark = rgb(225, 153, 71);
-inline constexpr Color focusMark = rgb(140, 170, 230);
-inline constexpr Color dimGlyph = rgb(128, 128, 128);
+/// On what is off: a mark, a row of ribs, and the sign of a field that is disabled.
+inline constexpr Color offMark = roleColor(pictureInk::accent, ColorRole::buttonText);
+inline constexpr Color offRibs = roleColor(rgb(64, 64, 64), ColorRole::buttonText);
+inline constexpr Color dimMark = roleColor(rgb(112, 112, 112), ColorRole::grayText);
+/// Of a chosen row's text in a list of turns.
+inline constexpr Color chosenRowText = roleColor(plain::black, ColorRole::highlightText);
+
+inline constexpr Color outline = roleColor(rgb(64, 64, 64), ColorRole::windowText);
+inline constexpr Color dimOutline = roleColor(rgb(84, 84, 84), ColorRole::grayText);
+inline constexpr Color hoverMark = roleColor(rgb(225, 153, 71), ColorRole::highlight);
+inline constexpr Color focusMark = roleColor(rgb(140, 170, 230), ColorRole::highlight);
+inline constexpr Color dimGlyph = roleColor(rgb(128, 128, 128), ColorRole::grayText);
 
 /// The buttons that leave the dialog of the patterns.
-inline constexpr Color patternDialogButton = rgb(128, 128, 128);
+inline constexpr Color patternDialogButton = roleColor(rgb(128, 128, 128), ColorRole::buttonFace);
 /// Behind the path line as long as it tells of no file.
-inline constexpr Color litPathLine = rgb(128, 128, 128);
+inline constexpr Color litPathLine = roleColor(rgb(128, 128, 128), ColorRole::window);
 
 // Of `ctlFrame`, whose quiet dark edge is an outline.
-inline constexpr Color frameBright = rgb(144, 144, 144);
-inline constexpr Color goldenFrame = rgb(43, 34, 0);
-inline constexpr Color goldenFrameBright = rgb(255, 234, 32);
-inline constexpr Color goldenFrameDark = rgb(144, 115, 0);
+inline constexpr Color frameBright = roleColor(rgb(144, 144, 144), ColorRole::window);
+inline constexpr Color goldenFrame = roleColor(rgb(43, 34, 0), ColorRole::windowText);
+inline constexpr Color goldenFrameBright = roleColor(rgb(255, 234, 32), ColorRole::window);
+inline constexpr Color goldenFrameDark = roleColor(rgb(144, 115, 0), ColorRole::window);
 
 /// Lines on the scales of the magnifier that stand back.
 inline constexpr Color quietScaleInk = rgb(128, 119, 38);
@@ -59,7 +75,8 @@ struct CaptionColors {
 };
 
 /// Of the buttons in dialogs, and of those that are on.
-inline constexpr CaptionColors dialogCaption{rgb(58, 58, 58), dark::text, false};
+inline constexpr CaptionColors dialogCaption{roleColor(rgb(58, 58, 58), ColorRole::buttonFace),
+                                             dark::text, false};
 inline constexpr CaptionColors dialogCaptionOn{dark::on, dark::onText, false};
 /// Of the toolbar.
 inline constexpr CaptionColors toolbarCaption{dark::off, dark::quietText, true};

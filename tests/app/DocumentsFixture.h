@@ -47,7 +47,7 @@ class DocumentsFixture : public ToolFileFixture {
   protected:
     const std::string automaticPath = "C:\\data\\Ormala Tools.ini";
     const std::string namedPath = "C:\\data\\named.OM";
-    static constexpr Color documentColor = 0xC0FFFF;
+    static constexpr Color documentColor = roleColor(0xC0FFFF, ColorRole::windowText);
 
     DocumentsFixture() {
         ini_.file.setPath("");

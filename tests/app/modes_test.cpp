@@ -37,8 +37,8 @@ TEST(Modes, TheEntriesOfTheSystemMenuSayTheirModes) {
 }
 
 TEST(Modes, AButtonThatIsOnIsLit) {
-    EXPECT_EQ(colorOfToggle(true), 0x00A8BB);
-    EXPECT_EQ(colorOfToggle(false), 0x707070);
+    EXPECT_EQ(colorOfToggle(true), roleColor(0x00A8BB, ColorRole::highlight));
+    EXPECT_EQ(colorOfToggle(false), roleColor(0x707070, ColorRole::buttonFace));
 }
 
 TEST(Modes, TheSystemMenuNumbersGoByMode) {

@@ -16,6 +16,9 @@
 namespace ormala {
 namespace {
 
+constexpr Color onFace = roleColor(rgb(187, 168, 0), ColorRole::highlight);
+constexpr Color offFace = roleColor(rgb(112, 112, 112), ColorRole::buttonFace);
+
 class SetMeasureTest : public testing::Test {
   protected:
     SetMeasureTest() {
@@ -140,18 +143,18 @@ TEST_F(SetMeasureTest, PauseDisablesThePanelAndHidesTheTool) {
     EXPECT_FALSE(visible_[&tool_]);
     EXPECT_EQ(view_.enabling, (PanelEnabling{false, true, false, false}));
     EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
-              (ButtonLook{rgb(187, 168, 0), true, std::nullopt, Picture::hide}));
+              (ButtonLook{onFace, true, std::nullopt, Picture::hide}));
     panel_.setPause(false);
     EXPECT_TRUE(visible_[&tool_]);
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, false, false}));
     EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
-              (ButtonLook{0x707070, false, std::nullopt, Picture::show}));
+              (ButtonLook{offFace, false, std::nullopt, Picture::show}));
 }
 
 TEST_F(SetMeasureTest, ANewPanelShowsTheOpenEyeAtOnce) {
     panel_.finish();
     EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
-              (ButtonLook{0x707070, false, std::nullopt, Picture::show}));
+              (ButtonLook{offFace, false, std::nullopt, Picture::show}));
 }
 
 TEST_F(SetMeasureTest, UndoingADisconnectShowsTheLinesConnectedAgain) {
@@ -176,11 +179,11 @@ TEST_F(SetMeasureTest, TheSwitchesTurnTheLabelsOnAndOff) {
     click("chkShowLength");
     EXPECT_FALSE(tool_.LabelsAngleVisible());
     EXPECT_FALSE(tool_.LabelsLengthVisible());
-    EXPECT_EQ(view_.buttons[MeasureControl::chkShowAngle], (ButtonLook{0x707070, false}));
-    EXPECT_EQ(view_.buttons[MeasureControl::chkShowLength], (ButtonLook{0x707070, false}));
+    EXPECT_EQ(view_.buttons[MeasureControl::chkShowAngle], (ButtonLook{offFace, false}));
+    EXPECT_EQ(view_.buttons[MeasureControl::chkShowLength], (ButtonLook{offFace, false}));
     later(1);
     click("chkShowAngle");
-    EXPECT_EQ(view_.buttons[MeasureControl::chkShowAngle], (ButtonLook{rgb(187, 168, 0), true}));
+    EXPECT_EQ(view_.buttons[MeasureControl::chkShowAngle], (ButtonLook{onFace, true}));
 }
 
 TEST_F(SetMeasureTest, ADarkColourShowsWhiteText) {

@@ -119,5 +119,39 @@ TEST(NextDefaultToolColor, KindsCountByThemselvesAndAResetConcernsOne) {
     EXPECT_EQ(colors.NextDefaultToolColor(2, false), rgb(0, 191, 191));
 }
 
+constexpr Color grey = roleColor(rgb(96, 97, 98), ColorRole::window);
+constexpr SystemColorLookup quiet(sampleSystemColor);
+constexpr SystemColorLookup contrasting(sampleSystemColor, true);
+
+TEST(RoleColor, IsItsFiguresUntilHighContrastGivesItsRoleAColor) {
+    EXPECT_EQ(plainColor(grey, quiet), rgb(96, 97, 98));
+    EXPECT_EQ(plainColor(grey, contrasting), sampleSystemColor(5));
+    EXPECT_EQ(ColorComponents(grey, quiet), (ColorParts{96, 97, 98}));
+    EXPECT_EQ(plainColor(rgb(1, 2, 3), contrasting), rgb(1, 2, 3));
+    EXPECT_EQ(roleOf(grey), ColorRole::window);
+    EXPECT_EQ(roleOf(rgb(255, 255, 255)), std::nullopt);
+    EXPECT_EQ(roleOf(static_cast<Color>(0x8000000FU)), std::nullopt);
+    EXPECT_EQ(grey & figures, rgb(96, 97, 98));
+}
+
+TEST(RoleColor, IsNotShadedInHighContrast) {
+    EXPECT_EQ(OffsetColor(grey, 10, quiet), rgb(106, 107, 108));
+    EXPECT_EQ(OffsetColor(grey, 10, contrasting), sampleSystemColor(5));
+    // What the user has chosen is.
+    EXPECT_EQ(OffsetColor(rgb(1, 2, 3), 10, contrasting), rgb(11, 12, 13));
+}
+
+TEST(PlainTextColor, BelongsToItsGroundInHighContrast) {
+    constexpr Color text = roleColor(rgb(255, 230, 0), ColorRole::windowText);
+    constexpr Color button = roleColor(rgb(1, 1, 1), ColorRole::buttonFace);
+    constexpr Color chosen = roleColor(rgb(2, 2, 2), ColorRole::highlight);
+    EXPECT_EQ(plainTextColor(text, button, quiet), rgb(255, 230, 0));
+    EXPECT_EQ(plainTextColor(text, button, contrasting), sampleSystemColor(18));
+    EXPECT_EQ(plainTextColor(text, chosen, contrasting), sampleSystemColor(14));
+    EXPECT_EQ(plainTextColor(text, grey, contrasting), sampleSystemColor(8));
+    // A swatch keeps its own text.
+    EXPECT_EQ(plainTextColor(rgb(0, 0, 0), rgb(9, 9, 9), contrasting), 0);
+}
+
 }  // namespace
 }  // namespace ormala

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "modAPI/drawingColors.h"
+
 namespace ormala {
 namespace {
 
@@ -45,6 +47,21 @@ TEST(greyed, KeepsBrightnessAndOpacity) {
 TEST(faded, TakesItsPartOfTheOpacityOnly) {
     const PixelImage image{{2, 1}, {0xFF123456U, 0x80FFFFFFU}};
     EXPECT_EQ(faded(image, 128).argb, (std::vector<std::uint32_t>{0x80123456U, 0x40FFFFFFU}));
+}
+
+TEST(InTwoColors, TakesDarkInkForOneAndAllElseForTheOther) {
+    const PixelImage drawn{
+        {5, 1},
+        {opaquePixel(pictureInk::ink), opaquePixel(pictureInk::paper),
+         opaquePixel(pictureInk::accent), opaquePixel(pictureInk::red), 0x40EBEBEBU}};
+    const PixelImage two = inTwoColors(drawn, rgb(1, 2, 3), rgb(250, 251, 252));
+    EXPECT_EQ(two.argb,
+              (std::vector{0xFF010203U, 0xFFFAFBFCU, 0xFFFAFBFCU, 0xFFFAFBFCU, 0x40FAFBFCU}));
+    // Between the inks lies what is between the colours.
+    const PixelImage edge{{1, 1}, {0xFF404040U}};
+    const std::uint32_t mixed = inTwoColors(edge, plain::black, plain::white).argb[0] & 0xFFU;
+    EXPECT_GT(mixed, 0x20U);
+    EXPECT_LT(mixed, 0xE0U);
 }
 
 }  // namespace

@@ -6,6 +6,9 @@
 namespace ormala {
 namespace {
 
+constexpr Color onFace = roleColor(rgb(187, 168, 0), ColorRole::highlight);
+constexpr Color offFace = roleColor(rgb(112, 112, 112), ColorRole::buttonFace);
+
 class SetRatioGridTest : public SetRatioGridFixture {};
 
 TEST_F(SetRatioGridTest, ShowsTheToolThatItWasGiven) {
@@ -78,7 +81,7 @@ TEST_F(SetRatioGridTest, PauseHidesTheToolAndDisablesThePanel) {
     EXPECT_FALSE(visible_[&tool_]);
     EXPECT_EQ(view_.enabling, (PanelEnabling{false, false, false, false}));
     EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
-              (ButtonLook{rgb(112, 112, 112), true, std::nullopt, Picture::hide}));
+              (ButtonLook{offFace, true, std::nullopt, Picture::hide}));
     later(1);
     panel_->ShowAllProps(true);
     EXPECT_EQ(view_.enabling, (PanelEnabling{false, false, false, false}));
@@ -86,12 +89,12 @@ TEST_F(SetRatioGridTest, PauseHidesTheToolAndDisablesThePanel) {
     EXPECT_TRUE(visible_[&tool_]);
     EXPECT_EQ(view_.enabling, (PanelEnabling{true, true, true, false}));
     EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
-              (ButtonLook{rgb(187, 168, 0), false, std::nullopt, Picture::show}));
+              (ButtonLook{onFace, false, std::nullopt, Picture::show}));
 }
 
 TEST_F(SetRatioGridTest, ANewPanelShowsTheOpenEyeAtOnce) {
     EXPECT_EQ(view_.buttons[CommonControl::cmdPause],
-              (ButtonLook{rgb(187, 168, 0), false, std::nullopt, Picture::show}));
+              (ButtonLook{onFace, false, std::nullopt, Picture::show}));
 }
 
 TEST_F(SetRatioGridTest, UndoAndRedoLeaveAHiddenToolAlone) {

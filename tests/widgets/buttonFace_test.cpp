@@ -170,15 +170,15 @@ TEST(buttonFace, PressedContentSinksByOnePixelAndRisesByTwoInTheFlatStyle) {
 TEST(pictureInState, GreyPictureGetsItsColoursUnderTheMouse) {
     const PixelImage red{{1, 1}, {0x80FF0000U}};
     ButtonDesign design = grey();
-    EXPECT_EQ(pictureInState(red, design, {}).argb, red.argb);
+    EXPECT_EQ(pictureInState(red, design, {}, nullptr).argb, red.argb);
     design.GreyPicture = true;
-    EXPECT_EQ(pictureInState(red, design, {}).argb, std::vector{0x80363636U});
-    EXPECT_EQ(pictureInState(red, design, {true, true, false, false}).argb, red.argb);
+    EXPECT_EQ(pictureInState(red, design, {}, nullptr).argb, std::vector{0x80363636U});
+    EXPECT_EQ(pictureInState(red, design, {true, true, false, false}, nullptr).argb, red.argb);
 }
 
 TEST(pictureInState, DisabledPictureIsGreyAndFaded) {
     const PixelImage red{{1, 1}, {0xFFFF0000U}};
-    EXPECT_EQ(pictureInState(red, grey(), {false, false, false, false}).argb,
+    EXPECT_EQ(pictureInState(red, grey(), {false, false, false, false}, nullptr).argb,
               std::vector{0x60363636U});
 }
 
@@ -248,6 +248,85 @@ TEST(buttonFace, CaptionsStandOutFromEachRowBehindThem) {
             }
         }
     }
+}
+
+/// The ground, the text, the chosen ground and its text of a black scheme, each of its own.
+Color blackScheme(int index) {
+    switch (static_cast<ColorRole>(index)) {
+        case ColorRole::window:
+        case ColorRole::buttonFace:
+            return rgb(0, 0, 0);
+        case ColorRole::buttonText:
+            return rgb(0, 255, 1);
+        case ColorRole::highlight:
+            return rgb(26, 235, 255);
+        case ColorRole::highlightText:
+            return rgb(2, 0, 2);
+        case ColorRole::grayText:
+            return rgb(63, 242, 63);
+        default:
+            return rgb(255, 255, 255);
+    }
+}
+
+constexpr SystemColorLookup contrasting(blackScheme, true);
+constexpr ButtonState resting{true, false, false, false};
+constexpr ButtonState disabled{false, false, false, false};
+
+ButtonDesign inRole(Color ground) {
+    ButtonDesign design;
+    design.BackColor = ground;
+    design.ForeColor = dark::text;
+    return design;
+}
+
+TEST(buttonFaceInHighContrast, IsPlaneInTheColorOfItsRole) {
+    for (const ButtonState& state : {resting, disabled, ButtonState{true, false, true, false}}) {
+        const PixelImage image = buttonFace(inRole(dark::off), state, size, 96, contrasting);
+        for (int y = 1; y < 21; ++y) {
+            EXPECT_EQ(pixelAt(image, {20, y}), opaquePixel(rgb(0, 0, 0))) << y;
+        }
+        const Color edge = state.enabled ? rgb(255, 255, 255) : rgb(63, 242, 63);
+        EXPECT_EQ(pixelAt(image, {20, 0}), opaquePixel(edge));
+    }
+    const PixelImage on = buttonFace(inRole(dark::on), resting, size, 96, contrasting);
+    EXPECT_EQ(pixelAt(on, {20, 10}), opaquePixel(rgb(26, 235, 255)));
+}
+
+TEST(buttonFaceInHighContrast, MarksFocusAndMouseInTheColorOfItsText) {
+    for (const Color ground : {dark::off, dark::on}) {
+        ButtonState state = resting;
+        state.focused = true;
+        const PixelImage image = buttonFace(inRole(ground), state, size, 96, contrasting);
+        EXPECT_EQ(pixelAt(image, {20, 1}), opaquePixel(inkOf(inRole(ground), state, contrasting)));
+    }
+}
+
+TEST(buttonFaceInHighContrast, InkBelongsToTheFace) {
+    EXPECT_EQ(inkOf(inRole(dark::off), resting, contrasting), rgb(0, 255, 1));
+    EXPECT_EQ(inkOf(inRole(dark::on), resting, contrasting), rgb(2, 0, 2));
+    EXPECT_EQ(inkOf(inRole(dark::off), disabled, contrasting), rgb(63, 242, 63));
+    EXPECT_EQ(inkOf(inRole(dark::off), resting, sampleSystemColor), dark::text & figures);
+    // A swatch keeps face and text.
+    EXPECT_EQ(inkOf(grey(), resting, contrasting), rgb(255, 230, 0));
+    EXPECT_NE(pixelAt(buttonFace(grey(), resting, size, 96, contrasting), {20, 1}),
+              pixelAt(buttonFace(grey(), resting, size, 96, contrasting), {20, 20}));
+}
+
+TEST(buttonFaceInHighContrast, PicturesTakeTheColorsOfTheFaceByTheirKind) {
+    const PixelImage drawn{{2, 1}, {opaquePixel(pictureInk::ink), opaquePixel(pictureInk::paper)}};
+    const std::uint32_t face = opaquePixel(rgb(26, 235, 255));
+    const std::uint32_t ink = opaquePixel(rgb(2, 0, 2));
+    ButtonDesign design = inRole(dark::on);
+    EXPECT_EQ(pictureInState(drawn, design, resting, contrasting).argb, (std::vector{face, ink}));
+    EXPECT_EQ(pictureInState(drawn, design, resting, sampleSystemColor).argb, drawn.argb);
+    design.Kind = PictureKind::lines;
+    EXPECT_EQ(pictureInState(drawn, design, resting, contrasting).argb, (std::vector{ink, ink}));
+    design.Kind = PictureKind::preview;
+    EXPECT_EQ(pictureInState(drawn, design, resting, contrasting).argb, drawn.argb);
+    design = inRole(dark::off);
+    EXPECT_EQ(pictureInState(drawn, design, disabled, contrasting).argb[1],
+              opaquePixel(rgb(63, 242, 63)));
 }
 
 }  // namespace

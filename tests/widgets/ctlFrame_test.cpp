@@ -8,9 +8,9 @@ namespace ormala {
 namespace {
 
 constexpr PixelSize panel{60, 40};
-constexpr Color goldBright = rgb(255, 234, 32);
-constexpr Color goldDark = rgb(144, 115, 0);
-constexpr Color brown = 8747;
+constexpr Color goldBright = roleColor(rgb(255, 234, 32), ColorRole::window);
+constexpr Color goldDark = roleColor(rgb(144, 115, 0), ColorRole::window);
+constexpr Color brown = roleColor(rgb(43, 34, 0), ColorRole::windowText);
 
 RasterCanvas drawn(int style, const PixelRect& box = {0, 0, panel.width, panel.height}) {
     ctlFrame frame;

@@ -15,6 +15,7 @@
 #include "storage/win/WindowsCodePage.h"
 #include "win/ModalPlayer.h"
 #include "win/ModesStage.h"
+#include "win/PlayedContrast.h"
 #include "win/ReplacedImport.h"
 
 // Frames and standard controls are dark, as the windows of the program are.
@@ -53,13 +54,16 @@ class NotedLook {
         return noted;
     }
     static HRESULT WINAPI noteAttribute(HWND window, DWORD attribute, LPCVOID value, DWORD size) {
-        if (size == sizeof(BOOL) && *static_cast<const BOOL*>(value) != FALSE) {
-            attributes().emplace_back(window, attribute);
+        if (size == sizeof(BOOL)) {
+            std::erase(attributes(), std::pair{window, attribute});
+            if (*static_cast<const BOOL*>(value) != FALSE) {
+                attributes().emplace_back(window, attribute);
+            }
         }
         return S_OK;
     }
     static HRESULT WINAPI noteTheme(HWND window, LPCWSTR name, LPCWSTR /*parts*/) {
-        themes()[window] = name;
+        themes()[window] = name != nullptr ? name : L"";
         return S_OK;
     }
     static FARPROC WINAPI find(HMODULE library, LPCSTR name) {
@@ -84,7 +88,9 @@ class DarkWindows : public ModesStage {
         EnumThreadWindows(
             GetCurrentThreadId(),
             [](HWND window, LPARAM list) -> BOOL {
-                if ((GetWindowLongPtrW(window, GWL_STYLE) & WS_CAPTION) == WS_CAPTION) {
+                // The system has one for its own messages, wherever objects are handed over.
+                const bool own = classNameOf(window) != "OleMainThreadWndClass";
+                if (own && (GetWindowLongPtrW(window, GWL_STYLE) & WS_CAPTION) == WS_CAPTION) {
                     reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
                 }
                 return TRUE;
@@ -141,6 +147,26 @@ TEST_F(DarkWindows, ListsAndFieldsAreDark) {
         },
         reinterpret_cast<LPARAM>(&kinds));
     EXPECT_GE(std::ranges::count(kinds, "ComboBox"), 1);
+}
+
+TEST_F(DarkWindows, HighContrastTakesTheDarkAwayAndGivesItBack) {
+    start();
+    const WindowsCodePage codePage;
+    const frmUnit units("Ormala", ".", codePage);
+    const HWND combo = FindWindowExW(units.handle(), nullptr, L"ComboBox", nullptr);
+    ASSERT_NE(combo, nullptr);
+    const PlayedContrast contrast;
+    for (const bool on : {true, false}) {
+        PlayedContrast::turn(on);
+        for (const HWND window : framedWindows()) {
+            EXPECT_EQ(NotedLook::isOn(window, darkMode), !on) << classNameOf(window);
+        }
+        EXPECT_EQ(NotedLook::themeOf(combo), on ? L"" : L"DarkMode_CFD");
+    }
+    // Made while it is on.
+    PlayedContrast::turn(true);
+    const frmColor colors;
+    EXPECT_FALSE(NotedLook::isOn(colors.handle(), darkMode));
 }
 
 }  // namespace

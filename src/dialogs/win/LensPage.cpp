@@ -117,7 +117,8 @@ void LensPage::makeStylePictures() {
         ZelvikButtonXP& button = optHotSpotStyle_[style];
         button.setCaption(std::to_string(style + 1));
         button.setPictureSize(stylePicture, stylePicture);
-        button.setPicture([style](PixelSize size) { return drawHotSpotPicture(style, size); });
+        button.setPicture([style](PixelSize size) { return drawHotSpotPicture(style, size); },
+                          PictureKind::preview);
     }
 }
 

@@ -38,7 +38,7 @@ void LinkLabel::draw(HDC context) {
     fillRect(context, area, backColor());
     const Selected font(context, font_.get());
     SetBkMode(context, TRANSPARENT);
-    SetTextColor(context, colorRef(dark::text));
+    SetTextColor(context, colorRef(dark::link));
     RECT place = area;
     InflateRect(&place, -scaledLength(margin, dpi()), 0);
     DrawTextW(context, wide(text()).c_str(), -1, &place,

@@ -52,7 +52,7 @@ void TitleLabel::draw(HDC context) {
         SetTextColor(context, colorRef(color));
         DrawTextW(context, shown.c_str(), -1, &place, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
     };
-    write(dark::outline, scaledLength(shadowDistance, dpi()));
+    write(dark::textShadow, scaledLength(shadowDistance, dpi()));
     write(dark::text, 0);
 }
 

@@ -47,7 +47,8 @@ void frmColor::makeControls() {
     for (int index = 0; index < paletteCount; ++index) {
         ZelvikButtonXP& button = btnPalette_[index];
         button.setPictureSize(palettePictureSize.width, palettePictureSize.height);
-        button.setPicture([index](PixelSize size) { return palettePicture(index, size); });
+        button.setPicture([index](PixelSize size) { return palettePicture(index, size); },
+                          PictureKind::preview);
         button.setCornerStyle(index == 0 ? 1 : index == paletteCount - 1 ? 2 : 3);
         handlers_.push_back(
             button.KeyDown.subscribe([this](KeyArguments pressed) { onKey(pressed.keyCode); }));

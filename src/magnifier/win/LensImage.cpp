@@ -53,8 +53,8 @@ void LensImage::refresh(const LensImageLook& look, PixelPoint source, const Pixe
     enlarge(look.layout);
     const PixelView picBuff = picLens_.picture().view();
     drawPointer(picBuff, pointerPicture_, look.hotSpot, look.layout.Factor);
-    DrawGrid(picBuff, look, &systemColor);
-    DrawHotSpot(picBuff, look, &systemColor);
+    DrawGrid(picBuff, look, systemColors());
+    DrawHotSpot(picBuff, look, systemColors());
     // A grid that is switched on keeps the last row and column free at any factor.
     picLens_.setRim(look.options.gridOn && look.layout.GridTrim == 0 ? 1 : 0);
     picLens_.setChanged();

@@ -43,6 +43,6 @@ class LensPicture : public Window {
 };
 
 /// The ground of the window where it shows nothing.
-inline constexpr Color lensGround = dark::fieldGround;
+inline constexpr Color lensGround = dark::fieldGround & figures;
 
 }  // namespace ormala

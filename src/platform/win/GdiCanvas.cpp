@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/win/fonts.h"
+#include "platform/win/highContrast.h"
 #include "platform/win/text.h"
 
 namespace ormala {
@@ -31,10 +32,7 @@ std::span<const POINT> systemPoints(std::span<const PixelPoint> points) {
 }  // namespace
 
 COLORREF colorRef(Color color) {
-    if (color < 0) {
-        return GetSysColor(color & 0xFF);
-    }
-    return static_cast<COLORREF>(color);
+    return static_cast<COLORREF>(plainColor(color, systemColors()));
 }
 
 UINT alignmentFormat(Alignment alignment) {
@@ -49,8 +47,12 @@ UINT alignmentFormat(Alignment alignment) {
     return DT_LEFT;
 }
 
-Color systemColor(int index) {
-    return static_cast<Color>(GetSysColor(index));
+COLORREF textColorRef(Color text, Color ground) {
+    return static_cast<COLORREF>(plainTextColor(text, ground, systemColors()));
+}
+
+SystemColorLookup systemColors() {
+    return {[](int index) { return static_cast<Color>(GetSysColor(index)); }, isHighContrast()};
 }
 
 GdiFonts::GdiFonts(int dpi) : dpi_(dpi), context_(CreateCompatibleDC(nullptr)) {}

@@ -50,13 +50,15 @@ class GdiCanvas : public Canvas {
     PenHandle penHandle_;
 };
 
-/// A plain colour; a system colour (negative) is looked up.
+/// A colour as it is to be seen now; see `plainColor`.
 COLORREF colorRef(Color color);
+/// The same of a text on a ground; see `plainTextColor`.
+COLORREF textColorRef(Color text, Color ground);
 
 /// The DT_ flag of an alignment.
 UINT alignmentFormat(Alignment alignment);
 
-/// The plain colour of a system colour index.
-Color systemColor(int index);
+/// The colours of the system as they are now.
+SystemColorLookup systemColors();
 
 }  // namespace ormala

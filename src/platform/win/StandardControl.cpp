@@ -29,6 +29,7 @@ void StandardControl::create(HWND parent, const ControlDesign& design) {
                                 narrow(design.className));
     }
     setControlName(handle_, design.name);
+    ownsTheme_ = true;
     darkenControl(handle_);
     attach(handle_);
 }
@@ -68,6 +69,9 @@ LRESULT CALLBACK StandardControl::dispatch(HWND handle, UINT message, WPARAM wPa
 std::optional<LRESULT> StandardControl::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (tip_ && isMouseMessage(message)) {
         tip_->relay(message, wParam, lParam);
+    }
+    if (message == WM_SYSCOLORCHANGE && ownsTheme_) {
+        darkenControl(handle_);
     }
     if (const auto answer = accessibleMessage(message, wParam, lParam)) {
         return answer;

@@ -59,6 +59,8 @@ class StandardControl {
     std::optional<LRESULT> accessibleMessage(UINT message, WPARAM wParam, LPARAM lParam) const;
 
     HWND handle_ = nullptr;
+    /// Not so: a part of another control.
+    bool ownsTheme_ = false;
     std::optional<TipWindow> tip_;
     std::string accessibleName_;
     long accessibleRole_ = 0;

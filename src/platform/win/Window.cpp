@@ -8,6 +8,7 @@
 #include "platform/win/callbackGuard.h"
 #include "platform/win/composition.h"
 #include "platform/win/controlName.h"
+#include "platform/win/highContrast.h"
 #include "platform/win/text.h"
 #include "scene/Input.h"
 
@@ -132,6 +133,9 @@ LRESULT CALLBACK Window::dispatch(HWND handle, UINT message, WPARAM wParam, LPAR
         }
         if (message == WM_TABLET_QUERYSYSTEMGESTURESTATUS && window->takesTouchAtOnce_) {
             return TABLET_DISABLE_PRESSANDHOLD | TABLET_DISABLE_FLICKS;
+        }
+        if (tellsOfColors(message, wParam) && GetAncestor(handle, GA_ROOT) == handle) {
+            followColors(handle);
         }
         const auto handled = [&] { return window->onMessage(message, wParam, lParam); };
         if (const auto result = guarded(std::nullopt, handled)) {

@@ -3,6 +3,7 @@
 #include <dwmapi.h>
 
 #include "platform/win/SystemLibrary.h"
+#include "platform/win/highContrast.h"
 
 namespace ormala {
 
@@ -13,8 +14,7 @@ const SystemLibrary& library() {
     return composition;
 }
 
-void turnOn(HWND window, DWORD attribute) {
-    const BOOL on = TRUE;
+void turn(HWND window, DWORD attribute, BOOL on) {
     if (auto* const set =
             library().function<decltype(DwmSetWindowAttribute)>("DwmSetWindowAttribute")) {
         set(window, attribute, &on, sizeof on);
@@ -39,11 +39,11 @@ bool isCloaked(HWND window) {
 void darkenFrame(HWND window) {
     // DWMWA_USE_IMMERSIVE_DARK_MODE, which older headers do not know.
     constexpr DWORD darkMode = 20;
-    turnOn(window, darkMode);
+    turn(window, darkMode, isHighContrast() ? FALSE : TRUE);
 }
 
 void showWithoutFading(HWND window) {
-    turnOn(window, DWMWA_TRANSITIONS_FORCEDISABLED);
+    turn(window, DWMWA_TRANSITIONS_FORCEDISABLED, TRUE);
 }
 
 }  // namespace ormala

@@ -12,7 +12,7 @@ void waitForComposition();
 /// Whether the system keeps a window that is shown out of sight, as those of suspended programs.
 bool isCloaked(HWND window);
 
-/// Title bar and border are dark, as what they frame.
+/// Title bar and border are dark, as what they frame; in high contrast they are the system's.
 void darkenFrame(HWND window);
 
 /// The window is there and gone at once, so that a picture of the screen has no trace of it.

@@ -3,6 +3,7 @@
 #include <uxtheme.h>
 
 #include "platform/win/SystemLibrary.h"
+#include "platform/win/highContrast.h"
 
 namespace ormala {
 
@@ -11,7 +12,7 @@ namespace {
 void setTheme(HWND control, const wchar_t* name) {
     static const SystemLibrary themes(L"uxtheme.dll");
     if (auto* const set = themes.function<decltype(SetWindowTheme)>("SetWindowTheme")) {
-        set(control, name, nullptr);
+        set(control, isHighContrast() ? nullptr : name, nullptr);
     }
 }
 

@@ -85,7 +85,8 @@ void RotationList::drawRow(const DRAWITEMSTRUCT& item) const {
     fillRect(item.hDC, item.rcItem, selected ? dark::on : dark::fieldGround);
     RECT box = item.rcItem;
     box.left += scaledLength(textMargin, dpi_);
-    drawText(item.hDC, static_cast<int>(item.itemID), box, selected ? plain::black : dark::text);
+    drawText(item.hDC, static_cast<int>(item.itemID), box,
+             selected ? dark::chosenRowText : dark::text);
 }
 
 void RotationList::drawText(HDC context, int row, RECT box, Color color) const {
@@ -102,7 +103,7 @@ void RotationList::drawField(HDC context) const {
     RECT box{};
     GetClientRect(handle(), &box);
     paintField(context, box, true, GetFocus() == handle(), dpi_);
-    const Color color = isEnabled() ? dark::text : dark::off;
+    const Color color = isEnabled() ? dark::text : dark::dimMark;
     const int height = scaledLength(arrowHeight, dpi_);
     const int line = lineWidthAt(dpi_);
     const PixelPoint arrow{static_cast<int>(box.right) - line - scaledLength(arrowWidth, dpi_) / 2,

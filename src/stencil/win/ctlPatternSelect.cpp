@@ -92,7 +92,7 @@ void ctlPatternSelect::makePatterns() {
         auto choice = std::make_unique<Choice>(handle(), idFirstPattern + i,
                                                "Pattern(" + std::to_string(i) + ")");
         choice->button.setPictureSize(pictureSide, pictureSide);
-        choice->button.setPicture(pictureOf(i));
+        choice->button.setPicture(pictureOf(i), PictureKind::lines);
         choice->click = choice->button.Click.subscribe([this, i] {
             page_->choosePattern(i);
             showSetting();

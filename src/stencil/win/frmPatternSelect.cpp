@@ -172,9 +172,11 @@ void frmPatternSelect::showTab(int tab) {
     button.setValue(open);
     button.setBackColor(open ? dark::on : dark::off);
     button.setForeColor(color);
-    button.setPicture([patterns = choice_->patternsOfTab(tab), color](PixelSize size) {
-        return patternLines(patterns, size, color, std::max(1, size.width / tabPicture));
-    });
+    button.setPicture(
+        [patterns = choice_->patternsOfTab(tab), color](PixelSize size) {
+            return patternLines(patterns, size, color, std::max(1, size.width / tabPicture));
+        },
+        PictureKind::lines);
 }
 
 void frmPatternSelect::showChange() {
@@ -200,7 +202,7 @@ void frmPatternSelect::paint(HDC context) {
 void frmPatternSelect::drawPreview(const DRAWITEMSTRUCT& item) const {
     const PixelRect box = fromRect(item.rcItem);
     const int inset = scaledLength(8, dpi());
-    fillBox(item.hDC, {0, 0, previewSide, previewSide}, dark::ground);
+    fillBox(item.hDC, {0, 0, previewSide, previewSide}, dark::ground & figures);
     const PixelSize size{box.width() - 2 * inset, box.height() - 2 * inset};
     SetViewportOrgEx(item.hDC, inset, inset, nullptr);
     copyPixels(item.hDC, GetPatternPicture(choice_->patterns(), size, dark::ground, dark::text,

@@ -101,7 +101,7 @@ void PanelWindow::makeControl(const PanelControl& row, int id) {
 void PanelWindow::makeBand(Control& made, const PanelControl& row, int id) {
     made.band = std::make_unique<GradShape>(handle(), id, row.name);
     made.band->setColorBottomRight(row.part == PanelPart::titleBand ? look_.titleBottomRight
-                                                                    : dark::deepestEdge);
+                                                                    : dark::titleEnd);
 }
 
 void PanelWindow::makeLabel(Control& made, const PanelControl& row, int id) {
@@ -290,7 +290,7 @@ void PanelWindow::showButton(ControlId button, const ButtonLook& look) {
 }
 
 void PanelWindow::showPicture(ControlId button, PictureMaker maker) {
-    controlOf(button).button->setPicture(std::move(maker));
+    controlOf(button).button->setPicture(std::move(maker), PictureKind::preview);
 }
 
 void PanelWindow::enable(const PanelEnabling& enabling) {

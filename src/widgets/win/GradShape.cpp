@@ -24,7 +24,7 @@ LRESULT GradShape::paint() {
     const PaintScope scope(handle());
     const PixelRect client = fromRect(clientRectangle());
     copyPixels(scope.context(),
-               gradientImage(design_, {client.width(), client.height()}, &systemColor));
+               gradientImage(design_, {client.width(), client.height()}, systemColors()));
     return 0;
 }
 

@@ -65,7 +65,7 @@ void Label::drawGround(HDC context, const RECT& area) const {
     if (gradient_) {
         const PixelRect place = fromRect(area);
         copyPixels(context,
-                   gradientImage(*gradient_, {place.width(), place.height()}, &systemColor));
+                   gradientImage(*gradient_, {place.width(), place.height()}, systemColors()));
     } else {
         fillRect(context, area, backColor());
     }
@@ -77,7 +77,8 @@ void Label::draw(HDC context) {
     const Selected font(context, font_->get());
     SetBkMode(context, TRANSPARENT);
     const bool enabled = IsWindowEnabled(handle()) != FALSE;
-    SetTextColor(context, colorRef(enabled ? textColor_ : dark::dimText));
+    const Color ground = gradient_ ? gradient_->ColorTopLeft : backColor();
+    SetTextColor(context, enabled ? textColorRef(textColor_, ground) : colorRef(dark::dimText));
     DrawTextW(
         context, wide(drawnText()).c_str(), -1, &area,
         alignmentFormat(alignment_) | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);

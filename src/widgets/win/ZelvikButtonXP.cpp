@@ -79,8 +79,9 @@ void ZelvikButtonXP::dpiChanged() {
     applyShape();
 }
 
-void ZelvikButtonXP::setPicture(PictureMaker maker) {
+void ZelvikButtonXP::setPicture(PictureMaker maker, PictureKind kind) {
     picture_ = {std::move(maker), {}};
+    design_.Kind = kind;
     refresh();
 }
 

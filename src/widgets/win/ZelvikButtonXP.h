@@ -57,7 +57,7 @@ class ZelvikButtonXP : public PaintedControl, public ButtonEvents, private Butto
     void setFont(FontLook look, int points = 8);
 
     /// Each picture is made when it is first painted, and again in another size.
-    void setPicture(PictureMaker maker);
+    void setPicture(PictureMaker maker, PictureKind kind = PictureKind::drawing);
     /// Shown instead while the mouse is over the button.
     void setPictureHover(PictureMaker maker);
     /// In pixels at 96 DPI.

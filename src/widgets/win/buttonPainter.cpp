@@ -36,9 +36,9 @@ void drawCaption(HDC context, std::wstring text, const PixelRect& box, int shift
 
 void paintCaption(HDC context, const ButtonFaceLook& look, const PixelRect& box) {
     const std::wstring text = wide(look.design.Caption);
-    if (look.state.enabled) {
+    if (look.state.enabled || systemColors().highContrast()) {
         drawCaption(context, text, box, captionShift(look.design, look.state, look.dpi),
-                    look.design.ForeColor);
+                    inkOf(look.design, look.state, systemColors()));
         return;
     }
     drawCaption(context, text, box, lineWidthAt(look.dpi), systemHighlight);
@@ -68,12 +68,12 @@ void paintButton(HDC context, const ButtonFaceLook& look) {
     SetBkMode(context, TRANSPARENT);
     const ButtonDesign& design = look.design;
     const ButtonContent content = layOutButton(context, look);
-    PixelImage face = buttonFace(design, look.state, look.size, look.dpi, &systemColor);
+    PixelImage face = buttonFace(design, look.state, look.size, look.dpi, systemColors());
     const int shift = pictureShift(design, look.state, look.dpi);
-    blendOnto(face, pictureInState(look.picture, design, look.state),
+    blendOnto(face, pictureInState(look.picture, design, look.state, systemColors()),
               {content.picture.left + shift, content.picture.top + shift});
     if (!content.sign.empty()) {
-        paintSign(face, content.sign, design, look.state, look.dpi, &systemColor);
+        paintSign(face, content.sign, design, look.state, look.dpi, systemColors());
     }
     copyPixels(context, face);
     if (look.state.focused && design.ShowFocusRect && design.ButtonStyle != 2) {

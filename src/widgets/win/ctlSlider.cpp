@@ -140,7 +140,7 @@ void ctlSlider::drawHandle(HDC context) const {
     }
     const int middle = box.left + (box.width() - line) / 2;
     fillRect(context, toRect({middle, box.top + 4 * line, middle + line, box.bottom - 4 * line}),
-             dark::text);
+             dark::offMark);
 }
 
 void ctlSlider::draw(HDC context) {

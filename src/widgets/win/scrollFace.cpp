@@ -69,7 +69,7 @@ void paintArrowButton(HDC context, const PixelRect& box, ScrollPart part, bool l
     const int sunk = look.pressed == part ? look.lineWidth : 0;
     const PixelRect place{box.left + sunk, box.top + sunk, box.right + sunk, box.bottom + sunk};
     paintArrow(context, place, lying, part == ScrollPart::topLeft,
-               look.enabled ? dark::text : dark::dimGlyph);
+               look.enabled ? dark::offMark : dark::dimGlyph);
 }
 
 /// Three lines across the middle of the thumb, where it is long enough for them.
@@ -88,7 +88,7 @@ void paintRibs(HDC context, const PixelRect& thumb, bool lying, int line) {
                                                 thumb.left + along + line, thumb.bottom - across}
                                     : PixelRect{thumb.left + across, thumb.top + along,
                                                 thumb.right - across, thumb.top + along + line};
-        fill(context, rib, dark::outline);
+        fill(context, rib, dark::offRibs);
     }
 }
 
