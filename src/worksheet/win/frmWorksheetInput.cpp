@@ -54,11 +54,6 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
         case WM_SYSCOMMAND:
             // Releasing Alt after a drag must not open a menu that takes the keys away.
             return (wParam & 0xFFF0U) == SC_KEYMENU ? std::optional<LRESULT>(0) : std::nullopt;
-        case WM_ACTIVATE:
-            if (LOWORD(wParam) != WA_INACTIVE) {
-                activated.raise();
-            }
-            return std::nullopt;
         case WM_SETFOCUS:
             sheet_.windowGotFocus();
             teller_.windowGotFocus();
@@ -94,11 +89,16 @@ std::optional<LRESULT> frmWorksheet::onScreenReader(UINT message, WPARAM wParam,
     }
 }
 
-/// What tells of another place of the window, or of other screens.
+/// What tells of another place of the window, also among others, or of other screens.
 std::optional<LRESULT> frmWorksheet::onPlaceMessage(UINT message, WPARAM wParam) {
     switch (message) {
         case WM_WINDOWPOSCHANGED:
             keepTime();
+            return std::nullopt;
+        case WM_ACTIVATE:
+            if (LOWORD(wParam) != WA_INACTIVE) {
+                activated.raise();
+            }
             return std::nullopt;
         case WM_SIZE:
             return onResize();
