@@ -18,12 +18,12 @@ using enum MeasureGrip;
 
 using ormala::shown;
 
-std::string shown(const Line& line) {
+std::string shownLine(const Line& line) {
     return shown(line.x1) + "," + shown(line.y1) + " " + shown(line.x2) + "," + shown(line.y2);
 }
 
 std::string linesOf(const MeasureOnSheet& stage) {
-    return shown(stage.tool.LineA()) + " | " + shown(stage.tool.LineB());
+    return shownLine(stage.tool.LineA()) + " | " + shownLine(stage.tool.LineB());
 }
 
 /// Line a to the right, from its free end on (400, 400) to the common point (500, 400); line b up.

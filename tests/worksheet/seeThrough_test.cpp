@@ -11,7 +11,7 @@ namespace ormala {
 namespace {
 
 constexpr std::uint32_t key = 0x4F4F4F;
-constexpr std::uint32_t ink = 0xFF9F00;
+constexpr std::uint32_t inkPixel = 0xFF9F00;
 
 /// A picture of its own pixels: '.' is the key, anything else ink.
 class Drawn {
@@ -19,7 +19,7 @@ class Drawn {
     Drawn(int width, std::string_view rows)
         : Drawn(PixelSize{width, static_cast<int>(rows.size()) / width}) {
         std::ranges::transform(rows, pixels_.begin(),
-                               [](char drawn) { return drawn == '.' ? key : ink; });
+                               [](char drawn) { return drawn == '.' ? key : inkPixel; });
     }
     explicit Drawn(PixelSize size)
         : size_(size),
@@ -44,10 +44,10 @@ std::string madeOf(int width, std::string_view rows, const SeeThrough& how) {
     makeSeeThrough(from.view(), to.view(), 0, to.view().size.height, how);
     std::string made;
     for (const std::uint32_t pixel : to.pixels()) {
-        made += pixel == 0                    ? ' '
-                : pixel == allButClear        ? ','
-                : pixel == (0xFF000000 | ink) ? 'o'
-                                              : '?';
+        made += pixel == 0                         ? ' '
+                : pixel == allButClear             ? ','
+                : pixel == (0xFF000000 | inkPixel) ? 'o'
+                                                   : '?';
     }
     return made;
 }
@@ -144,7 +144,7 @@ TEST(MakeSeeThrough, LeavesNoMoreRunsThanItIsAllowedTo) {
     for (int round = 0; round < 50; ++round) {
         Drawn from({90, 20});
         for (std::uint32_t& pixel : from.pixels()) {
-            pixel = random() % 3 == 0 ? ink : key;
+            pixel = random() % 3 == 0 ? inkPixel : key;
         }
         const int most = 20 + static_cast<int>(random() % 300);
         const VisibleRuns runs = visibleRunsOf(from.view(), key);
@@ -152,7 +152,7 @@ TEST(MakeSeeThrough, LeavesNoMoreRunsThanItIsAllowedTo) {
         makeSeeThrough(from.view(), to.view(), 0, 20, {key, 255, narrowestOpenGap(runs, most)});
         // Of what is not clear: a pixel that is all but clear has the colour of a clear one.
         for (std::uint32_t& pixel : to.pixels()) {
-            pixel = pixel >> 24U != 0 ? ink : key;
+            pixel = pixel >> 24U != 0 ? inkPixel : key;
         }
         EXPECT_LE(visibleRunsOf(to.view(), key).count, most);
     }
