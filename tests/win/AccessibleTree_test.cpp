@@ -295,6 +295,14 @@ TEST_F(AccessibleTree, AnObjectOutlivesItsWindow) {
     EXPECT_EQ(tool->answer(), CO_E_OBJNOTCONNECTED);
 }
 
+TEST_F(AccessibleTree, AQuestionOfAnotherProgramIsNotFollowed) {
+    // No pointer of this program.
+    constexpr LPARAM anything = 0x10;
+    EXPECT_EQ(SendMessageW(window(), accessiblePartsMessage, 0, anything), 0);
+    EXPECT_EQ(SendMessageW(window(), accessibleFactsMessage, 0, anything), 0);
+    EXPECT_NE(IsWindow(window()), FALSE);
+}
+
 TEST_F(AccessibleTree, AnswersOnAnyThread) {
     const auto tool = whole()->at(2);
     std::atomic<bool> told = false;

@@ -109,9 +109,9 @@ class AccessibleControl final : public ComAccessible {
     /// Nothing for a child of the control, and nothing once the window is gone.
     [[nodiscard]] std::optional<AccessibleFacts> facts(const VARIANT& child) const {
         AccessibleFacts asked;
+        const OwnQuestion question(&asked);
         if (child.vt == VT_I4 && child.lVal == CHILDID_SELF &&
-            SendMessageW(window_, accessibleFactsMessage, 0, reinterpret_cast<LPARAM>(&asked)) ==
-                TRUE) {
+            SendMessageW(window_, accessibleFactsMessage, 0, question.parameter()) == TRUE) {
             return asked;
         }
         return std::nullopt;

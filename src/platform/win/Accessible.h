@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/win/OwnQuestion.h"
+
 namespace ormala {
 
 /// What a control says of itself to screen readers and automation programs.
@@ -22,12 +24,9 @@ struct AccessibleFacts {
     UINT actionMessage = 0;
 };
 
-/// Sent to a control that answers WM_GETOBJECT with `answerAccessible`: it fills the facts, to
-/// which lParam points, and answers TRUE. Since the facts are asked of the window each time, an
-/// object may outlive it, and may be asked on any thread.
-constexpr UINT accessibleFactsMessage = WM_USER + 0x300;
-
-/// The facts that an accessible-facts message wants to have.
+/// The facts that an accessible-facts message wants to have: it is sent to a control that answers
+/// WM_GETOBJECT with `answerAccessible`, which fills them and answers TRUE. Since the facts are
+/// asked of the window each time, an object may outlive it, and may be asked on any thread.
 AccessibleFacts& wantedFacts(LPARAM lParam);
 
 /// Readies the thread of the windows, for its lifetime, to hand objects to other programs.

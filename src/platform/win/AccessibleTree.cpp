@@ -144,7 +144,8 @@ HRESULT AccessibleNode::ask(const std::function<HRESULT(AccessibleParts&)>& ques
                 result = question(parts);
             }
         };
-        SendMessageW(window_, accessiblePartsMessage, 0, reinterpret_cast<LPARAM>(&asked));
+        const OwnQuestion sent(&asked);
+        SendMessageW(window_, accessiblePartsMessage, 0, sent.parameter());
         return result;
     });
 }

@@ -4,15 +4,14 @@
 
 #include <optional>
 
+#include "platform/win/OwnQuestion.h"
 #include "scene/AccessibleParts.h"
 
 namespace ormala {
 
-/// Sent to a window that answers WM_GETOBJECT with `answerAccessibleTree`: a question about its
-/// parts, to which lParam points and which `answerPartsQuestion` answers. Since the window is asked
-/// each time, an object may outlive it and any of its parts, and may be asked on any thread.
-constexpr UINT accessiblePartsMessage = WM_USER + 0x301;
-
+/// For an accessible-parts message, which is sent to a window that answers WM_GETOBJECT with
+/// `answerAccessibleTree`: it asks for its parts. Since the window is asked each time, an object
+/// may outlive it and any of its parts, and may be asked on any thread.
 LRESULT answerPartsQuestion(AccessibleParts& parts, LPARAM lParam);
 
 /// The answer to WM_GETOBJECT; nothing, so that the system answers, for all objects but the client

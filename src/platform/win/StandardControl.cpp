@@ -59,6 +59,9 @@ LRESULT CALLBACK StandardControl::dispatch(HWND handle, UINT message, WPARAM wPa
         control.handle_ = nullptr;
         return DefSubclassProc(handle, message, wParam, lParam);
     }
+    if (OwnQuestion::isForged(message, lParam)) {
+        return 0;
+    }
     const auto handled = [&] { return control.handleMessage(message, wParam, lParam); };
     if (const auto result = guarded(std::nullopt, handled)) {
         return *result;

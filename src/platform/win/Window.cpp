@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <system_error>
 
+#include "platform/win/OwnQuestion.h"
 #include "platform/win/callbackGuard.h"
 #include "platform/win/composition.h"
 #include "platform/win/controlName.h"
@@ -128,7 +129,7 @@ LRESULT CALLBACK Window::dispatch(HWND handle, UINT message, WPARAM wParam, LPAR
             // Who hears of the loss may destroy the window.
             window = castBits<Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
         }
-        if (window == nullptr) {
+        if (window == nullptr || OwnQuestion::isForged(message, lParam)) {
             return 0;
         }
         if (message == WM_TABLET_QUERYSYSTEMGESTURESTATUS && window->takesTouchAtOnce_) {

@@ -81,6 +81,10 @@ void ctlSlider::setFontSize(int points) {
 }
 
 void ctlSlider::arrange() {
+    // The system tells the size while the window is made.
+    if (font_ == nullptr) {
+        return;
+    }
     const WindowContext context(handle());
     const Selected font(context.get(), font_->get());
     TEXTMETRICW metrics{};
