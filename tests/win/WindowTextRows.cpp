@@ -271,6 +271,7 @@ std::span<const WindowTextRow> windowTextRows() {
         WindowTextRow{"frmUnit/fraAngle", "{142}", 0},
         WindowTextRow{"frmLens", "{243}4 X", 0},
         WindowTextRow{"frmResizer", "Ormala{264}", 0},
+        WindowTextRow{"frmWorksheet", "Ormala{264}", 0},
         WindowTextRow{"frmMenu", "*", 0},
     };
     return rows;

@@ -65,6 +65,10 @@ void frmSettings::showMode() {
 }
 
 void frmSettings::layOutControls() {
+    // A window that is just being made may come to another resolution.
+    if (parts_ == nullptr) {
+        return;
+    }
     parts_->bar.layOut(size_.layout(), size_.dpi());
     parts_->look.layOut(size_.layout(), size_.dpi());
 }
