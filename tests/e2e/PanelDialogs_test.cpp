@@ -44,11 +44,18 @@ class PanelDialogs : public testing::Test {
         return screen::waitUntilStill({corner.x, corner.y, corner.x + 190, corner.y + 130});
     }
     static void choose(const Dialog& dialog, int tab, const Slot& slot) {
-        dialog.press(indexed("btnTab", tab));
-        dialog.press(indexed("optPattern", slot.pattern));
+        // Keys go to whatever has the focus when they arrive, so each click is waited for.
+        const auto pressDown = [&](const std::string& name) {
+            dialog.press(name);
+            EXPECT_TRUE(waitUntil([&] { return dialog.isOn(name); })) << name;
+        };
+        pressDown(indexed("btnTab", tab));
+        pressDown(indexed("optPattern", slot.pattern));
         if (slot.rotationRow > 0) {
-            focusByTab(dialog.control("cboRotation"));
+            const DesktopWindow rotation = dialog.control("cboRotation");
+            focusByTab(rotation);
             keyboard::press(VK_DOWN, Modifiers::None, slot.rotationRow);
+            EXPECT_TRUE(waitUntil([&] { return rotation.send(CB_GETCURSEL) == slot.rotationRow; }));
         }
     }
     static SettingsFile withSlots(SettingsFile file) {

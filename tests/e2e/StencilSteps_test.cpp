@@ -79,6 +79,16 @@ class StencilSteps : public testing::Test {
             ASSERT_NO_FATAL_FAILURE(expectAndUndo(expected[i], moveButton(i)));
         }
     }
+    /// The sides at the end of a run of steps; the read-outs come after the last of them.
+    Sides lastSides() const {
+        Sides last{};
+        EXPECT_TRUE(waitUntil([&] {
+            last = sides();
+            pause(milliseconds{500});
+            return sides() == last;
+        }));
+        return last;
+    }
     /// How long the second button, held from now on, takes for its first sixteen steps.
     [[nodiscard]] std::chrono::steady_clock::duration timeOfSteps(int stepLength) {
         constexpr int steps = 16;
@@ -160,8 +170,7 @@ TEST_F(StencilSteps, AHeldButtonRepeatsAndIsOneStepOfUndo) {
     EXPECT_TRUE(waitUntil([&] { return sides().left > start.left + 5; }));
     scene.mouse.release();
     EXPECT_TRUE(waitUntil([&] { return panel.isEnabled("cmdUndo"); }));
-    Sides reached{};
-    EXPECT_TRUE(waitUntil([&] { return reached == sides() || (reached = sides(), false); }));
+    const Sides reached = lastSides();
     EXPECT_EQ(reached.right - reached.left, start.right - start.left);
     panel.press("cmdUndo");
     expectSides(start, "undo of a run");
@@ -194,12 +203,7 @@ TEST_F(StencilSteps, AHeldButtonStopsWhenItLosesTheKeyboard) {
     EXPECT_TRUE(waitUntil([&] { return sides().top > start.top + 3; }));
     scene.backdrop().window().activate();
     EXPECT_TRUE(waitUntil([&] { return panel.isEnabled("cmdUndo"); }));
-    // The read-outs come last.
-    EXPECT_TRUE(waitUntil([&] {
-        const Sides stopped = sides();
-        pause(milliseconds{300});
-        return sides() == stopped;
-    }));
+    lastSides();
     scene.mouse.release();
 }
 
