@@ -1,6 +1,7 @@
 #include "e2e/Dialog.h"
 
 #include "e2e/ToolPanel.h"
+#include "e2e/support/StageFailure.h"
 
 namespace ormala::test {
 
@@ -39,10 +40,16 @@ void Dialog::leaveByKey(WORD key) const {
 }
 
 void Dialog::enter(std::string_view name, std::string_view text) const {
-    focusByTab(fieldOf(control(name)));
-    keyboard::press(VK_END);
-    keyboard::press(VK_HOME, Modifiers::Shift);
-    keyboard::type(text);
+    const DesktopWindow field = fieldOf(control(name));
+    focusByTab(field);
+    // Wine may let go of Shift when it looks at the real keyboard.
+    constexpr milliseconds eachTry{1000};
+    requireSoon(std::string(text) + " in " + std::string(name), [&] {
+        keyboard::press(VK_END);
+        keyboard::press(VK_HOME, Modifiers::Shift);
+        keyboard::type(text);
+        return waitUntil([&] { return field.text() == text; }, eachTry);
+    });
 }
 
 }  // namespace ormala::test

@@ -320,13 +320,16 @@ TEST_F(PanelDialogs, UnitsAreThoseOfTheToolAndByDefaultOfNewOnes) {
     dialog.leave("cmdOK");
     EXPECT_TRUE(panel.shows("lblLengthA", 272.7));
     EXPECT_TRUE(panel.shows("lblLengthB", 164.7));
-    EXPECT_TRUE(panel.control("lblLengthA").text().ends_with(" km "));
-    EXPECT_TRUE(panel.control("lblAngleA").text().ends_with(" rad "));
+    const auto endsWith = [](const ToolPanel& of, const char* label, const char* unit) {
+        return waitUntil([&] { return of.control(label).text().ends_with(unit); });
+    };
+    EXPECT_TRUE(endsWith(panel, "lblLengthA", " km "));
+    EXPECT_TRUE(endsWith(panel, "lblAngleA", " rad "));
     scene.press("cmdAddMeasure");
     ASSERT_TRUE(scene.waitForPanels(2));
     const ToolPanel added(scene, 1);
-    EXPECT_TRUE(waitUntil([&] { return added.control("lblLengthA").text().ends_with(" km "); }));
-    EXPECT_TRUE(added.control("lblAngleA").text().ends_with(" rad "));
+    EXPECT_TRUE(endsWith(added, "lblLengthA", " km "));
+    EXPECT_TRUE(endsWith(added, "lblAngleA", " rad "));
     EXPECT_EQ(scene.program().close(), 0U);
     const SettingsFile options = SettingsFile::read(scene.data().optionsFile());
     EXPECT_EQ(options.number("Options", "DefaultLengthMode"), 1);

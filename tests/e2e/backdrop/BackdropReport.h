@@ -7,9 +7,11 @@
 
 namespace ormala::test {
 
-/// The window class of the backdrop, and the registered message that sets its counts to 0.
+/// The window class of the backdrop, and its registered messages: the one sets the counts to 0, the
+/// other also paints it anew with another look, a pattern in wParam and a colour in lParam.
 inline constexpr const wchar_t* backdropClass = L"OrmalaBackdrop";
 inline constexpr const wchar_t* backdropResetMessage = L"OrmalaBackdropReset";
+inline constexpr const wchar_t* backdropLookMessage = L"OrmalaBackdropLook";
 
 /// What has reached the backdrop since its start or the last reset. It is the backdrop's window
 /// text, as "name=value" pairs. Places are screen pixels.

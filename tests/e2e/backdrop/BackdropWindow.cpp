@@ -54,7 +54,8 @@ BackdropWindow::BackdropWindow(const BackdropLook& look, BackdropExtras extras)
     : extras_(std::move(extras)),
       rect_(coveredPart()),
       pixels_(paintedPixels(look, rect_)),
-      resetMessage_(RegisterWindowMessageW(backdropResetMessage)) {
+      resetMessage_(RegisterWindowMessageW(backdropResetMessage)),
+      lookMessage_(RegisterWindowMessageW(backdropLookMessage)) {
     WNDCLASSEXW windowClass{};
     windowClass.cbSize = sizeof(windowClass);
     windowClass.style = CS_DBLCLKS;
@@ -105,6 +106,10 @@ LRESULT BackdropWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         const int painted = report_.painted;
         report_ = {};
         report_.painted = painted;
+        return 0;
+    }
+    if (message == lookMessage_) {
+        takeLook({static_cast<BackdropPattern>(wParam), static_cast<Color>(lParam)});
         return 0;
     }
     if (onMouse(message, wParam, lParam) || onKey(message, wParam)) {
@@ -185,6 +190,13 @@ bool BackdropWindow::onKey(UINT message, WPARAM wParam) {
         default:
             return false;
     }
+}
+
+void BackdropWindow::takeLook(const BackdropLook& look) {
+    pixels_ = paintedPixels(look, rect_);
+    report_ = {};
+    InvalidateRect(window_, nullptr, FALSE);
+    UpdateWindow(window_);
 }
 
 void BackdropWindow::addTip() {

@@ -36,6 +36,7 @@ class BackdropWindow {
     bool onMouse(UINT message, WPARAM wParam, LPARAM lParam);
     bool onKey(UINT message, WPARAM wParam);
 
+    void takeLook(const BackdropLook& look);
     void addTip();
     void ask();
     void paint();
@@ -50,6 +51,7 @@ class BackdropWindow {
     std::vector<std::uint32_t> pixels_;
     BackdropReport report_;
     UINT resetMessage_;
+    UINT lookMessage_;
     HWND window_ = nullptr;
 };
 

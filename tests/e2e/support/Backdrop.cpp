@@ -1,5 +1,7 @@
 #include "e2e/support/Backdrop.h"
 
+#include <utility>
+
 #include "e2e/support/Program.h"
 #include "e2e/support/StageFailure.h"
 #include "support/win/Screen.h"
@@ -20,12 +22,47 @@ std::vector<std::wstring> arguments(const BackdropLook& look, const BackdropOpti
     return list;
 }
 
+struct LeftBehind {
+    std::unique_ptr<ChildProcess> process;
+    DesktopWindow window;
+    ScreenRect place;
+};
+
+LeftBehind& leftBehind() {
+    static LeftBehind last;
+    return last;
+}
+
 }  // namespace
 
+bool Backdrop::takeOver() {
+    LeftBehind last = std::exchange(leftBehind(), {});
+    const bool serves =
+        plain_ && last.process && last.process->isRunning() && last.window.isVisible() &&
+        last.window.rect() == last.place &&
+        last.window.send(RegisterWindowMessageW(backdropLookMessage),
+                         static_cast<WPARAM>(look_.pattern), static_cast<LPARAM>(look_.color));
+    if (serves) {
+        process_ = std::move(last.process);
+        window_ = last.window;
+        place_ = last.place;
+        window_.activate();
+    }
+    return serves;
+}
+
+void Backdrop::startAnew(const BackdropOptions& options) {
+    process_ = std::make_unique<ChildProcess>(testProgramFolder() / "backdrop.exe",
+                                              arguments(look_, options));
+    window_ = waitForTopLevel(process_->id(), narrow(backdropClass));
+    place_ = window_.rect();
+}
+
 Backdrop::Backdrop(const BackdropLook& look, const BackdropOptions& options)
-    : look_(look),
-      process_(testProgramFolder() / "backdrop.exe", arguments(look, options)),
-      window_(waitForTopLevel(process_.id(), narrow(backdropClass))) {
+    : look_(look), plain_(options.tip.empty() && options.question.empty()) {
+    if (!takeOver()) {
+        startAnew(options);
+    }
     const ScreenRect shown = rect();
     // The first and the last pixel: other windows may already lie over the rest.
     requireSoon("backdrop on the screen", [&] {
@@ -36,7 +73,11 @@ Backdrop::Backdrop(const BackdropLook& look, const BackdropOptions& options)
 }
 
 Backdrop::~Backdrop() {
-    close();
+    if (plain_ && process_->isRunning()) {
+        leftBehind() = {std::move(process_), window_, place_};
+    } else {
+        close();
+    }
 }
 
 Color Backdrop::colorAt(ScreenPoint point) const {
@@ -77,7 +118,7 @@ BackdropReport Backdrop::waitFor(const std::string& what,
 
 bool Backdrop::close() {
     window_.post(WM_CLOSE);
-    return process_.waitForExit(milliseconds(3000)) == 0U;
+    return process_->waitForExit(milliseconds(3000)) == 0U;
 }
 
 }  // namespace ormala::test
