@@ -52,7 +52,8 @@ class LensImageTest : public LensFixture {
         const bool there = test::waitUntil([this, mouse] {
             look({mouse.x + 1, mouse.y});
             look(mouse);
-            return currentPointer() != nullptr;
+            const auto shown = pointerOnScreen();
+            return shown && shown->pointer != nullptr;
         });
         lens_.Update();
         return there;

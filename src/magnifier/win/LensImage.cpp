@@ -5,7 +5,6 @@
 
 #include "magnifier/win/pointers.h"
 #include "platform/win/GdiCanvas.h"
-#include "platform/win/fills.h"
 
 namespace ormala {
 
@@ -37,13 +36,14 @@ void LensImage::setPlace(const LensLayout& layout) {
     lastLook_.reset();
 }
 
-void LensImage::forgetPointer() {
+void LensImage::screenChanged() {
+    screen_.reopen();
     knownPointer_.reset();
 }
 
-void LensImage::refresh(const LensImageLook& look, PixelPoint source, const PixelRect& bounds) {
-    capture(look.layout, source, bounds);
-    const HCURSOR pointer = look.options.cursorOn ? currentPointer() : nullptr;
+void LensImage::refresh(const LensImageLook& look, HCURSOR pointer, PixelPoint source,
+                        const PixelRect& bounds) {
+    screen_.copyTo(picInter_, source, bounds, lensGround);
     if (look == lastLook_ && knownPointer_ == pointer &&
         samePixels(picInter_.view(), lastPicture_.view())) {
         return;
@@ -59,23 +59,6 @@ void LensImage::refresh(const LensImageLook& look, PixelPoint source, const Pixe
     picLens_.setRim(look.options.gridOn && look.layout.GridTrim == 0 ? 1 : 0);
     picLens_.setChanged();
     std::swap(picInter_, lastPicture_);
-}
-
-void LensImage::capture(const LensLayout& layout, PixelPoint source, const PixelRect& bounds) {
-    const WindowContext screen(nullptr);
-    const PixelRect area{source.x, source.y, source.x + layout.SourceWidth,
-                         source.y + layout.SourceHeight};
-    // Screens of different sizes leave gaps.
-    if (area.intersected(bounds) != area || GetSystemMetrics(SM_CMONITORS) > 1) {
-        fillRect(picInter_.context(), {0, 0, layout.SourceWidth, layout.SourceHeight}, lensGround);
-    }
-    // Without CAPTUREBLT, at which the system hides the pointer: that would flicker. A desktop that
-    // is composed holds layered windows anyway.
-    if (BitBlt(picInter_.context(), 0, 0, layout.SourceWidth, layout.SourceHeight, screen.get(),
-               source.x, source.y, SRCCOPY) == FALSE) {
-        // The screen is locked, and what it showed before is no news.
-        fillRect(picInter_.context(), {0, 0, layout.SourceWidth, layout.SourceHeight}, lensGround);
-    }
 }
 
 void LensImage::enlarge(const LensLayout& layout) const {

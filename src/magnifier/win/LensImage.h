@@ -5,6 +5,7 @@
 #include "magnifier/PointerPicture.h"
 #include "magnifier/lensOverlays.h"
 #include "magnifier/win/LensPicture.h"
+#include "magnifier/win/ScreenSource.h"
 
 namespace ormala {
 
@@ -16,20 +17,21 @@ class LensImage {
 
     [[nodiscard]] LensPicture& picLens() { return picLens_; }
     void setPlace(const LensLayout& layout);
-    /// One frame: captures the screen at `source` and draws the image, unless it is the same
-    /// picture with the same look as in the last frame. What lies outside `bounds` shows the
-    /// ground.
-    void refresh(const LensImageLook& look, PixelPoint source, const PixelRect& bounds);
-    /// The pointer's picture is fetched anew for the next frame.
-    void forgetPointer();
+    /// One frame: captures the screen at `source` and draws the image with the pointer, which may
+    /// be null, unless it is the same picture with the same look as in the last frame. What lies
+    /// outside `bounds` shows the ground.
+    void refresh(const LensImageLook& look, HCURSOR pointer, PixelPoint source,
+                 const PixelRect& bounds);
+    /// The screens or the pointers may be others: both are asked for anew in the next frame.
+    void screenChanged();
 
   private:
-    void capture(const LensLayout& layout, PixelPoint source, const PixelRect& bounds);
     void enlarge(const LensLayout& layout) const;
     void takePointer(HCURSOR pointer);
 
     /// With `picBuff` as its picture.
     LensPicture picLens_;
+    ScreenSource screen_;
     BackBuffer picInter_;
     /// What the last frame shows, and how.
     BackBuffer lastPicture_;

@@ -4,6 +4,7 @@
 
 #include "language/MlStringModule.h"
 #include "magnifier/lensTexts.h"
+#include "magnifier/win/pointers.h"
 #include "magnifier/win/scaleFont.h"
 #include "platform/win/composition.h"
 #include "platform/win/inputMethod.h"
@@ -156,19 +157,29 @@ void frmLens::onTick() {
         readBounds();
     }
     ++tickCount_;
-    // Where the mouse cannot be asked for, it is where it was.
-    if (POINT cursor{}; GetCursorPos(&cursor) != FALSE) {
-        CursorPoint_ = {static_cast<int>(cursor.x), static_cast<int>(cursor.y)};
-    }
+    readMouse();
     findSource();
     RefreshLens();
     UpdatePosition();
 }
 
+/// Where the mouse cannot be asked for, it is where it was. Its pointer takes longer.
+void frmLens::readMouse() {
+    pointer_ = nullptr;
+    if (options_.cursorOn) {
+        if (const auto mouse = pointerOnScreen()) {
+            CursorPoint_ = mouse->place;
+            pointer_ = mouse->pointer;
+        }
+    } else if (POINT mouse{}; GetCursorPos(&mouse) != FALSE) {
+        CursorPoint_ = {static_cast<int>(mouse.x), static_cast<int>(mouse.y)};
+    }
+}
+
 void frmLens::readBounds() {
     bounds_ = commands_.RefreshScreenBounds();
     // The system may have given another pointer the place of a former one.
-    parts_->image.forgetPointer();
+    parts_->image.screenChanged();
 }
 
 void frmLens::findSource() {
@@ -180,7 +191,7 @@ void frmLens::RefreshLens() {
         return;
     }
     DrawRulers();
-    parts_->image.refresh(imageLook(), source_, bounds_);
+    parts_->image.refresh(imageLook(), pointer_, source_, bounds_);
     showChanged();
 }
 
@@ -240,7 +251,7 @@ void frmLens::mnuLensGrid_Click() {
 
 void frmLens::mnuLensCursor_Click() {
     options_.cursorOn = !options_.cursorOn;
-    RefreshLens();
+    Update();
     SetMenuCheckBoxes();
 }
 

@@ -102,6 +102,7 @@ class frmLens : public Window {
     [[nodiscard]] LensRuler& ruler(LensScale scale) const { return parts_->rulers[indexOf(scale)]; }
     void setRulerOn(LensScale scale, bool on);
     [[nodiscard]] bool isNormal() const;
+    void readMouse();
     void readBounds();
     void findSource();
     void setLayered(bool layered);
@@ -130,6 +131,8 @@ class frmLens : public Window {
     PixelRect bounds_;
     PixelPoint worksheet_;
     PixelPoint CursorPoint_;
+    /// Null also while the options want none.
+    HCURSOR pointer_ = nullptr;
     /// `SourceLeft` and `SourceTop`.
     PixelPoint source_;
     Mode LensMode_ = Mode::edit;

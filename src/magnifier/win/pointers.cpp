@@ -42,11 +42,15 @@ bool drawOn(BackBuffer& ground, Color color, HCURSOR pointer, int side) {
 
 }  // namespace
 
-HCURSOR currentPointer() {
+std::optional<PointerOnScreen> pointerOnScreen() {
     CURSORINFO cursor{};
     cursor.cbSize = sizeof cursor;
-    const bool shown = GetCursorInfo(&cursor) != FALSE && (cursor.flags & CURSOR_SHOWING) != 0;
-    return shown ? cursor.hCursor : nullptr;
+    if (GetCursorInfo(&cursor) == FALSE) {
+        return std::nullopt;
+    }
+    return PointerOnScreen{
+        {static_cast<int>(cursor.ptScreenPos.x), static_cast<int>(cursor.ptScreenPos.y)},
+        (cursor.flags & CURSOR_SHOWING) != 0 ? cursor.hCursor : nullptr};
 }
 
 PointerPicture pictureOfPointer(HCURSOR pointer) {
