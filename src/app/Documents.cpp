@@ -52,11 +52,25 @@ void Documents::New() {
     if (!ConfirmDiscard()) {
         return;
     }
+    const auto back = wayBack();
     noFileYet_ = false;
     ports_.toolsFile.setPath({});
     UpdatePathLine();
-    const BusyScope busy(ports_.busy, MlString(378, "Removing all tools..."), false);
-    ports_.tools.RemoveAllTools();
+    {
+        const BusyScope busy(ports_.busy, MlString(378, "Removing all tools..."), false);
+        ports_.tools.RemoveAllTools();
+    }
+    ports_.removed.noteSet(MlString(642, "All tools removed. Ctrl+Z brings them back."), back);
+}
+
+/// To the present document, once its tools are back.
+std::function<void()> Documents::wayBack() {
+    return [this, path = ports_.toolsFile.Path(), noFileYet = noFileYet_] {
+        noFileYet_ = noFileYet;
+        ports_.toolsFile.setPath(path);
+        ports_.toolsFile.setLastError({});
+        UpdatePathLine();
+    };
 }
 
 /// From here on there is a document, even if its file turns out to be unreadable or can't be
@@ -75,8 +89,13 @@ void Documents::Load() {
     if (path.empty()) {
         return;
     }
+    const auto back = wayBack();
     takePath(path);
-    loadIfReadable();
+    const ToolList::Replacement replacement(ports_.tools);
+    if (loadIfReadable()) {
+        ports_.removed.noteSet(MlString(643, "Tools replaced. Ctrl+Z brings the former ones back."),
+                               back);
+    }
 }
 
 /// Whether a file may be written that the dialog has not asked about, since it saw another name.
@@ -107,6 +126,8 @@ bool Documents::saveUnderNewName() {
         return false;
     }
     takePath(path);
+    // The name is that of the tools that there are now.
+    ports_.removed.drop();
     return saveWhateverIsThere();
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "app/BusyView.h"
+#include "app/RemovedTools.h"
 #include "app/ToolFile.h"
 #include "app/ToolList.h"
 #include "widgets/lookColors.h"
@@ -54,6 +55,7 @@ class Documents {
         FileStore& store;
         ToolFile& file;
         ToolList& tools;
+        RemovedTools& removed;
         BusyView& busy;
         DocumentView& view;
     };
@@ -69,6 +71,7 @@ class Documents {
     /// fails says no.
     [[nodiscard]] bool ConfirmDiscard();
 
+    /// Both can be taken back by `RemovedTools`, with the document that there was.
     void New();
     void Load();
     void Save();
@@ -90,6 +93,7 @@ class Documents {
     bool saveUnderNewName();
     [[nodiscard]] bool mayOverwrite();
     void takePath(const std::string& path);
+    [[nodiscard]] std::function<void()> wayBack();
     bool loadIfReadable();
     bool saveWhateverIsThere();
 

@@ -58,7 +58,10 @@ int ToolList::countOf(ToolKind kind) const {
 
 SettingControl* ToolList::AddNewControl(int Kind,
                                         const std::function<void(SettingControl&)>& fill) {
-    if (pairs_.size() >= largestCount) {
+    if (!replacing_) {
+        dropRemoved();
+    }
+    if (count() >= largestCount) {
         ports_.messages.showError(
             MlString(302, "The maximum number of tools (33) has been reached."));
         return nullptr;
@@ -108,14 +111,22 @@ ToolList::Pair* ToolList::reuseFirst(ToolKind kind, std::optional<ToolChanges>& 
     // So that the search for a free number doesn't find it.
     pair.panel().setNumber(0);
     pair.panel().setHidden(false);
-    ports_.sheet.setVisible(pair.panel().RefControlControl(), true);
+    ports_.sheet.takeBack(pair.panel().RefControlControl(), true);
     colors_.NextDefaultToolColor(static_cast<int>(kind), true);
     return &pair;
 }
 
+/// A first pair if the former one may come back and no other of its kind is there.
 ToolList::Pair* ToolList::makePair(ToolKind kind, std::optional<ToolChanges>& changes) {
     OverlayItem* tool = ports_.sheet.AddNewControl(static_cast<int>(kind), changes);
-    return tool == nullptr ? nullptr : &append(kind, false, *tool);
+    if (tool == nullptr) {
+        return nullptr;
+    }
+    const bool first = hasFirst(removed_.pairs, kind) && countOf(kind) == 0;
+    if (first) {
+        colors_.NextDefaultToolColor(static_cast<int>(kind), true);
+    }
+    return &append(kind, first, *tool);
 }
 
 void ToolList::setUpLook(ToolKind kind, SettingControl& panel) {
@@ -126,33 +137,137 @@ void ToolList::setUpLook(ToolKind kind, SettingControl& panel) {
     ArrangePanels();
 }
 
+std::size_t ToolList::Removed::placeOf(const Pair& pair) const {
+    const auto at = std::ranges::find(places, pair.listed.get(), &Place::listed);
+    return static_cast<std::size_t>(at - places.begin());
+}
+
+bool ToolList::Removed::hadShown(const Pair& pair) const {
+    const std::size_t place = placeOf(pair);
+    return place < places.size() && places[place].shown;
+}
+
+bool ToolList::hasFirst(const Pairs& pairs, ToolKind kind) const {
+    return std::ranges::any_of(
+        pairs, [kind](const Pair& pair) { return pair.first && pair.kind == kind; });
+}
+
+/// First pairs count whether they are in use or not, and also while none has replaced a removed
+/// one.
+std::size_t ToolList::count() const {
+    const auto missing = std::ranges::count_if(removed_.pairs, [this](const Pair& pair) {
+        return pair.first && !hasFirst(pairs_, pair.kind);
+    });
+    return pairs_.size() + static_cast<std::size_t>(missing);
+}
+
+void ToolList::hide(const Pair& pair) {
+    ports_.sheet.putAside(pair.panel().RefControlControl());
+    // No hidden tool is the selected one.
+    pair.panel().setSelected(false);
+    pair.listed->setVisible(false);
+    pair.panel().setHidden(true);
+}
+
+void ToolList::show(const Pair& pair) {
+    pair.panel().setHidden(false);
+    pair.listed->setVisible(true);
+    ports_.sheet.takeBack(pair.panel().RefControlControl(), !pair.panel().Pause());
+}
+
+/// The panel goes before the tool that it watches, and is out of the list before it goes.
+void ToolList::destroy(Pair pair) {
+    const OverlayItem& tool = pair.panel().RefControlControl();
+    pair.listed.reset();
+    ports_.sheet.RemoveControl(tool);
+}
+
+void ToolList::beginRemoval() {
+    dropRemoved();
+    for (const Pair& pair : pairs_) {
+        removed_.places.push_back({pair.listed.get(), !pair.panel().Hidden()});
+    }
+}
+
+void ToolList::takeOut(Pairs::iterator at) {
+    if (at->panel().Selected()) {
+        removed_.selected = at->listed.get();
+    }
+    hide(*at);
+    removed_.pairs.push_back(std::move(*at));
+    pairs_.erase(at);
+}
+
 void ToolList::RemovePanel(const SettingControl& panel) {
     const auto at =
         std::ranges::find_if(pairs_, [&](const Pair& pair) { return &pair.panel() == &panel; });
-    if (at == pairs_.end()) {
+    if (at == pairs_.end() || panel.Hidden()) {
         return;
     }
-    OverlayItem& tool = at->panel().RefControlControl();
-    if (at->first) {
-        ports_.sheet.RemoveControl(tool);
-        // No hidden tool is the selected one.
-        at->panel().setSelected(false);
-        at->listed->setVisible(false);
-        at->panel().setHidden(true);
-    } else {
-        // The panel goes before the tool that it watches, and is out of the list before it goes.
-        std::unique_ptr<ListedPanel> listed = std::move(at->listed);
-        pairs_.erase(at);
-        listed.reset();
-        ports_.sheet.RemoveControl(tool);
-    }
+    const auto index = at - pairs_.begin();
+    beginRemoval();
+    const auto again = pairs_.begin() + index;
+    removed_.selected = again->listed.get();
+    takeOut(again);
     ArrangePanels();
 }
 
 void ToolList::RemoveAllTools() {
+    beginRemoval();
     for (const Entry& entry : GetPanelsInVisualOrder()) {
-        RemovePanel(entry.listed.panel());
+        takeOut(std::ranges::find_if(
+            pairs_, [&](const Pair& pair) { return pair.listed.get() == &entry.listed; }));
+        ArrangePanels();
         ports_.view.refresh();
+    }
+}
+
+void ToolList::dropRemoved() {
+    Removed removed = std::exchange(removed_, {});
+    for (Pair& pair : removed.pairs) {
+        if (pair.first && !hasFirst(pairs_, pair.kind)) {
+            pairs_.push_back(std::move(pair));
+        } else {
+            destroy(std::move(pair));
+        }
+    }
+}
+
+/// A first pair that was not in use before is out of use again.
+void ToolList::removeReplacements(const Removed& removed) {
+    const auto come = std::ranges::stable_partition(
+        pairs_, [&](const Pair& pair) { return removed.placeOf(pair) < removed.places.size(); });
+    Pairs gone(std::move_iterator(come.begin()), std::move_iterator(come.end()));
+    pairs_.erase(come.begin(), come.end());
+    for (const Pair& pair : pairs_) {
+        if (!removed.hadShown(pair)) {
+            hide(pair);
+        }
+    }
+    for (Pair& pair : gone) {
+        destroy(std::move(pair));
+    }
+}
+
+void ToolList::bringBack() {
+    Removed removed = std::exchange(removed_, {});
+    if (removed.pairs.empty()) {
+        return;
+    }
+    removeReplacements(removed);
+    OverlayItem* selected = nullptr;
+    for (Pair& pair : removed.pairs) {
+        show(pair);
+        if (pair.listed.get() == removed.selected) {
+            selected = &pair.panel().RefControlControl();
+        }
+        pairs_.push_back(std::move(pair));
+    }
+    std::ranges::stable_sort(pairs_, {}, [&](const Pair& pair) { return removed.placeOf(pair); });
+    ArrangePanels();
+    if (selected != nullptr) {
+        ports_.sheet.SelectControl(*selected);
+        ports_.sheet.giveFreeFocusToSelectedControl();
     }
 }
 
@@ -170,6 +285,13 @@ std::vector<ToolList::Entry> ToolList::GetPanelsInVisualOrder() const {
         entries.push_back({pair->kind, *pair->listed});
     }
     return entries;
+}
+
+SettingControl* ToolList::panelOf(const OverlayItem* tool) const {
+    const auto at = std::ranges::find_if(pairs_, [tool](const Pair& pair) {
+        return !pair.panel().Hidden() && &pair.panel().RefControlControl() == tool;
+    });
+    return at == pairs_.end() ? nullptr : &at->panel();
 }
 
 SettingControl* ToolList::successorOf(const SettingControl& panel) const {

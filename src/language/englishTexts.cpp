@@ -318,6 +318,10 @@ constexpr TextRow englishRows[] = {
     {629, "center of line a"},
     {630, "center of line b"},
     {631, "common point of both lines"},
+    {640, "Stencil removed. Ctrl+Z brings it back."},
+    {641, "Measurement tool %0 removed. Ctrl+Z brings it back."},
+    {642, "All tools removed. Ctrl+Z brings them back."},
+    {643, "Tools replaced. Ctrl+Z brings the former ones back."},
 };
 
 }  // namespace

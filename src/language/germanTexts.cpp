@@ -317,6 +317,10 @@ constexpr TextRow germanRows[] = {
     {629, "Mitte der Linie a"},
     {630, "Mitte der Linie b"},
     {631, "gemeinsamer Punkt beider Linien"},
+    {640, "Schablone entfernt. Strg+Z holt sie zurück."},
+    {641, "Messwerkzeug %0 entfernt. Strg+Z holt es zurück."},
+    {642, "Alle Werkzeuge entfernt. Strg+Z holt sie zurück."},
+    {643, "Werkzeuge ersetzt. Strg+Z holt die vorigen zurück."},
 };
 
 }  // namespace

@@ -71,6 +71,7 @@ PanelDesign makeDesign() {
                        .size = {panelWidth, height},
                        .controls = titleControls(0, 215),
                        .removeText = 326,
+                       .removedText = 641,
                        .growthInterval = 45,
                        .litByPause = true};
     addValues(design.controls);

@@ -144,6 +144,7 @@ PanelDesign makeDesign() {
                        .size = {panelWidth, height},
                        .controls = titleControls(209, 177),
                        .removeText = 328,
+                       .removedText = 640,
                        .growthInterval = 46,
                        .pauseDimsLabels = true};
     addPlaces(design.controls);

@@ -15,14 +15,14 @@ bool RunFiles::couldNotRead(const std::string& path) const {
 }
 
 void RunFiles::noteContents(const std::string& path, std::string bytes) {
-    path_ = lowerCase(path);
-    contents_ = std::move(bytes);
-    unreadable_.erase(path_);
+    const std::string key = lowerCase(path);
+    contents_[key] = std::move(bytes);
+    unreadable_.erase(key);
 }
 
 std::optional<std::string_view> RunFiles::contentsOf(const std::string& path) const {
-    const bool noted = !path.empty() && path_ == lowerCase(path);
-    return noted ? std::optional<std::string_view>(contents_) : std::nullopt;
+    const auto at = contents_.find(lowerCase(path));
+    return at != contents_.end() ? std::optional<std::string_view>(at->second) : std::nullopt;
 }
 
 }  // namespace ormala

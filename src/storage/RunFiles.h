@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -17,13 +18,12 @@ class RunFiles {
 
     /// The file holds these bytes, and the program has all of them: it has read or written them.
     void noteContents(const std::string& path, std::string bytes);
-    /// The bytes noted last; nothing if they are those of another file.
+    /// The bytes noted last for that file; nothing without any.
     [[nodiscard]] std::optional<std::string_view> contentsOf(const std::string& path) const;
 
   private:
     std::set<std::string> unreadable_;
-    std::string path_;
-    std::string contents_;
+    std::map<std::string, std::string> contents_;
 };
 
 }  // namespace ormala

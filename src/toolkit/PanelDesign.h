@@ -121,6 +121,8 @@ struct PanelDesign {
     std::vector<PanelControl> controls;
     /// Row of the text table: the entry of the popup menu, with the tool's number for "%0".
     int removeText = 0;
+    /// The same: what the user is told after the removal.
+    int removedText = 0;
     /// The interval of `tmrButtonBig`, in milliseconds.
     unsigned growthInterval = 0;
     /// `cmdPause` is lit while the tool pauses, or else while it does not.

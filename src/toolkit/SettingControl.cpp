@@ -24,7 +24,7 @@ SettingControl::SettingControl(GripTool& tool, const PanelDesign& design, const 
       change_(tool.events().change.subscribe([this] { ShowAllProps(false); })),
       mouseUp_(tool.events().mouseUp.subscribe([this](const MouseInput& input) {
           if (input.button == mouseButton::right) {
-              view().showMenu(removeText());
+              view().showMenu(textOfTool(design_.removeText));
           }
       })),
       keyDown_(tool.events().keyDownFiltered.subscribe(
@@ -78,6 +78,13 @@ void SettingControl::StoreToFile(INIFile& file) const {
 bool SettingControl::EqualsFile(INIFile& file) const {
     ToolKeyComparer comparer(file);
     return visitKeys(comparer) && comparer.flag("Hide", pause_);
+}
+
+std::string SettingControl::keysText() const {
+    ToolKeyText keys;
+    visitKeys(keys);
+    keys.flag("Hide", pause_);
+    return keys.text();
 }
 
 void SettingControl::setDefaultLook(ToolColors& colors) {
@@ -198,9 +205,10 @@ void SettingControl::keyDownFiltered(int key, int shift) {
     }
 }
 
-std::string SettingControl::removeText() const {
+/// With the tool's number for "%0".
+std::string SettingControl::textOfTool(int row) const {
     const std::array<std::string, 1> arguments{std::to_string(number_)};
-    return MlFormat(MlString(design_.removeText, {}), arguments);
+    return MlFormat(MlString(row, {}), arguments);
 }
 
 }  // namespace ormala

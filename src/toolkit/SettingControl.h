@@ -71,6 +71,8 @@ class SettingControl {
     void LoadFromFile(INIFile& file);
     void StoreToFile(INIFile& file) const;
     [[nodiscard]] bool EqualsFile(INIFile& file) const;
+    /// All that goes to the file: two texts are equal if the files are.
+    [[nodiscard]] std::string keysText() const;
 
     /// The next default colours, and a solid line of one pixel.
     void setDefaultLook(ToolColors& colors);
@@ -111,6 +113,10 @@ class SettingControl {
     /// Puts the tool back to its default place, as a step of undo.
     void setDefaultPlace();
     void clickLineStyle();
+    /// What the user is told once the tool has been removed.
+    [[nodiscard]] std::string removedText() const { return textOfTool(design_.removedText); }
+    /// The tool's history, wherever it stands in it.
+    [[nodiscard]] const HistoryHelper& history() const { return tool_.History(); }
 
   protected:
     /// Tool and design must outlive the panel.
@@ -141,7 +147,7 @@ class SettingControl {
     void keyDownFiltered(int key, int shift);
     void takeStep(const PanelControl& step, int shift, bool byMouse);
     void goTo(void (HistoryHelper::*neighbour)());
-    [[nodiscard]] std::string removeText() const;
+    [[nodiscard]] std::string textOfTool(int row) const;
 
     GripTool& tool_;
     const PanelDesign& design_;

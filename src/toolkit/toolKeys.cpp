@@ -44,6 +44,27 @@ bool ToolKeyWriter::text(std::string_view key, const std::string& value) {
     return true;
 }
 
+bool ToolKeyText::number(std::string_view key, double value) {
+    return text(key, numberText(value));
+}
+
+bool ToolKeyText::factor(std::string_view key, double value) {
+    return number(key, value);
+}
+
+bool ToolKeyText::integer(std::string_view key, int value) {
+    return number(key, value);
+}
+
+bool ToolKeyText::flag(std::string_view key, bool value) {
+    return integer(key, fileFlag(value));
+}
+
+bool ToolKeyText::text(std::string_view key, const std::string& value) {
+    text_.append(key).append("=").append(value).append("\n");
+    return true;
+}
+
 bool ToolKeyComparer::number(std::string_view key, double value) {
     return SameNumberText(finiteValue(file_, key, 0), value);
 }

@@ -44,6 +44,21 @@ class ToolKeyWriter : public ToolKeys {
     INIFile& file_;
 };
 
+/// Puts all keys and values into one text.
+class ToolKeyText : public ToolKeys {
+  public:
+    [[nodiscard]] const std::string& text() const { return text_; }
+
+    bool number(std::string_view key, double value) override;
+    bool factor(std::string_view key, double value) override;
+    bool integer(std::string_view key, int value) override;
+    bool flag(std::string_view key, bool value) override;
+    bool text(std::string_view key, const std::string& value) override;
+
+  private:
+    std::string text_;
+};
+
 /// Compares every key, a missing one as 0 or as an empty text, until one differs.
 class ToolKeyComparer : public ToolKeys {
   public:

@@ -72,12 +72,23 @@ void Sheet::RemoveControl(const OverlayItem& item) {
             continue;
         }
         setVisible(*at, false);
-        at->inUse = false;
-        if (at != array.begin()) {
-            std::erase(zOrder_, &item);
-            array.erase(at);
-        }
+        std::erase(zOrder_, &item);
+        array.erase(at);
         return;
+    }
+}
+
+void Sheet::putAside(const OverlayItem& item) {
+    if (Element* const element = find(item)) {
+        setVisible(*element, false);
+        element->inUse = false;
+    }
+}
+
+void Sheet::takeBack(const OverlayItem& item, bool visible) {
+    if (Element* const element = find(item)) {
+        element->inUse = true;
+        setVisible(*element, visible);
     }
 }
 
@@ -114,13 +125,13 @@ const Sheet::Element* Sheet::find(const OverlayItem& item) const {
     return nullptr;
 }
 
+Sheet::Element* Sheet::find(const OverlayItem& item) {
+    return const_cast<Element*>(std::as_const(*this).find(item));
+}
+
 void Sheet::setVisible(const OverlayItem& item, bool visible) {
-    for (Elements& array : arrays_) {
-        for (Element& element : array) {
-            if (element.item.get() == &item) {
-                setVisible(element, visible);
-            }
-        }
+    if (Element* const element = find(item)) {
+        setVisible(*element, visible);
     }
 }
 
@@ -154,6 +165,12 @@ void Sheet::SetFocusToSelectedControl() {
     OverlayItem* tool = selected();
     if (tool != nullptr) {
         giveFocus(*tool);
+    }
+}
+
+void Sheet::giveFreeFocusToSelectedControl() {
+    if (windowFocused_ && focused_ == nullptr) {
+        SetFocusToSelectedControl();
     }
 }
 

@@ -47,8 +47,12 @@ class Sheet {
     OverlayItem* AddNewControl(int kind);
     /// The same, with changes under way from its making, which `changes` then ends.
     OverlayItem* AddNewControl(int kind, std::optional<ToolChanges>& changes);
-    /// Element 0 is only hidden, any other one is destroyed.
+    /// Destroys it.
     void RemoveControl(const OverlayItem& item);
+    /// Hides it and takes it out of use: it keeps its place among the others, and counts no more.
+    void putAside(const OverlayItem& item);
+    /// One that has been put aside is in use again.
+    void takeBack(const OverlayItem& item, bool visible);
     /// Element 0 of that kind, null for another kind.
     [[nodiscard]] OverlayItem* GetFirstControl(int kind) const;
 
@@ -71,6 +75,8 @@ class Sheet {
     void SelectControl(const OverlayItem& item);
     [[nodiscard]] OverlayItem* selected() const;
     void SetFocusToSelectedControl();
+    /// The same if the keyboard is the worksheet's, and no tool has it.
+    void giveFreeFocusToSelectedControl();
     void RemoveFocusFromOtherControls(const OverlayItem& item);
 
     /// The user's change of focus to a tool, by a press or a key. A hidden tool does not take it.
@@ -110,13 +116,14 @@ class Sheet {
         std::unique_ptr<OverlayItem> item;
         bool visible = false;
         int id = 0;
-        /// Not so: element 0 before it is first shown and after its removal.
+        /// Not so: element 0 before it is first shown, and what has been put aside.
         bool inUse = false;
     };
     using Elements = std::vector<Element>;
 
     OverlayItem* add(ToolKind kind, bool visible, std::optional<ToolChanges>& changes);
     [[nodiscard]] Elements& elements(ToolKind kind);
+    [[nodiscard]] Element* find(const OverlayItem& item);
     [[nodiscard]] const Element* find(const OverlayItem& item) const;
     void focusArrives(OverlayItem& item);
     void setVisible(Element& element, bool visible);

@@ -85,7 +85,10 @@ class DocumentsFixture : public ToolFileFixture {
 
     FakeDocumentView view_;
     bool savedAtTheEnd_ = false;
-    Documents documents_{{ini_.file, ini_.store, toolFile_, stage_.list, stage_.view, view_}};
+    std::vector<std::string> notes_;
+    RemovedTools removed_{stage_.list, [this](const std::string& note) { notes_.push_back(note); }};
+    Documents documents_{
+        {ini_.file, ini_.store, toolFile_, stage_.list, removed_, stage_.view, view_}};
 };
 
 }  // namespace ormala

@@ -15,7 +15,8 @@ TEST_F(DocumentsTest, AFirstStartShowsOneToolOfEachKind) {
     ToolListStage first;
     first.list.prepareFirstTools();
     ToolFile toolFile({ini_.file, ini_.store, first.list, first.view}, {"1", [] { return "t"; }});
-    Documents documents({ini_.file, ini_.store, toolFile, first.list, first.view, view_});
+    RemovedTools removed(first.list, [](const std::string&) {});
+    Documents documents({ini_.file, ini_.store, toolFile, first.list, removed, first.view, view_});
     documents.loadAutomatic(automaticPath);
     EXPECT_EQ(first.kinds(), "SM");
     EXPECT_TRUE(first.sheet.isVisible(first.stencil(0).RefControlControl()));

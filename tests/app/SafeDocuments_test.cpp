@@ -37,7 +37,8 @@ TEST_F(SafeDocuments, AStartWithoutItsToolsSaysSoOnceAndShowsTheFirstOnes) {
     ToolListStage first;
     first.list.prepareFirstTools();
     ToolFile toolFile({ini_.file, ini_.store, first.list, first.view}, {"1", [] { return "t"; }});
-    Documents documents({ini_.file, ini_.store, toolFile, first.list, first.view, view_});
+    RemovedTools removed(first.list, [](const std::string&) {});
+    Documents documents({ini_.file, ini_.store, toolFile, first.list, removed, first.view, view_});
     file(automaticPath) = exampleToolFile;
     hold(automaticPath);
     documents.loadAutomatic(automaticPath);
@@ -56,7 +57,8 @@ TEST_F(SafeDocuments, AStartInAMissingFolderShowsTheFirstTools) {
     ToolListStage first;
     first.list.prepareFirstTools();
     ToolFile toolFile({ini_.file, ini_.store, first.list, first.view}, {"1", [] { return "t"; }});
-    Documents documents({ini_.file, ini_.store, toolFile, first.list, first.view, view_});
+    RemovedTools removed(first.list, [](const std::string&) {});
+    Documents documents({ini_.file, ini_.store, toolFile, first.list, removed, first.view, view_});
     documents.loadAutomatic("C:\\nowhere\\Ormala Tools.ini");
     EXPECT_EQ(first.kinds(), "SM");
     EXPECT_TRUE(errors().empty());

@@ -291,6 +291,8 @@ TEST_F(ToolListTest, ThePanelsDeleteKeyRemovesItsTool) {
     ctlSetRatioGrid& added = stage_.addStencil();
     added.RefControl().keyDown(key::remove, 0);
     EXPECT_EQ(stage_.kinds(), "SM");
+    EXPECT_EQ(stage_.sheet.zOrder().size(), 3U);
+    list_.dropRemoved();
     EXPECT_EQ(stage_.sheet.zOrder().size(), 2U);
 }
 

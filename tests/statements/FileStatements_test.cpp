@@ -82,6 +82,37 @@ TEST_F(FileStatements, OfSetsOfTools) {
     });
 }
 
+TEST_F(FileStatements, OfWhatComesBack) {
+    expectHeld({
+        {"as long as you do nothing else to the tools, Ctrl+Z brings it back with its panel, its "
+         "place and all its steps.",
+         "the first of two tools, turned, removed and brought back",
+         [this] {
+             startWithTools();
+             const std::string before = kinds();
+             ctlSetRatioGrid& first = stage_.stencil(0);
+             first.RefControl().setRotationAngle(1);
+             first.AddHistoryStep();
+             removed_.remove(first);
+             removed_.bringBack();
+             return kinds() == before && first.history().UndoPossible() ? "as before" : kinds();
+         },
+         "as before"},
+        {"Directly after New set of tools and Load tools from file... Ctrl+Z brings the former set "
+         "back, with the name of its file.",
+         "New after a loaded set, taken back",
+         [this] {
+             view_.answer = Answer::no;
+             loadNamed();
+             const std::string before = kinds();
+             documents_.New();
+             removed_.bringBack();
+             return kinds() == before ? ini_.file.Path() : kinds();
+         },
+         namedPath},
+    });
+}
+
 TEST_F(FileStatements, OfTools) {
     expectHeld({
         {"There is room for 33 tools.", "stencils until one is refused",

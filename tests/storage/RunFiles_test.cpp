@@ -22,13 +22,15 @@ TEST(RunFiles, AFileStaysUnreadableUntilItsContentsAreNoted) {
     EXPECT_FALSE(files.couldNotRead("C:\\a.OM"));
 }
 
-TEST(RunFiles, HaveTheContentsOfTheLastFile) {
+TEST(RunFiles, HaveTheLastContentsOfEachFile) {
     RunFiles files;
     files.noteContents("C:\\a.OM", "x");
     EXPECT_EQ(files.contentsOf("C:\\a.OM"), "x");
     files.noteContents("C:\\b.OM", "y");
     EXPECT_EQ(files.contentsOf("C:\\b.OM"), "y");
-    EXPECT_EQ(files.contentsOf("C:\\a.OM"), std::nullopt);
+    EXPECT_EQ(files.contentsOf("C:\\a.OM"), "x");
+    files.noteContents("C:\\a.OM", "z");
+    EXPECT_EQ(files.contentsOf("C:\\a.OM"), "z");
 }
 
 TEST(RunFiles, TheCaseOfAPathIsNoDifference) {

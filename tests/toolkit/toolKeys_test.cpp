@@ -90,5 +90,15 @@ TEST_F(ToolKeysTest, TheCaseOfATextCounts) {
     EXPECT_FALSE(comparer_.text("Key", "mm"));
 }
 
+TEST(ToolKeyText, HasEveryKeyWithItsValueAsInTheFile) {
+    ToolKeyText keys;
+    EXPECT_TRUE(keys.number("Left", 12.5));
+    EXPECT_TRUE(keys.factor("Factor", 1.0 / 3));
+    EXPECT_TRUE(keys.integer("Color", -7));
+    EXPECT_TRUE(keys.flag("Hide", true));
+    EXPECT_TRUE(keys.text("Unit", "m"));
+    EXPECT_EQ(keys.text(), "Left= 12.5\nFactor= .333333333333333\nColor=-7\nHide=-1\nUnit=m\n");
+}
+
 }  // namespace
 }  // namespace ormala

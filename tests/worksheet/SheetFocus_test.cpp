@@ -100,6 +100,22 @@ TEST_F(SheetFocusTest, TheSelectedToolGetsTheFocusOnRequest) {
     EXPECT_TRUE(measure_.focused);
 }
 
+TEST_F(SheetFocusTest, TheSelectedToolGetsAFocusThatIsFree) {
+    sheet_.giveFocus(second_);
+    sheet_.SelectControl(measure_);
+    sheet_.giveFreeFocusToSelectedControl();
+    EXPECT_EQ(sheet_.focused(), &second_) << "it has one";
+    sheet_.RemoveControl(second_);
+    sheet_.SelectControl(measure_);
+    sheet_.giveFreeFocusToSelectedControl();
+    EXPECT_EQ(sheet_.focused(), &measure_);
+    sheet_.putAside(measure_);
+    sheet_.windowLostFocus();
+    sheet_.SelectControl(first_);
+    sheet_.giveFreeFocusToSelectedControl();
+    EXPECT_EQ(sheet_.focused(), nullptr) << "the keyboard is elsewhere";
+}
+
 TEST_F(SheetFocusTest, WithoutASelectedToolTheRequestChangesNothing) {
     sheet_.giveFocus(second_);
     sheet_.RemoveControl(second_);
@@ -111,7 +127,7 @@ TEST_F(SheetFocusTest, WithoutASelectedToolTheRequestChangesNothing) {
 
 TEST_F(SheetFocusTest, AHiddenSelectedToolDoesNotGetTheFocus) {
     sheet_.SelectControl(first_);
-    sheet_.RemoveControl(first_);
+    sheet_.putAside(first_);
     ASSERT_EQ(sheet_.selected(), &first_);
     log_.clear();
     sheet_.SetFocusToSelectedControl();
@@ -121,7 +137,7 @@ TEST_F(SheetFocusTest, AHiddenSelectedToolDoesNotGetTheFocus) {
 
 TEST_F(SheetFocusTest, AHiddenToolKeepsNoFocus) {
     sheet_.giveFocus(first_);
-    sheet_.RemoveControl(first_);
+    sheet_.putAside(first_);
     EXPECT_EQ(sheet_.focused(), nullptr);
     EXPECT_FALSE(first_.focused);
 }

@@ -9,6 +9,17 @@ class SheetTest : public SheetFixture {};
 
 using Items = std::vector<const OverlayItem*>;
 
+using Ordinals = std::vector<int>;
+
+/// Of the visible tools, kind by kind.
+Ordinals ordinals(const Sheet& sheet) {
+    Ordinals numbers;
+    for (const Sheet::Shown& tool : sheet.shown()) {
+        numbers.push_back(tool.ordinal);
+    }
+    return numbers;
+}
+
 TEST_F(SheetTest, ElementZeroExistsHiddenFromTheStart) {
     sheet_.makeFirstControl(ToolKind::stencil);
     const OverlayItem* first = sheet_.GetFirstControl(stencil);
@@ -79,21 +90,39 @@ TEST_F(SheetTest, AKindThatTheFactoryCannotMakeStaysEmpty) {
     EXPECT_EQ(sheet_.GetFirstControl(measurement), nullptr);
 }
 
-TEST_F(SheetTest, RemovingElementZeroHidesItAndKeepsItLoaded) {
+TEST_F(SheetTest, AToolThatIsPutAsideIsHiddenAndKept) {
     FakeOverlayItem& first = addFirst(ToolKind::stencil, true);
-    sheet_.RemoveControl(first);
+    sheet_.putAside(first);
     EXPECT_EQ(sheet_.zOrder().size(), 1U);
     EXPECT_EQ(sheet_.GetFirstControl(stencil), &first);
     EXPECT_FALSE(sheet_.isVisible(first));
     EXPECT_EQ(noted(first, "destroyed"), 0);
 }
 
-TEST_F(SheetTest, ARemovedElementZeroCanBeUsedAgain) {
+TEST_F(SheetTest, AToolThatIsTakenBackStandsWhereItStood) {
     FakeOverlayItem& first = addFirst(ToolKind::stencil, true);
+    FakeOverlayItem& second = add(stencil);
+    add(stencil);
+    sheet_.putAside(first);
+    sheet_.putAside(second);
+    EXPECT_EQ(ordinals(sheet_), Ordinals{1});
+    sheet_.takeBack(second, true);
+    EXPECT_EQ(ordinals(sheet_), (Ordinals{1, 2}));
+    EXPECT_EQ(sheet_.visibleInArrayOrder().front(), &second);
+    EXPECT_EQ(sheet_.zOrder().front(), &first);
+    EXPECT_EQ(sheet_.zOrder()[1], &second);
+    // A paused one comes back hidden, and counts.
+    sheet_.takeBack(first, false);
+    EXPECT_FALSE(sheet_.isVisible(first));
+    EXPECT_EQ(ordinals(sheet_), (Ordinals{2, 3}));
+}
+
+TEST_F(SheetTest, RemovingDestroysElementZeroToo) {
+    const FakeOverlayItem& first = addFirst(ToolKind::stencil, true);
+    const FakeOverlayItem& second = add(stencil);
     sheet_.RemoveControl(first);
-    sheet_.setVisible(first, true);
-    EXPECT_TRUE(sheet_.isVisible(first));
-    EXPECT_EQ(sheet_.front(), &first);
+    EXPECT_EQ(log_, ToolLog{"stencil 0 destroyed"});
+    EXPECT_EQ(sheet_.GetFirstControl(stencil), &second);
 }
 
 TEST_F(SheetTest, RemovingAnotherElementDestroysIt) {
@@ -140,7 +169,7 @@ TEST_F(SheetTest, TellsOnceThatAHiddenToolIsWithdrawn) {
     const auto subscription =
         sheet_.withdrawn.subscribe([&withdrawn](const OverlayItem&) { ++withdrawn; });
     sheet_.setVisible(first, false);
-    sheet_.RemoveControl(first);
+    sheet_.putAside(first);
     EXPECT_EQ(withdrawn, 1);
 }
 
@@ -242,17 +271,6 @@ TEST_F(SheetTest, TheSizeReachesEveryToolAlsoHiddenOnes) {
     EXPECT_EQ(shown.size, (PixelSize{640, 480}));
 }
 
-using Ordinals = std::vector<int>;
-
-/// Of the visible tools, kind by kind.
-Ordinals ordinals(const Sheet& sheet) {
-    Ordinals numbers;
-    for (const Sheet::Shown& tool : sheet.shown()) {
-        numbers.push_back(tool.ordinal);
-    }
-    return numbers;
-}
-
 TEST_F(SheetTest, ToolsInUseAreCountedKindByKind) {
     addFirst(ToolKind::stencil, true);
     const FakeOverlayItem& second = add(stencil);
@@ -275,7 +293,7 @@ TEST_F(SheetTest, ElementZeroCountsWhileItIsInUse) {
     sheet_.setVisible(first, false);
     EXPECT_EQ(ordinals(sheet_), Ordinals{2});
     sheet_.setVisible(first, true);
-    sheet_.RemoveControl(first);
+    sheet_.putAside(first);
     EXPECT_EQ(ordinals(sheet_), Ordinals{1});
 }
 

@@ -142,7 +142,7 @@ void PanelFocus::removeNow(HWND window) {
         focused_ = follower;
     }
     passFocus(window, follower);
-    ports_.tools.RemovePanel(panel->core());
+    ports_.removed.remove(panel->core());
 }
 
 HWND PanelFocus::followerOf(PanelWindow& panel) const {

@@ -2,6 +2,7 @@
 
 #include "app/FocusMemory.h"
 #include "app/PressGuard.h"
+#include "app/RemovedTools.h"
 #include "app/ToolList.h"
 #include "app/win/shell/frmSettings.h"
 #include "app/win/tools/PanelList.h"
@@ -21,6 +22,7 @@ class PanelFocus : public PanelHost {
         const PanelMaker& panels;
         Sheet& sheet;
         ToolList& tools;
+        RemovedTools& removed;
     };
 
     /// All must outlive it; of the list, the panels and the tools nothing is used meanwhile.

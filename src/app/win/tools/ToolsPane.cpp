@@ -1,7 +1,5 @@
 #include "app/win/tools/ToolsPane.h"
 
-#include <algorithm>
-
 #include "app/CommandTable.h"
 #include "app/programFiles.h"
 #include "app/version.h"
@@ -27,19 +25,22 @@ ToolsPane::ToolsPane(const Ports& ports)
       panelDialogs_({ports.window.handle(), ports.worksheet.handle(), ports.ratios, ports.state,
                      ports.codePage, [this](bool aside) { ports_.view.putWindowsAside(aside); }}),
       focus_({ports.window, ports.view, ports.focus, list_, panelMaker_, ports.worksheet.sheet(),
-              tools_}),
+              tools_, removed_}),
       panelMaker_({list_, clock_, ports.worksheet.sheet(), focus_, panelDialogs_,
                    ports.state.toolSettings(), ports.ratios, ports.globalEvents}),
       dialogs_(ports.window.handle(), ports.window.bar()),
       tools_({ports.worksheet.sheet(), panelMaker_, *this, messages_,
               ports.state.options().defaultUnits}),
+      removed_(tools_, [this](const std::string& note) { ports_.view.showNote(note); }),
       toolFile_({toolsFile_, ports.store, tools_, *this}, {versionText, timeOfSaving}),
-      documents_({toolsFile_, ports.store, toolFile_, tools_, *this, dialogs_}),
+      documents_({toolsFile_, ports.store, toolFile_, tools_, removed_, *this, dialogs_}),
       subscriptions_{list_.viewChanged.subscribe([this] { tellPanelsWhatShows(); }),
                      ports.window.ticked.subscribe([this](UINT_PTR timer) { onTimer(timer); }),
                      ports.window.mouseNear().subscribe([this] { tellPanelsWhatShows(); }),
                      ports.window.listPlaced.subscribe([this] { takePlace(); }),
-                     ports.window.dpiChanged.subscribe([this] { takeDpi(); })} {
+                     ports.window.dpiChanged.subscribe([this] { takeDpi(); }),
+                     // The panel that has the keyboard may go.
+                     removed_.bringingBack.subscribe([this] { focus_.keepInList(); })} {
     takeDpi();
 }
 
@@ -112,24 +113,10 @@ bool ToolsPane::execute(Command command) {
         {Command::saveAs, [](ToolsPane& self) { self.documents_.SaveAs(); }},
         {Command::nextTool, [](ToolsPane& self) { self.sheet().focusNext(false); }},
         {Command::previousTool, [](ToolsPane& self) { self.sheet().focusNext(true); }},
-        {Command::undo, [](ToolsPane& self) { self.stepHistory(true); }},
-        {Command::redo, [](ToolsPane& self) { self.stepHistory(false); }},
+        {Command::undo, [](ToolsPane& self) { self.removed_.undo(self.sheet().toolOfKeys()); }},
+        {Command::redo, [](ToolsPane& self) { self.removed_.redo(self.sheet().toolOfKeys()); }},
     }};
     return runCommand<ToolsPane>(rows, *this, command);
-}
-
-/// Of the tool that has the keyboard, or the selected one.
-void ToolsPane::stepHistory(bool back) {
-    const OverlayItem* const tool = sheet().toolOfKeys();
-    const auto& panels = panelMaker_.panels();
-    const auto at = std::ranges::find_if(
-        panels, [tool](PanelWindow* panel) { return &panel->core().RefControlControl() == tool; });
-    if (at != panels.end()) {
-        SettingControl& core = (*at)->core();
-        // Steps of the keys are in no record yet: without this they would be lost.
-        core.AddHistoryStep();
-        back ? core.Undo() : core.Redo();
-    }
 }
 
 void ToolsPane::addTool(ToolKind kind) {

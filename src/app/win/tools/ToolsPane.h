@@ -62,7 +62,6 @@ class ToolsPane : private ToolListView, private BusyView {
 
     [[nodiscard]] Sheet& sheet() { return ports_.worksheet.sheet(); }
     void addTool(ToolKind kind);
-    void stepHistory(bool back);
     void runClock(bool running);
     void onTimer(UINT_PTR timer);
     void takePlace();
@@ -83,9 +82,10 @@ class ToolsPane : private ToolListView, private BusyView {
     PanelMaker panelMaker_;
     DocumentDialogs dialogs_;
     ToolList tools_;
+    RemovedTools removed_;
     ToolFile toolFile_;
     Documents documents_;
-    std::array<Subscription, 5> subscriptions_;
+    std::array<Subscription, 6> subscriptions_;
 };
 
 }  // namespace ormala

@@ -97,7 +97,7 @@ void ViewPane::takeScreenShot() {
 void ViewPane::showNote(const std::string& text) {
     constexpr UINT readingTime = 4000;
     ports_.window.bar().showNote(text);
-    tmrNote_.start(ports_.window.handle(), readingTime);
+    tmrNote_.start(ports_.window.handle(), text.empty() ? 0 : readingTime);
 }
 
 void ViewPane::onTimer(UINT_PTR timer) {

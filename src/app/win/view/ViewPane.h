@@ -47,6 +47,8 @@ class ViewPane : public OptionsPort {
     void ShowOptions(int Page);
     /// False, with a message, if there is no help or nothing to show it with.
     bool ShowHelp();
+    /// In the place of the path, for as long as it takes to read it; an empty one ends the last.
+    void showNote(const std::string& text);
     /// The control window in front of the worksheet, and a magnifier beside the mouse in front of
     /// both.
     void raiseAboveAll();
@@ -71,7 +73,6 @@ class ViewPane : public OptionsPort {
     void loadLook();
     void takeLook();
     void takeScreenShot();
-    void showNote(const std::string& text);
     void onTimer(UINT_PTR timer);
     [[nodiscard]] HWND ownerOfDialogs() const;
     void askForLensMenu(PixelPoint screen);
