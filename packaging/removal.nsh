@@ -51,8 +51,12 @@ FunctionEnd
 Function un.deleteSettings
   Delete "$settingsFolder\Ormala.ini"
   Delete "$settingsFolder\Ormala (kept *).ini"
+  Delete "$settingsFolder\Ormala (other*).ini"
+  Delete "$settingsFolder\Ormala (previous).ini"
   Delete "$settingsFolder\Ormala Tools.ini"
   Delete "$settingsFolder\Ormala Tools (kept *).ini"
+  Delete "$settingsFolder\Ormala Tools (other*).ini"
+  Delete "$settingsFolder\Ormala Tools (previous).ini"
   Delete "$settingsFolder\~settings-*.tmp"
   RMDir "$settingsFolder"
 FunctionEnd

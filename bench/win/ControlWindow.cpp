@@ -10,9 +10,7 @@
 #include "benchmarks.h"
 #include "e2e/support/AppDataFolder.h"
 #include "stencil/ctlRatioGrid.h"
-#include "support/win/TemporaryFolder.h"
 #include "support/win/Wait.h"
-#include "support/win/WideText.h"
 
 namespace ormala::bench {
 
@@ -156,14 +154,12 @@ void makePanel(ControlWindowStage& stage) {
 }
 
 void loadPanels(ControlWindowStage& stage, ToolKind kind, const std::string& what) {
-    const test::TemporaryFolder folder;
-    const std::string path = test::narrow((folder.path() / "tools.OM").wstring());
     stage.fill(kind);
-    stage.pane().documents().saveAutomatic(path);
+    stage.pane().automatic().save();
     std::vector<double> times;
     for (int i = 0; i < runs; ++i) {
         times.push_back(elapsed([&] {
-            stage.pane().documents().loadAutomatic(path);
+            stage.pane().automatic().load({});
             stage.paint();
         }));
         ControlWindowStage::settle();

@@ -170,26 +170,4 @@ bool Documents::saveWhateverIsThere() {
     return ports_.file.save();
 }
 
-void Documents::loadAutomatic(const std::string& path) {
-    INIFile& file = ports_.toolsFile;
-    file.setPath(path);
-    if (file.status() == ReadResult::Status::notFound || !loadIfReadable()) {
-        ports_.tools.showFirstTools();
-    }
-    file.setPath({});
-    UpdatePathLine();
-}
-
-bool Documents::saveAutomatic(const std::string& path) {
-    ports_.toolsFile.setPath(path);
-    return saveWhateverIsThere();
-}
-
-bool Documents::keepAutomatic(const std::string& path) {
-    const std::string document = ports_.toolsFile.Path();
-    const bool saved = saveAutomatic(path);
-    ports_.toolsFile.setPath(document);
-    return saved;
-}
-
 }  // namespace ormala

@@ -77,15 +77,6 @@ class Documents {
     void Save();
     void SaveAs();
 
-    /// At the start: brings the tools of the last run back, or shows the first tools if there was
-    /// none or its file can't be read, which a message tells.
-    void loadAutomatic(const std::string& path);
-    /// At the end, whatever document there is. The path line doesn't follow. False if the tools are
-    /// not on the disk, which a message tells.
-    bool saveAutomatic(const std::string& path);
-    /// The same while the program runs: the document stays what it is.
-    bool keepAutomatic(const std::string& path);
-
   private:
     bool save();
     Answer askToReplace(const std::string& path);

@@ -25,6 +25,7 @@ void ModeSwitch::SetMode(Mode mode, bool minimise) {
         // Neither worksheet nor frame obeys a key but in edit mode.
         port_.keyboardToProgramBelow();
     }
+    switched.raise();
 }
 
 bool ModeSwitch::execute(Command command) {

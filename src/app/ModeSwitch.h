@@ -46,6 +46,9 @@ class ModeSwitch {
     /// The border of template mode may have been changed.
     void refreshTemplateMode();
 
+    /// A change of mode is complete.
+    Event<> switched;
+
     /// Whether a full-screen worksheet can be brought back into its frame now.
     [[nodiscard]] bool WorksheetMaxSized() const { return worksheetMaxSized_; }
     void setWorksheetMaxSized(bool maxSized);

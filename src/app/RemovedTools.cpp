@@ -9,13 +9,12 @@ std::string RemovedTools::present() const {
     for (const ToolList::Entry& entry : tools_.GetPanelsInVisualOrder()) {
         const SettingControl& panel = entry.listed.panel();
         const HistoryHelper& history = panel.history();
-        for (const int number : {static_cast<int>(entry.kind), history.oldest(), history.newest(),
-                                 history.current(), static_cast<int>(panel.Selected())}) {
+        for (const int number : {history.oldest(), history.newest(), history.current(),
+                                 static_cast<int>(panel.Selected())}) {
             text.append(std::to_string(number)).append(" ");
         }
-        text += panel.keysText();
     }
-    return text;
+    return text + tools_.keysText();
 }
 
 void RemovedTools::remove(SettingControl& panel) {

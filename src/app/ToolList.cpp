@@ -287,6 +287,15 @@ std::vector<ToolList::Entry> ToolList::GetPanelsInVisualOrder() const {
     return entries;
 }
 
+std::string ToolList::keysText() const {
+    std::string text;
+    for (const Entry& entry : GetPanelsInVisualOrder()) {
+        text.append(std::to_string(static_cast<int>(entry.kind))).append("\n");
+        text.append(entry.listed.panel().keysText());
+    }
+    return text;
+}
+
 SettingControl* ToolList::panelOf(const OverlayItem* tool) const {
     const auto at = std::ranges::find_if(pairs_, [tool](const Pair& pair) {
         return !pair.panel().Hidden() && &pair.panel().RefControlControl() == tool;

@@ -74,6 +74,8 @@ class ToolList {
     [[nodiscard]] SettingControl* panelOf(const OverlayItem* tool) const;
     /// From top to bottom, without hidden ones.
     [[nodiscard]] std::vector<Entry> GetPanelsInVisualOrder() const;
+    /// The kinds and keys of all of them: two texts are equal if the files are.
+    [[nodiscard]] std::string keysText() const;
     void ArrangePanels();
     /// Of the list's content: the bottom of the lowest panel, 0 without any.
     [[nodiscard]] int contentHeight() const;

@@ -322,6 +322,7 @@ constexpr TextRow englishRows[] = {
     {641, "Measurement tool %0 removed. Ctrl+Z brings it back."},
     {642, "All tools removed. Ctrl+Z brings them back."},
     {643, "Tools replaced. Ctrl+Z brings the former ones back."},
+    {644, "The latest changes are not saved yet."},
 };
 
 }  // namespace

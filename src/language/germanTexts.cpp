@@ -321,6 +321,7 @@ constexpr TextRow germanRows[] = {
     {641, "Messwerkzeug %0 entfernt. Strg+Z holt es zurück."},
     {642, "Alle Werkzeuge entfernt. Strg+Z holt sie zurück."},
     {643, "Werkzeuge ersetzt. Strg+Z holt die vorigen zurück."},
+    {644, "Die letzten Änderungen sind noch nicht gespeichert."},
 };
 
 }  // namespace

@@ -9,6 +9,15 @@ namespace {
 constexpr std::string_view nameBegin = "~settings-";
 constexpr std::string_view nameEnd = ".tmp";
 
+/// In front of the extension of the file's name.
+std::string markedName(std::string_view path, std::string_view mark) {
+    const std::string_view name = path.substr(path.rfind('\\') + 1);
+    const std::size_t extension = name.size() - std::min(name.rfind('.'), name.size());
+    const std::size_t stem = path.size() - extension;
+    std::string marked(path.substr(0, stem));
+    return marked.append(" (").append(mark).append(")").append(path.substr(stem));
+}
+
 bool isNumber(std::string_view text) {
     return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
 }
@@ -50,15 +59,17 @@ bool isNeighbourName(std::string_view name) {
 }
 
 std::string keptName(std::string_view path, std::string_view time, int number) {
-    const std::string_view name = path.substr(path.rfind('\\') + 1);
-    const std::size_t extension = name.size() - std::min(name.rfind('.'), name.size());
-    const std::size_t stem = path.size() - extension;
-    std::string mark = " (kept " + std::string(time);
+    std::string mark = "kept " + std::string(time);
     std::ranges::replace(mark, ':', '.');
     if (number > 1) {
         mark += ", " + std::to_string(number);
     }
-    return std::string(path.substr(0, stem)).append(mark).append(")").append(path.substr(stem));
+    return markedName(path, mark);
+}
+
+std::string versionName(std::string_view path, std::string_view word, int number) {
+    const std::string mark(word);
+    return markedName(path, number > 1 ? mark + " " + std::to_string(number) : mark);
 }
 
 }  // namespace ormala

@@ -46,4 +46,8 @@ bool isNeighbourName(std::string_view name);
 /// behind it where there is such a file already.
 std::string keptName(std::string_view path, std::string_view time, int number);
 
+/// The path of another version of a file: "C:\\a (other).OM" for the word "other". A `number` from
+/// 2 on stands behind the word where there is such a file already.
+std::string versionName(std::string_view path, std::string_view word, int number = 1);
+
 }  // namespace ormala

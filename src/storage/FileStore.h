@@ -61,6 +61,10 @@ class FileStore {
     /// The system's error number for a look at the path, 0 if something is there.
     virtual int errorOfPath(const std::string& path) = 0;
 
+    /// The local time at which the file was last written, in the form of the settings files:
+    /// "2024-05-17 08:30:12". Empty if there is none.
+    virtual std::string timeOf(const std::string& path) = 0;
+
     virtual RemoveResult remove(const std::string& path) = 0;
 
     /// What `remove` would answer now, or within two seconds if another program holds the file; the

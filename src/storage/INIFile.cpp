@@ -105,6 +105,11 @@ void INIFile::CreateFolderPath() {
     }
 }
 
+void INIFile::tellFailedSave(const std::string& description) {
+    lastError_ = messageAbout(failedToSave, Path(), description);
+    ShowLastError();
+}
+
 bool INIFile::ShowLastError() {
     if (!lastError_.empty()) {
         presenter_.showError(lastError_);

@@ -41,6 +41,13 @@ class INIFile {
     /// Whether another program has changed the file since that, or since it was written here.
     [[nodiscard]] bool changedElsewhere() { return profile_.changedElsewhere(); }
 
+    /// What this program has last read of it or written to it; nothing if it knows of no file.
+    [[nodiscard]] std::optional<std::string_view> knownContents() const {
+        return profile_.knownContents();
+    }
+    /// Whether the next writing keeps the old file beside it, which could not be read.
+    [[nodiscard]] bool keepsOld() const { return profile_.keepsOld(); }
+
     const std::string& CurrentSection() const { return currentSection_; }
     void setCurrentSection(std::string section);
 
@@ -54,6 +61,8 @@ class INIFile {
     /// Makes the folder of a file that is reported missing. A missing folder isn't such a report.
     void CreateFolderPath();
 
+    /// Has a message tell that the file could not be saved; the description may be empty.
+    void tellFailedSave(const std::string& description);
     /// Shows `LastError` if there is one, and clears it. The result is always false.
     bool ShowLastError();
 

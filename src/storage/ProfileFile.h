@@ -55,6 +55,13 @@ class ProfileFile {
     /// file that isn't there, or can't be read now, hasn't.
     [[nodiscard]] bool changedElsewhere();
 
+    /// What that was; nothing if there was no file.
+    [[nodiscard]] std::optional<std::string_view> knownContents() const {
+        return run_.contentsOf(path_);
+    }
+    /// This run could not read the file, so that its next writing keeps it beside.
+    [[nodiscard]] bool keepsOld() const { return run_.couldNotRead(path_); }
+
     /// The value, cut to `size` - 1 bytes; nothing if it, its section or the file is missing.
     std::optional<std::string> find(std::string_view section, std::string_view key,
                                     std::size_t size);

@@ -13,6 +13,8 @@ namespace ormala {
 struct WindowPlacement {
     std::int32_t showCmd = 0;  ///< 3 = maximised
     PixelRect rcNormalPosition;
+
+    bool operator==(const WindowPlacement&) const = default;
 };
 
 /// The screens there are.

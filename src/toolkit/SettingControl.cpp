@@ -43,6 +43,7 @@ void SettingControl::setPause(bool pause) {
         letGo();
     }
     pause_ = pause;
+    ports_.changed();
     showPause();
     ports_.setVisible(tool_, !pause);
     SetUndoButtons();
@@ -112,6 +113,7 @@ void SettingControl::timerTicked(PanelTimer timer) {
 }
 
 void SettingControl::ShowAllProps(bool force) {
+    ports_.changed();
     const float now = ports_.secondsSinceMidnight();
     const bool later =
         throttle_.ask(now, force, repeat_.heldByMouse()) == ThrottledRefresh::Step::startTimer;
@@ -158,6 +160,7 @@ void SettingControl::takeStep(const PanelControl& step, int shift, bool byMouse)
 
 void SettingControl::AddHistoryStep() {
     tool_.History().Add(false);
+    ports_.changed();
     SetUndoButtons();
 }
 

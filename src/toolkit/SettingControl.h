@@ -26,6 +26,8 @@ struct PanelPorts {
     std::function<void(const OverlayItem& tool, bool visible)> setVisible;
     /// The time of day.
     std::function<float()> secondsSinceMidnight;
+    /// The tool, or what else the panel keeps in files, may have changed.
+    std::function<void()> changed = [] {};
 };
 
 /// What a new tool takes over from the last one of its kind. All have a line; the rest is of

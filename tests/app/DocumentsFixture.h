@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "app/AutomaticTools.h"
 #include "app/Documents.h"
 #include "app/ToolFileFixture.h"
 #include "support/exampleToolFile.h"
@@ -55,7 +56,10 @@ class DocumentsFixture : public ToolFileFixture {
     }
 
     std::string& file(const std::string& path) { return ini_.store.files[path]; }
-    void start() { documents_.loadAutomatic(automaticPath); }
+    void start() {
+        automatic_.load(time_);
+        documents_.UpdatePathLine();
+    }
     void startWithTools() {
         file(automaticPath) = exampleToolFile;
         start();
@@ -70,7 +74,7 @@ class DocumentsFixture : public ToolFileFixture {
     bool close() {
         const bool closes = documents_.ConfirmDiscard();
         if (closes) {
-            savedAtTheEnd_ = documents_.saveAutomatic(automaticPath);
+            savedAtTheEnd_ = automatic_.save();
         }
         return closes;
     }
@@ -83,8 +87,28 @@ class DocumentsFixture : public ToolFileFixture {
 
     [[nodiscard]] const std::vector<std::string>& errors() const { return ini_.presenter.errors; }
 
+    /// The automatic file of a program that has just started, with tools of its own.
+    struct FirstStart {
+        FirstStart(MemoryINIFile& ini, const std::string& path)
+            : file(ini.store, ini.codePage, ini.presenter),
+              toolFile({file, ini.store, stage.list, stage.view}, {"1", [] { return "t"; }}),
+              automatic({file, toolFile, ini.store, stage.list}, path) {
+            stage.list.prepareFirstTools();
+            automatic.load("2024-05-17 08:30:12");
+        }
+        ToolListStage stage;
+        INIFile file;
+        ToolFile toolFile;
+        AutomaticTools automatic;
+    };
+
     FakeDocumentView view_;
     bool savedAtTheEnd_ = false;
+    INIFile automaticFile_{ini_.store, ini_.codePage, ini_.presenter};
+    ToolFile automaticToolFile_{{automaticFile_, ini_.store, stage_.list, stage_.view},
+                                {"3.1.5", [this] { return time_; }}};
+    AutomaticTools automatic_{{automaticFile_, automaticToolFile_, ini_.store, stage_.list},
+                              automaticPath};
     std::vector<std::string> notes_;
     RemovedTools removed_{stage_.list, [this](const std::string& note) { notes_.push_back(note); }};
     Documents documents_{

@@ -12,12 +12,8 @@ const std::string newText = "(New tool settings file)";
 using DocumentsTest = DocumentsFixture;
 
 TEST_F(DocumentsTest, AFirstStartShowsOneToolOfEachKind) {
-    ToolListStage first;
-    first.list.prepareFirstTools();
-    ToolFile toolFile({ini_.file, ini_.store, first.list, first.view}, {"1", [] { return "t"; }});
-    RemovedTools removed(first.list, [](const std::string&) {});
-    Documents documents({ini_.file, ini_.store, toolFile, first.list, removed, first.view, view_});
-    documents.loadAutomatic(automaticPath);
+    const FirstStart started(ini_, automaticPath);
+    const ToolListStage& first = started.stage;
     EXPECT_EQ(first.kinds(), "SM");
     EXPECT_TRUE(first.sheet.isVisible(first.stencil(0).RefControlControl()));
     EXPECT_TRUE(first.sheet.isVisible(first.measure(1).RefControlControl()));
@@ -50,7 +46,7 @@ TEST_F(DocumentsTest, AChangeWithoutADocumentIsNotAskedAboutAndIsThereAtTheNextS
 TEST_F(DocumentsTest, KeepingTheToolsWhileTheProgramRunsLeavesTheDocument) {
     loadNamed();
     stage_.stencil(0).setLineWidth(7);
-    documents_.keepAutomatic(automaticPath);
+    automatic_.save();
     expectNamed(namedPath);
     EXPECT_NE(file(automaticPath).find("LineWidth= 7"), std::string::npos);
     EXPECT_EQ(file(namedPath), exampleToolFile);

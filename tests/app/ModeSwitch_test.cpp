@@ -65,6 +65,13 @@ TEST_F(ModeSwitchTest, EditGoesItsStepsInTheirOrder) {
                                           "worksheet yes clickable yes frame yes", "show 0"}));
 }
 
+TEST_F(ModeSwitchTest, TellsThatAChangeIsComplete) {
+    const auto subscription =
+        modes_.switched.subscribe([this] { windows_.steps.emplace_back("switched"); });
+    EXPECT_EQ(stepsOf(Mode::edit).back(), "switched");
+    EXPECT_EQ(stepsOf(Mode::pause).back(), "switched");
+}
+
 TEST_F(ModeSwitchTest, TemplateGoesItsStepsInTheirOrder) {
     EXPECT_EQ(stepsOf(Mode::templateMode),
               (Steps{"buttons 1 no", "refresh", "height 0 to 1", "keyboard to control",

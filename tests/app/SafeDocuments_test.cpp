@@ -34,33 +34,22 @@ class SafeDocuments : public DocumentsFixture {
 };
 
 TEST_F(SafeDocuments, AStartWithoutItsToolsSaysSoOnceAndShowsTheFirstOnes) {
-    ToolListStage first;
-    first.list.prepareFirstTools();
-    ToolFile toolFile({ini_.file, ini_.store, first.list, first.view}, {"1", [] { return "t"; }});
-    RemovedTools removed(first.list, [](const std::string&) {});
-    Documents documents({ini_.file, ini_.store, toolFile, first.list, removed, first.view, view_});
     file(automaticPath) = exampleToolFile;
     hold(automaticPath);
-    documents.loadAutomatic(automaticPath);
+    FirstStart started(ini_, automaticPath);
+    const ToolListStage& first = started.stage;
     EXPECT_EQ(errors(), Texts{failedToLoad(automaticPath)});
     EXPECT_EQ(first.kinds(), "SM");
     EXPECT_TRUE(first.sheet.isVisible(first.stencil(0).RefControlControl()));
-    EXPECT_TRUE(documents.NoFileYet());
-    EXPECT_EQ(ini_.file.Path(), "");
     release();
-    EXPECT_TRUE(documents.saveAutomatic(automaticPath));
+    EXPECT_TRUE(started.automatic.save());
     EXPECT_EQ(kept(automaticPath), exampleToolFile);
     EXPECT_EQ(errors().size(), 1U);
 }
 
 TEST_F(SafeDocuments, AStartInAMissingFolderShowsTheFirstTools) {
-    ToolListStage first;
-    first.list.prepareFirstTools();
-    ToolFile toolFile({ini_.file, ini_.store, first.list, first.view}, {"1", [] { return "t"; }});
-    RemovedTools removed(first.list, [](const std::string&) {});
-    Documents documents({ini_.file, ini_.store, toolFile, first.list, removed, first.view, view_});
-    documents.loadAutomatic("C:\\nowhere\\Ormala Tools.ini");
-    EXPECT_EQ(first.kinds(), "SM");
+    const FirstStart started(ini_, "C:\\nowhere\\Ormala Tools.ini");
+    EXPECT_EQ(started.stage.kinds(), "SM");
     EXPECT_TRUE(errors().empty());
 }
 

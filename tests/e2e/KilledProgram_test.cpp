@@ -6,16 +6,19 @@
 #include <random>
 #include <sstream>
 
+#include "e2e/EndedByForce.h"
 #include "e2e/PanelScene.h"
 #include "e2e/support/StageFailure.h"
 #include "support/win/fileBytes.h"
 
-// The program itself is killed at random moments of saving its options and its tools.
+// The program itself is killed at random moments: of saving its options and its tools, and of the
+// work of a day.
 
 namespace ormala::test {
 namespace {
 
 constexpr int usualKills = 50;
+constexpr int usualDayKills = 6;
 /// So many saves are asked for, and the kill comes amid the first ones.
 constexpr int savesAhead = 8;
 constexpr int savesBeforeKill = 4;
@@ -33,13 +36,6 @@ std::string namesIn(const std::filesystem::path& path) {
         names += line.substr(0, line.find('=')) + "\n";
     }
     return names;
-}
-
-void killNow(const Program& program) {
-    const KernelHandle process(
-        OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, program.process().id()));
-    TerminateProcess(process.get(), 1);
-    WaitForSingleObject(process.get(), 10000);
 }
 
 class KilledProgram : public testing::Test {
@@ -60,6 +56,7 @@ class KilledProgram : public testing::Test {
         EXPECT_EQ(program.close(), 0U);
         names_ = {namesIn(data_.toolsFile()), namesIn(data_.optionsFile())};
         saved_ = placeInFile();
+        files_ = filesInFolder();
     }
 
     static void waitForLoad(const Program& program) {
@@ -67,6 +64,13 @@ class KilledProgram : public testing::Test {
             "end of the program's load",
             [&] { return program.settings().hasProperty(L"Ready") && firstMove(program).exists(); },
             milliseconds{20000});
+    }
+
+    static unsigned seed() {
+        const auto given = static_cast<unsigned>(GTEST_FLAG_GET(random_seed));
+        const unsigned seed = given != 0 ? given : std::random_device()() % 99999 + 1;
+        std::printf("again with --gtest_random_seed=%u\n", seed);
+        return seed;
     }
 
     /// Of the first panel.
@@ -119,14 +123,14 @@ class KilledProgram : public testing::Test {
     AppDataFolder data_;
     std::array<std::string, 2> names_;
     double saved_ = 0;
+    /// The program's own ones, with those of the last run.
+    std::ptrdiff_t files_ = 0;
 };
 
 TEST_F(KilledProgram, LosesNothingThatItHadSaved) {
     using Clock = std::chrono::steady_clock;
     using Microseconds = std::chrono::microseconds;
-    const auto given = static_cast<unsigned>(GTEST_FLAG_GET(random_seed));
-    const unsigned seed = given != 0 ? given : std::random_device()() % 99999 + 1;
-    std::printf("again with --gtest_random_seed=%u\n", seed);
+    const unsigned seed = KilledProgram::seed();
     std::mt19937 random(seed);
     const int kills = numberOr("ORMALA_KILLS", usualKills);
     int amidSaving = 0;
@@ -142,8 +146,8 @@ TEST_F(KilledProgram, LosesNothingThatItHadSaved) {
         const auto end = Clock::now() + moment;
         while (Clock::now() < end) {
         }
-        killNow(program);
-        amidSaving += filesInFolder() > 2 ? 1 : 0;
+        endByForce(program);
+        amidSaving += filesInFolder() > files_ ? 1 : 0;
         expectNothingLost();
     }
     std::printf("%d of %d kills left a temporary file behind\n", amidSaving, kills);
@@ -151,7 +155,59 @@ TEST_F(KilledProgram, LosesNothingThatItHadSaved) {
     waitForLoad(program);
     EXPECT_EQ(program.close(), 0U);
     expectNothingLost();
-    EXPECT_EQ(filesInFolder(), 2);
+    EXPECT_EQ(filesInFolder(), files_);
+}
+
+/// What the user has done, and when it was complete.
+struct Deed {
+    std::chrono::steady_clock::time_point done;
+    double place;
+};
+
+/// Moves a tool now and then until `end`. Returns all deeds, and the longest that one took: the
+/// machine may be busy.
+std::pair<std::vector<Deed>, milliseconds> work(const DesktopWindow& move, double from,
+                                                std::mt19937& random,
+                                                std::chrono::steady_clock::time_point end) {
+    using Clock = std::chrono::steady_clock;
+    std::vector<Deed> deeds;
+    milliseconds longest{0};
+    while (Clock::now() < end) {
+        const auto begun = Clock::now();
+        move.send(BM_CLICK);
+        deeds.push_back({Clock::now(), ++from});
+        longest = std::max(longest, std::chrono::duration_cast<milliseconds>(Clock::now() - begun));
+        constexpr unsigned longestRest = 700;
+        pause(std::min(milliseconds(random() % longestRest),
+                       std::chrono::duration_cast<milliseconds>(end - Clock::now())));
+    }
+    return {deeds, longest};
+}
+
+TEST_F(KilledProgram, LosesThreeSecondsOfADayAtMost) {
+    using Clock = std::chrono::steady_clock;
+    std::mt19937 random(seed());
+    const int kills = numberOr("ORMALA_DAY_KILLS", usualDayKills);
+    milliseconds mostLost{0};
+    for (int kill = 1; kill <= kills && !HasFailure(); ++kill) {
+        SCOPED_TRACE("kill " + std::to_string(kill));
+        const Program program(data_);
+        waitForLoad(program);
+        const auto end = Clock::now() + milliseconds(random() % 6000);
+        const auto [deeds, longest] = work(firstMove(program), saved_, random, end);
+        endByForce(program);
+        const auto killed = Clock::now();
+        expectNothingLost();
+        for (const Deed& deed : deeds) {
+            const auto age = std::chrono::duration_cast<milliseconds>(killed - deed.done);
+            if (deed.place > saved_) {
+                mostLost = std::max(mostLost, age);
+                EXPECT_LE(age, milliseconds(3000) + 2 * longest) << "older than three seconds";
+            }
+        }
+    }
+    std::printf("%d kills of a working day lost %d ms at most\n", kills,
+                static_cast<int>(mostLost.count()));
 }
 
 }  // namespace

@@ -86,6 +86,10 @@ void PanelScene::start() {
 
 void PanelScene::restart() {
     EXPECT_EQ(program_->close(), 0U);
+    startAgain();
+}
+
+void PanelScene::startAgain() {
     program_.reset();
     start();
 }

@@ -46,6 +46,8 @@ class PanelScene {
     [[nodiscard]] DesktopWindow settings() const { return program_->settings(); }
     /// Ends the program and starts it again on the same profile.
     void restart();
+    /// Starts it on the same profile after its end.
+    void startAgain();
 
     Mouse mouse;
 

@@ -247,7 +247,9 @@ class Update(Stage):
 class Removal(Stage):
     OWN = ("Mine.OM", "notes.txt")
     OF_PROGRAM = ("Ormala.ini", "Ormala Tools.ini", "Ormala (kept 2026-01-31 23.05.09).ini",
-                  "Ormala Tools (kept 2026-01-31 23.05.09, 2).ini", "~settings-12-3.tmp")
+                  "Ormala Tools (kept 2026-01-31 23.05.09, 2).ini",
+                  "Ormala (previous).ini", "Ormala Tools (previous).ini", "Ormala (other).ini",
+                  "Ormala Tools (other 2).ini", "~settings-12-3.tmp")
 
     def setUp(self):
         super().setUp()

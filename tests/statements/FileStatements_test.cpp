@@ -113,6 +113,34 @@ TEST_F(FileStatements, OfWhatComesBack) {
     });
 }
 
+TEST_F(FileStatements, OfWhatIsWrittenMeanwhile) {
+    expectHeld({
+        {"The first start of a day keeps the files of the last run as Ormala (previous).ini and "
+         "Ormala Tools (previous).ini.",
+         "a start with tools",
+         [this] {
+             startWithTools();
+             return file("C:\\data\\Ormala Tools (previous).ini");
+         },
+         exampleToolFile},
+        {"If two copies of Ormala run, the one that writes last wins; what the other one has "
+         "written stays beside it as Ormala (other).ini and Ormala Tools (other).ini.",
+         "two copies, of which each writes",
+         [this] {
+             startWithTools();
+             FirstStart second(ini_, automaticPath);
+             second.stage.stencil(0).setLineWidth(6);
+             second.automatic.saveChanges();
+             const std::string others = file(automaticPath);
+             stage_.stencil(0).setLineWidth(7);
+             automatic_.saveChanges();
+             const bool kept = file("C:\\data\\Ormala Tools (other).ini") == others;
+             return kept && file(automaticPath) != others ? "so it is" : "not so";
+         },
+         "so it is"},
+    });
+}
+
 TEST_F(FileStatements, OfTools) {
     expectHeld({
         {"There is room for 33 tools.", "stencils until one is refused",

@@ -26,6 +26,7 @@ class MemoryFileStore : public FileStore {
     std::string removeDescription;     ///< what the system says when it can't remove a file
     std::string writeDescription;      ///< and when it can't write one
     std::string time = "2024-05-17 08:30:12";
+    std::map<std::string, std::string> times;  ///< of the files that have been written
     int reads = 0;
     int patientReads = 0;  ///< those that would have waited for a file that is held
     int writes = 0;
@@ -53,6 +54,7 @@ class MemoryFileStore : public FileStore {
             return {false, writeDescription};
         }
         files[path] = bytes;
+        times[path] = time;
         unreadable.erase(path);
         return {true, {}};
     }
@@ -74,6 +76,10 @@ class MemoryFileStore : public FileStore {
             return errorPathNotFound;
         }
         return files.contains(path) ? 0 : errorFileNotFound;
+    }
+
+    std::string timeOf(const std::string& path) override {
+        return files.contains(path) ? times[path] : std::string();
     }
 
     RemoveResult remove(const std::string& path) override {

@@ -166,6 +166,43 @@ TEST_F(IdleProgram, WhileTheScreenIsLockedNoTimerTicks) {
     EXPECT_TRUE(test::waitUntil([&] { return Timer::wakeUps() >= unlocked; })) << Timer::wakeUps();
 }
 
+TEST_F(IdleProgram, ATimerForSavingRunsOnlyWhileSomethingIsUnsaved) {
+    startWith(2);
+    program_->execute(Command::pauseMode);
+    EXPECT_TRUE(wakeUpsAreAtMost(5)) << Timer::wakeUps();
+    const double atRest = Timer::wakeUps();
+    const auto grid = [this] {
+        return test::SettingsFile::read(folder_.optionsFile()).number("Options", "GridEnabled");
+    };
+    EXPECT_EQ(grid(), 0);
+    program_->execute(Command::grid);
+    EXPECT_TRUE(test::waitUntil([&] { return Timer::wakeUps() > atRest; }));
+    EXPECT_TRUE(test::waitUntil([&] { return grid() == -1; }));
+    EXPECT_TRUE(wakeUpsAreAtMost(atRest)) << Timer::wakeUps();
+    // What changes nothing has none.
+    program_->execute(Command::grid);
+    program_->execute(Command::grid);
+    test::pause(test::milliseconds(50));
+    EXPECT_EQ(Timer::wakeUps(), atRest);
+}
+
+TEST_F(IdleProgram, WhatIsUnsavedIsWrittenBeforeTheScreenIsLockedOrTheComputerSleeps) {
+    startWith(2);
+    const auto factor = [this] {
+        return test::SettingsFile::read(folder_.optionsFile()).number("Options", "LensFactor");
+    };
+    program_->execute(commandOfLensFactor(2));
+    SendMessageW(settings_->handle(), WM_WTSSESSION_CHANGE, WTS_SESSION_LOCK, 0);
+    EXPECT_EQ(factor(), 2);
+    SendMessageW(settings_->handle(), WM_WTSSESSION_CHANGE, WTS_SESSION_UNLOCK, 0);
+    program_->execute(commandOfLensFactor(3));
+    EXPECT_EQ(SendMessageW(settings_->handle(), WM_POWERBROADCAST, PBT_APMPOWERSTATUSCHANGE, 0),
+              TRUE);
+    EXPECT_EQ(factor(), 2);
+    EXPECT_EQ(SendMessageW(settings_->handle(), WM_POWERBROADCAST, PBT_APMSUSPEND, 0), TRUE);
+    EXPECT_EQ(factor(), 3);
+}
+
 TEST_F(IdleProgram, TheMagnifierHasATimerOnlyWhileItIsShown) {
     startWith(2);
     EXPECT_GT(Timer::wakeUps(), 60);

@@ -9,13 +9,6 @@ namespace ormala {
 
 namespace {
 
-WindowPlacement placementOf(HWND window) {
-    WINDOWPLACEMENT placement{};
-    placement.length = sizeof placement;
-    GetWindowPlacement(window, &placement);
-    return {static_cast<std::int32_t>(placement.showCmd), normalPlaceOf(window)};
-}
-
 /// There is none in a gap between screens of different sizes.
 PixelRect onSomeScreen(const PixelRect& rect) {
     const RECT place = toRect(rect);
@@ -44,14 +37,17 @@ PixelRect keptOnPresentScreens(const PixelRect& rect) {
 
 }  // namespace
 
+WindowPlacement placementOf(HWND window) {
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    GetWindowPlacement(window, &placement);
+    return {static_cast<std::int32_t>(placement.showCmd), normalPlaceOf(window)};
+}
+
 ScreenAreas screenAreas() {
     RECT work{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     return {fromRect(work), fromRect(virtualScreen())};
-}
-
-void SaveFormPlacement(HWND window, INIFile& options, const std::string& section) {
-    storePlacement(options, section, placementOf(window));
 }
 
 RestoredPlacement storedPlacement(HWND window, INIFile& options, const std::string& section,

@@ -17,7 +17,8 @@ ScreenAreas screenAreas();
 RestoredPlacement storedPlacement(HWND window, INIFile& options, const std::string& section,
                                   bool cascade);
 
-void SaveFormPlacement(HWND window, INIFile& options, const std::string& section);
+/// The window's placement, as it is to be stored.
+WindowPlacement placementOf(HWND window);
 /// Brings a hidden window back to where it was stored; `cascade` as for `restoredPlacement`.
 void RestoreFormPlacement(HWND window, PlaceAcrossDpi& place, INIFile& options,
                           const std::string& section, bool cascade);

@@ -84,6 +84,8 @@ class frmLens : public Window {
 
     /// The menu has to show another state.
     Event<> menuChanged;
+    /// One that does not follow the mouse may have another place.
+    Event<> placed;
     /// The user closes the window, which the application answers by hiding it.
     Event<> closeRequested;
 

@@ -30,6 +30,11 @@ std::optional<LRESULT> frmLens::onMessage(UINT message, WPARAM wParam, LPARAM lP
         case WM_SHOWWINDOW:
             tmrMain_.start(handle(), wParam != FALSE ? tmrMainInterval : 0);
             return std::nullopt;
+        case WM_WINDOWPOSCHANGED:
+            if (!Sticked()) {
+                placed.raise();
+            }
+            return std::nullopt;
         case WM_SIZE:
             return onSize();
         case WM_GETMINMAXINFO:

@@ -31,6 +31,12 @@ ScreenLock::~ScreenLock() {
     }
 }
 
+void ScreenLock::takePower(WPARAM event) const {
+    if (event == PBT_APMSUSPEND) {
+        suspended.raise();
+    }
+}
+
 void ScreenLock::take(WPARAM change) {
     switch (change) {
         case WTS_SESSION_LOCK:

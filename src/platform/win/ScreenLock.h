@@ -6,8 +6,8 @@
 
 namespace ormala {
 
-/// While the user has locked the screen, or is no more before it, nothing can be seen: all timers
-/// rest.
+/// Tells when the user turns away. While the screen is locked, or the user is no more before it,
+/// nothing can be seen: all timers rest.
 class ScreenLock {
   public:
     /// The window, which must outlive it, gets WM_WTSSESSION_CHANGE from now on.
@@ -19,8 +19,13 @@ class ScreenLock {
     /// For WM_WTSSESSION_CHANGE, with what it tells.
     void take(WPARAM change);
 
+    /// For WM_POWERBROADCAST, with what it tells.
+    void takePower(WPARAM event) const;
+
     /// The user has turned away.
     Event<> locked;
+    /// The computer goes to sleep, and may lose its power there. It waits two seconds at most.
+    Event<> suspended;
 
   private:
     HWND window_;

@@ -1,9 +1,7 @@
 #include "storage/win/NeighbourFile.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
-#include <cstdio>
 #include <cstring>
 #include <vector>
 
@@ -11,6 +9,7 @@
 #include "storage/win/AccessRights.h"
 #include "storage/win/LongPath.h"
 #include "storage/win/SystemClock.h"
+#include "storage/win/timeText.h"
 
 namespace ormala {
 
@@ -73,16 +72,6 @@ bool insist(const Attempt& attempt) {
     });
     SetLastError(error);
     return error == ERROR_SUCCESS;
-}
-
-/// The local time in the form of the settings files.
-std::string presentTime() {
-    SYSTEMTIME now{};
-    GetLocalTime(&now);
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d:%02d:%02d", now.wYear, now.wMonth,
-                  now.wDay, now.wHour, now.wMinute, now.wSecond);
-    return text.data();
 }
 
 }  // namespace

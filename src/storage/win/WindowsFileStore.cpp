@@ -12,6 +12,7 @@
 #include "storage/win/LongPath.h"
 #include "storage/win/NeighbourFile.h"
 #include "storage/win/SystemClock.h"
+#include "storage/win/timeText.h"
 
 namespace ormala {
 
@@ -133,6 +134,18 @@ int WindowsFileStore::errorOfPath(const std::string& path) {
         return static_cast<int>(GetLastError());
     }
     return isDanglingLink(target, attributes) ? errorFileNotFound : 0;
+}
+
+std::string WindowsFileStore::timeOf(const std::string& path) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    SYSTEMTIME universal{};
+    SYSTEMTIME local{};
+    if (GetFileAttributesExW(longPath(path).c_str(), GetFileExInfoStandard, &data) == FALSE ||
+        FileTimeToSystemTime(&data.ftLastWriteTime, &universal) == FALSE ||
+        SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local) == FALSE) {
+        return {};
+    }
+    return timeText(local);
 }
 
 RemoveResult WindowsFileStore::remove(const std::string& path) {

@@ -17,6 +17,7 @@ class WindowsFileStore : public FileStore {
     WriteResult replace(const std::string& path, std::string_view bytes) override;
     WriteResult replaceKeeping(const std::string& path, std::string_view bytes) override;
     int errorOfPath(const std::string& path) override;
+    std::string timeOf(const std::string& path) override;
     RemoveResult remove(const std::string& path) override;
     RemoveResult couldRemove(const std::string& path) override;
     bool createFolders(const std::string& path) override;

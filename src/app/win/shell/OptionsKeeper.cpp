@@ -2,17 +2,18 @@
 
 #include "app/programFiles.h"
 #include "app/version.h"
-#include "app/win/shell/timeOfSaving.h"
 #include "dialogs/win/formPlacement.h"
 #include "storage/modStorage.h"
 #include "storage/win/SpecialFolder.h"
+#include "storage/win/timeText.h"
 
 namespace ormala {
 
 OptionsKeeper::OptionsKeeper(FileStore& store, const CodePage& codePage)
-    : file_(store, codePage, messages_) {
+    : file_(store, codePage, messages_), contents_(file_, store) {
     const std::string path = optionsFilePath(GetSpecialFolder(folderApplicationData));
     CreateFolderForFile(store, path);
+    keepPrevious(store, path, presentTime());
     file_.setPath(path);
     file_.CreateFolderPath();
     file_.ShowLastError();
@@ -21,7 +22,9 @@ OptionsKeeper::OptionsKeeper(FileStore& store, const CodePage& codePage)
 
 Options OptionsKeeper::read(int localeLanguage) {
     const auto group = file_.group();
-    return readOptions(file_, localeLanguage);
+    const Options options = readOptions(file_, localeLanguage);
+    file_.noteAsRead();
+    return options;
 }
 
 void OptionsKeeper::restorePlace(HWND window, PlaceAcrossDpi& place, const char* section,
@@ -35,19 +38,9 @@ RestoredPlacement OptionsKeeper::place(HWND window, const char* section) {
     return storedPlacement(window, file_, section, false);
 }
 
-void OptionsKeeper::save(const Options& options, std::initializer_list<PlacedWindow> windows,
-                         bool quietly) {
+bool OptionsKeeper::save(const KeptOptions& kept, bool quietly) {
     const QuietMessages messages(messages_, quietly);
-    {
-        const auto group = file_.group();
-        WriteFileHeader(file_, versionText, timeOfSaving());
-        file_.setCurrentSection(optionsSection);
-        writeOptions(file_, options);
-        for (const PlacedWindow& placed : windows) {
-            SaveFormPlacement(placed.window, file_, placed.section);
-        }
-    }
-    file_.ShowLastError();
+    return contents_.save(kept, versionText, presentTime());
 }
 
 }  // namespace ormala

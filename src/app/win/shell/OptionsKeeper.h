@@ -2,9 +2,9 @@
 
 #include <windows.h>
 
-#include <initializer_list>
+#include <utility>
 
-#include "app/Options.h"
+#include "app/OptionsFile.h"
 #include "app/version.h"
 #include "dialogs/win/WindowsMessagePresenter.h"
 #include "platform/win/PlaceAcrossDpi.h"
@@ -12,6 +12,13 @@
 #include "storage/WindowPlacement.h"
 
 namespace ormala {
+
+/// The sections of the windows' places.
+namespace formSection {
+inline constexpr const char* control = "FormSettings";
+inline constexpr const char* frame = "FormResizer";
+inline constexpr const char* lens = "FormLens";
+}  // namespace formSection
 
 /// The options file: the options, and the places of the windows in sections of their own.
 class OptionsKeeper {
@@ -26,12 +33,15 @@ class OptionsKeeper {
     /// The same place for a window that takes it by itself.
     RestoredPlacement place(HWND window, const char* section);
 
-    struct PlacedWindow {
-        HWND window;
-        const char* section;
-    };
-    /// Writes everything. `quietly` says that the user hears nothing of a failure.
-    void save(const Options& options, std::initializer_list<PlacedWindow> windows, bool quietly);
+    /// What the file holds by the end of the start.
+    void noteAsSaved(KeptOptions kept) { contents_.noteAsSaved(std::move(kept)); }
+    /// Whether it is other than that, or than what was saved last.
+    [[nodiscard]] bool differ(const KeptOptions& kept) const { return contents_.differ(kept); }
+    /// Writes everything; false if it could not be written. `quietly` says that the user hears
+    /// nothing of that.
+    bool save(const KeptOptions& kept, bool quietly);
+    /// The same, quietly, if it differs.
+    bool saveChanges(const KeptOptions& kept) { return !differ(kept) || save(kept, true); }
 
     /// A message for what has failed so far.
     void ShowLastError() { file_.ShowLastError(); }
@@ -39,6 +49,7 @@ class OptionsKeeper {
   private:
     WindowsMessagePresenter messages_{applicationTitle};
     INIFile file_;
+    OptionsFile contents_;
 };
 
 }  // namespace ormala

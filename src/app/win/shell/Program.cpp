@@ -18,10 +18,6 @@ namespace ormala {
 
 namespace {
 
-constexpr const char* controlSection = "FormSettings";
-constexpr const char* frameSection = "FormResizer";
-constexpr const char* lensSection = "FormLens";
-
 /// Tells other programs, such as a screen reader or a test, that the load has ended.
 constexpr const wchar_t* readyProperty = L"Ready";
 
@@ -59,6 +55,7 @@ Program::Program(bool anotherRuns)
     // What has failed within a message so far is a failure of the start.
     throwKeptFailure();
     if (life_.started()) {
+        autoSave_->begin();
         // Shown last, so that it comes up in front of the worksheet and with the focus.
         settings_->size().acrossDpi().show(settings_->handle(), SW_SHOWNORMAL);
         SetPropW(settings_->handle(), readyProperty, settings_->handle());
@@ -75,15 +72,17 @@ void Program::makeWindows() {
     view_ = std::make_unique<ViewPane>(ViewPane::Ports{
         *settings_, *worksheet_, *resizer_, state_, [this](Command command) { execute(command); }});
     frmLens& lens = view_->lens().lens();
-    optionsKeeper_.restorePlace(lens.handle(), lens.acrossDpi(), lensSection, false);
+    optionsKeeper_.restorePlace(lens.handle(), lens.acrossDpi(), formSection::lens, false);
     tools_ = std::make_unique<ToolsPane>(ToolsPane::Ports{*settings_, *worksheet_, *view_, state_,
                                                           focus_, ratios_, store_, codePage_,
                                                           globalEvents_});
-    const RestoredPlacement frame = optionsKeeper_.place(resizer_->handle(), frameSection);
+    const RestoredPlacement frame = optionsKeeper_.place(resizer_->handle(), formSection::frame);
     resizer_->restore(frame.rect, frame.maximise);
     stage_ = std::make_unique<ModeStage>(
         ModeStage::Windows{*settings_, *worksheet_, *resizer_, *view_, state_});
     modes_ = std::make_unique<ModeSwitch>(*stage_, state_);
+    autoSave_ = std::make_unique<AutoSaveStage>(AutoSaveStage::Parts{
+        *settings_, *resizer_, *view_, *tools_, state_, *modes_, optionsKeeper_});
     wheelHook_ = std::make_unique<MouseWheelHook>([this](int notches) {
         // Later, when what the hook sees is out of the queue, and only what follows it waits there.
         settings_->later([this, notches] { tools_->Scroll(notches); });
@@ -118,8 +117,8 @@ void Program::listen() {
 void Program::restoreLook(bool anotherRuns) {
     SetWindowPos(settings_->handle(), HWND_TOPMOST, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    optionsKeeper_.restorePlace(settings_->handle(), settings_->size().acrossDpi(), controlSection,
-                                anotherRuns);
+    optionsKeeper_.restorePlace(settings_->handle(), settings_->size().acrossDpi(),
+                                formSection::control, anotherRuns);
     const Mode first = state_.options().mode;
     state_.setMode(Mode::edit);
     modes_->SetMode(first, false);
@@ -195,23 +194,8 @@ bool Program::isBusy() const {
 }
 
 void Program::keep(bool tell) {
-    tools_->keep(!tell);
-    SaveOptions(!tell);
-}
-
-void Program::save() {
-    tools_->save();
-    SaveOptions(false);
-}
-
-void Program::SaveOptions(bool quietly) {
-    Options options = state_.options();
-    options.editModeFormHeight = settings_->size().editModeFormHeight();
-    optionsKeeper_.save(options,
-                        {{settings_->handle(), controlSection},
-                         {resizer_->handle(), frameSection},
-                         {view_->lens().lens().handle(), lensSection}},
-                        quietly);
+    tools_->save(!tell);
+    optionsKeeper_.save(autoSave_->keptOptions(), !tell);
 }
 
 void Program::showReason(bool busy) {

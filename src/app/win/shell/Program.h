@@ -8,6 +8,7 @@
 #include "app/ProgramLife.h"
 #include "app/ToolMaker.h"
 #include "app/ViewState.h"
+#include "app/win/shell/AutoSaveStage.h"
 #include "app/win/shell/ModeStage.h"
 #include "app/win/shell/OptionsKeeper.h"
 #include "app/win/shell/frmSettings.h"
@@ -53,7 +54,7 @@ class Program : public WorksheetCommands, private ProgramEnding {
     [[nodiscard]] bool isBusy() const override;
     bool ConfirmDiscard() override { return tools_->documents().ConfirmDiscard(); }
     void keep(bool tell) override;
-    void save() override;
+    void save() override { keep(true); }
     void showReason(bool busy) override;
     void hideReason() override;
     void quit() override;
@@ -62,7 +63,6 @@ class Program : public WorksheetCommands, private ProgramEnding {
     void listen();
     void restoreLook(bool anotherRuns);
     void RefreshRuntimeStrings();
-    void SaveOptions(bool quietly);
     void bringAllOntoScreens();
     void ShowHelp();
     void worksheetWindowNormal();
@@ -85,6 +85,7 @@ class Program : public WorksheetCommands, private ProgramEnding {
     std::unique_ptr<ToolsPane> tools_;
     std::unique_ptr<ModeStage> stage_;
     std::unique_ptr<ModeSwitch> modes_;
+    std::unique_ptr<AutoSaveStage> autoSave_;
     std::unique_ptr<MouseWheelHook> wheelHook_;
     /// Ended before anything else goes: the focus that the parts leave behind finds them half gone.
     std::vector<Subscription> subscriptions_;

@@ -91,7 +91,7 @@ void frmSettings::raise() const {
 std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     using Result = std::optional<LRESULT>;
     using Handler = Result (*)(frmSettings&, WPARAM, LPARAM);
-    static constexpr std::array<std::pair<UINT, Handler>, 20> handlers{{
+    static constexpr std::array<std::pair<UINT, Handler>, 21> handlers{{
         {WM_ERASEBKGND, [](frmSettings& self, WPARAM w, LPARAM) { return self.onErase(w); }},
         {WM_SIZE, [](frmSettings& self, WPARAM w, LPARAM) { return self.onSize(w); }},
         {WM_GETMINMAXINFO,
@@ -121,10 +121,8 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
          [](frmSettings& self, WPARAM w, LPARAM) { return self.onScreens(WM_SETTINGCHANGE, w); }},
         {WM_SETCURSOR, [](frmSettings& self, WPARAM, LPARAM) { return self.onMouseOver(); }},
         {WM_WTSSESSION_CHANGE,
-         [](frmSettings& self, WPARAM w, LPARAM) {
-             self.parts_->screenLock.take(w);
-             return Result(0);
-         }},
+         [](frmSettings& self, WPARAM w, LPARAM) { return self.onSessionChange(w); }},
+        {WM_POWERBROADCAST, [](frmSettings& self, WPARAM w, LPARAM) { return self.onPower(w); }},
         {WM_TIMER, [](frmSettings& self, WPARAM w, LPARAM) { return self.onTimer(w); }},
         {DeferredCalls::message,
          [](frmSettings& self, WPARAM, LPARAM) {
@@ -151,6 +149,16 @@ std::optional<LRESULT> frmSettings::onMessage(UINT message, WPARAM wParam, LPARA
 std::optional<LRESULT> frmSettings::onClose() {
     ports_.life.close();
     return 0;
+}
+
+std::optional<LRESULT> frmSettings::onSessionChange(WPARAM change) {
+    parts_->screenLock.take(change);
+    return 0;
+}
+
+std::optional<LRESULT> frmSettings::onPower(WPARAM event) {
+    parts_->screenLock.takePower(event);
+    return TRUE;
 }
 
 std::optional<LRESULT> frmSettings::onErase(WPARAM context) const {
@@ -223,6 +231,7 @@ std::optional<LRESULT> frmSettings::onPlaced(LPARAM place) {
         orderChanged.raise();
     }
     watch_.windowChanged(size_.dpi());
+    placed.raise();
     return std::nullopt;
 }
 

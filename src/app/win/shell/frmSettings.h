@@ -76,6 +76,10 @@ class frmSettings : public Window {
     Event<HWND> tabbed;
     /// Its place among the other windows may be another one.
     Event<> orderChanged;
+    /// Its place on the screen, its size or its order may be another one.
+    Event<> placed;
+    /// Tells when the user turns away.
+    [[nodiscard]] ScreenLock& screenLock() { return parts_->screenLock; }
 
   private:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -90,6 +94,8 @@ class frmSettings : public Window {
     };
 
     std::optional<LRESULT> onClose();
+    std::optional<LRESULT> onSessionChange(WPARAM change);
+    std::optional<LRESULT> onPower(WPARAM event);
     std::optional<LRESULT> onErase(WPARAM context) const;
     std::optional<LRESULT> onSize(WPARAM kind);
     std::optional<LRESULT> onGetMinMaxInfo(LPARAM limits) const;

@@ -56,11 +56,14 @@ std::unique_ptr<ListedPanel> PanelMaker::makePanel(ToolKind kind, OverlayItem& t
 std::unique_ptr<SettingControl> PanelMaker::makeCore(ToolKind kind, OverlayItem& tool,
                                                      PanelView& view) {
     PanelDialogs& dialogs = ports_.dialogs;
-    const PanelPorts ports{view, dialogs, ports_.tmrFast,
+    const PanelPorts ports{view,
+                           dialogs,
+                           ports_.tmrFast,
                            [&sheet = ports_.sheet](const OverlayItem& shown, bool visible) {
                                sheet.setVisible(shown, visible);
                            },
-                           &secondsSinceMidnight};
+                           &secondsSinceMidnight,
+                           ports_.changed};
     if (kind == ToolKind::stencil) {
         return std::make_unique<ctlSetRatioGrid>(dynamic_cast<ctlRatioGrid&>(tool), ports, dialogs,
                                                  ports_.settings, ports_.ratios);

@@ -25,6 +25,8 @@ class PanelMaker : public PanelFactory {
         const ToolSettings& settings;
         const SpecialRatios& ratios;
         clsGlobalEvents& globalEvents;
+        /// A tool, or what else its panel keeps in files, may have changed.
+        std::function<void()> changed;
     };
 
     /// All must outlive the panels, and so must the maker.

@@ -4,8 +4,8 @@
 #include "app/programFiles.h"
 #include "app/version.h"
 #include "app/win/shell/settingsIds.h"
-#include "app/win/shell/timeOfSaving.h"
 #include "storage/win/SpecialFolder.h"
+#include "storage/win/timeText.h"
 
 namespace ormala {
 
@@ -21,18 +21,22 @@ ToolsPane::ToolsPane(const Ports& ports)
     : ports_(ports),
       messages_(ports.window.handle()),
       toolsFile_(ports.store, ports.codePage, fileMessages_),
+      automaticFile_(ports.store, ports.codePage, fileMessages_),
       list_(ports.window.handle(), idList, clock_),
       panelDialogs_({ports.window.handle(), ports.worksheet.handle(), ports.ratios, ports.state,
                      ports.codePage, [this](bool aside) { ports_.view.putWindowsAside(aside); }}),
       focus_({ports.window, ports.view, ports.focus, list_, panelMaker_, ports.worksheet.sheet(),
               tools_, removed_}),
       panelMaker_({list_, clock_, ports.worksheet.sheet(), focus_, panelDialogs_,
-                   ports.state.toolSettings(), ports.ratios, ports.globalEvents}),
+                   ports.state.toolSettings(), ports.ratios, ports.globalEvents,
+                   [this] { changed.raise(); }}),
       dialogs_(ports.window.handle(), ports.window.bar()),
       tools_({ports.worksheet.sheet(), panelMaker_, *this, messages_,
               ports.state.options().defaultUnits}),
       removed_(tools_, [this](const std::string& note) { ports_.view.showNote(note); }),
-      toolFile_({toolsFile_, ports.store, tools_, *this}, {versionText, timeOfSaving}),
+      toolFile_({toolsFile_, ports.store, tools_, *this}, {versionText, presentTime}),
+      automaticToolFile_({automaticFile_, ports.store, tools_, *this}, {versionText, presentTime}),
+      automatic_({automaticFile_, automaticToolFile_, ports.store, tools_}, automaticFile()),
       documents_({toolsFile_, ports.store, toolFile_, tools_, removed_, *this, dialogs_}),
       subscriptions_{list_.viewChanged.subscribe([this] { tellPanelsWhatShows(); }),
                      ports.window.ticked.subscribe([this](UINT_PTR timer) { onTimer(timer); }),
@@ -48,17 +52,19 @@ ToolsPane::~ToolsPane() = default;
 
 void ToolsPane::load() {
     tools_.prepareFirstTools();
-    documents_.loadAutomatic(automaticFile());
+    automatic_.load(presentTime());
+    documents_.UpdatePathLine();
     UpdatePanelLayout(true, true);
 }
 
-void ToolsPane::keep(bool quietly) {
+bool ToolsPane::save(bool quietly) {
     const QuietMessages messages(fileMessages_, quietly);
-    documents_.keepAutomatic(automaticFile());
+    return automatic_.save();
 }
 
-void ToolsPane::save() {
-    documents_.saveAutomatic(automaticFile());
+bool ToolsPane::saveChanges() {
+    const QuietMessages messages(fileMessages_, true);
+    return automatic_.saveChanges();
 }
 
 void ToolsPane::takeDpi() {
@@ -74,6 +80,7 @@ void ToolsPane::takePlace() {
 }
 
 void ToolsPane::UpdatePanelLayout(bool AdjustFormHeight, bool Force) {
+    changed.raise();
     const int content = tools_.contentHeight();
     if (AdjustFormHeight) {
         SettingsSize& size = ports_.window.size();

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "app/AutomaticTools.h"
 #include "app/Documents.h"
 #include "app/PanelLayout.h"
 #include "app/ToolFile.h"
@@ -39,16 +40,22 @@ class ToolsPane : private ToolListView, private BusyView {
 
     /// The tools of the last run, or the first ones.
     void load();
-    /// Saves the tools to the automatic file; the open document stays what it is. `quietly` says
-    /// that the user hears nothing of a failure.
-    void keep(bool quietly);
-    /// The same at the end: the open document is left.
-    void save();
+    /// Saves the tools to the automatic file; false if they could not be written. `quietly` says
+    /// that the user hears nothing of that.
+    bool save(bool quietly);
+    [[nodiscard]] AutomaticTools& automatic() { return automatic_; }
+    /// The same, quietly, if they differ.
+    bool saveChanges();
+    /// Whether a set of tools comes or goes at this moment.
+    [[nodiscard]] bool isBusy() const { return list_.bulkUpdate(); }
 
     /// Notches of the wheel; positive ones turn away from the user.
     void Scroll(int notches) { list_.Scroll(notches); }
     /// A command of tools or documents; false for any other one.
     bool execute(Command command);
+    /// The tools may be other ones, or changed.
+    Event<> changed;
+
     /// Whether a message of the program ends here.
     bool swallows(const MSG& message) { return focus_.swallows(message); }
 
@@ -73,6 +80,7 @@ class ToolsPane : private ToolListView, private BusyView {
     WindowsMessagePresenter fileMessages_{applicationTitle};
     PanelLayout layout_;
     INIFile toolsFile_;
+    INIFile automaticFile_;
     Timer tmrFast_{tmrFast};
     /// Of held buttons.
     Clock clock_{[this](bool running) { runClock(running); }};
@@ -84,6 +92,8 @@ class ToolsPane : private ToolListView, private BusyView {
     ToolList tools_;
     RemovedTools removed_;
     ToolFile toolFile_;
+    ToolFile automaticToolFile_;
+    AutomaticTools automatic_;
     Documents documents_;
     std::array<Subscription, 6> subscriptions_;
 };
