@@ -43,6 +43,8 @@ constexpr std::array rows{
     KeyRow{key::tab, any, worksheet, Command::nextTool},
     KeyRow{key::z, modifier::ctrl, control | worksheet, Command::undo},
     KeyRow{key::y, modifier::ctrl, control | worksheet, Command::redo},
+    KeyRow{key::c, modifier::ctrl, control | worksheet, Command::copyReadOuts},
+    KeyRow{key::c, modifier::ctrl, magnifier, Command::copyColor},
 };
 
 /// The system's own key for closing a window.

@@ -323,6 +323,9 @@ constexpr TextRow englishRows[] = {
     {642, "All tools removed. Ctrl+Z brings them back."},
     {643, "Tools replaced. Ctrl+Z brings the former ones back."},
     {644, "The latest changes are not saved yet."},
+    {660, "%0 values copied to the clipboard"},
+    {661, "%0 copied to the clipboard"},
+    {662, "Nothing could be put on the clipboard."},
 };
 
 }  // namespace

@@ -322,6 +322,9 @@ constexpr TextRow germanRows[] = {
     {642, "Alle Werkzeuge entfernt. Strg+Z holt sie zurück."},
     {643, "Werkzeuge ersetzt. Strg+Z holt die vorigen zurück."},
     {644, "Die letzten Änderungen sind noch nicht gespeichert."},
+    {660, "%0 Werte in die Zwischenablage kopiert"},
+    {661, "%0 in die Zwischenablage kopiert"},
+    {662, "In die Zwischenablage konnte nichts gelegt werden."},
 };
 
 }  // namespace

@@ -95,6 +95,13 @@ int scaleBase(LensScale scale, int origin, const ScaleOrigins& origins) {
     }
 }
 
+PixelPoint countedPlace(PixelPoint place, const LensOptions& options, const ScaleOrigins& origins) {
+    const bool byBottom = options.bottomScales && !options.topScales;
+    const int origin = byBottom ? options.bottomOrigin : options.topOrigin;
+    return {place.x + scaleBase(LensScale::top, origin, origins),
+            place.y + scaleBase(LensScale::left, origin, origins)};
+}
+
 int TickLength(int Value, int factor) {
     if (Value % 10 == 0) {
         return 6;

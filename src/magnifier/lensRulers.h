@@ -1,6 +1,7 @@
 #pragma once
 
 #include "magnifier/LensLayout.h"
+#include "magnifier/LensOptions.h"
 #include "magnifier/ScaleGlyphs.h"
 #include "magnifier/rasterLines.h"
 #include "modAPI/colors.h"
@@ -29,6 +30,10 @@ struct ScaleOrigins {
 /// The number of the image's first column, for the scales at the top and bottom, or of its first
 /// row. An unknown origin counts as the worksheet's.
 int scaleBase(LensScale scale, int origin, const ScaleOrigins& origins);
+
+/// The number of a captured place, counted from the upper left captured one, by the scales at the
+/// top and left, or by the others if only those are on.
+PixelPoint countedPlace(PixelPoint place, const LensOptions& options, const ScaleOrigins& origins);
 
 /// The length of the tick of that number in pixels at 96 DPI; 0 for none.
 int TickLength(int Value, int factor);

@@ -32,8 +32,11 @@ void addValues(std::vector<PanelControl>& controls) {
     add("lblLength", 47, 48, value(lblLengthA, "lblLengthA"), value(lblLengthB, "lblLengthB"));
     add("lblRatio", 18, 46, value(lblRatioA, "lblRatioA"), value(lblRatioB, "lblRatioB"));
     add("lblAngle", 35, 53, value(lblAngleA, "lblAngleA"), value(lblAngleB, "lblAngleB"));
-    add("lblAngleVert", 51, 52, value(lblAngleVertA, "lblAngleVertA"),
-        value(lblAngleVertB, "lblAngleVertB"));
+    PanelControl vertical[] = {value(lblAngleVertA, "lblAngleVertA"),
+                               value(lblAngleVertB, "lblAngleVertB")};
+    vertical[0].letter = "a";
+    vertical[1].letter = "b";
+    add("lblAngleVert", 51, 52, vertical[0], vertical[1]);
 }
 
 PanelControl colorButton(MeasureControl id, const char* name, const char* letter, int tip,

@@ -45,6 +45,8 @@ enum class Command {
     previousTool,
     undo,
     redo,
+    copyReadOuts,
+    copyColor,
 };
 
 inline constexpr int largestLensFactor = 10;

@@ -34,6 +34,7 @@ constexpr int up = 38;
 constexpr int right = 39;
 constexpr int down = 40;
 constexpr int remove = 46;
+constexpr int c = 67;
 constexpr int y = 89;
 constexpr int z = 90;
 constexpr int menu = 93;
@@ -41,6 +42,7 @@ constexpr int f1 = 112;
 constexpr int f2 = 113;
 constexpr int f3 = 114;
 constexpr int f4 = 115;
+constexpr int f6 = 117;
 constexpr int f10 = 121;
 constexpr int f12 = 123;
 }  // namespace key

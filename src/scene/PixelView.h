@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "modAPI/PixelRect.h"
+#include "modAPI/colors.h"
 
 namespace ormala {
 
@@ -22,5 +23,11 @@ struct PixelView {
         return PixelRect{0, 0, size.width, size.height}.contains(place);
     }
 };
+
+/// A pixel inside the picture, as a plain colour.
+inline Color colorOfPixel(const PixelView& picture, PixelPoint place) {
+    const auto pixel = static_cast<Color>(picture.row(place.y)[place.x]);
+    return rgb(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);
+}
 
 }  // namespace ormala

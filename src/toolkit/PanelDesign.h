@@ -100,7 +100,8 @@ struct PanelControl {
     /// Rows of the text table, 0 for none: of a text that never changes, and of the tip.
     int caption = 0;
     int tip = 0;
-    /// On a button instead of a picture, in all languages.
+    /// In all languages: on a button instead of a picture, and of a value the line that it is of,
+    /// where it doesn't say so itself.
     const char* letter = nullptr;
     std::optional<Picture> picture = std::nullopt;
     /// Of a button: which of its sides are round, so that neighbours form a bar.

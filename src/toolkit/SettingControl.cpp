@@ -4,6 +4,7 @@
 
 #include "language/MlStringModule.h"
 #include "pictures/linePicture.h"
+#include "toolkit/readOutLines.h"
 #include "widgets/lookColors.h"
 
 namespace ormala {
@@ -125,6 +126,10 @@ void SettingControl::ShowAllProps(bool force) {
     view().showTexts(texts());
     showState();
     SetUndoButtons();
+}
+
+std::string SettingControl::readOuts() const {
+    return readOutLines(design_, texts());
 }
 
 void SettingControl::showSelection() {

@@ -106,6 +106,9 @@ class SettingControl {
     /// The same of the space bar, which also ends its steps by losing the focus.
     void releaseKey() { repeat_.releaseKey(); }
 
+    /// All that it reads out, as the tool is now; see `readOutLines`.
+    [[nodiscard]] std::string readOuts() const;
+
     /// A change from the panel is complete.
     void AddHistoryStep();
     void Undo();

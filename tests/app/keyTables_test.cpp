@@ -111,6 +111,18 @@ TEST(KeyTables, CtrlAloneMakesZAndYUndoAndRedo) {
     EXPECT_EQ(magnifier(key::z, modifier::ctrl), std::nullopt);
 }
 
+TEST(KeyTables, CtrlAloneMakesCTheKeyThatCopies) {
+    EXPECT_EQ(control(key::c, modifier::ctrl), Command::copyReadOuts);
+    EXPECT_EQ(worksheet(key::c, modifier::ctrl), Command::copyReadOuts);
+    EXPECT_EQ(magnifier(key::c, modifier::ctrl), Command::copyColor);
+    for (const KeyWindow window : windows) {
+        for (const int held : {0, modifier::shift, modifier::alt, modifier::ctrl | modifier::alt,
+                               modifier::ctrl | modifier::shift}) {
+            EXPECT_EQ(commandOfKey(key::c, held, window), std::nullopt) << held;
+        }
+    }
+}
+
 TEST(KeyTables, AKeyIsTakenOnlyByItsCommand) {
     std::vector<Command> executed;
     const auto execute = [&executed](Command command) { executed.push_back(command); };

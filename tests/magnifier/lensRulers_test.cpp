@@ -328,5 +328,19 @@ TEST(DrawRuler, WritesNumbersBesideTheirMarks) {
     EXPECT_NE(left.at(22, 45), ink);
 }
 
+TEST(CountedPlace, IsThatOfTheScalesThatAreOn) {
+    constexpr ScaleOrigins origins{{500, 400}, {120, 90}, {-1280, 0}};
+    LensOptions options;
+    options.topOrigin = scaleOrigin::worksheet;
+    options.bottomOrigin = scaleOrigin::magnifier;
+    EXPECT_EQ(countedPlace({7, 3}, options, origins), (PixelPoint{387, 313}));
+    options.topScales = false;
+    EXPECT_EQ(countedPlace({7, 3}, options, origins), (PixelPoint{7, 3}));
+    options.bottomScales = false;
+    EXPECT_EQ(countedPlace({7, 3}, options, origins), (PixelPoint{387, 313}));
+    options.topOrigin = scaleOrigin::allScreens;
+    EXPECT_EQ(countedPlace({7, 3}, options, origins), (PixelPoint{1787, 403}));
+}
+
 }  // namespace
 }  // namespace ormala

@@ -71,6 +71,20 @@ TEST_F(SetMeasureTest, ShowsWhatTheToolMeasures) {
               "ba = " + FormatAngle(tool_.AngleBToA(), 0, {}) + " ");
 }
 
+TEST_F(SetMeasureTest, ReadsOutItsValuesByTheNamesOfTheirRows) {
+    settings_.textForm.decimalSeparator = ",";
+    MlSetLanguage(languageGerman, {});
+    EXPECT_EQ(panel_.readOuts(),
+              "Länge a\t100,0\r\n"
+              "Länge b\t50,0\r\n"
+              "Verhältnis a:b\t2,000\r\n"
+              "Verhältnis b:a\t0,5000\r\n"
+              "Winkel ab\t90,00°\r\n"
+              "Winkel ba\t270,00°\r\n"
+              "Vertikalwinkel a\t0,00°\r\n"
+              "Vertikalwinkel b\t90,00°");
+}
+
 TEST_F(SetMeasureTest, ShowsLengthsInTheToolsUnits) {
     commands_.units = MeasureUnits{1, 2, 3, "cm"};
     click("cmdUnits");

@@ -164,5 +164,34 @@ TEST(ColorButtonLook, ADarkColourHasAWhiteText) {
     EXPECT_EQ(colorButtonLook(rgb(0, 0, 128)).back, rgb(0, 0, 128));
 }
 
+TEST_F(SetRatioGridTest, ReadsOutItsValuesByTheNamesOfTheirRows) {
+    start({100, 50, 300, 183});
+    EXPECT_EQ(panel_->readOuts(),
+              "Center X\t199.5\r\n"
+              "Center Y\t116.0\r\n"
+              "Size W\t201\r\n"
+              "Size H\t134\r\n"
+              "Position left\t100\r\n"
+              "Position right\t300\r\n"
+              "Position top\t50\r\n"
+              "Position bottom\t183\r\n"
+              "Angle\t0.0°\r\n"
+              "Angle\t0.000 rad\r\n"
+              "Ratio W:H\t1.500\r\n"
+              "Ratio H:W\t0.6667\r\n"
+              "Ratio\t3:2  (chemical photo)");
+}
+
+TEST_F(SetRatioGridTest, ReadsOutNoLineForARatioWithoutAName) {
+    start({100, 50, 300, 150});
+    EXPECT_EQ(panel_->readOuts().substr(panel_->readOuts().rfind("Ratio")), "Ratio H:W\t0.5025");
+}
+
+TEST_F(SetRatioGridTest, ReadsOutTheToolAsItIsWhileThePanelStillWaits) {
+    change({100, 50, 300, 183});
+    change({100, 50, 310, 183});
+    EXPECT_NE(panel_->readOuts().find("Size W\t211"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace ormala

@@ -5,7 +5,7 @@
 #include <numbers>
 #include <string>
 
-#include "app/shotNotes.h"
+#include "app/clipboardNotes.h"
 #include "app/win/shell/Program.h"
 #include "dialogs/win/frmAbout.h"
 #include "dialogs/win/frmColor.h"
@@ -155,10 +155,14 @@ TEST_P(AllTextsOfTheProgram, HaveRoomOnTheLinesOfPathAndInformation) {
         info.setText(MlString(row, {}));
         expectRoom(settings(), std::to_string(row));
     }
-    for (const ShotOutcome outcome :
-         {ShotOutcome::copied, ShotOutcome::held, ShotOutcome::failed}) {
+    for (const ClipboardAnswer outcome :
+         {ClipboardAnswer::taken, ClipboardAnswer::held, ClipboardAnswer::refused}) {
         info.setText(shotNote(outcome, {13840, 12160}));
         expectRoom(settings(), "note of a screen shot");
+        for (const TextCopy& copy : {TextCopy{{}, copyOfReadOuts({}).note}, copyOfColor(0)}) {
+            info.setText(copyNote(outcome, copy));
+            expectRoom(settings(), "note of a copy");
+        }
     }
 }
 

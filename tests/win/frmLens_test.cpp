@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <imm.h>
 
+#include "e2e/support/DesktopWindow.h"
 #include "language/MlStringModule.h"
 #include "win/AccessibleReader.h"
 #include "win/ControlPanel.h"
@@ -223,6 +224,48 @@ TEST_F(frmLensTest, HasANameForScreenReadersWhileItsCaptionIsEmpty) {
     const AccessibleReader reader(lens_.handle());
     ASSERT_TRUE(reader.found());
     EXPECT_EQ(reader.name(), "Magnifier 4 X");
+}
+
+/// What the magnifier is to tell of a place of the backdrop.
+LensPixel toldPixel(const LensBackdrop& backdrop, PixelPoint at, PixelPoint origin) {
+    const std::uint32_t pixel = backdrop.at(at);
+    return {rgb(static_cast<int>(pixel >> 16U & 0xFFU), static_cast<int>(pixel >> 8U & 0xFFU),
+                static_cast<int>(pixel & 0xFFU)),
+            {at.x - origin.x, at.y - origin.y}};
+}
+
+TEST_F(frmLensTest, ItsNameTellsThePixelUnderTheMouseWhenItIsAskedFor) {
+    constexpr PixelPoint origin{10, 20};
+    lens_.setWorksheetOrigin(origin);
+    show();
+    look({300, 200});
+    const AccessibleReader reader(lens_.handle());
+    ASSERT_TRUE(reader.found());
+    EXPECT_EQ(reader.name(), lensName(4, toldPixel(backdrop_, {300, 200}, origin)));
+    // No frame comes in between.
+    SetCursorPos(420, 260);
+    EXPECT_TRUE(test::waitUntil([&] {
+        return reader.name() == lensName(4, toldPixel(backdrop_, {420, 260}, origin));
+    }));
+}
+
+TEST_F(frmLensTest, ATipTellsThePixelAfterASecondOfRestAndGoesWithTheColour) {
+    show();
+    look({300, 200});
+    const auto tip = [this] {
+        lens_.Update();
+        return test::shownTip(GetCurrentProcessId());
+    };
+    EXPECT_EQ(tip(), "");
+    const std::string text = lensPixelText(toldPixel(backdrop_, {300, 200}, {}));
+    EXPECT_TRUE(test::waitUntil([&] { return tip() == text; }));
+    backdrop_.show(lensPattern(backdrop_.size(), 1));
+    EXPECT_TRUE(test::waitUntil([&] { return tip() == ""; }));
+    EXPECT_TRUE(test::waitUntil([&] {
+        return tip() == lensPixelText(toldPixel(backdrop_, {300, 200}, {}));
+    }));
+    lens_.hide();
+    EXPECT_EQ(test::shownTip(GetCurrentProcessId()), "");
 }
 
 TEST_F(frmLensTest, FollowsTheResolutionOfItsMonitor) {

@@ -61,6 +61,12 @@ void LensImage::refresh(const LensImageLook& look, HCURSOR pointer, PixelPoint s
     std::swap(picInter_, lastPicture_);
 }
 
+std::optional<Color> LensImage::colorAt(PixelPoint place) const {
+    const PixelView picture = lastPicture_.view();
+    return lastLook_ && picture.contains(place) ? std::optional(colorOfPixel(picture, place))
+                                                : std::nullopt;
+}
+
 void LensImage::enlarge(const LensLayout& layout) const {
     // The default stretch mode differs from plain replication only where a picture shrinks.
     StretchBlt(picLens_.picture().context(), 0, 0, layout.LensWidth, layout.LensHeight,

@@ -22,6 +22,9 @@ class LensImage {
     /// outside `bounds` shows the ground.
     void refresh(const LensImageLook& look, HCURSOR pointer, PixelPoint source,
                  const PixelRect& bounds);
+    /// What the last frame shows of the screen at a place of what was captured, as a plain colour;
+    /// none if it has no such place.
+    [[nodiscard]] std::optional<Color> colorAt(PixelPoint place) const;
     /// The screens or the pointers may be others: both are asked for anew in the next frame.
     void screenChanged();
 

@@ -150,6 +150,47 @@ void frmLens::Update() {
     }
 }
 
+std::optional<LensPixel> frmLens::pixelUnderHotSpot() {
+    Update();
+    return pixel();
+}
+
+std::optional<LensPixel> frmLens::pixel() const {
+    const PixelPoint hotSpot = imageLook().hotSpot;
+    const auto color = isVisible() ? parts_->image.colorAt(hotSpot) : std::nullopt;
+    return color
+               ? std::optional(LensPixel{*color, countedPlace(hotSpot, options(), scaleOrigins())})
+               : std::nullopt;
+}
+
+void frmLens::tellPixel() {
+    const RECT place = rectangle();
+    std::optional<LensRest::Sight> sight;
+    if (const auto seen = held_ ? std::nullopt : pixel()) {
+        sight = LensRest::Sight{CursorPoint_, {place.left, place.top}, *seen};
+    }
+    if (!rest_.look(sight, GetTickCount64())) {
+        hidePixel();
+    } else if (pixelTip_ == nullptr || !pixelTip_->isShown()) {
+        showPixel(sight->pixel);
+    }
+}
+
+void frmLens::showPixel(const LensPixel& seen) {
+    if (pixelTip_ == nullptr) {
+        pixelTip_ = std::make_unique<PlacedTip>(handle());
+    }
+    const PixelSize size = pixelTip_->measure(lensPixelText(seen));
+    const PixelRect image = fromRect(parts_->image.picLens().rectangle());
+    pixelTip_->show(lensTipPlace(image, size, CursorPoint_));
+}
+
+void frmLens::hidePixel() {
+    if (pixelTip_ != nullptr) {
+        pixelTip_->hide();
+    }
+}
+
 void frmLens::onTick() {
     constexpr int ticksBetweenBounds = 300;
     if (tickCount_ == ticksBetweenBounds) {
@@ -161,6 +202,7 @@ void frmLens::onTick() {
     findSource();
     RefreshLens();
     UpdatePosition();
+    tellPixel();
 }
 
 /// Where the mouse cannot be asked for, it is where it was. Its pointer takes longer.
@@ -215,10 +257,14 @@ LensImageLook frmLens::imageLook() const {
 }
 
 void frmLens::DrawRulers() {
-    const ScaleOrigins origins{source_, worksheet_, {bounds_.left, bounds_.top}};
+    const ScaleOrigins origins = scaleOrigins();
     for (const LensScale scale : lensScales) {
         ruler(scale).draw(layout_, glyphs_, origins, dpi_);
     }
+}
+
+ScaleOrigins frmLens::scaleOrigins() const {
+    return {source_, worksheet_, {bounds_.left, bounds_.top}};
 }
 
 LensFace frmLens::face() const {

@@ -2,15 +2,18 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 
 #include "base/Event.h"
 #include "magnifier/LensCommands.h"
 #include "magnifier/LensMenuState.h"
 #include "magnifier/LensOptions.h"
+#include "magnifier/LensRest.h"
 #include "magnifier/win/LensImage.h"
 #include "magnifier/win/LensRuler.h"
 #include "platform/win/GdiCanvas.h"
 #include "platform/win/PlaceAcrossDpi.h"
+#include "platform/win/PlacedTip.h"
 #include "platform/win/Timer.h"
 #include "platform/win/Window.h"
 #include "scene/Mode.h"
@@ -27,7 +30,10 @@ class frmLens : public Window {
 
     /// Stays hidden, with the options of a first start. `commands` must outlive it.
     explicit frmLens(LensCommands& commands);
-    ~frmLens() override { destroy(); }
+    ~frmLens() override {
+        pixelTip_.reset();
+        destroy();
+    }
 
     /// All that the user has set. Of the scales only the pairs are told: those at the top and left
     /// as the one at the top, those at the bottom and right as the one at the bottom.
@@ -68,6 +74,9 @@ class frmLens : public Window {
     void UpdatePosition();
     /// A frame at once, if the window is visible.
     void Update();
+
+    /// Of the screen, under the mouse, in a frame of this moment; none while the window is hidden.
+    [[nodiscard]] std::optional<LensPixel> pixelUnderHotSpot();
 
     /// What the entries of the popup menu do.
     void mnuLensFactor_Click(int Index) { setFactor(Index); }
@@ -112,6 +121,13 @@ class frmLens : public Window {
     void setDpi(int dpi);
     [[nodiscard]] LensFace face() const;
     [[nodiscard]] LensImageLook imageLook() const;
+    [[nodiscard]] ScaleOrigins scaleOrigins() const;
+    /// Of the last frame.
+    [[nodiscard]] std::optional<LensPixel> pixel() const;
+    /// By a tip, once all has rested for a while.
+    void tellPixel();
+    void showPixel(const LensPixel& seen);
+    void hidePixel();
     void onTick();
     void RefreshLens();
     void DrawRulers();
@@ -126,7 +142,9 @@ class frmLens : public Window {
     void onActivate() const;
     LRESULT onRightRelease();
     std::optional<LRESULT> onKey(int key);
-    LRESULT onAccessibleFacts(LPARAM lParam) const;
+    LRESULT onAccessibleFacts(LPARAM lParam);
+    std::optional<LRESULT> onHeld(bool held);
+    std::optional<LRESULT> onShow(bool shown);
 
     LensCommands& commands_;
     LensOptions options_;
@@ -151,6 +169,11 @@ class frmLens : public Window {
     LensLayout layout_;
     /// None before the window stands.
     std::unique_ptr<Parts> parts_;
+    LensRest rest_;
+    /// The user moves or sizes the window.
+    bool held_ = false;
+    /// None before it is first shown.
+    std::unique_ptr<PlacedTip> pixelTip_;
     Subscription painting_;
     Subscription relabeling_;
 };

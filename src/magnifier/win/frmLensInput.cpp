@@ -28,8 +28,10 @@ std::optional<LRESULT> frmLens::onMessage(UINT message, WPARAM wParam, LPARAM lP
             onTick();
             return 0;
         case WM_SHOWWINDOW:
-            tmrMain_.start(handle(), wParam != FALSE ? tmrMainInterval : 0);
-            return std::nullopt;
+            return onShow(wParam != FALSE);
+        case WM_ENTERSIZEMOVE:
+        case WM_EXITSIZEMOVE:
+            return onHeld(message == WM_ENTERSIZEMOVE);
         case WM_WINDOWPOSCHANGED:
             if (!Sticked()) {
                 placed.raise();
@@ -134,10 +136,22 @@ void frmLens::showMenuAtOrigin() {
     commands_.showLensMenu({static_cast<int>(origin.x), static_cast<int>(origin.y)});
 }
 
-LRESULT frmLens::onAccessibleFacts(LPARAM lParam) const {
+std::optional<LRESULT> frmLens::onShow(bool shown) {
+    tmrMain_.start(handle(), shown ? tmrMainInterval : 0);
+    hidePixel();
+    return std::nullopt;
+}
+
+std::optional<LRESULT> frmLens::onHeld(bool held) {
+    held_ = held;
+    hidePixel();
+    return std::nullopt;
+}
+
+LRESULT frmLens::onAccessibleFacts(LPARAM lParam) {
     // The caption is empty while the window follows the mouse; its name is not.
     AccessibleFacts& facts = wantedFacts(lParam);
-    facts.name = lensTitle(Factor());
+    facts.name = lensName(Factor(), pixelUnderHotSpot());
     facts.role = ROLE_SYSTEM_CLIENT;
     return TRUE;
 }

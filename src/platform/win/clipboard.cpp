@@ -1,12 +1,13 @@
 #include "platform/win/clipboard.h"
 
+#include <cstring>
+
 #include "platform/win/monitors.h"
+#include "platform/win/text.h"
 
 namespace ormala {
 
 namespace {
-
-using GlobalMemory = Handle<HGLOBAL, &GlobalFree>;
 
 /// 24 bits a pixel: programs differ in what they make of a fourth byte.
 BITMAPINFOHEADER headerOf(SIZE size) {
@@ -65,24 +66,58 @@ GlobalMemory pictureOfScreen(const RECT& area) {
     return packedPicture(screen.get(), bitmap.get(), size);
 }
 
+/// In the system's own form, with its end.
+GlobalMemory memoryOf(const std::wstring& text) {
+    const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
+    GlobalMemory memory(GlobalAlloc(GMEM_MOVEABLE, bytes));
+    void* const place = memory ? GlobalLock(memory.get()) : nullptr;
+    if (place == nullptr) {
+        return {};
+    }
+    std::memcpy(place, text.c_str(), bytes);
+    GlobalUnlock(memory.get());
+    return memory;
+}
+
+ClipboardAnswer putOnClipboard(HWND owner, UINT format, GlobalMemory& memory) {
+    if (!memory) {
+        return ClipboardAnswer::refused;
+    }
+    const Clipboard clipboard(owner);
+    if (!clipboard.isOpen()) {
+        return ClipboardAnswer::held;
+    }
+    return clipboard.put(format, memory) ? ClipboardAnswer::taken : ClipboardAnswer::refused;
+}
+
 }  // namespace
+
+Clipboard::~Clipboard() {
+    if (isOpen_) {
+        CloseClipboard();
+    }
+}
+
+bool Clipboard::put(UINT format, GlobalMemory& memory) const {
+    if (!isOpen_ || EmptyClipboard() == FALSE ||
+        SetClipboardData(format, memory.get()) == nullptr) {
+        return false;
+    }
+    static_cast<void>(memory.release());
+    return true;
+}
 
 ScreenPicture::ScreenPicture(const RECT& area)
     : size_{static_cast<int>(area.right - area.left), static_cast<int>(area.bottom - area.top)},
       memory_(pictureOfScreen(area)) {}
 
-ScreenPicture::Answer ScreenPicture::putOnClipboard(HWND owner) {
-    if (OpenClipboard(owner) == FALSE) {
-        return Answer::held;
-    }
-    EmptyClipboard();
-    const bool taken = SetClipboardData(CF_DIB, memory_.get()) != nullptr;
-    if (taken) {
-        // The system owns it from now on.
-        static_cast<void>(memory_.release());
-    }
-    CloseClipboard();
-    return taken ? Answer::taken : Answer::refused;
+ClipboardAnswer ScreenPicture::putOnClipboard(HWND owner) {
+    return ormala::putOnClipboard(owner, CF_DIB, memory_);
+}
+
+ClipboardAnswer putTextOnClipboard(HWND owner, std::string_view text) {
+    GlobalMemory memory = memoryOf(wide(text));
+    return putOnClipboard(owner, CF_UNICODETEXT, memory);
 }
 
 }  // namespace ormala

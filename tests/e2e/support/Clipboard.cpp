@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "e2e/support/StageFailure.h"
+#include "support/win/WideText.h"
 
 namespace ormala::test::clipboard {
 
@@ -42,6 +43,19 @@ Held::~Held() {
 void clear() {
     const OpenClipboardScope open;
     EmptyClipboard();
+}
+
+std::string text() {
+    const OpenClipboardScope open;
+    auto* const memory = GetClipboardData(CF_UNICODETEXT);
+    const auto* const text =
+        static_cast<const wchar_t*>(memory != nullptr ? GlobalLock(memory) : nullptr);
+    if (text == nullptr) {
+        return {};
+    }
+    const std::string copied = narrow(text);
+    GlobalUnlock(memory);
+    return copied;
 }
 
 std::optional<Picture> picture(ScreenPoint origin) {

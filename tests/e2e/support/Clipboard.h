@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "support/win/Picture.h"
 
@@ -9,6 +10,9 @@ namespace ormala::test::clipboard {
 void clear();
 /// The picture on the clipboard, with its upper left corner at `origin`; none if there is none.
 std::optional<Picture> picture(ScreenPoint origin);
+
+/// The text on it, empty if there is none.
+std::string text();
 
 /// Keeps the clipboard from all other programs for its lifetime.
 class Held {

@@ -12,6 +12,8 @@ inline constexpr UINT_PTR tmrButtonBig = 2;
 /// While another program holds the clipboard, and while a note is shown.
 inline constexpr UINT_PTR tmrClipboard = 3;
 inline constexpr UINT_PTR tmrNote = 4;
+/// While another program holds the clipboard, and a text is to be put on it.
+inline constexpr UINT_PTR tmrCopy = 8;
 
 /// Above those of the toolbar.
 inline constexpr int idList = 200;

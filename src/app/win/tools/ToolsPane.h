@@ -69,6 +69,9 @@ class ToolsPane : private ToolListView, private BusyView {
 
     [[nodiscard]] Sheet& sheet() { return ports_.worksheet.sheet(); }
     void addTool(ToolKind kind);
+    /// Of the tool that has the keyboard, or the selected one; null without one.
+    [[nodiscard]] SettingControl* panelOfKeys();
+    void copyReadOuts();
     void runClock(bool running);
     void onTimer(UINT_PTR timer);
     void takePlace();

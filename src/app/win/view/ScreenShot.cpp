@@ -42,28 +42,11 @@ void ScreenShot::tick() {
 }
 
 void ScreenShot::deliver() {
-    if (!picture_->isHere()) {
-        tell(ShotOutcome::failed);
-        return;
+    const ClipboardAnswer answer = picture_->putOnClipboard(control_);
+    if (answer != ClipboardAnswer::held || GetTickCount64() >= patientUntil_) {
+        const ScreenPicture picture = *std::exchange(picture_, std::nullopt);
+        told.raise(shotNote(answer, picture.size()));
     }
-    switch (picture_->putOnClipboard(control_)) {
-        case ScreenPicture::Answer::taken:
-            tell(ShotOutcome::copied);
-            break;
-        case ScreenPicture::Answer::refused:
-            tell(ShotOutcome::failed);
-            break;
-        case ScreenPicture::Answer::held:
-            if (GetTickCount64() >= patientUntil_) {
-                tell(ShotOutcome::held);
-            }
-            break;
-    }
-}
-
-void ScreenShot::tell(ShotOutcome outcome) {
-    const ScreenPicture picture = *std::exchange(picture_, std::nullopt);
-    told.raise(shotNote(outcome, picture.size()));
 }
 
 }  // namespace ormala

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "app/shotNotes.h"
+#include "app/clipboardNotes.h"
 #include "base/Event.h"
 #include "platform/win/KeptFocus.h"
 #include "platform/win/Timer.h"
@@ -32,7 +32,6 @@ class ScreenShot {
 
   private:
     void deliver();
-    void tell(ShotOutcome outcome);
 
     HWND control_;
     Timer timer_;

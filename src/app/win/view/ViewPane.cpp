@@ -1,6 +1,8 @@
 #include "app/win/view/ViewPane.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "app/CommandTable.h"
 #include "app/commands.h"
@@ -20,7 +22,8 @@ ViewPane::ViewPane(const Ports& ports)
     : ports_(ports),
       lens_({ports.worksheet, ports.state, ports.execute,
              [this](PixelPoint screen) { askForLensMenu(screen); }}),
-      shot_(ports.window.handle(), tmrClipboard) {
+      shot_(ports.window.handle(), tmrClipboard),
+      copied_(ports.window.handle(), tmrCopy) {
     const auto keep = [this](Subscription subscription) {
         subscriptions_.push_back(std::move(subscription));
     };
@@ -32,6 +35,7 @@ ViewPane::ViewPane(const Ports& ports)
     keep(look.worksheetColorChanged().subscribe([this] { takeLook(); }));
     keep(ports_.state.changed.subscribe([this] { showState(); }));
     keep(shot_.told.subscribe([this](const std::string& note) { showNote(note); }));
+    keep(copied_.told.subscribe([this](const std::string& note) { showNote(note); }));
     keep(ports_.window.ticked.subscribe([this](UINT_PTR timer) { onTimer(timer); }));
 }
 
@@ -70,10 +74,11 @@ void ViewPane::showState() {
 }
 
 bool ViewPane::execute(Command command) {
-    static constexpr std::array<CommandAction<ViewPane>, 4> rows{{
+    static constexpr std::array<CommandAction<ViewPane>, 5> rows{{
         {Command::screenShot, [](ViewPane& self) { self.takeScreenShot(); }},
         {Command::worksheetMaximised, [](ViewPane& self) { self.ports_.resizer.maximise(); }},
         {Command::worksheetMenu, [](ViewPane& self) { self.ports_.worksheet.ShowContextMenu(); }},
+        {Command::copyColor, [](ViewPane& self) { self.copyColor(); }},
         {Command::lensMenu, [](ViewPane& self) { self.lens_.lens().showMenuAtOrigin(); }},
     }};
     if (const auto page = optionsPageOf(command)) {
@@ -101,11 +106,24 @@ void ViewPane::showNote(const std::string& text) {
 }
 
 void ViewPane::onTimer(UINT_PTR timer) {
-    if (timer == tmrClipboard) {
-        shot_.tick();
-    } else if (timer == tmrNote) {
-        tmrNote_.stop();
-        ports_.window.bar().showNote({});
+    static constexpr std::array<std::pair<UINT_PTR, void (*)(ViewPane&)>, 3> rows{{
+        {tmrClipboard, [](ViewPane& self) { self.shot_.tick(); }},
+        {tmrCopy, [](ViewPane& self) { self.copied_.tick(); }},
+        {tmrNote,
+         [](ViewPane& self) {
+             self.tmrNote_.stop();
+             self.ports_.window.bar().showNote({});
+         }},
+    }};
+    const auto* const row = std::ranges::find(rows, timer, &decltype(rows)::value_type::first);
+    if (row != rows.end()) {
+        row->second(*this);
+    }
+}
+
+void ViewPane::copyColor() {
+    if (const auto pixel = lens_.lens().pixelUnderHotSpot()) {
+        copy(copyOfColor(pixel->color));
     }
 }
 

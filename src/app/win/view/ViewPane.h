@@ -6,6 +6,7 @@
 #include "app/ViewState.h"
 #include "app/win/shell/frmSettings.h"
 #include "app/win/shell/settingsIds.h"
+#include "app/win/view/CopiedText.h"
 #include "app/win/view/LensPane.h"
 #include "app/win/view/ScreenShot.h"
 #include "app/win/view/frmMenu.h"
@@ -49,6 +50,8 @@ class ViewPane : public OptionsPort {
     bool ShowHelp();
     /// In the place of the path, for as long as it takes to read it; an empty one ends the last.
     void showNote(const std::string& text);
+    /// Puts a text on the clipboard and tells of it.
+    void copy(TextCopy copied) { copied_.put(std::move(copied)); }
     /// The control window in front of the worksheet, and a magnifier beside the mouse in front of
     /// both.
     void raiseAboveAll();
@@ -73,6 +76,7 @@ class ViewPane : public OptionsPort {
     void loadLook();
     void takeLook();
     void takeScreenShot();
+    void copyColor();
     void onTimer(UINT_PTR timer);
     [[nodiscard]] HWND ownerOfDialogs() const;
     void askForLensMenu(PixelPoint screen);
@@ -83,6 +87,7 @@ class ViewPane : public OptionsPort {
     LensPane lens_;
     std::unique_ptr<frmOptions> frmOptions_;
     ScreenShot shot_;
+    CopiedText copied_;
     Timer tmrNote_{tmrNote};
     bool takesScreenShot_ = false;
     /// Whether the frame is to be shown again that has been put aside.
