@@ -44,6 +44,7 @@ void MeasureAids::setText(std::string text, const TextMeter& meter) {
 void MeasureAids::hide() {
     line_.reset();
     info_.hide();
+    ring_.hide();
 }
 
 void MeasureAids::drawBelowGrips(Canvas& canvas) const {
@@ -53,6 +54,7 @@ void MeasureAids::drawBelowGrips(Canvas& canvas) const {
 }
 
 void MeasureAids::drawAboveGrips(Canvas& canvas) const {
+    ring_.draw(canvas);
     info_.draw(canvas);
 }
 
@@ -61,6 +63,7 @@ void MeasureAids::addTo(DirtyRegion& region, const PixelRect& area) const {
         region.addStroke(pen(), *line_, area);
     }
     info_.addTo(region);
+    ring_.addTo(region);
 }
 
 }  // namespace ormala

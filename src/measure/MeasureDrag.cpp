@@ -96,6 +96,12 @@ void setEnd(Line& line, bool first, const Point& point) {
 
 }  // namespace
 
+bool bindsToGrid(const MeasureDrag& drag) {
+    const bool free = drag.grip == MeasureGrip::centerA || drag.grip == MeasureGrip::centerB ||
+                      drag.grip == MeasureGrip::intersect;
+    return free && (drag.shift & modifier::ctrl) != 0;
+}
+
 Point DragEndGrip(MeasureState& state, const MeasureDrag& drag, const EndSnap& snap) {
     const bool first = isFirstEnd(drag.grip);
     Line& line = lineOf(state, drag.grip);

@@ -30,6 +30,9 @@ using EndSnap = std::function<void(Point&)>;
 /// A drag leaves at least this between the ends of a line.
 constexpr float smallestLength = 2;
 
+/// Whether the grid holds the grip.
+bool bindsToGrid(const MeasureDrag& drag);
+
 // Each answers where the mouse wants the grip to be, for the read-out.
 
 /// Where the end would come too near to its other one, it stops on the straight way there, at the

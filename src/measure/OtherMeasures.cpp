@@ -4,7 +4,7 @@
 
 namespace ormala {
 
-void SnapToOtherTools(Point& point, const OtherMeasures& others, const OverlayItem& self) {
+bool SnapToOtherTools(Point& point, const OtherMeasures& others, const OverlayItem& self) {
     constexpr double reach = 8;
     double best = 9999999;
     Point nearest = point;
@@ -15,9 +15,11 @@ void SnapToOtherTools(Point& point, const OtherMeasures& others, const OverlayIt
             nearest = end;
         }
     });
-    if (best < reach) {
-        point = nearest;
+    if (best >= reach) {
+        return false;
     }
+    point = nearest;
+    return true;
 }
 
 }  // namespace ormala

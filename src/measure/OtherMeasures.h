@@ -18,7 +18,8 @@ class OtherMeasures {
                            const std::function<void(const Point&)>& visit) const = 0;
 };
 
-/// Moves `point` onto the nearest of the other tools' ends, if there is one within 8 pixels.
-void SnapToOtherTools(Point& point, const OtherMeasures& others, const OverlayItem& self);
+/// Moves `point` onto the nearest of the other tools' ends, if there is one within 8 pixels; false
+/// if there is none.
+bool SnapToOtherTools(Point& point, const OtherMeasures& others, const OverlayItem& self);
 
 }  // namespace ormala

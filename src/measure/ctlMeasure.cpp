@@ -143,7 +143,21 @@ void ctlMeasure::drag(const MouseInput& input) {
 }
 
 Point ctlMeasure::dragState() {
-    const EndSnap snap = [this](Point& point) { SnapToOtherTools(point, others_, *this); };
+    std::optional<Point> snapped;
+    const Point place = dragTo(snapped);
+    if (bindsToGrid(held_)) {
+        snapped = place;
+    }
+    aids_.setRing(snapped, host().textMeter().scale());
+    return place;
+}
+
+Point ctlMeasure::dragTo(std::optional<Point>& joined) {
+    const EndSnap snap = [&](Point& point) {
+        if (SnapToOtherTools(point, others_, *this)) {
+            joined = point;
+        }
+    };
     switch (held_.grip) {
         case MeasureGrip::centerA:
         case MeasureGrip::centerB:

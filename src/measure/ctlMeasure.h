@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "measure/MeasureAids.h"
@@ -89,6 +90,8 @@ class ctlMeasure : public GripTool {
 
     void load(const MeasureState& state);
     [[nodiscard]] Point dragState();
+    /// `joined` becomes the end that the grip has joined, if it has.
+    [[nodiscard]] Point dragTo(std::optional<Point>& joined);
     void tagGrips();
     void drawStroke(Canvas& canvas, MeasureStroke stroke) const;
     [[nodiscard]] const Line& lineOf(MeasureStroke stroke) const;

@@ -82,6 +82,7 @@ void StencilAids::hide() {
     lines_ = {};
     circle_.reset();
     info_.hide();
+    ring_.hide();
 }
 
 void StencilAids::drawBelowGrips(Canvas& canvas) const {
@@ -96,6 +97,7 @@ void StencilAids::drawBelowGrips(Canvas& canvas) const {
 }
 
 void StencilAids::drawAboveGrips(Canvas& canvas) const {
+    ring_.draw(canvas);
     info_.draw(canvas);
 }
 
@@ -109,6 +111,7 @@ void StencilAids::addTo(DirtyRegion& region, const PixelRect& area) const {
         region.addOutline(*circle_, 1);
     }
     info_.addTo(region);
+    ring_.addTo(region);
 }
 
 }  // namespace ormala

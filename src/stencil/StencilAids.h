@@ -8,11 +8,13 @@
 #include "scene/ToolControl.h"
 #include "stencil/StencilGrips.h"
 #include "toolkit/DragReadOut.h"
+#include "toolkit/SnapRing.h"
 
 namespace ormala {
 
 /// What a drag shows beside the stencil itself: reference lines, the circle that the rotate grips
-/// run on, and the read-out. Owned by the stencil; shows nothing between drags.
+/// run on, the read-out, and a ring around what it has snapped to. Owned by the stencil; shows
+/// nothing between drags.
 class StencilAids {
   public:
     /// The sheet's client area and, from its diagonal, the half length of the reference lines.
@@ -23,13 +25,18 @@ class StencilAids {
     /// The grip stands at `at` now.
     void update(const StencilState& state, const Point& at, const TextMeter& meter);
     void setText(std::string text, const TextMeter& meter);
+    /// What the drag has snapped to carries a ring; nothing for none.
+    void setRing(const std::optional<Point>& place, const SheetScale& scale) {
+        ring_.show(place, color_, scale);
+    }
     void hide();
 
+    [[nodiscard]] const SnapRing& ring() const { return ring_; }
     [[nodiscard]] const ctlLabel& lblInfo() const { return info_.label(); }
     [[nodiscard]] const std::array<std::optional<Line>, 3>& lineHelper() const { return lines_; }
     [[nodiscard]] const std::optional<PixelRect>& shpCircle() const { return circle_; }
 
-    /// Lines and circle lie beneath the grips, the read-out above them.
+    /// Lines and circle lie beneath the grips, ring and read-out above them.
     void drawBelowGrips(Canvas& canvas) const;
     void drawAboveGrips(Canvas& canvas) const;
     void addTo(DirtyRegion& region, const PixelRect& area) const;
@@ -48,6 +55,7 @@ class StencilAids {
     std::array<std::optional<Line>, 3> lines_;
     std::optional<PixelRect> circle_;
     DragReadOut info_;
+    SnapRing ring_;
 };
 
 }  // namespace ormala

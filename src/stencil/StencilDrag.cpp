@@ -72,6 +72,14 @@ bool leavesAsPressed(const GripDrag& drag) {
     return !moved && (drag.shift & bindingModifiers(drag.grip.kind)) == 0;
 }
 
+bool bindsToGrid(const GripDrag& drag) {
+    return drag.grip.kind == StencilGripKind::move && (drag.shift & modifier::ctrl) != 0;
+}
+
+bool snapsToRatio(const GripDrag& drag) {
+    return drag.grip.kind == StencilGripKind::size && (drag.shift & modifier::shift) != 0;
+}
+
 Point DragMove(StencilState& state, const GripDrag& drag, const Grid& grid) {
     const Point center = RectCenter(state.RectBound);
     Point target = wholeGripCenter(drag, drag.x, drag.y);

@@ -35,6 +35,11 @@ void DragRotate(StencilState& state, const GripDrag& drag);
 /// own: then nothing has changed, although a grip only stands on whole pixels.
 bool leavesAsPressed(const GripDrag& drag);
 
+/// Whether the grid holds the centre.
+bool bindsToGrid(const GripDrag& drag);
+/// Whether the dragged side goes to a special ratio.
+bool snapsToRatio(const GripDrag& drag);
+
 /// Steps of `ModifyAngle`.
 enum class AngleStep { degree = 0, tenthOfDegree = 1, twentiethOfPi = 2, sixteenthOfPi = 3 };
 

@@ -13,6 +13,16 @@ std::string counted(double first, double last) {
     return formatNumber(CountedPixels(first, last), "0", {});
 }
 
+std::string sizeAlone(const Rect& rectBound, const TextForm& form) {
+    return counted(rectBound.left, rectBound.right) + " x " +
+           counted(rectBound.top, rectBound.bottom) + MlString(324, "  ratio = ") +
+           FormatRatio(PixelRatio(rectBound, false), form);
+}
+
+std::string nameOf(SpecialRatioRow row, const SpecialRatios& ratios) {
+    return ratios.SpecialRatioCaption(row.index, row.inverted, "  ", true);
+}
+
 }  // namespace
 
 std::string degreesText(double angle, const TextForm& form) {
@@ -29,16 +39,19 @@ std::string rotationText(double angle, const TextForm& form) {
 
 std::string specialRatioText(double ratio, const SpecialRatios& ratios) {
     const auto row = SameSpecialRatio(ratio);
-    return row ? ratios.SpecialRatioCaption(row->index, row->inverted, "  ", true) : "";
+    return row ? nameOf(*row, ratios) : "";
 }
 
 std::string sizeText(const Rect& rectBound, const SpecialRatios& ratios, const TextForm& form) {
-    const double ratio = PixelRatio(rectBound, false);
-    const std::string text = counted(rectBound.left, rectBound.right) + " x " +
-                             counted(rectBound.top, rectBound.bottom) +
-                             MlString(324, "  ratio = ") + FormatRatio(ratio, form);
-    const std::string name = specialRatioText(ratio, ratios);
-    return name.empty() ? text : text + "\r\n" + name;
+    const std::string name = specialRatioText(PixelRatio(rectBound, false), ratios);
+    return sizeAlone(rectBound, form) + (name.empty() ? "" : "\r\n" + name);
+}
+
+std::string sizeTextNearRatio(const Rect& rectBound, const SpecialRatios& ratios,
+                              const TextForm& form) {
+    SpecialRatioRow row;
+    row.index = NearestSpecialRatio(PixelRatio(rectBound, false), row.inverted);
+    return sizeAlone(rectBound, form) + "\r\n" + nameOf(row, ratios);
 }
 
 std::string stencilName(int ordinal) {

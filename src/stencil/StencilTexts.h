@@ -21,6 +21,9 @@ std::string rotationText(double angle, const TextForm& form);
 std::string specialRatioText(double ratio, const SpecialRatios& ratios);
 /// Size and ratio in pixels; a second line names the special ratio, if it is one.
 std::string sizeText(const Rect& rectBound, const SpecialRatios& ratios, const TextForm& form);
+/// The same with the name of the special ratio that is nearest, whether it is one or not.
+std::string sizeTextNearRatio(const Rect& rectBound, const SpecialRatios& ratios,
+                              const TextForm& form);
 
 /// Stencils are counted from 1.
 std::string stencilName(int ordinal);

@@ -71,6 +71,7 @@ class ctlRatioGrid : public GripTool {
     void setDefaultState();
     void load(const StencilState& state);
     [[nodiscard]] std::string dragState(const GripDrag& held);
+    [[nodiscard]] std::string dragText(const GripDrag& held) const;
     /// What the read-out beside such a grip says of the state.
     [[nodiscard]] std::string gripText(StencilGripKind kind) const;
     void moveCenterByKey(int dx, int dy, bool byGrid);

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <optional>
 #include <string>
 
 #include "modAPI/rectangles.h"
@@ -29,7 +30,8 @@ void ctlRatioGrid::beginDrag(const MouseInput& input) {
     pressAngle_ = state_.RotationAngle;
     moveOwed_ = false;
     aids_.begin(held_.grip, look, state_, settings_.showReferenceLines);
-    aids_.setText({}, host().textMeter());
+    // Before the first move lets it snap.
+    aids_.setText(snapsToRatio(held_) ? dragText(held_) : std::string(), host().textMeter());
     PositionAll();
 }
 
@@ -58,6 +60,9 @@ void ctlRatioGrid::drag(const MouseInput& input) {
     held_.shift = input.shift;
     moveOwed_ = false;
     aids_.setText(dragState(held_), host().textMeter());
+    const std::optional<Point> crossing =
+        bindsToGrid(held_) ? std::optional(RectCenter(state_.RectBound)) : std::nullopt;
+    aids_.setRing(crossing, host().textMeter().scale());
     PositionAll();
     events().change.raise();
 }
@@ -88,7 +93,12 @@ std::string ctlRatioGrid::dragState(const GripDrag& held) {
             }
             break;
     }
-    return gripText(held.grip.kind);
+    return dragText(held);
+}
+
+std::string ctlRatioGrid::dragText(const GripDrag& held) const {
+    return snapsToRatio(held) ? sizeTextNearRatio(state_.RectBound, ratios_, settings_.textForm)
+                              : gripText(held.grip.kind);
 }
 
 std::string ctlRatioGrid::gripText(StencilGripKind kind) const {

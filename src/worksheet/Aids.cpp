@@ -55,29 +55,36 @@ void Aids::press(const MouseInput& input) {
         port_.raiseWorksheet(options_.crossHair);
     }
     compass_.press(input, background_);
-    repaintCompass();
+    repaintCompass(input);
 }
 
 void Aids::move(const MouseInput& input) {
     compass_.move(input, options_.circleCompass);
-    repaintCompass();
+    repaintCompass(input);
 }
 
 void Aids::release(const MouseInput& input) {
     compass_.release(input);
-    repaintCompass();
+    repaintCompass(input);
 }
 
 void Aids::lost() {
     compass_.lost();
-    repaintCompass();
+    repaintCompass({});
 }
 
-void Aids::repaintCompass() {
-    const DirtyRegion changed = compass_.takeChanges();
+void Aids::repaintCompass(const MouseInput& mouse) {
+    compassReadOut_.show(compass_.opening(), {mouse.x, mouse.y}, sheet_.size());
+    DirtyRegion changed = compass_.takeChanges();
+    changed.add(compassReadOut_.takeChanges());
     if (!changed.empty()) {
         port_.repaintInFront(changed);
     }
+}
+
+void Aids::draw(Canvas& canvas) const {
+    compass_.draw(canvas);
+    compassReadOut_.draw(canvas);
 }
 
 }  // namespace ormala

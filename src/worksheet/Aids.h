@@ -5,6 +5,7 @@
 #include "scene/Input.h"
 #include "worksheet/AidOptions.h"
 #include "worksheet/CircleCompass.h"
+#include "worksheet/CompassReadOut.h"
 #include "worksheet/MousePort.h"
 #include "worksheet/RateLimit.h"
 #include "worksheet/Sheet.h"
@@ -28,8 +29,8 @@ class Aids {
     static constexpr int crossHairInterval = 20;
 
     /// All must outlive the aids; the options are read at each use.
-    Aids(const AidOptions& options, const Sheet& sheet, MousePort& port)
-        : options_(options), sheet_(sheet), port_(port) {}
+    Aids(const AidOptions& options, const Sheet& sheet, MousePort& port, const AidTexts& texts)
+        : options_(options), sheet_(sheet), port_(port), compassReadOut_(texts) {}
 
     [[nodiscard]] const BackgroundGrid& grid() const { return options_.grid; }
     /// A plain colour, no system colour.
@@ -57,11 +58,12 @@ class Aids {
     void lost();
 
     /// What lies in front of the tools.
-    void draw(Canvas& canvas) const { compass_.draw(canvas); }
+    void draw(Canvas& canvas) const;
 
   private:
     [[nodiscard]] bool showsCrossHair() const;
-    void repaintCompass();
+    /// Its read-out stands beside the mouse.
+    void repaintCompass(const MouseInput& mouse);
 
     const AidOptions& options_;
     const Sheet& sheet_;
@@ -69,6 +71,7 @@ class Aids {
     Color background_ = 0;
     bool aside_ = false;
     CircleCompass compass_;
+    CompassReadOut compassReadOut_;
     RateLimit crossHairMoves_{crossHairInterval / 1000.0F};
 };
 

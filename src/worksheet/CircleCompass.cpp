@@ -58,7 +58,11 @@ CircleCompass::Radii CircleCompass::radiiTo(const MouseInput& input) const {
     const double y = input.y;
     const double distance = std::hypot(x - center_.x, y - center_.y);
     return {std::max(RoundToInt(distance), leastRadius),
-            std::max(RoundToInt(G * distance), RoundToInt(G * leastRadius))};
+            std::max(RoundToInt(G * distance), RoundToInt(G * leastRadius)), distance};
+}
+
+std::optional<CircleCompass::Opening> CircleCompass::opening() const {
+    return shown_ ? std::optional(Opening{center_, shown_->distance}) : std::nullopt;
 }
 
 PixelRect CircleCompass::circle(int radius) const {

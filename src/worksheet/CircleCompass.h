@@ -22,6 +22,14 @@ class CircleCompass {
     /// The mouse was taken away, or does not reach the worksheet any more.
     void lost();
 
+    /// From the press to the mouse.
+    struct Opening {
+        PixelPoint center;
+        double radius = 0;
+    };
+    /// None while the circles are not to be seen.
+    [[nodiscard]] std::optional<Opening> opening() const;
+
     void draw(Canvas& canvas) const;
     /// The pixels that look different since the last call.
     [[nodiscard]] DirtyRegion takeChanges();
@@ -30,6 +38,7 @@ class CircleCompass {
     struct Radii {
         int outer = 0;
         int inner = 0;
+        double distance = 0;
     };
 
     [[nodiscard]] Radii radiiTo(const MouseInput& input) const;

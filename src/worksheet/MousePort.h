@@ -29,6 +29,8 @@ class MousePort {
     /// In seconds since midnight.
     [[nodiscard]] virtual float now() const = 0;
     [[nodiscard]] virtual Pointer pointer() const = 0;
+    /// As far as the screens reach. The worksheet hears of it like of any other move.
+    virtual void movePointer(PixelPoint by) = 0;
 
     /// These pixels, over all tools, look different now.
     virtual void repaintInFront(const DirtyRegion& region) = 0;

@@ -9,6 +9,30 @@ namespace {
 /// Seconds between two looks at a mouse that is outside the worksheet.
 constexpr float outsideInterval = 0.1F;
 
+/// Pixels that an arrow key moves the mouse by.
+constexpr int pointerStep = 1;
+constexpr int pointerStepWithCtrl = 10;
+
+/// Right and down; none for a key that is no arrow.
+PixelPoint wayOf(int key) {
+    switch (key) {
+        case key::left:
+            return {-1, 0};
+        case key::right:
+            return {1, 0};
+        case key::up:
+            return {0, -1};
+        case key::down:
+            return {0, 1};
+        default:
+            return {};
+    }
+}
+
+bool restsInDrag(int key) {
+    return wayOf(key) != PixelPoint{} || key == key::home || key == key::remove;
+}
+
 bool isModifier(int key) {
     return key == key::shift || key == key::ctrl || key == key::alt;
 }
@@ -120,6 +144,25 @@ bool SheetMouse::keyChanged(int key, int shift) {
         MouseInput again = last_;
         again.shift = shift;
         move(again);
+    }
+    return true;
+}
+
+bool SheetMouse::keyPressed(int key, int shift) {
+    const bool known = std::ranges::find(resting_, key) != resting_.end();
+    const bool held = holder_ != nullptr && (last_.button & mouseButton::left) != 0;
+    if (!restsInDrag(key) || !held) {
+        return known;
+    }
+    if (!known) {
+        resting_.push_back(key);
+        // A tool that has just got the keyboard takes the next move for none of the hand.
+        move(MouseInput(last_));
+    }
+    const PixelPoint way = wayOf(key);
+    if (way != PixelPoint{}) {
+        const int by = (shift & modifier::ctrl) != 0 ? pointerStepWithCtrl : pointerStep;
+        port_.movePointer({way.x * by, way.y * by});
     }
     return true;
 }

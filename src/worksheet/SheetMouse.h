@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "base/Event.h"
 #include "worksheet/Aids.h"
 #include "worksheet/MousePort.h"
@@ -28,6 +30,13 @@ class SheetMouse {
     /// drag goes on with other ones from where the mouse is. True for a modifier's key in a drag,
     /// which goes no further.
     bool keyChanged(int key, int shift);
+    /// A key went down or repeated itself. While the left button holds a grip, each arrow key moves
+    /// the mouse by a pixel, with Ctrl by ten, and Home and Delete do nothing. True if the tool is
+    /// not to hear of the key; one that went down in a drag rests until it is let go.
+    bool keyPressed(int key, int shift);
+    void keyReleased(int key) { std::erase(resting_, key); }
+    /// Whatever is let go now, nobody tells of it.
+    void keyboardLost() { resting_.clear(); }
     /// How soon `tick` has something to do, in milliseconds; 0 for never, as things are. A
     /// worksheet that is hidden needs none.
     [[nodiscard]] int interval() const;
@@ -54,6 +63,8 @@ class SheetMouse {
     OverlayItem* holder_ = nullptr;
     /// The background holds the mouse.
     bool background_ = false;
+    /// Keys that went down while a grip was held, and are still down.
+    std::vector<int> resting_;
     RateLimit outsideLooks_;
     Subscription withdrawn_;
 };

@@ -305,5 +305,50 @@ TEST(CtlMeasureInput, DeleteGoesToThePanelAndOtherKeysNowhere) {
     EXPECT_EQ(stage.tool.state(), before);
 }
 
+/// The centre of the ring that is shown; none while there is none.
+std::optional<PixelPoint> ringIn(const MeasureOnSheet& stage) {
+    const auto& face = stage.tool.aids().ring().face();
+    return face ? std::optional(PixelPoint{(face->box.left + face->box.right - 1) / 2,
+                                           (face->box.top + face->box.bottom - 1) / 2})
+                : std::nullopt;
+}
+
+TEST(CtlMeasureInput, TheEndThatAltJoinsCarriesARingAslongAsItIsJoined) {
+    MeasureOnSheet stage;
+    stage.others.ends = {{300.5, 300.25}, {900, 700}};
+    const Point from = stage.gripAt(MeasureGrip::endA1);
+    stage.press(from);
+    const auto drag = [&](const Point& to, int shift) {
+        stage.dragTo(to, shift);
+        return ringIn(stage);
+    };
+    EXPECT_EQ(drag({305, 305}, modifier::alt), (PixelPoint{301, 300}));
+    EXPECT_EQ(drag({310, 305}, modifier::alt), std::nullopt);
+    EXPECT_EQ(drag({305, 305}, 0), std::nullopt);
+    EXPECT_EQ(drag({305, 305}, modifier::alt | modifier::shift), std::nullopt);
+    EXPECT_EQ(drag({898, 702}, modifier::alt), (PixelPoint{900, 700}));
+    stage.release({898, 702});
+    EXPECT_EQ(ringIn(stage), std::nullopt);
+}
+
+TEST(CtlMeasureInput, TheCrossingOfTheGridThatCtrlFindsCarriesARing) {
+    MeasureOnSheet stage;
+    for (const MeasureGrip grip : {MeasureGrip::centerA, MeasureGrip::intersect}) {
+        if (!stage.grip(grip).inUse()) {
+            continue;
+        }
+        const Point from = stage.gripAt(grip);
+        stage.press(from);
+        stage.dragTo({321, 277}, modifier::ctrl);
+        EXPECT_EQ(ringIn(stage), (PixelPoint{300, 300}));
+        stage.dragTo({321, 277}, 0);
+        EXPECT_EQ(ringIn(stage), std::nullopt);
+        stage.release({321, 277});
+    }
+    stage.press(stage.gripAt(MeasureGrip::endA1));
+    stage.dragTo({321, 277}, modifier::ctrl);
+    EXPECT_EQ(ringIn(stage), std::nullopt) << "an end knows no grid";
+}
+
 }  // namespace
 }  // namespace ormala

@@ -67,6 +67,21 @@ TEST(CtlMeasureRepaint, CoversEveryPixelThatADragChanges) {
     }
 }
 
+TEST(CtlMeasureRepaint, CoversTheRingAroundWhatIsJoined) {
+    MeasureOnSheet stage(smallSheet);
+    stage.others.ends = {{100, 100}, {220, 160}};
+    RepaintWatch watch(stage.tool, stage.host, smallSheet);
+    stage.press(stage.gripAt(MeasureGrip::endA1));
+    for (const Point to : {Point{99, 102}, Point{130, 120}, Point{221, 161}, Point{222, 158}}) {
+        stage.dragTo(to, modifier::alt);
+        EXPECT_EQ(watch.missed(), 0) << to.x;
+        EXPECT_EQ(watch.beyondFootprint(), 0) << to.x;
+    }
+    stage.release({222, 158});
+    EXPECT_EQ(watch.missed(), 0);
+    EXPECT_EQ(watch.beyondFootprint(), 0);
+}
+
 TEST(CtlMeasureRepaint, SeveralChangesAtOnceAreLaidOutAtTheirEndAndLookAsOneByOne) {
     Dice dice;
     Dice sameDice;

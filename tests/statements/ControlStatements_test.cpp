@@ -2,15 +2,18 @@
 
 #include <string>
 
+#include "app/clipboardNotes.h"
 #include "dialogs/LineSelectModel.h"
 #include "dialogs/palettes.h"
 #include "magnifier/LensOptions.h"
 #include "magnifier/lensOverlays.h"
+#include "magnifier/lensTexts.h"
 #include "scene/Input.h"
 #include "support/HelpStatements.h"
 #include "support/RecordingCanvas.h"
 #include "widgets/SliderModel.h"
 #include "worksheet/CircleCompass.h"
+#include "worksheet/CompassReadOut.h"
 
 // What the help says of sliders, palettes, the compass and the magnifier.
 
@@ -97,6 +100,19 @@ TEST(HelpStatements, OfCompassAndMagnifier) {
     expectHeld({
         {"The radius of the inner one is the golden section of the outer one's.",
          "a drag by 100 pixels", radii, "100 62 1 "},
+        {"Beside the mouse stand both radii in pixels, as r and G * r.", "a radius of 100 pixels",
+         [] { return withSingleBlanks(compassText(100, {})); }, "r = 100.0 G * r = 61.8"},
+        {"Neben der Maus stehen beide Radien in Pixeln, als r und G * r.", "the same",
+         [] { return withSingleBlanks(compassText(100, {})); }, "r = 100.0 G * r = 61.8"},
+        {"Ctrl+C in the magnifier copies the colour to the clipboard, such as #4F4F4F.",
+         "a pixel of a dark grey", [] { return copyOfColor(rgb(79, 79, 79)).text; }, "#4F4F4F"},
+        {"a tooltip on the magnifier tells the colour of the pixel under the mouse, in hexadecimal "
+         "digits and as red, green and blue, and its place as the scales count it.",
+         "a pixel of that grey",
+         [] {
+             return withSingleBlanks(lensPixelText({rgb(79, 79, 79), {210, 305}}));
+         },
+         "#4F4F4F R 79 G 79 B 79 X = 210 Y = 305"},
         {"1 X to 10 X.", "the factors",
          [] { return std::to_string(leastFactor) + " to " + std::to_string(mostFactor); },
          "1 to 10"},

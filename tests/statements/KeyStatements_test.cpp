@@ -53,6 +53,12 @@ std::string commands(int key, int modifiers = 0) {
             case Command::redo:
                 all += "redo ";
                 break;
+            case Command::copyReadOuts:
+                all += "numbers ";
+                break;
+            case Command::copyColor:
+                all += "color ";
+                break;
             default: {
                 const auto page = optionsPageOf(*command);
                 all += page ? "page" + std::to_string(*page + 1) + " " : "other ";
@@ -89,6 +95,9 @@ TEST(HelpStatements, OfTheKeysOfAllWindows) {
          "Ctrl+Z and Ctrl+Y in each window",
          [] { return commands(key::z, modifier::ctrl) + commands(key::y, modifier::ctrl); },
          "undo undo nothing redo redo nothing "},
+        {"Copies all numbers of the selected tool; in the magnifier the colour under the mouse.",
+         "Ctrl+C in each window", [] { return commands(key::c, modifier::ctrl); },
+         "numbers numbers color "},
     });
 }
 

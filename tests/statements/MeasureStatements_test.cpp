@@ -53,7 +53,8 @@ TEST(HelpStatements, OfTheEndsOfLines) {
              return afterDrag(endA1, {-40, 30}, modifier::shift);
          },
          "356.82,400 500,400 | 500,250 500,400"},
-        {"Joins an end of another visible measuring tool that is less than 8 pixels away.",
+        {"Joins an end of another visible measuring tool that is less than 8 pixels away; a "
+         "ring lies around it.",
          "Alt and a drag to 7 pixels from one, and to 8 from another",
          [] {
              std::string all;

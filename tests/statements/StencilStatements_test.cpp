@@ -303,6 +303,30 @@ TEST(HelpStatements, OfTheKeysOfAStencil) {
     });
 }
 
+/// What a drag with that key snaps to.
+std::string snapsTo(int shift) {
+    MiddleStencil stage;
+    const auto kind = shift == modifier::shift ? sideGrip : centreGrip;
+    const Point from = stage.gripAt(kind, 1);
+    stage.press(from, shift);
+    const std::string pressed = withSingleBlanks(stage.tool.aids().lblInfo().Caption());
+    stage.dragTo({from.x + 12, from.y + 12}, shift);
+    return std::string(stage.tool.aids().ring().face() ? "ring, " : "no ring, ") + pressed;
+}
+
+TEST(HelpStatements, OfWhatADragSnapsTo) {
+    expectHeld({
+        {"with Ctrl a ring lies around the crossing of the grid, and with Shift at a side the "
+         "label names the special ratio that is nearest, from the press on.",
+         "a drag of the centre with Ctrl, and a press at a side of 401 x 301 with Shift",
+         [] { return snapsTo(modifier::ctrl) + "; " + snapsTo(modifier::shift); },
+         "ring, ; no ring, 401 x 301 ratio = 1.332 4:3 (digital photo, TV, monitor)"},
+        {"Mit Strg liegt ein Ring um die Kreuzung des Rasters, und mit Umschalt an einer Seite "
+         "nennt die Beschriftung vom Drücken an das nächste besondere Verhältnis.",
+         "a drag of the centre without a key", [] { return snapsTo(0); }, "no ring, "},
+    });
+}
+
 TEST(HelpStatements, OfAWorksheetThatIsResized) {
     expectHeld({
         {"the tools keep their size and their distance from the top left corner of the worksheet.",

@@ -383,5 +383,50 @@ TEST(CtlRatioGridSpoken, HasNoGripsOutsideEditMode) {
     EXPECT_TRUE(stage.tool.spokenGrips(1).empty());
 }
 
+TEST(CtlRatioGridInput, TheCrossingOfTheGridThatCtrlFindsCarriesARing) {
+    StencilOnSheet stage;
+    const Point centre = stage.gripAt(StencilGripKind::move);
+    stage.press(centre);
+    stage.dragTo({321, 277}, modifier::ctrl);
+    const auto& ring = stage.tool.aids().ring().face();
+    ASSERT_TRUE(ring.has_value());
+    EXPECT_EQ(ring->box.intersected({300, 300, 301, 301}), (PixelRect{300, 300, 301, 301}));
+    EXPECT_EQ(ring->box.left + ring->box.right - 1, 600);
+    stage.dragTo({321, 277}, 0);
+    EXPECT_FALSE(ring.has_value());
+    stage.dragTo({321, 277}, modifier::ctrl);
+    stage.release({321, 277});
+    EXPECT_FALSE(ring.has_value());
+    stage.press(stage.gripAt(StencilGripKind::size, 1));
+    stage.dragTo({700, 300}, modifier::ctrl);
+    EXPECT_FALSE(ring.has_value()) << "a side is symmetric with Ctrl";
+}
+
+TEST(CtlRatioGridInput, AShiftPressAtASideNamesTheRatioThatIsNearBeforeItSnaps) {
+    StencilOnSheet stage;
+    stage.tool.setRectBound({100, 100, 298, 233});
+    const auto said = [&] { return stage.tool.aids().lblInfo().Caption(); };
+    const Point side = stage.gripAt(StencilGripKind::size, 1);
+    stage.press(side, modifier::shift);
+    EXPECT_EQ(said(), "199 x 134  ratio = 1.485\r\n3:2  (chemical photo)");
+    EXPECT_EQ(stage.tool.RectBound().right, 298) << "nothing has snapped yet";
+    stage.dragTo({side.x + 1, side.y}, modifier::shift);
+    EXPECT_NEAR(PixelRatio(stage.tool.RectBound(), false), 1.5, 0.01);
+    EXPECT_EQ(said().substr(said().find('\n') + 1), "3:2  (chemical photo)");
+    stage.release({side.x + 1, side.y});
+    stage.press(stage.gripAt(StencilGripKind::size, 1));
+    EXPECT_EQ(said(), "");
+}
+
+TEST(CtlRatioGridInput, AShiftDragOfASmallStencilNamesItsRatioThoughPixelsAreTooCoarse) {
+    StencilOnSheet stage;
+    stage.tool.setRectBound({100, 100, 131, 123});
+    const Point side = stage.gripAt(StencilGripKind::size, 1);
+    stage.press(side);
+    stage.dragTo({side.x + 4, side.y}, modifier::shift);
+    EXPECT_EQ(stage.tool.aids().lblInfo().Caption().find("\r\n3:2"),
+              stage.tool.aids().lblInfo().Caption().find('\r'));
+}
+
 }  // namespace
 }  // namespace ormala

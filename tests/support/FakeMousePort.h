@@ -19,11 +19,13 @@ class FakeMousePort : public MousePort {
     DirtyRegion repainted;
     std::vector<bool> lensRaises;
     std::vector<bool> worksheetRaises;
+    std::vector<PixelPoint> pointerMoves;
     int controlRaises = 0;
     int menus = 0;
 
     float now() const override { return time; }
     Pointer pointer() const override { return mouse; }
+    void movePointer(PixelPoint by) override { pointerMoves.push_back(by); }
     void repaintInFront(const DirtyRegion& region) override { repainted.add(region); }
     void showCrossHair(const CrossHairLine& along, const CrossHairLine& down) override {
         crossHairs.emplace_back(along, down);

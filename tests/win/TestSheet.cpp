@@ -48,7 +48,8 @@ PixelMap readClient(HWND window) {
 }
 
 TestSheet::TestSheet(PixelSize size) : ratios_(makeRatios()) {
-    window_ = std::make_unique<frmWorksheet>(maker_, foreground_, commands, aids);
+    window_ =
+        std::make_unique<frmWorksheet>(maker_, foreground_, commands, aids, settings.textForm);
     window_->setBackground(ground);
     window_->setClickAlpha(191);
     window_->setMaxSized(false);

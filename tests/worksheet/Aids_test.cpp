@@ -164,7 +164,10 @@ TEST_F(AidsTest, OnlyWhatChangesOfTheCompassIsRepainted) {
     EXPECT_TRUE(window_.repainted.meets({340, 300, 341, 301}));
     window_.repainted.clear();
     aids_.move({mouseButton::left, 0, 300, 340});
-    EXPECT_TRUE(window_.repainted.empty()) << "the same circles";
+    EXPECT_FALSE(window_.repainted.meets({340, 300, 341, 301})) << "the same circles";
+    window_.repainted.clear();
+    aids_.move({mouseButton::left, 0, 300, 340});
+    EXPECT_TRUE(window_.repainted.empty()) << "and the same read-out";
     aids_.release({mouseButton::left, 0, 300, 340});
     EXPECT_TRUE(window_.repainted.meets({300, 340, 301, 341}));
 }

@@ -10,6 +10,7 @@
 #include "support/FakeMousePort.h"
 #include "support/FakeOverlayItem.h"
 #include "support/FakeSheetPort.h"
+#include "support/FakeTextMeter.h"
 #include "support/QuietToolHost.h"
 #include "worksheet/Aids.h"
 #include "worksheet/Sheet.h"
@@ -77,7 +78,9 @@ class SheetMouseFixture : public SheetFixture {
   protected:
     AidOptions options_;
     FakeMousePort window_;
-    Aids aids_{options_, sheet_, window_};
+    FakeTextMeter meter_;
+    TextForm form_;
+    Aids aids_{options_, sheet_, window_, {meter_, form_}};
     SheetMouse mouse_{sheet_, aids_, window_};
 };
 

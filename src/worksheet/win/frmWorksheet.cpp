@@ -41,12 +41,13 @@ void widenAndTakeBack(const Window& window, int by) {
 }
 
 frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
-                           WorksheetCommands& commands, const AidOptions& aids)
+                           WorksheetCommands& commands, const AidOptions& aids,
+                           const TextForm& form)
     : fonts_(designDpi),
       foreground_(foreground),
       commands_(commands),
       sheet_(*this, *this, factory),
-      aids_(aids, sheet_, *this),
+      aids_(aids, sheet_, *this, {fonts_, form}),
       mouse_(sheet_, aids_, *this),
       painter_(sheet_, aids_, fonts_) {
     WindowDesign design;
@@ -254,6 +255,11 @@ Pointer frmWorksheet::pointer() const {
     return {{static_cast<int>(cursor.x), static_cast<int>(cursor.y)},
             fromRect(rectangle()),
             GetCapture() != nullptr};
+}
+
+void frmWorksheet::movePointer(PixelPoint by) {
+    const POINT cursor = cursorPlace();
+    SetCursorPos(static_cast<int>(cursor.x) + by.x, static_cast<int>(cursor.y) + by.y);
 }
 
 void frmWorksheet::showCrossHair(const CrossHairLine& along, const CrossHairLine& down) {

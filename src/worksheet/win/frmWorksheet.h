@@ -46,9 +46,10 @@ class WorksheetCommands {
 /// the mouse; otherwise only the tools show, and every click falls through to the program below.
 class frmWorksheet : public Window, private SheetPort, private MousePort, private ToolHost {
   public:
-    /// Stays hidden. The arguments must outlive the worksheet, which reads the options at each use.
+    /// Stays hidden. The arguments must outlive the worksheet, which reads the options, and the
+    /// form of numbers, at each use.
     frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground, WorksheetCommands& commands,
-                 const AidOptions& aids);
+                 const AidOptions& aids, const TextForm& form);
     ~frmWorksheet() override;
 
     [[nodiscard]] Sheet& sheet() { return sheet_; }
@@ -107,6 +108,7 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
 
     float now() const override;
     Pointer pointer() const override;
+    void movePointer(PixelPoint by) override;
     void repaintInFront(const DirtyRegion& region) override { invalidate(region, false); }
     void showCrossHair(const CrossHairLine& along, const CrossHairLine& down) override;
     bool raiseLens(bool onlySticked) override { return commands_.raiseLens(onlySticked); }

@@ -48,6 +48,7 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
             return onKey(wParam);
         case WM_KEYUP:
         case WM_SYSKEYUP:
+            mouse_.keyReleased(static_cast<int>(wParam));
             mouse_.keyChanged(static_cast<int>(wParam), heldModifiers());
             paintNow();
             return std::nullopt;
@@ -60,6 +61,7 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
             tellScreenReaders();
             return paintNow();
         case WM_KILLFOCUS:
+            mouse_.keyboardLost();
             sheet_.windowLostFocus();
             tellScreenReaders();
             return paintNow();
@@ -181,6 +183,7 @@ std::optional<LRESULT> frmWorksheet::onKey(WPARAM key) {
         return std::nullopt;
     }
     if (!mouse_.keyChanged(static_cast<int>(key), shift) &&
+        !mouse_.keyPressed(static_cast<int>(key), shift) &&
         !KeyDown(static_cast<int>(key), shift) && sheet_.focused() != nullptr) {
         sheet_.focused()->keyDown(static_cast<int>(key), shift);
     }

@@ -66,7 +66,8 @@ void Program::makeWindows() {
     settings_ =
         std::make_unique<frmSettings>(frmSettings::Ports{life_, focus_, state_, globalEvents_});
     worksheet_ =
-        std::make_unique<frmWorksheet>(factory_, focus_.foreground(), *this, state_.options().aids);
+        std::make_unique<frmWorksheet>(factory_, focus_.foreground(), *this, state_.options().aids,
+                                       state_.toolSettings().textForm);
     factory_.setSheet(worksheet_->sheet());
     resizer_ = std::make_unique<frmResizer>(*worksheet_, *this);
     view_ = std::make_unique<ViewPane>(ViewPane::Ports{
