@@ -303,6 +303,26 @@ SettingControl* ToolList::panelOf(const OverlayItem* tool) const {
     return at == pairs_.end() ? nullptr : &at->panel();
 }
 
+SettingControl* ToolList::panelBeside(const SettingControl* panel, int places) const {
+    const auto shown = GetPanelsInVisualOrder();
+    if (shown.empty()) {
+        return nullptr;
+    }
+    const auto placeOf = [&shown](auto which) {
+        return std::ranges::find_if(
+                   shown, [&](const Entry& entry) { return which(entry.listed.panel()); }) -
+               shown.begin();
+    };
+    const auto count = std::ssize(shown);
+    const auto from = placeOf([panel](const SettingControl& each) { return &each == panel; });
+    auto to = (from + places + count) % count;
+    if (from == count) {
+        // The first one, if none is selected.
+        to = placeOf([](const SettingControl& each) { return each.Selected(); }) % count;
+    }
+    return &shown[static_cast<std::size_t>(to)].listed.panel();
+}
+
 SettingControl* ToolList::successorOf(const SettingControl& panel) const {
     const auto shown = GetPanelsInVisualOrder();
     const auto at = std::ranges::find_if(

@@ -66,6 +66,10 @@ class ToolList {
     /// one that stays; null if none stays.
     [[nodiscard]] SettingControl* successorOf(const SettingControl& panel) const;
 
+    /// The panel so many places below this one, or above it, in a ring; from none the one of the
+    /// selected tool, or else the first. Null without any.
+    [[nodiscard]] SettingControl* panelBeside(const SettingControl* panel, int places) const;
+
     struct Entry {
         ToolKind kind;
         ListedPanel& listed;

@@ -43,6 +43,10 @@ constexpr std::array rows{
     KeyRow{key::tab, any, worksheet, Command::nextTool},
     KeyRow{key::z, modifier::ctrl, control | worksheet, Command::undo},
     KeyRow{key::y, modifier::ctrl, control | worksheet, Command::redo},
+    KeyRow{key::pageDown, modifier::ctrl, control, Command::nextPanel},
+    KeyRow{key::pageUp, modifier::ctrl, control, Command::previousPanel},
+    KeyRow{key::f6, 0, everywhere, Command::nextPart},
+    KeyRow{key::f6, modifier::shift, everywhere, Command::previousPart},
     KeyRow{key::c, modifier::ctrl, control | worksheet, Command::copyReadOuts},
     KeyRow{key::c, modifier::ctrl, magnifier, Command::copyColor},
 };

@@ -47,6 +47,10 @@ enum class Command {
     redo,
     copyReadOuts,
     copyColor,
+    nextPanel,
+    previousPanel,
+    nextPart,
+    previousPart,
 };
 
 inline constexpr int largestLensFactor = 10;

@@ -111,6 +111,31 @@ TEST_F(ToolListTest, TheSuccessorOfAPanelTakesItsPlaceOrIsTheLastOne) {
     EXPECT_EQ(list_.successorOf(*stays), nullptr);
 }
 
+TEST_F(ToolListTest, FromPanelToPanelTheWayIsARing) {
+    stage_.addStencil();
+    const auto panel = [&](std::size_t at) {
+        return &list_.GetPanelsInVisualOrder().at(at).listed.panel();
+    };
+    EXPECT_EQ(list_.panelBeside(panel(0), 1), panel(1));
+    EXPECT_EQ(list_.panelBeside(panel(2), 1), panel(0));
+    EXPECT_EQ(list_.panelBeside(panel(0), -1), panel(2));
+    EXPECT_EQ(list_.panelBeside(panel(1), 0), panel(1));
+}
+
+TEST_F(ToolListTest, FromNoPanelTheWayLeadsToThatOfTheSelectedToolOrToTheFirst) {
+    const auto panel = [&](std::size_t at) {
+        return &list_.GetPanelsInVisualOrder().at(at).listed.panel();
+    };
+    for (const int places : {-1, 0, 1}) {
+        stage_.sheet.SelectControl(panel(1)->RefControlControl());
+        EXPECT_EQ(list_.panelBeside(nullptr, places), panel(1));
+        panel(1)->setSelected(false);
+        EXPECT_EQ(list_.panelBeside(nullptr, places), panel(0));
+    }
+    list_.RemoveAllTools();
+    EXPECT_EQ(list_.panelBeside(nullptr, 1), nullptr);
+}
+
 TEST_F(ToolListTest, RemovingTheFirstToolAndAddingOneReusesItAndRestartsItsColours) {
     const Color first = stage_.stencil(0).Color();
     const SettingControl* panel = &stage_.stencil(0);

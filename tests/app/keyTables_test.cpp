@@ -123,6 +123,24 @@ TEST(KeyTables, CtrlAloneMakesCTheKeyThatCopies) {
     }
 }
 
+TEST(KeyTables, CtrlAloneMakesThePageKeysGoFromPanelToPanelInTheControlWindow) {
+    EXPECT_EQ(control(key::pageDown, modifier::ctrl), Command::nextPanel);
+    EXPECT_EQ(control(key::pageUp, modifier::ctrl), Command::previousPanel);
+    for (const int held : {0, modifier::shift, modifier::ctrl | modifier::shift}) {
+        EXPECT_EQ(control(key::pageDown, held), std::nullopt) << "a slider's key";
+    }
+    EXPECT_EQ(magnifier(key::pageDown, modifier::ctrl), std::nullopt);
+}
+
+TEST(KeyTables, F6GoesFromPartToPartAndWithShiftBack) {
+    for (const KeyWindow window : windows) {
+        EXPECT_EQ(commandOfKey(key::f6, 0, window), Command::nextPart);
+        EXPECT_EQ(commandOfKey(key::f6, modifier::shift, window), Command::previousPart);
+        EXPECT_EQ(commandOfKey(key::f6, modifier::ctrl, window), std::nullopt);
+        EXPECT_EQ(commandOfKey(key::f6, modifier::alt, window), std::nullopt);
+    }
+}
+
 TEST(KeyTables, AKeyIsTakenOnlyByItsCommand) {
     std::vector<Command> executed;
     const auto execute = [&executed](Command command) { executed.push_back(command); };

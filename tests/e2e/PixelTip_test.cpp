@@ -36,8 +36,8 @@ TEST(PixelTip, TellsColourAndPlaceOfAMouseThatRestsAndGoesWithIt) {
     const DesktopWindow tip =
         findTopLevel(scene.scene.program().process().id(), "tooltips_class32");
     const ScreenRect image = scene.lens.part("picLens").rect();
-    EXPECT_TRUE(image.contains(tip.rect().origin())) << tip.rect().left << " " << tip.rect().top;
-    EXPECT_LE(tip.rect().bottom, image.bottom);
+    EXPECT_TRUE(image.contains(tip.center())) << tip.rect().left << " " << tip.rect().top;
+    EXPECT_FALSE(tip.rect().contains(image.center())) << "it leaves the marked pixel free";
     scene.choose(LensEntry::visible);
     scene.lens.window().waitUntilHidden();
     EXPECT_TRUE(tipSays(scene, ""));

@@ -59,6 +59,14 @@ std::string commands(int key, int modifiers = 0) {
             case Command::copyColor:
                 all += "color ";
                 break;
+            case Command::nextPart:
+            case Command::nextPanel:
+                all += "on ";
+                break;
+            case Command::previousPart:
+            case Command::previousPanel:
+                all += "back ";
+                break;
             default: {
                 const auto page = optionsPageOf(*command);
                 all += page ? "page" + std::to_string(*page + 1) + " " : "other ";
@@ -98,6 +106,17 @@ TEST(HelpStatements, OfTheKeysOfAllWindows) {
         {"Copies all numbers of the selected tool; in the magnifier the colour under the mouse.",
          "Ctrl+C in each window", [] { return commands(key::c, modifier::ctrl); },
          "numbers numbers color "},
+        {"Go to the next part of Ormala, to the previous one: buttons, panels, worksheet, "
+         "magnifier.",
+         "F6 and Shift+F6 in each window",
+         [] { return commands(key::f6) + commands(key::f6, modifier::shift); },
+         "on on on back back back "},
+        {"In the control window: go to the next panel, to the previous one.",
+         "Ctrl with the page keys in the control window, the worksheet and the magnifier",
+         [] {
+             return commands(key::pageDown, modifier::ctrl) + commands(key::pageUp, modifier::ctrl);
+         },
+         "on nothing nothing back nothing nothing "},
     });
 }
 

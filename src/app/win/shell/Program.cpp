@@ -5,6 +5,7 @@
 #include "app/CommandTable.h"
 #include "app/keyTables.h"
 #include "app/version.h"
+#include "app/win/shell/partsOfProgram.h"
 #include "dialogs/win/formPlacement.h"
 #include "language/LanguageSupport.h"
 #include "language/MlStringModule.h"
@@ -84,6 +85,7 @@ void Program::makeWindows() {
     modes_ = std::make_unique<ModeSwitch>(*stage_, state_);
     autoSave_ = std::make_unique<AutoSaveStage>(AutoSaveStage::Parts{
         *settings_, *resizer_, *view_, *tools_, state_, *modes_, optionsKeeper_});
+    parts_ = partsOfProgram(*settings_, *tools_, *worksheet_, *resizer_, view_->lens().lens());
     wheelHook_ = std::make_unique<MouseWheelHook>([this](int notches) {
         // Later, when what the hook sees is out of the queue, and only what follows it waits there.
         settings_->later([this, notches] { tools_->Scroll(notches); });
@@ -138,9 +140,11 @@ void Program::RefreshRuntimeStrings() {
 }
 
 void Program::execute(Command command) {
-    static constexpr std::array<CommandAction<Program>, 2> rows{{
+    static constexpr std::array<CommandAction<Program>, 4> rows{{
         {Command::worksheetNormal, [](Program& self) { self.worksheetWindowNormal(); }},
         {Command::help, [](Program& self) { self.ShowHelp(); }},
+        {Command::nextPart, [](Program& self) { passKeyboardOn(self.parts_, false); }},
+        {Command::previousPart, [](Program& self) { passKeyboardOn(self.parts_, true); }},
     }};
     // The screen shot wants the view as it is.
     if (modes_->execute(command) || runCommand<Program>(rows, *this, command) ||

@@ -9,6 +9,7 @@
 #include "app/ToolMaker.h"
 #include "app/ViewState.h"
 #include "app/win/shell/AutoSaveStage.h"
+#include "app/WindowPart.h"
 #include "app/win/shell/ModeStage.h"
 #include "app/win/shell/OptionsKeeper.h"
 #include "app/win/shell/frmSettings.h"
@@ -86,6 +87,8 @@ class Program : public WorksheetCommands, private ProgramEnding {
     std::unique_ptr<ModeStage> stage_;
     std::unique_ptr<ModeSwitch> modes_;
     std::unique_ptr<AutoSaveStage> autoSave_;
+    /// In the order of the key that goes through them.
+    std::vector<WindowPart> parts_;
     std::unique_ptr<MouseWheelHook> wheelHook_;
     /// Ended before anything else goes: the focus that the parts leave behind finds them half gone.
     std::vector<Subscription> subscriptions_;

@@ -14,6 +14,7 @@
 #include "platform/win/windowOrder.h"
 #include "scene/Input.h"
 #include "widgets/lookColors.h"
+#include "widgets/win/buttonNeighbours.h"
 #include "widgets/win/tabStops.h"
 
 namespace ormala {
@@ -269,7 +270,16 @@ bool frmSettings::preview(const MSG& message) {
     const int held = heldModifiers();
     return obeyKey(key, held, KeyWindow::control,
                    [this](Command command) { chosen.raise(command); }) ||
-           (key == key::tab && focusNextControl(held));
+           (key == key::tab && focusNextControl(held)) || focusButtonBeside(key, held);
+}
+
+bool frmSettings::focusButtonBeside(int key, int held) {
+    const HWND next = held == 0 ? neighbourOfButton(GetFocus(), key) : nullptr;
+    if (next != nullptr) {
+        SetFocus(next);
+        tabbed.raise(next);
+    }
+    return next != nullptr;
 }
 
 bool frmSettings::focusNextControl(int held) {

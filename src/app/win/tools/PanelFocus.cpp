@@ -1,5 +1,6 @@
 #include "app/win/tools/PanelFocus.h"
 #include "platform/win/monitors.h"
+#include "widgets/win/tabStops.h"
 
 #include <algorithm>
 #include <utility>
@@ -146,11 +147,32 @@ void PanelFocus::removeNow(HWND window) {
 }
 
 HWND PanelFocus::followerOf(PanelWindow& panel) const {
-    const auto* const next = ports_.tools.successorOf(panel.core());
+    const PanelWindow* const next = windowOf(ports_.tools.successorOf(panel.core()));
+    return next != nullptr ? next->handle() : ports_.list.handle();
+}
+
+PanelWindow* PanelFocus::windowOf(const SettingControl* core) const {
     const auto& panels = ports_.panels.panels();
     const auto at = std::ranges::find_if(
-        panels, [next](PanelWindow* window) { return &window->core() == next; });
-    return at != panels.end() ? (*at)->handle() : ports_.list.handle();
+        panels, [core](PanelWindow* window) { return &window->core() == core; });
+    return at != panels.end() ? *at : nullptr;
+}
+
+PanelWindow* PanelFocus::panelWithKeyboard() const {
+    const auto& panels = ports_.panels.panels();
+    const auto at = std::ranges::find_if(
+        panels, [](const PanelWindow* window) { return holdsFocus(window->handle()); });
+    return at != panels.end() ? *at : nullptr;
+}
+
+void PanelFocus::goToPanel(int places) {
+    PanelWindow* const from = panelWithKeyboard();
+    const SettingControl* const core = from != nullptr ? &from->core() : nullptr;
+    if (const PanelWindow* const to = windowOf(ports_.tools.panelBeside(core, places))) {
+        EnsurePanelVisible(*to);
+        const HWND first = nextTabStop(to->handle(), nullptr, false);
+        SetFocus(first != nullptr ? first : to->handle());
+    }
 }
 
 bool PanelFocus::swallows(const MSG& message) {

@@ -30,6 +30,11 @@ class PanelFocus : public PanelHost {
 
     /// Where the panels may go, and with them the keyboard, the list keeps it.
     void keepInList();
+    /// Gives the keyboard to the panel so many places below the one that has it, or above it;
+    /// from none to the one of the selected tool. Its first button has the focus then.
+    void goToPanel(int places);
+    /// Whether a panel has the keyboard.
+    [[nodiscard]] bool hasKeyboard() const { return panelWithKeyboard() != nullptr; }
     /// Whether a message of the program ends here: the second press of a double click that has
     /// removed a panel.
     bool swallows(const MSG& message);
@@ -50,6 +55,9 @@ class PanelFocus : public PanelHost {
     void ensureControlVisible(HWND control);
     void removeNow(HWND window);
     [[nodiscard]] HWND followerOf(PanelWindow& panel) const;
+    /// Null for none.
+    [[nodiscard]] PanelWindow* panelWithKeyboard() const;
+    [[nodiscard]] PanelWindow* windowOf(const SettingControl* core) const;
 
     Ports ports_;
     /// The panel that gets the focus when the window gets it; compared only, since it may be gone.

@@ -111,7 +111,7 @@ void ToolsPane::onTimer(UINT_PTR timer) {
 }
 
 bool ToolsPane::execute(Command command) {
-    static constexpr std::array<CommandAction<ToolsPane>, 11> rows{{
+    static constexpr std::array<CommandAction<ToolsPane>, 13> rows{{
         {Command::addStencil, [](ToolsPane& self) { self.addTool(ToolKind::stencil); }},
         {Command::addMeasure, [](ToolsPane& self) { self.addTool(ToolKind::measurement); }},
         {Command::newTools, [](ToolsPane& self) { self.documents_.New(); }},
@@ -122,21 +122,15 @@ bool ToolsPane::execute(Command command) {
         {Command::previousTool, [](ToolsPane& self) { self.sheet().focusNext(true); }},
         {Command::undo, [](ToolsPane& self) { self.removed_.undo(self.sheet().toolOfKeys()); }},
         {Command::redo, [](ToolsPane& self) { self.removed_.redo(self.sheet().toolOfKeys()); }},
+        {Command::nextPanel, [](ToolsPane& self) { self.focus_.goToPanel(1); }},
+        {Command::previousPanel, [](ToolsPane& self) { self.focus_.goToPanel(-1); }},
         {Command::copyReadOuts, [](ToolsPane& self) { self.copyReadOuts(); }},
     }};
     return runCommand<ToolsPane>(rows, *this, command);
 }
 
-SettingControl* ToolsPane::panelOfKeys() {
-    const OverlayItem* const tool = sheet().toolOfKeys();
-    const auto& panels = panelMaker_.panels();
-    const auto at = std::ranges::find_if(
-        panels, [tool](PanelWindow* panel) { return &panel->core().RefControlControl() == tool; });
-    return at != panels.end() ? &(*at)->core() : nullptr;
-}
-
 void ToolsPane::copyReadOuts() {
-    if (const SettingControl* const core = panelOfKeys()) {
+    if (const SettingControl* const core = tools_.panelOf(sheet().toolOfKeys())) {
         ports_.view.copy(copyOfReadOuts(core->readOuts()));
     }
 }

@@ -53,6 +53,12 @@ class ToolsPane : private ToolListView, private BusyView {
     void Scroll(int notches) { list_.Scroll(notches); }
     /// A command of tools or documents; false for any other one.
     bool execute(Command command);
+    [[nodiscard]] bool hasKeyboard() const { return focus_.hasKeyboard(); }
+    [[nodiscard]] bool canTakeKeyboard() const {
+        return list_.isVisible() && tools_.contentHeight() > 0;
+    }
+    /// For the panel of the selected tool.
+    void takeKeyboard() { focus_.goToPanel(0); }
     /// The tools may be other ones, or changed.
     Event<> changed;
 
@@ -69,8 +75,6 @@ class ToolsPane : private ToolListView, private BusyView {
 
     [[nodiscard]] Sheet& sheet() { return ports_.worksheet.sheet(); }
     void addTool(ToolKind kind);
-    /// Of the tool that has the keyboard, or the selected one; null without one.
-    [[nodiscard]] SettingControl* panelOfKeys();
     void copyReadOuts();
     void runClock(bool running);
     void onTimer(UINT_PTR timer);
