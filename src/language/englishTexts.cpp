@@ -326,6 +326,9 @@ constexpr TextRow englishRows[] = {
     {660, "%0 values copied to the clipboard"},
     {661, "%0 copied to the clipboard"},
     {662, "Nothing could be put on the clipboard."},
+    {663,
+     "Ctrl+C copies all numbers of the selected tool. "
+     "Ctrl+Page Up and Ctrl+Page Down go from panel to panel."},
 };
 
 }  // namespace

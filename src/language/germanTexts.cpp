@@ -325,6 +325,9 @@ constexpr TextRow germanRows[] = {
     {660, "%0 Werte in die Zwischenablage kopiert"},
     {661, "%0 in die Zwischenablage kopiert"},
     {662, "In die Zwischenablage konnte nichts gelegt werden."},
+    {663,
+     "Strg+C kopiert alle Zahlen des ausgewählten Werkzeugs. "
+     "Strg+Bild auf und Strg+Bild ab gehen von Bereich zu Bereich."},
 };
 
 }  // namespace

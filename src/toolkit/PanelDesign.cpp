@@ -95,7 +95,8 @@ std::vector<PanelControl> titleControls(int captionRow, int deleteTip) {
                                         .id = lblTitle,
                                         .part = PanelPart::title,
                                         .box = {4, 0, 180, bandHeight},
-                                        .caption = captionRow}};
+                                        .caption = captionRow,
+                                        .tip = 663}};
     appendBar(controls, {firstButton, 2, firstButton + buttonWidth, 20},
               {button(cmdPause, "cmdPause", 189, Picture::show, &SettingControl::togglePause,
                       PanelPart::toggle),

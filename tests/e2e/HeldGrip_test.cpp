@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+
 #include "e2e/PanelScene.h"
 #include "e2e/withKeys.h"
 
@@ -65,18 +68,23 @@ TEST(HeldGrip, AKeyThatOutlastsTheGripDoesNothingToTheTool) {
     EXPECT_TRUE(PanelScene::says(panel, "lblPositionLeft", "links = 301 "));
 }
 
-/// From the middle of a ring to its upper edge, in pixels of the screen.
+/// From the middle of a ring to its edge, in pixels of the screen.
 int ringRadius(const PanelScene& scene) {
     const int dpi = static_cast<int>(GetDpiForWindow(scene.worksheet().handle()));
     return 33 * dpi / 96 / 2;
 }
 
-/// Whether a ring lies around the place, by its uppermost pixels.
+/// Whether a ring lies around the place, by its outermost pixels on all sides.
 bool hasRing(const PanelScene& scene, ScreenPoint place, bool wanted) {
-    const ScreenPoint top = scene.onScreen({place.x, place.y - ringRadius(scene)});
+    const int radius = ringRadius(scene);
+    const std::array sides{ScreenPoint{0, -radius}, ScreenPoint{0, radius}, ScreenPoint{-radius, 0},
+                           ScreenPoint{radius, 0}};
     return waitUntil([&] {
         keyboard::repeatHeldModifiers();
-        return (screen::pixel(top) != sheetColor) == wanted;
+        const bool closed = std::ranges::all_of(sides, [&](ScreenPoint side) {
+            return screen::pixel(scene.onScreen(place) + side) != sheetColor;
+        });
+        return closed == wanted;
     });
 }
 
@@ -105,7 +113,7 @@ TEST(HeldGrip, ARingLiesAroundTheEndThatAltJoins) {
     EXPECT_TRUE(hasRing(scene, {500, 420}, false));
     keyboard::down(VK_MENU);
     EXPECT_TRUE(hasRing(scene, {500, 420}, true));
-    scene.mouse.moveTo(scene.onScreen({460, 440}));
+    scene.mouse.moveTo(scene.onScreen({330, 330}));
     EXPECT_TRUE(hasRing(scene, {500, 420}, false));
     scene.mouse.release();
     keyboard::up(VK_MENU);

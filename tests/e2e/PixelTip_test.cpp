@@ -75,11 +75,11 @@ TEST(PixelTip, TheCompassTellsItsRadiiInsideTheWorksheet) {
     scene.mouse.moveTo(beside);
     EXPECT_TRUE(letters(around(beside, 10, 240)));
     // At the edge it changes its side, so that all of it shows.
-    const ScreenPoint edge{sheet.right - 3, beside.y};
+    const ScreenPoint edge{sheet.left + 3, beside.y};
     scene.mouse.moveTo(edge);
-    EXPECT_TRUE(letters(around(edge, -240, -10)));
+    EXPECT_TRUE(letters(around(edge, 10, 240)));
     scene.mouse.release();
-    EXPECT_TRUE(waitUntil([&] { return !letters(around(edge, -240, -10)); }));
+    EXPECT_TRUE(waitUntil([&] { return !letters(around(edge, 10, 240)); }));
 }
 
 }  // namespace
