@@ -53,6 +53,7 @@ void visitOptions(AnyOptions& options, Visitor&& visitor) {
     visitor("GridOffsetY", options.aids.grid.steps.originY);
     visitor("LensVisible", options.lensVisible);
     visitLens(options.lens, visitor);
+    visitor("LogicalPixels", options.logicalPixels);
 }
 
 /// Each value as it stands is the key's default.

@@ -29,6 +29,8 @@ struct Options {
     AidOptions aids;
     bool lensVisible = false;
     LensOptions lens;
+    /// The read-outs count in logical pixels of the worksheet's monitor.
+    bool logicalPixels = false;
 
     bool operator==(const Options&) const = default;
 };

@@ -334,6 +334,14 @@ SettingControl* ToolList::successorOf(const SettingControl& panel) const {
     return &(isLast ? std::prev(at) : std::next(at))->listed.panel();
 }
 
+void ToolList::showTextsAnew() {
+    for (const Pairs* pairs : {&pairs_, &removed_.pairs}) {
+        for (const Pair& pair : *pairs) {
+            pair.panel().showTextsAnew();
+        }
+    }
+}
+
 void ToolList::ArrangePanels() {
     int y = 0;
     for (const Pair& pair : pairs_) {

@@ -80,6 +80,8 @@ class ToolList {
     [[nodiscard]] std::vector<Entry> GetPanelsInVisualOrder() const;
     /// The kinds and keys of all of them: two texts are equal if the files are.
     [[nodiscard]] std::string keysText() const;
+    /// All texts of tools and panels anew, also of those that are out of use.
+    void showTextsAnew();
     void ArrangePanels();
     /// Of the list's content: the bottom of the lowest panel, 0 without any.
     [[nodiscard]] int contentHeight() const;

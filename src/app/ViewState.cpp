@@ -1,5 +1,7 @@
 #include "app/ViewState.h"
 
+#include <utility>
+
 namespace ormala {
 
 namespace {
@@ -54,14 +56,28 @@ std::optional<bool> ViewState::isOn(Command command) const {
     return option != nullptr ? std::optional(*option) : std::nullopt;
 }
 
+void ViewState::setWorksheetDpi(int dpi) {
+    worksheetDpi_ = dpi;
+    countPixels();
+}
+
+void ViewState::countPixels() {
+    const int dpi = options_.logicalPixels ? worksheetDpi_ : 0;
+    if (std::exchange(toolSettings_.textForm.logicalDpi, dpi) != dpi) {
+        countChanged.raise();
+    }
+}
+
 OptionValues ViewState::values() const {
-    return {options_.language, options_.templateWithBorder, options_.aids.grid, options_.lens};
+    return {options_.language, options_.templateWithBorder, options_.aids.grid, options_.lens,
+            options_.logicalPixels};
 }
 
 void ViewState::apply(const OptionValues& values) {
     set([&values](Options& options) {
         options.language = values.language;
         options.templateWithBorder = values.templateWithBorder;
+        options.logicalPixels = values.logicalPixels;
         options.aids.grid = values.grid;
         options.lens = values.lens;
     });

@@ -8,6 +8,7 @@
 #include "dialogs/OptionValues.h"
 #include "scene/Command.h"
 #include "scene/ToolSettings.h"
+#include "scene/dpi.h"
 
 namespace ormala {
 
@@ -15,7 +16,7 @@ namespace ormala {
 /// it here and subscribes to `changed`.
 class ViewState {
   public:
-    explicit ViewState(Options options = {}) : options_(std::move(options)) {}
+    explicit ViewState(Options options = {}) : options_(std::move(options)) { countPixels(); }
     ViewState(const ViewState&) = delete;
     ViewState& operator=(const ViewState&) = delete;
 
@@ -27,6 +28,7 @@ class ViewState {
     template <typename Change>
     void set(Change&& change) {
         change(options_);
+        countPixels();
         changed.raise();
     }
     /// Of the switch of modes alone, which tells who has to know.
@@ -42,11 +44,19 @@ class ViewState {
     [[nodiscard]] OptionValues values() const;
     void apply(const OptionValues& values);
 
+    /// The resolution of the worksheet's monitor, 96 at first.
+    void setWorksheetDpi(int dpi);
+
+    /// The read-outs of the tools count pixels in another way from now on.
+    Event<> countChanged;
     /// After each setting, also to what was there already.
     Event<> changed;
 
   private:
+    void countPixels();
+
     Options options_;
+    int worksheetDpi_ = designDpi;
     ToolSettings toolSettings_{options_.aids.grid.steps, options_.showReferenceLines, {}};
 };
 

@@ -13,6 +13,8 @@ struct OptionValues {
     bool templateWithBorder = false;
     BackgroundGrid grid;
     LensOptions lens;
+    /// The read-outs count in logical pixels.
+    bool logicalPixels = false;
 
     bool operator==(const OptionValues&) const = default;
 };

@@ -12,6 +12,7 @@ constexpr std::array general{
     ControlPlace{"optLanguage(1)", {294, 32, 560, 56}},
     ControlPlace{"fraLanguage", {12, 12, 572, 68}},
     ControlPlace{"chkTemplateWithBorder", {12, 80, 572, 104}},
+    ControlPlace{"chkLogicalPixels", {12, 112, 572, 136}},
 };
 
 constexpr std::array grid{

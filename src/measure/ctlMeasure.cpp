@@ -137,7 +137,7 @@ void ctlMeasure::drag(const MouseInput& input) {
     held_.dx = static_cast<double>(input.x) - pressPoint_.x;
     held_.dy = static_cast<double>(input.y) - pressPoint_.y;
     held_.shift = input.shift;
-    aids_.setText(moveText(dragState()), host().textMeter());
+    aids_.setText(moveText(dragState(), settings_.textForm), host().textMeter());
     PositionGrips();
     events().change.raise();
 }
@@ -175,7 +175,7 @@ TipId ctlMeasure::tipOf(int /*grip*/) const {
 
 SpokenTool ctlMeasure::words(int /*ordinal*/) const {
     return {measureName(signs_.Number), measuredText(state_, signs_.units, settings_.textForm),
-            moveText(IntersectPoint()), 0};
+            moveText(IntersectPoint(), settings_.textForm), 0};
 }
 
 std::string ctlMeasure::gripName(int grip) const {
@@ -183,7 +183,7 @@ std::string ctlMeasure::gripName(int grip) const {
 }
 
 std::string ctlMeasure::gripValue(int grip) const {
-    return moveText(measureGripPoint(static_cast<MeasureGrip>(grip), state_));
+    return moveText(measureGripPoint(static_cast<MeasureGrip>(grip), state_), settings_.textForm);
 }
 
 void ctlMeasure::keyDown(int key, int shift) {

@@ -128,6 +128,13 @@ std::string formatNumber(double value, std::string_view pattern, const TextForm&
     return text;
 }
 
+std::string formatPixels(double pixels, std::string_view pattern, const TextForm& form) {
+    constexpr double pixelsPerInch = 96;
+    return form.logicalDpi == 0
+               ? formatNumber(pixels, pattern, form)
+               : formatNumber(pixels * pixelsPerInch / form.logicalDpi, "0.0", form);
+}
+
 std::string FormatRatio(double value, const TextForm& form) {
     if (IsInfinite(value)) {
         return form.infinite;
@@ -149,7 +156,7 @@ std::string FormatAngle(double angle, int unit, const TextForm& form) {
 std::string FormatLength(double length, int mode, double factor, std::string_view unitName,
                          double reference, const TextForm& form) {
     if (mode != 1 && mode != 2) {
-        return formatNumber(length, "0.0", form);
+        return formatPixels(length, "0.0", form);
     }
     double shown = length * factor;
     if (mode == 2) {

@@ -14,16 +14,23 @@ inline constexpr std::string_view hexDigits = "0123456789ABCDEF";
 /// The lines as parts of a sentence.
 std::string onOneLine(std::string text);
 
-/// What the user's locale and language put into the text of a number.
+/// What the user's locale, language and options put into the text of a number.
 struct TextForm {
     std::string decimalSeparator = ".";
     std::string infinite = "infinite";
+    /// The resolution of the worksheet's monitor where lengths are counted in its logical pixels,
+    /// of which there are 96 to the inch; 0 where they are counted in pixels of the screen.
+    int logicalDpi = 0;
 };
 
 /// By a pattern of "0" (a digit always shown), "#" (a digit shown if needed) and one ".": the
 /// number at 15 significant digits, halves away from zero. A value that rounds to zero has no minus
 /// sign. A value that is not finite is `form.infinite`.
 std::string formatNumber(double value, std::string_view pattern, const TextForm& form);
+
+/// A place or a length in pixels of the screen: by that pattern, or in logical ones with one
+/// decimal if the form wants these.
+std::string formatPixels(double pixels, std::string_view pattern, const TextForm& form);
 
 /// With the word for infinity from 1e308 on, else at four significant digits or more.
 std::string FormatRatio(double value, const TextForm& form);

@@ -14,6 +14,7 @@ class SheetScale {
 
     bool operator==(const SheetScale&) const = default;
 
+    [[nodiscard]] constexpr int dpi() const { return dpi_; }
     /// In pixels of the screen.
     [[nodiscard]] constexpr double length(double designed) const {
         return designed * dpi_ / designDpi;

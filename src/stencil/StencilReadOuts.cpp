@@ -9,10 +9,6 @@ namespace ormala {
 
 namespace {
 
-std::string whole(double value) {
-    return formatNumber(value, "0", {}) + " ";
-}
-
 /// Half a pixel short of the middle of the pixels.
 double center(double first, double last) {
     return CountedPixels(first, last) / 2 + RoundHalfAway(first, 0) - 1;
@@ -30,13 +26,14 @@ std::vector<ControlText> stencilReadOuts(const Rect& rectBound, double rotationA
                                          const SpecialRatios& ratios, const TextForm& form) {
     using enum StencilControl;
     const Rect& r = rectBound;
-    const auto place = [](double value) { return whole(RoundHalfAway(value, 0)); };
+    const auto whole = [&form](double value) { return formatPixels(value, "0", form) + " "; };
+    const auto place = [&whole](double value) { return whole(RoundHalfAway(value, 0)); };
     const auto ratio = [&form](double value) { return FormatRatio(value, form) + " "; };
     return {
         {lblAngle1, degreesText(rotationAngle, form) + " "},
         {lblAngle2, radiansText(rotationAngle, form) + " "},
-        {lblCenterX, "X = " + formatNumber(center(r.left, r.right), "#0.0", form) + " "},
-        {lblCenterY, "Y = " + formatNumber(center(r.top, r.bottom), "#0.0", form) + " "},
+        {lblCenterX, "X = " + formatPixels(center(r.left, r.right), "#0.0", form) + " "},
+        {lblCenterY, "Y = " + formatPixels(center(r.top, r.bottom), "#0.0", form) + " "},
         {lblSizeWidth, MlString(329, "W = ") + whole(CountedPixels(r.left, r.right))},
         {lblSizeHeight, MlString(330, "H = ") + whole(CountedPixels(r.top, r.bottom))},
         {lblPositionLeft, MlString(331, "left = ") + place(r.left)},

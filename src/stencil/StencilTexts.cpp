@@ -9,13 +9,13 @@ namespace ormala {
 
 namespace {
 
-std::string counted(double first, double last) {
-    return formatNumber(CountedPixels(first, last), "0", {});
+std::string counted(double first, double last, const TextForm& form) {
+    return formatPixels(CountedPixels(first, last), "0", form);
 }
 
 std::string sizeAlone(const Rect& rectBound, const TextForm& form) {
-    return counted(rectBound.left, rectBound.right) + " x " +
-           counted(rectBound.top, rectBound.bottom) + MlString(324, "  ratio = ") +
+    return counted(rectBound.left, rectBound.right, form) + " x " +
+           counted(rectBound.top, rectBound.bottom, form) + MlString(324, "  ratio = ") +
            FormatRatio(PixelRatio(rectBound, false), form);
 }
 

@@ -74,7 +74,7 @@ std::string ctlRatioGrid::dragState(const GripDrag& held) {
     switch (held.grip.kind) {
         case StencilGripKind::move:
             if (moves) {
-                return moveText(DragMove(state_, held, settings_.grid));
+                return moveText(DragMove(state_, held, settings_.grid), settings_.textForm);
             }
             break;
         case StencilGripKind::rotate:
@@ -104,7 +104,7 @@ std::string ctlRatioGrid::dragText(const GripDrag& held) const {
 std::string ctlRatioGrid::gripText(StencilGripKind kind) const {
     switch (kind) {
         case StencilGripKind::move:
-            return moveText(RectCenter(state_.RectBound));
+            return moveText(RectCenter(state_.RectBound), settings_.textForm);
         case StencilGripKind::rotate:
             return rotationText(state_.RotationAngle, settings_.textForm);
         default:

@@ -3,14 +3,12 @@
 #include <cmath>
 #include <utility>
 
-#include "modAPI/textForms.h"
-
 namespace ormala {
 
 namespace {
 
-std::string wholeDown(double value) {
-    return formatNumber(std::floor(value), "0", {});
+std::string wholeDown(double value, const TextForm& form) {
+    return formatPixels(std::floor(value), "0", form);
 }
 
 }  // namespace
@@ -33,8 +31,8 @@ void DragReadOut::place(const Point& at, PixelSize sheet, const TextMeter& meter
     PlaceInfoLabel(label_, at, sheet, meter);
 }
 
-std::string moveText(const Point& at) {
-    return "X = " + wholeDown(at.x) + "  Y = " + wholeDown(at.y);
+std::string moveText(const Point& at, const TextForm& form) {
+    return "X = " + wholeDown(at.x, form) + "  Y = " + wholeDown(at.y, form);
 }
 
 }  // namespace ormala

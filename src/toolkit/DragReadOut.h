@@ -3,6 +3,7 @@
 #include <string>
 
 #include "modAPI/points.h"
+#include "modAPI/textForms.h"
 #include "toolkit/ctlLabel.h"
 
 namespace ormala {
@@ -27,7 +28,7 @@ class DragReadOut {
     ctlLabel label_;
 };
 
-/// Where a grip is, in whole pixels.
-std::string moveText(const Point& at);
+/// Where a grip is, in whole pixels, or in logical ones.
+std::string moveText(const Point& at, const TextForm& form);
 
 }  // namespace ormala

@@ -107,6 +107,12 @@ void SettingControl::finish() {
     ShowAllProps(false);
 }
 
+void SettingControl::showTextsAnew() {
+    // Its end lays the tool out.
+    { const ToolChanges changes(tool_); }
+    ShowAllProps(true);
+}
+
 void SettingControl::timerTicked(PanelTimer timer) {
     if (timer == PanelTimer::tmrShowProps) {
         ShowAllProps(true);

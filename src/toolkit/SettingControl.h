@@ -94,6 +94,8 @@ class SettingControl {
     /// ticks. The timer's tick calls it with `force`.
     void ShowAllProps(bool force);
     virtual void timerTicked(PanelTimer timer);
+    /// All texts of tool and panel anew: what they are formed by has changed.
+    void showTextsAnew();
 
     /// The left button goes down on a `step` of the design: a step at once, and more while it is
     /// held.

@@ -63,6 +63,7 @@ const KeyCase keyCases[] = {
     {"LensRulBOn", " 0", [](Options& o) { o.lens.bottomScales = false; }},
     {"LensRulTOrigin", " 3", [](Options& o) { o.lens.topOrigin = 3; }},
     {"LensRulBOrigin", " 2", [](Options& o) { o.lens.bottomOrigin = 2; }},
+    {"LogicalPixels", "-1", [](Options& o) { o.logicalPixels = true; }},
 };
 
 std::string lineOf(const KeyCase& keyCase) {
@@ -132,7 +133,8 @@ TEST_F(OptionsTest, TheDefaultsAreThoseOfAFirstStart) {
               "LensCursorOn=-1\r\nLensHotSpotOn=-1\r\nLensHotSpotColor= 16711680\r\n"
               "LensHotSpotStyle= 2\r\nLensHotSpotDrawMode= 9\r\nLensGridOn=-1\r\n"
               "LensGridColor= 12566463\r\nLensGridDrawMode= 9\r\nLensRulTOn=-1\r\n"
-              "LensRulBOn=-1\r\nLensRulTOrigin= 0\r\nLensRulBOrigin= 1\r\n");
+              "LensRulBOn=-1\r\nLensRulTOrigin= 0\r\nLensRulBOrigin= 1\r\n"
+              "LogicalPixels= 0\r\n");
 }
 
 TEST_F(OptionsTest, EveryKeyIsWrittenInItsOrderAndForm) {

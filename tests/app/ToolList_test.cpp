@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "measure/measurePanelDesign.h"
 #include "stencil/stencilPanelDesign.h"
 #include "support/ManualLanguage.h"
 #include "support/ToolListStage.h"
@@ -319,6 +320,18 @@ TEST_F(ToolListTest, ThePanelsDeleteKeyRemovesItsTool) {
     EXPECT_EQ(stage_.sheet.zOrder().size(), 3U);
     list_.dropRemoved();
     EXPECT_EQ(stage_.sheet.zOrder().size(), 2U);
+}
+
+TEST_F(ToolListTest, AllTextsAreShownAnewAlsoOfWhatIsOutOfUse) {
+    list_.showFirstTools();
+    stage_.measure(1).RefControl().setLineA({0, 0, 0, 300});
+    StagePanel& away = *stage_.panels()[0];
+    StagePanel& stays = *stage_.panels()[1];
+    list_.RemovePanel(*away.core);
+    stage_.settings.textForm.logicalDpi = 192;
+    list_.showTextsAnew();
+    EXPECT_NE(away.view.texts.at(StencilControl::lblSizeWidth).find('.'), std::string::npos);
+    EXPECT_EQ(stays.view.texts.at(MeasureControl::lblLengthA), "a = 150.5 ");
 }
 
 TEST_F(ToolListTest, RemovingAPanelThatIsNotInTheListDoesNothing) {

@@ -98,6 +98,7 @@ TEST(ViewState, TheValuesOfTheDialogComeBackAsTheyWere) {
     Options options;
     options.language = languageGerman;
     options.templateWithBorder = true;
+    options.logicalPixels = true;
     options.aids.grid.color = 0x123456;
     options.lens.factor = 9;
     const OptionValues values = ViewState(options).values();
@@ -108,6 +109,27 @@ TEST(ViewState, TheValuesOfTheDialogComeBackAsTheyWere) {
     EXPECT_EQ(other.options().lens.factor, 9);
     EXPECT_EQ(other.options().language, languageGerman);
     EXPECT_TRUE(other.options().templateWithBorder);
+    EXPECT_TRUE(other.options().logicalPixels);
+}
+
+TEST(ViewState, ReadOutsCountInTheLogicalPixelsOfTheWorksheetsMonitorIfWanted) {
+    ViewState view;
+    int told = 0;
+    const auto subscription = view.countChanged.subscribe([&told] { ++told; });
+    const int& logicalDpi = view.toolSettings().textForm.logicalDpi;
+    view.setWorksheetDpi(192);
+    EXPECT_EQ(logicalDpi, 0);
+    EXPECT_EQ(told, 0);
+    view.set([](Options& options) { options.logicalPixels = true; });
+    EXPECT_EQ(logicalDpi, 192);
+    view.set([](Options&) {});
+    EXPECT_EQ(told, 1);
+    view.setWorksheetDpi(144);
+    EXPECT_EQ(logicalDpi, 144);
+    EXPECT_EQ(told, 2);
+    view.apply(OptionValues{});
+    EXPECT_EQ(logicalDpi, 0);
+    EXPECT_EQ(told, 3);
 }
 
 TEST(ViewState, TheDialogLeavesWhatItDoesNotShow) {

@@ -243,8 +243,8 @@ TEST(OptionsDialog, IsUsedByTheKeyboardAlone) {
     focusByTab(scene.control("cmdOptions"));
     keyboard::press(VK_SPACE);
     const Dialog dialog(scene, "frmOptions");
-    expectTabOrder(dialog, {"optLanguage(0)", "chkTemplateWithBorder", "cmdAbout", "cmdOK",
-                            "cmdCancel", "btnTab(0)"});
+    expectTabOrder(dialog, {"optLanguage(0)", "chkTemplateWithBorder", "chkLogicalPixels",
+                            "cmdAbout", "cmdOK", "cmdCancel", "btnTab(0)"});
     focusByTab(dialog.control("btnTab(0)"));
     keyboard::press(VK_RIGHT);
     EXPECT_TRUE(waitUntil([&] { return dialog.control("picTab(1)").isVisible(); }));

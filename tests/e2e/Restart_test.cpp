@@ -31,7 +31,7 @@ TEST(Restart, KeepsEveryOptionAndWhatItDoesNotKnow) {
         "LensVisible=-1\r\nLensFactor= 7\r\nLensSticked=-1\r\nLensCursorOn= 0\r\nLensHotSpotOn= 0\r\n"
         "LensHotSpotColor= 1\r\nLensHotSpotStyle= 3\r\nLensHotSpotDrawMode= 4\r\nLensGridOn= 0\r\n"
         "LensGridColor= 2\r\nLensGridDrawMode= 5\r\nLensRulTOn= 0\r\nLensRulBOn= 0\r\n"
-        "LensRulTOrigin= 2\r\nLensRulBOrigin= 3\r\nKeyOfANewerVersion=something\r\n";
+        "LensRulTOrigin= 2\r\nLensRulBOrigin= 3\r\nLogicalPixels= 0\r\nKeyOfANewerVersion=something\r\n";
     SheetScene scene;
     EXPECT_EQ(scene.program().close(), 0U);
     writeBytes(scene.data().optionsFile(), options);

@@ -105,6 +105,27 @@ TEST(FormatLength, PixelsHaveNoUnit) {
     EXPECT_EQ(FormatLength(12.25, 0, 5, "cm", 3, point), "12.3");
 }
 
+TEST(FormatPixels, AreThoseOfTheScreenUnlessLogicalOnesAreWanted) {
+    EXPECT_EQ(formatPixels(301, "0", point), "301");
+    EXPECT_EQ(formatPixels(59.5, "#0.0", german), "59,5");
+    TextForm logical = german;
+    logical.logicalDpi = 192;
+    EXPECT_EQ(formatPixels(301, "0", logical), "150,5");
+    logical.logicalDpi = 144;
+    EXPECT_EQ(formatPixels(301, "0", logical), "200,7");
+    EXPECT_EQ(formatPixels(-0.05, "0", logical), "0,0");
+    logical.logicalDpi = 96;
+    EXPECT_EQ(formatPixels(301, "0", logical), "301,0");
+}
+
+TEST(FormatLength, OnlyPixelsAreLogicalOnes) {
+    TextForm logical = point;
+    logical.logicalDpi = 192;
+    EXPECT_EQ(FormatLength(301, 0, 5, "cm", 3, logical), "150.5");
+    EXPECT_EQ(FormatLength(100, 1, 0.0254, "cm", 0, logical), "2.54 cm");
+    EXPECT_EQ(FormatLength(100, 2, 5, "cm", 200, logical), "2.5 cm");
+}
+
 TEST(FormatLength, FactorScalesAndUnitFollows) {
     EXPECT_EQ(FormatLength(100, 1, 0.0254, "cm", 0, point), "2.54 cm");
     EXPECT_EQ(FormatLength(100, 1, 0.0254, "cm", 0, german), "2,54 cm");

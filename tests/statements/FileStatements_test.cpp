@@ -163,6 +163,10 @@ TEST_F(FileStatements, OfTools) {
 
 TEST(HelpStatements, OfOptions) {
     expectHeld({
+        {"Places and lengths of both tools are divided by the scaling of the screen that the "
+         "worksheet lies on, with one decimal: at 200 percent, 301 pixels read as 150.5.",
+         "301 pixels at 192 DPI", [] { return formatPixels(301, "0", {.logicalDpi = 192}); },
+         "150.5"},
         {"A fraction is not kept as the default factor from one start to the next: 2.7 comes "
          "back as 3.",
          "written and read",

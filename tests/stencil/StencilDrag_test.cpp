@@ -64,7 +64,7 @@ TEST(DragMove, AgreesWithTheReference) {
         // The shift is made in single precision.
         EXPECT_TRUE(isNear(state.RectBound, one.after.RectBound, 4e-4)) << one.text;
         EXPECT_EQ(state.RotationAngle, one.before.RotationAngle);
-        EXPECT_EQ(moveText(at), one.text) << "modifiers " << one.drag.shift;
+        EXPECT_EQ(moveText(at, {}), one.text) << "modifiers " << one.drag.shift;
     }
 }
 

@@ -40,6 +40,18 @@ TEST_F(StencilReadOutsTest, CountsBothEndPixels) {
     EXPECT_EQ(texts.at(StencilControl::lblRatioHW), "H:W = 0.5000 ");
 }
 
+TEST_F(StencilReadOutsTest, LogicalPixelsChangeNeitherRatioNorAngle) {
+    form_ = {.decimalSeparator = ",", .logicalDpi = 192};
+    const auto texts = read({10, 20, 110, 69}, pi / 2);
+    EXPECT_EQ(texts.at(StencilControl::lblSizeWidth), "W = 50,5 ");
+    EXPECT_EQ(texts.at(StencilControl::lblSizeHeight), "H = 25,0 ");
+    EXPECT_EQ(texts.at(StencilControl::lblPositionLeft), "left = 5,0 ");
+    EXPECT_EQ(texts.at(StencilControl::lblPositionBottom), "bottom = 34,5 ");
+    EXPECT_EQ(texts.at(StencilControl::lblCenterX), "X = 29,8 ");
+    EXPECT_EQ(texts.at(StencilControl::lblRatioWH), "W:H = 2,020 ");
+    EXPECT_EQ(texts.at(StencilControl::lblAngle1), "90,0\u00b0 ");
+}
+
 TEST_F(StencilReadOutsTest, TheCentreIsHalfAPixelShortOfTheMiddle) {
     const auto even = read({10, 0, 109, 10});
     EXPECT_EQ(even.at(StencilControl::lblCenterX), "X = 59.0 ");

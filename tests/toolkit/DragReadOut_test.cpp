@@ -9,9 +9,14 @@ namespace ormala {
 namespace {
 
 TEST(MoveText, ShowsWholePixelsRoundedDown) {
-    EXPECT_EQ(moveText({123, 45}), "X = 123  Y = 45");
-    EXPECT_EQ(moveText({123.9, -0.5}), "X = 123  Y = -1");
-    EXPECT_EQ(moveText({-7, 0}), "X = -7  Y = 0");
+    EXPECT_EQ(moveText({123, 45}, {}), "X = 123  Y = 45");
+    EXPECT_EQ(moveText({123.9, -0.5}, {}), "X = 123  Y = -1");
+    EXPECT_EQ(moveText({-7, 0}, {}), "X = -7  Y = 0");
+}
+
+TEST(DragReadOut, APlaceCanBeToldInLogicalPixels) {
+    const TextForm fine{.decimalSeparator = ",", .logicalDpi = 144};
+    EXPECT_EQ(moveText({123.9, -0.5}, fine), "X = 82,0  Y = -0,7");
 }
 
 TEST(DragReadOut, IsEmptyWhenItComesUp) {

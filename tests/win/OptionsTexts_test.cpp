@@ -27,6 +27,7 @@ constexpr std::array labelled{
     Labelled{"chkCursorVisible", 93},
     Labelled{"chkHotSpotVisible", 65},
     Labelled{"chkLensGridVisible", 65},
+    Labelled{"chkLogicalPixels", 645},
     Labelled{"chkSameGridOffsetXY", 90},
     Labelled{"chkSameGridSizeXY", 90},
     Labelled{"chkStick", 94},

@@ -168,6 +168,7 @@ TEST_F(IdleProgram, WhileTheScreenIsLockedNoTimerTicks) {
 
 TEST_F(IdleProgram, ATimerForSavingRunsOnlyWhileSomethingIsUnsaved) {
     startWith(2);
+    program_->execute(Command::lens);
     program_->execute(Command::pauseMode);
     EXPECT_TRUE(wakeUpsAreAtMost(5)) << Timer::wakeUps();
     const double atRest = Timer::wakeUps();

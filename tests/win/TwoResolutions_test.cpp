@@ -105,6 +105,18 @@ TEST_F(TwoResolutions, DragThereAndBackLeavesEverySize) {
     }
 }
 
+TEST_F(TwoResolutions, ReadOutsCountInLogicalPixelsOfTheMonitorThatTheWorksheetComesTo) {
+    option("Options", "LogicalPixels", "-1");
+    start();
+    const int& counted = program_->state().toolSettings().textForm.logicalDpi;
+    const int system = systemDpi();
+    EXPECT_EQ(counted, system);
+    tellResolution(program_->worksheet().handle(), system, system * 2);
+    EXPECT_EQ(counted, system * 2);
+    tellResolution(program_->worksheet().handle(), system * 2, system);
+    EXPECT_EQ(counted, system);
+}
+
 TEST_F(TwoResolutions, WindowThatIsShownTakesTheSuggestedSize) {
     start();
     const HWND frame = program_->resizer().handle();

@@ -120,6 +120,7 @@ std::span<const WindowTextRow> windowTextRows() {
         WindowTextRow{"frmOptions/optLanguage(0)", "*", 0},
         WindowTextRow{"frmOptions/optLanguage(1)", "*", 0},
         WindowTextRow{"frmOptions/chkTemplateWithBorder", "{86}", 0},
+        WindowTextRow{"frmOptions/chkLogicalPixels", "{645}", 646},
         WindowTextRow{"frmOptions/fraLanguage", "*", 0},
         WindowTextRow{"frmOptions/optGridMode(1)", "{88}", 0},
         WindowTextRow{"frmOptions/optGridMode(2)", "{89}", 0},

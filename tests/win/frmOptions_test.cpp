@@ -84,6 +84,7 @@ TEST_F(frmOptionsTest, OKAppliesEveryControl) {
         step("sldGridSizeY", VK_LEFT);
         step("sldGridOffsetX", VK_RIGHT);
         SendMessageW(part("GridLineSelect"), WM_KEYDOWN, VK_DOWN, 1);
+        click("chkLogicalPixels");
         click("chkCursorVisible");
         click("chkStick");
         step("sldMagnification", VK_RIGHT);
@@ -102,6 +103,7 @@ TEST_F(frmOptionsTest, OKAppliesEveryControl) {
     OptionValues expected = port_.live;
     expected.language = languageGerman;
     expected.templateWithBorder = true;
+    expected.logicalPixels = true;
     expected.grid.style = 1;
     expected.grid.lineWidth = 3;
     expected.grid.steps = {51, 49, 1, 0};

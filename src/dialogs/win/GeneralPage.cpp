@@ -1,12 +1,13 @@
 #include "dialogs/win/GeneralPage.h"
 
+#include "language/MlStringModule.h"
 #include "widgets/win/labeling.h"
 
 namespace ormala {
 
 namespace {
 
-enum Id { idLanguage = 11, idLanguageFrame = 21, idTemplateWithBorder };
+enum Id { idLanguage = 11, idLanguageFrame = 21, idTemplateWithBorder, idLogicalPixels };
 
 }  // namespace
 
@@ -17,12 +18,15 @@ GeneralPage::GeneralPage(HWND parent, int id, OptionValues& values) : OptionsPag
     optLanguage_[1].setCaption("German / Deutsch");
     chkTemplateWithBorder_ =
         makeCheck(idTemplateWithBorder, "chkTemplateWithBorder", values.templateWithBorder);
+    chkLogicalPixels_ = makeCheck(idLogicalPixels, "chkLogicalPixels", values.logicalPixels);
     makeFrame(fraLanguage_, idLanguageFrame, "fraLanguage");
     fraLanguage_.setText(" Language / Sprache ");
 }
 
 void GeneralPage::ApplyLanguage() {
     label(*chkTemplateWithBorder_, 86);
+    label(*chkLogicalPixels_, 645);
+    chkLogicalPixels_->SetTooltip(MlString(646, {}));
 }
 
 }  // namespace ormala

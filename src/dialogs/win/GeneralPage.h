@@ -5,7 +5,7 @@
 
 namespace ormala {
 
-/// Language and border of the worksheet.
+/// Language, border of the worksheet, and what the read-outs count in.
 class GeneralPage : public OptionsPage {
   public:
     /// The values must outlive the page.
@@ -17,6 +17,7 @@ class GeneralPage : public OptionsPage {
     OptionGroup optLanguage_;
     GroupBox fraLanguage_;
     std::unique_ptr<CheckButton> chkTemplateWithBorder_;
+    std::unique_ptr<CheckButton> chkLogicalPixels_;
 };
 
 }  // namespace ormala

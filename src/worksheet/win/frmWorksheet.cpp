@@ -140,6 +140,7 @@ void frmWorksheet::takeDpi(UINT dpi) {
     const SheetScale former = fonts_.scale();
     fonts_.setDpi(static_cast<int>(dpi));
     if (fonts_.scale() != former) {
+        dpiChanged.raise();
         sheet_.resize(sheet_.size());
     }
 }

@@ -87,6 +87,8 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     void setShown(bool shown);
     /// Lets the window lay itself out and repaint after it was hidden.
     void narrowAndWiden();
+    /// The resolution of its monitor.
+    [[nodiscard]] int dpi() const { return fonts_.scale().dpi(); }
 
     /// A key pressed here or in a window that passes its keys on: true if it was a command. None is
     /// while the worksheet does not take the mouse.
@@ -94,6 +96,8 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
 
     /// Raised when the window has become the active one, which brings it to the front.
     Event<> activated;
+    /// The window has come to another resolution.
+    Event<> dpiChanged;
     /// Raised when the window has a new size.
     Event<> resized;
     /// Raised when the window has moved.

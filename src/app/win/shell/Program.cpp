@@ -70,6 +70,7 @@ void Program::makeWindows() {
         std::make_unique<frmWorksheet>(factory_, focus_.foreground(), *this, state_.options().aids,
                                        state_.toolSettings().textForm);
     factory_.setSheet(worksheet_->sheet());
+    state_.setWorksheetDpi(worksheet_->dpi());
     resizer_ = std::make_unique<frmResizer>(*worksheet_, *this);
     view_ = std::make_unique<ViewPane>(ViewPane::Ports{
         *settings_, *worksheet_, *resizer_, state_, [this](Command command) { execute(command); }});
@@ -106,6 +107,7 @@ void Program::listen() {
             view_->raiseAboveAll();
         });
     }));
+    keep(worksheet_->dpiChanged.subscribe([this] { state_.setWorksheetDpi(worksheet_->dpi()); }));
     keep(worksheet_->resized.subscribe([this] { modes_->worksheetResized(); }));
     keep(resizer_->worksheetPlaced.subscribe([this](PixelPoint) {
         if (worksheet_->MaxSized()) {

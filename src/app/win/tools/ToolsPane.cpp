@@ -43,6 +43,7 @@ ToolsPane::ToolsPane(const Ports& ports)
                      ports.window.mouseNear().subscribe([this] { tellPanelsWhatShows(); }),
                      ports.window.listPlaced.subscribe([this] { takePlace(); }),
                      ports.window.dpiChanged.subscribe([this] { takeDpi(); }),
+                     ports.state.countChanged.subscribe([this] { tools_.showTextsAnew(); }),
                      // The panel that has the keyboard may go.
                      removed_.bringingBack.subscribe([this] { focus_.keepInList(); })} {
     takeDpi();

@@ -102,7 +102,7 @@ class ToolsPane : private ToolListView, private BusyView {
     ToolFile automaticToolFile_;
     AutomaticTools automatic_;
     Documents documents_;
-    std::array<Subscription, 6> subscriptions_;
+    std::array<Subscription, 7> subscriptions_;
 };
 
 }  // namespace ormala
