@@ -64,16 +64,21 @@ struct PanelEnabling {
 
 enum class PanelTimer { tmrShowProps, tmrDelayMousePreview };
 
-/// The window of a panel, as the panel speaks to it. It takes no decision.
-class PanelView {
+/// What a panel shows.
+class PanelFace {
   public:
-    virtual ~PanelView() = default;
+    virtual ~PanelFace() = default;
 
     virtual void showTexts(const std::vector<ControlText>& texts) = 0;
     virtual void showLook(const PanelLook& look) = 0;
     virtual void showButton(ControlId button, const ButtonLook& look) = 0;
     virtual void showPicture(ControlId button, PictureMaker maker) = 0;
     virtual void enable(const PanelEnabling& enabling) = 0;
+};
+
+/// The window of a panel, as the panel speaks to it. It takes no decision.
+class PanelView : public PanelFace {
+  public:
     /// Starts the timer anew, or stops it with an interval of 0 milliseconds. Each tick comes back
     /// as `SettingControl::timerTicked`.
     virtual void runTimer(PanelTimer timer, unsigned interval) = 0;

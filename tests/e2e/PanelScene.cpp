@@ -26,6 +26,11 @@ SettingsFile inEnglish(SettingsFile options) {
 /// The name field of the system's file dialogs.
 constexpr int fileNameField = 1148;
 
+bool isPanel(const DesktopWindow& window) {
+    const std::string name = window.className();
+    return name == "ctlSetRatioGrid" || name == "ctlSetMeasure";
+}
+
 }  // namespace
 
 std::string localised(std::string_view text) {
@@ -101,8 +106,7 @@ ScreenPoint PanelScene::onScreen(ScreenPoint sheet) const {
 std::vector<DesktopWindow> PanelScene::panels() const {
     std::vector<DesktopWindow> found;
     for (const DesktopWindow& window : settings().descendants()) {
-        const std::string name = window.className();
-        if ((name == "ctlSetRatioGrid" || name == "ctlSetMeasure") && window.hasStyle(WS_VISIBLE)) {
+        if (isPanel(window) && window.hasStyle(WS_VISIBLE)) {
             found.push_back(window);
         }
     }
@@ -122,8 +126,29 @@ DesktopWindow PanelScene::control(std::string_view name) const {
     return control(settings(), name);
 }
 
+void PanelScene::scrollIntoView(const DesktopWindow& panel) {
+    const DesktopWindow list(GetParent(GetParent(panel.handle())));
+    const ScreenRect view = list.rect();
+    Mouse mouse;
+    mouse.moveTo(view.center());
+    const bool came = waitUntil([&] {
+        const ScreenRect place = panel.rect();
+        const bool above = place.top < view.top && place.bottom < view.bottom;
+        const bool below = place.bottom > view.bottom && place.top > view.top;
+        if (above || below) {
+            mouse.wheel(above ? 1 : -1);
+        }
+        return !above && !below;
+    });
+    EXPECT_TRUE(came) << "a panel does not come into view";
+}
+
 DesktopWindow PanelScene::control(const DesktopWindow& panel, std::string_view name) {
-    const DesktopWindow found = panel.named(name);
+    DesktopWindow found = panel.named(name);
+    if (!found.exists() && isPanel(panel)) {
+        scrollIntoView(panel);
+        waitUntil([&] { return (found = panel.named(name)).exists(); });
+    }
     if (!found.exists()) {
         throw StageFailure("There is no control " + std::string(name));
     }

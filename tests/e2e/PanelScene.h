@@ -58,9 +58,12 @@ class PanelScene {
     [[nodiscard]] std::vector<DesktopWindow> panels() const;
     /// One of them; fails the stage if it is not there.
     [[nodiscard]] DesktopWindow panel(std::size_t index) const;
-    /// A control of the control window or of a panel in it; fails the stage if it is not there.
+    /// A control of the control window or of a panel in it, which is scrolled into view if it has
+    /// no controls where it is; fails the stage if it is not there.
     [[nodiscard]] DesktopWindow control(std::string_view name) const;
     static DesktopWindow control(const DesktopWindow& panel, std::string_view name);
+    /// Turns the wheel over the list until the panel shows: only near that it has its controls.
+    static void scrollIntoView(const DesktopWindow& panel);
     [[nodiscard]] bool waitForPanels(std::size_t count) const;
     /// Whether a panel's control says that in the end. A point between digits stands for the user's
     /// decimal separator.

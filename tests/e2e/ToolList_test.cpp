@@ -267,6 +267,7 @@ TEST(ToolList, ToolsComeBackAtTheNextStartInTheirOrder) {
     EXPECT_EQ(scene.panel(1).className(), "ctlSetRatioGrid");
     EXPECT_TRUE(PanelScene::says(scene.panel(2), "lblTitle", "Measurement Tool 2"));
     EXPECT_TRUE(PanelScene::says(scene.panel(2), "lblLengthA", length));
+    PanelScene::scrollIntoView(scene.panel(0));
     EXPECT_TRUE(looksSelected(scene.panel(0)));
 }
 

@@ -223,17 +223,22 @@ TEST_F(LanguageSwitch, CancelLeavesEverythingAsItWas) {
 
 TEST_F(LanguageSwitch, ReachesPanelsThatAreMadeAfterIt) {
     chooseLanguage(languageGerman);
-    click(settings_->handle(), "cmdAddMeasure");
-    click(settings_->handle(), "cmdAddGrid");
-    std::vector<std::string> titles;
-    for (const WindowText& shown : windowTexts()) {
-        if (shown.place.ends_with("/lblTitle")) {
-            titles.push_back(shown.text);
+    std::set<std::string> titles;
+    const auto noteTitles = [&titles] {
+        for (const WindowText& shown : windowTexts()) {
+            if (shown.place.ends_with("/lblTitle")) {
+                titles.insert(shown.text);
+            }
         }
-    }
-    std::ranges::sort(titles);
-    EXPECT_EQ(titles, (std::vector<std::string>{rowText(325) + "1", rowText(325) + "2",
-                                                rowText(209), rowText(209)}));
+        return titles.size();
+    };
+    click(settings_->handle(), "cmdAddGrid");
+    click(settings_->handle(), "cmdAddMeasure");
+    constexpr std::size_t different = 3;
+    // The last panel is scrolled into view once it shows what it has to show.
+    EXPECT_TRUE(test::waitUntil([&] { return noteTitles() == different; }));
+    EXPECT_EQ(titles,
+              (std::set<std::string>{rowText(325) + "1", rowText(325) + "2", rowText(209)}));
 }
 
 }  // namespace

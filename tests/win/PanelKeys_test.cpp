@@ -47,7 +47,15 @@ class PanelKeys : public testing::Test {
         EXPECT_TRUE(press(VK_TAB));
         hold(0);
         const HWND focus = GetFocus();
-        return controlName(GetParent(focus)) + "/" + controlName(focus);
+        return controlName(panelOf(focus)) + "/" + controlName(focus);
+    }
+    /// The panel that a control stands in, or else its parent.
+    [[nodiscard]] HWND panelOf(HWND control) const {
+        HWND panel = control;
+        while (panel != nullptr && GetParent(panel) != inner()) {
+            panel = GetParent(panel);
+        }
+        return panel != nullptr ? panel : GetParent(control);
     }
     [[nodiscard]] ctlRatioGrid& tool() {
         return dynamic_cast<ctlRatioGrid&>(*program_.worksheet().sheet().GetFirstControl(0));

@@ -13,8 +13,8 @@
 
 namespace ormala {
 
-/// Panels in real windows, outside of any list, in the language of its making. Tools and panels
-/// must not outlive it.
+/// Panels in real windows with their controls, outside of any list, in the language of its making.
+/// Tools and panels must not outlive it.
 class PanelStage : private PanelHost {
   public:
     [[nodiscard]] std::unique_ptr<ctlRatioGrid> makeStencil() {
@@ -39,8 +39,13 @@ class PanelStage : private PanelHost {
 
   private:
     std::unique_ptr<PanelWindow> window(HWND parent, const PanelWindow::MakeCore& makeCore) {
-        return std::make_unique<PanelWindow>(
-            PanelWindow::Ports{parent, ++made_, *this, fontSizeChange_}, makeCore);
+        if (!store_) {
+            store_ = std::make_unique<PanelControlStore>(parent, fontSizeChange_);
+        }
+        auto made = std::make_unique<PanelWindow>(
+            PanelWindow::Ports{parent, ++made_, *this, *store_, fontSizeChange_}, makeCore);
+        made->equip();
+        return made;
     }
     [[nodiscard]] PanelPorts ports(PanelView& view) {
         return {view, commands_, tmrFast_, [](const OverlayItem&, bool) {},
@@ -58,6 +63,7 @@ class PanelStage : private PanelHost {
     FakePanelCommands commands_;
     Clock tmrFast_{[](bool) {}};
     Event<int> fontSizeChange_;
+    std::unique_ptr<PanelControlStore> store_;
     int made_ = 0;
 };
 

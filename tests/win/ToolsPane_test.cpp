@@ -151,12 +151,15 @@ std::vector<std::string> waitingForPainting(HWND panel) {
     if (GetUpdateRect(panel, nullptr, FALSE) != FALSE) {
         names.emplace_back("panel");
     }
-    for (HWND control = GetWindow(panel, GW_CHILD); control != nullptr;
-         control = GetWindow(control, GW_HWNDNEXT)) {
-        if (GetUpdateRect(control, nullptr, FALSE) != FALSE) {
-            names.push_back(textOf(control));
-        }
-    }
+    EnumChildWindows(
+        panel,
+        [](HWND control, LPARAM parameter) -> BOOL {
+            if (GetUpdateRect(control, nullptr, FALSE) != FALSE) {
+                reinterpret_cast<std::vector<std::string>*>(parameter)->push_back(textOf(control));
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&names));
     return names;
 }
 

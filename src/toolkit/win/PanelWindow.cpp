@@ -1,6 +1,5 @@
 #include "toolkit/win/PanelWindow.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "language/LanguageSupport.h"
@@ -9,10 +8,7 @@
 #include "platform/win/fills.h"
 #include "platform/win/monitors.h"
 #include "platform/win/text.h"
-#include "scene/Input.h"
-#include "widgets/dpi.h"
-#include "widgets/lookColors.h"
-#include "widgets/win/controlFontSize.h"
+#include "scene/dpi.h"
 
 namespace ormala {
 
@@ -23,30 +19,6 @@ namespace {
 constexpr UINT wmPopUpMenu = WM_APP + 1;
 constexpr UINT_PTR mnuDelete = 1;
 
-/// What the edges of a picture take of its size.
-constexpr int imageEdges = 8;
-
-constexpr int stepPicture = 14;
-constexpr int commandPicture = 16;
-/// Buttons below this height show the small picture, in pixels at 96 DPI.
-constexpr int commandHeight = 20;
-
-PictureMaker pictureMaker(Picture picture) {
-    return [picture](PixelSize size) { return drawPicture(picture, size); };
-}
-
-/// As the button knows them: a push button, a toggle, one of several.
-int controlTypeOf(PanelPart part) {
-    switch (part) {
-        case PanelPart::toggle:
-            return 1;
-        case PanelPart::option:
-            return 2;
-        default:
-            return 0;
-    }
-}
-
 /// The control as it is called where there are several of it, such as of panels in a list.
 std::string nameOf(const PanelDesign& design, int number) {
     constexpr std::size_t prefix = 3;
@@ -56,7 +28,7 @@ std::string nameOf(const PanelDesign& design, int number) {
 }  // namespace
 
 PanelWindow::PanelWindow(const Ports& ports, const MakeCore& makeCore)
-    : host_(ports.host), core_(makeCore(*this)) {
+    : host_(ports.host), store_(ports.store), core_(makeCore(*this)) {
     const PanelDesign& design = core_->design();
     const std::wstring className = wide(design.className);
     WindowDesign window;
@@ -67,133 +39,46 @@ PanelWindow::PanelWindow(const Ports& ports, const MakeCore& makeCore)
     window.id = ports.id;
     create(window);
     setControlName(handle(), nameOf(design, ports.id));
-    subscriptions_.push_back(ports.fontSizeChange.subscribe(
-        [this](int points) { SetFontSizeOfControls(handle(), points); }));
-    int id = 1;
-    for (const PanelControl& row : design.controls) {
-        makeControl(row, id++);
-    }
-    subscriptions_.push_back(
-        GetLanguageSupport().LanguageChange.subscribe([this] { ApplyLanguage(); }));
+    subscriptions_ = {
+        ports.fontSizeChange.subscribe([this](int points) {
+            if (controls_) {
+                controls_->setFontSize(points);
+            }
+        }),
+        GetLanguageSupport().LanguageChange.subscribe([this] { ApplyLanguage(); }),
+    };
     ApplyLanguage();
 }
 
-void PanelWindow::makeControl(const PanelControl& row, int id) {
-    rowOf_.resize(std::max(rowOf_.size(), row.id.index() + 1));
-    rowOf_[row.id.index()] = controls_.size();
-    Control& made = controls_.emplace_back();
-    switch (row.part) {
-        case PanelPart::titleBand:
-        case PanelPart::bottomBand:
-            makeBand(made, row, id);
-            break;
-        case PanelPart::title:
-        case PanelPart::header:
-        case PanelPart::value:
-            makeLabel(made, row, id);
-            break;
-        default:
-            makeButton(made, row, id);
-            break;
+PanelWindow::~PanelWindow() {
+    if (!isHeld()) {
+        strip();
     }
+    destroy();
 }
 
-void PanelWindow::makeBand(Control& made, const PanelControl& row, int id) {
-    made.band = std::make_unique<GradShape>(handle(), id, row.name);
-    made.band->setColorBottomRight(row.part == PanelPart::titleBand ? look_.titleBottomRight
-                                                                    : dark::titleEnd);
-}
-
-void PanelWindow::makeLabel(Control& made, const PanelControl& row, int id) {
-    made.label = std::make_unique<Label>(handle(), id, row.name);
-    made.label->setTextColor(row.part == PanelPart::value ? dark::text : dark::quietText);
-    made.label->setBold(row.part == PanelPart::title);
-}
-
-void PanelWindow::makeButton(Control& made, const PanelControl& row, int id) {
-    made.button = std::make_unique<ZelvikButtonXP>(handle(), id, row.fullName());
-    ZelvikButtonXP& button = *made.button;
-    button.setControlType(controlTypeOf(row.part));
-    button.setBackColor(dark::off);
-    if (row.letter != nullptr) {
-        button.setCaption(row.letter);
-    }
-    if (row.picture) {
-        button.setPicture(pictureMaker(*row.picture));
-        const int side = row.box.height() < commandHeight ? stepPicture : commandPicture;
-        button.setPictureSize(side, side);
-    }
-    if (row.part == PanelPart::image) {
-        button.setBackColor(dark::liftedGround);
-        button.setPlaneFace(true);
-        button.setPictureSize(row.box.width() - imageEdges, row.box.height() - imageEdges);
-        // A picture is no stop of the Tab key.
-        SetWindowLongPtrW(button.handle(), GWL_STYLE,
-                          GetWindowLongPtrW(button.handle(), GWL_STYLE) & ~WS_TABSTOP);
-    }
-    button.setCornerStyle(row.cornerStyle);
-    growth_.add(button);
-    // A press goes through its click, so that the focus is not taken from a held button.
-    subscriptions_.push_back(button.gotFocus.subscribe([this] {
-        if (GetKeyState(VK_LBUTTON) >= 0) {
-            host_.panelGotFocus(*this);
-        }
-    }));
-    subscriptions_.push_back(button.Click.subscribe([this] { host_.panelGotFocus(*this); }));
-    if (row.part == PanelPart::step) {
-        connectStep(button, row);
-    } else {
-        connectClick(button, row);
-    }
-    connectHover(button, row);
-}
-
-/// The panel may end in what it does.
-void PanelWindow::connectClick(ZelvikButtonXP& button, const PanelControl& row) {
-    // The click itself doesn't know what it came from.
-    const auto last = std::make_shared<Press>();
-    subscriptions_.push_back(button.MouseDown.subscribe([last](MouseArguments at) {
-        *last = {0, at.shift, true};
-    }));
-    subscriptions_.push_back(button.KeyDown.subscribe([last](KeyArguments key) {
-        *last = {0, key.shift, false};
-    }));
-    subscriptions_.push_back(button.Click.subscribe(
-        [this, last, &row] { row.press.perform(*core_, std::exchange(*last, {})); }));
-}
-
-void PanelWindow::connectStep(ZelvikButtonXP& button, const PanelControl& row) {
-    subscriptions_.push_back(button.MouseDown.subscribe([this, &row](MouseArguments at) {
-        if (at.button == mouseButton::left) {
-            core_->press(row, at.shift);
-        }
-    }));
-    subscriptions_.push_back(button.MouseUp.subscribe([this](MouseArguments at) {
-        if (at.button == mouseButton::left) {
-            core_->release();
-        }
-    }));
-    subscriptions_.push_back(button.KeyDown.subscribe([this, &row](KeyArguments key) {
-        if (key.keyCode == key::space) {
-            core_->pressKey(row, key.shift);
-        }
-    }));
-    subscriptions_.push_back(button.KeyUp.subscribe([this](KeyArguments key) {
-        if (key.keyCode == key::space) {
-            core_->releaseKey();
-        }
-    }));
-    subscriptions_.push_back(button.lostFocus.subscribe([this] { core_->releaseKey(); }));
-}
-
-void PanelWindow::connectHover(ZelvikButtonXP& button, const PanelControl& row) {
-    if (!row.hover) {
+void PanelWindow::equip() {
+    if (controls_) {
         return;
     }
-    subscriptions_.push_back(
-        button.MouseEnter.subscribe([this, &row](int) { row.hover.perform(*core_, true); }));
-    subscriptions_.push_back(
-        button.MouseExit.subscribe([this, &row](int) { row.hover.perform(*core_, false); }));
+    controls_ = store_.take(core_->design(), handle());
+    controls_->layOut(dpi_);
+    memory_.tell(core_->design(), *controls_);
+    controls_->serve({*core_, [this] { host_.panelGotFocus(*this); }});
+    controls_->setVisible(true);
+}
+
+void PanelWindow::strip() {
+    if (controls_) {
+        store_.giveBack(std::move(controls_));
+    }
+}
+
+bool PanelWindow::isHeld() const {
+    const auto isInside = [this](HWND window) {
+        return window != nullptr && (window == handle() || IsChild(handle(), window) != FALSE);
+    };
+    return isInside(GetFocus()) || isInside(GetCapture());
 }
 
 PixelSize PanelWindow::size() const {
@@ -201,10 +86,23 @@ PixelSize PanelWindow::size() const {
     return {scaledLength(designed.width, dpi_), scaledLength(designed.height, dpi_)};
 }
 
+PixelRect PanelWindow::placeInList() const {
+    const PixelSize own = size();
+    return {0, top_, own.width, top_ + own.height};
+}
+
+void PanelWindow::takePlace() {
+    if (const PixelRect wanted = placeInList(); place_ != wanted) {
+        place_ = wanted;
+        place(wanted);
+    }
+}
+
 void PanelWindow::setDpi(int dpi) {
-    growth_.reset(dpi_);
     dpi_ = dpi;
-    layOut();
+    if (controls_) {
+        controls_->layOut(dpi);
+    }
 }
 
 void PanelWindow::setGrowing(bool growing) {
@@ -212,99 +110,37 @@ void PanelWindow::setGrowing(bool growing) {
         return;
     }
     tmrButtonBig_.keep(handle(), growing ? core_->design().growthInterval : 0);
-    if (!growing) {
-        growth_.reset(dpi_);
-    }
-}
-
-void PanelWindow::layOut() {
-    for (std::size_t row = 0; row < controls_.size(); ++row) {
-        const Control& control = controls_[row];
-        const PixelRect box = scaledToDpi(core_->design().controls[row].box, dpi_);
-        if (control.band) {
-            control.band->place(box);
-        } else if (control.label) {
-            control.label->setDpi(dpi_);
-            control.label->place(box);
-        } else {
-            control.button->setDpi(dpi_);
-            control.button->place(box);
-        }
+    if (!growing && controls_) {
+        controls_->shrinkButtons();
     }
 }
 
 void PanelWindow::ApplyLanguage() {
-    for (std::size_t number = 0; number < controls_.size(); ++number) {
-        const Control& control = controls_[number];
-        const PanelControl& row = core_->design().controls[number];
-        const std::string tip = row.tip != 0 ? MlString(row.tip, {}) : std::string();
-        if (control.label) {
-            if (row.caption != 0) {
-                control.label->setText(MlString(row.caption, {}));
-            }
-            control.label->SetTooltip(tip);
-        } else if (control.button) {
-            control.button->SetTooltip(tip);
-        }
+    if (controls_) {
+        controls_->ApplyLanguage();
     }
     core_->ShowAllProps(true);
 }
 
 void PanelWindow::showTexts(const std::vector<ControlText>& texts) {
-    for (const ControlText& shown : texts) {
-        controlOf(shown.control).label->setText(shown.text);
-    }
+    tell([&](PanelFace& face) { face.showTexts(texts); });
 }
 
 void PanelWindow::showLook(const PanelLook& look) {
-    look_ = look;
-    for (std::size_t number = 0; number < controls_.size(); ++number) {
-        const Control& control = controls_[number];
-        const PanelPart part = core_->design().controls[number].part;
-        if (control.label) {
-            control.label->setBackColor(look.background);
-        }
-        if (part == PanelPart::title) {
-            control.label->setTextColor(look.titleText);
-            control.label->setGradient(look.titleTopLeft, look.titleBottomRight);
-        } else if (part == PanelPart::titleBand) {
-            control.band->setColorTopLeft(look.titleTopLeft);
-            control.band->setColorBottomRight(look.titleBottomRight);
-        } else if (part == PanelPart::bottomBand) {
-            control.band->setColorTopLeft(look.bottomTopLeft);
-        }
-    }
+    tell([&](PanelFace& face) { face.showLook(look); });
     InvalidateRect(handle(), nullptr, FALSE);
 }
 
 void PanelWindow::showButton(ControlId button, const ButtonLook& look) {
-    ZelvikButtonXP& shown = *controlOf(button).button;
-    shown.setBackColor(look.back);
-    shown.setValue(look.down);
-    if (look.text) {
-        shown.setForeColor(*look.text);
-    }
-    if (look.picture) {
-        shown.setPicture(pictureMaker(*look.picture));
-    }
+    tell([&](PanelFace& face) { face.showButton(button, look); });
 }
 
 void PanelWindow::showPicture(ControlId button, PictureMaker maker) {
-    controlOf(button).button->setPicture(std::move(maker), PictureKind::preview);
+    tell([&](PanelFace& face) { face.showPicture(button, maker); });
 }
 
 void PanelWindow::enable(const PanelEnabling& enabling) {
-    for (std::size_t number = 0; number < controls_.size(); ++number) {
-        const Control& control = controls_[number];
-        const PanelControl& row = core_->design().controls[number];
-        if (control.button && row.id != CommonControl::cmdPause) {
-            control.button->setEnabled(row.id == CommonControl::cmdUndo   ? enabling.undo
-                                       : row.id == CommonControl::cmdRedo ? enabling.redo
-                                                                          : enabling.controls);
-        } else if (control.label && row.part != PanelPart::title) {
-            control.label->setEnabled(enabling.labels);
-        }
-    }
+    tell([&](PanelFace& face) { face.enable(enabling); });
 }
 
 void PanelWindow::runTimer(PanelTimer timer, unsigned interval) {
@@ -331,13 +167,19 @@ void PanelWindow::popUpMenu() {
 
 LRESULT PanelWindow::onPaint() {
     const PaintScope scope(handle());
-    fillRect(scope.context(), scope.area(), look_.background);
+    fillRect(scope.context(), scope.area(), memory_.look().background);
     return 0;
+}
+
+void PanelWindow::growButtons() {
+    if (controls_) {
+        controls_->growButtons();
+    }
 }
 
 LRESULT PanelWindow::onTimer(WPARAM id) {
     if (id == tmrButtonBig_.number()) {
-        growth_.tick(dpi_);
+        growButtons();
     } else {
         core_->timerTicked(static_cast<PanelTimer>(id - timers_[0].number()));
     }

@@ -3,16 +3,14 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
-#include <vector>
 
 #include "base/Event.h"
 #include "platform/win/Timer.h"
+#include "toolkit/PanelMemory.h"
 #include "toolkit/SettingControl.h"
-#include "toolkit/win/ButtonGrowth.h"
-#include "widgets/win/GradShape.h"
-#include "widgets/win/Label.h"
-#include "widgets/win/ZelvikButtonXP.h"
+#include "toolkit/win/PanelControlStore.h"
 
 namespace ormala {
 
@@ -31,8 +29,9 @@ class PanelHost {
     virtual void removePanel(PanelWindow& panel, bool byMouse) = 0;
 };
 
-/// The window of a tool's panel: the controls of its design, which show what the panel tells and
-/// tell it what is done to them.
+/// The window of a tool's panel. Its controls, which show what the panel tells and tell it what is
+/// done to them, are there only while it has been given some: so many windows are too dear for
+/// panels that nobody sees.
 class PanelWindow : public Window, private PanelView {
   public:
     /// What a panel's window is made with. All must outlive it.
@@ -41,31 +40,38 @@ class PanelWindow : public Window, private PanelView {
         /// Its control ID and the number in its name, from 1 on.
         int id;
         PanelHost& host;
+        /// Of controls.
+        PanelControlStore& store;
         /// The size of type of all windows of controls, when that changes.
         Event<int>& fontSizeChange;
     };
     using MakeCore = std::function<std::unique_ptr<SettingControl>(PanelView& view)>;
 
-    /// Invisible.
+    /// Invisible and without controls.
     PanelWindow(const Ports& ports, const MakeCore& makeCore);
-    ~PanelWindow() override { destroy(); }
+    ~PanelWindow() override;
 
     [[nodiscard]] SettingControl& core() { return *core_; }
     /// Lays the controls out for a monitor of that resolution.
     void setDpi(int dpi);
     /// In pixels of that monitor.
     [[nodiscard]] PixelSize size() const;
+    /// Where it is to stand in the list, in pixels of the content; it moves there with `takePlace`.
+    void setTop(int top) { top_ = top; }
+    void takePlace();
+    /// The place that it has or is to take.
+    [[nodiscard]] PixelRect placeInList() const;
+    /// Gives it its controls if it has none, and takes them away again. Either changes nothing of
+    /// what the panel shows wherever it can be seen.
+    void equip();
+    void strip();
+    [[nodiscard]] bool isEquipped() const { return controls_ != nullptr; }
+    /// One of its controls has the keyboard or the mouse, or the panel itself has.
+    [[nodiscard]] bool isHeld() const;
     /// Whether small buttons grow under the mouse, which the panel then looks for.
     void setGrowing(bool growing);
 
   private:
-    /// One of the three, as its row in the design wants it.
-    struct Control {
-        std::unique_ptr<GradShape> band;
-        std::unique_ptr<Label> label;
-        std::unique_ptr<ZelvikButtonXP> button;
-    };
-
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     void showTexts(const std::vector<ControlText>& texts) override;
@@ -78,29 +84,28 @@ class PanelWindow : public Window, private PanelView {
     void removeRequested(bool byMouse) override { host_.removePanel(*this, byMouse); }
     void showMenu(const std::string& removeText) override;
 
-    void makeControl(const PanelControl& row, int id);
-    void makeBand(Control& made, const PanelControl& row, int id);
-    void makeLabel(Control& made, const PanelControl& row, int id);
-    void makeButton(Control& made, const PanelControl& row, int id);
-    void connectClick(ZelvikButtonXP& button, const PanelControl& row);
-    void connectStep(ZelvikButtonXP& button, const PanelControl& row);
-    void connectHover(ZelvikButtonXP& button, const PanelControl& row);
-    [[nodiscard]] Control& controlOf(ControlId id) { return controls_[rowOf_[id.index()]]; }
+    /// Its memory, and its controls if it has some.
+    template <typename Call>
+    void tell(const Call& call) {
+        call(memory_);
+        if (controls_) {
+            call(*controls_);
+        }
+    }
     void ApplyLanguage();
-    void layOut();
+    void growButtons();
     LRESULT onPaint();
     LRESULT onTimer(WPARAM id);
     void popUpMenu();
 
     PanelHost& host_;
+    PanelControlStore& store_;
+    int top_ = 0;
+    std::optional<PixelRect> place_;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
-    PanelLook look_ = unselectedLook;
-    /// In the order of the design.
-    std::vector<Control> controls_;
-    /// By the index of their ids.
-    std::vector<std::size_t> rowOf_;
-    std::vector<Subscription> subscriptions_;
-    ButtonGrowth growth_{*this};
+    PanelMemory memory_;
+    /// None while the panel is out of sight.
+    std::unique_ptr<PanelControls> controls_;
     Timer tmrButtonBig_{1};
     /// In the order of their enumeration.
     std::array<Timer, 2> timers_{Timer(2), Timer(3)};
@@ -108,6 +113,7 @@ class PanelWindow : public Window, private PanelView {
     POINT menuPlace_{};
     /// Goes before all that it shows.
     std::unique_ptr<SettingControl> core_;
+    std::array<Subscription, 2> subscriptions_;
 };
 
 }  // namespace ormala

@@ -63,6 +63,9 @@ class ZelvikButtonXP : public PaintedControl, public ButtonEvents, private Butto
     /// In pixels at 96 DPI.
     void setPictureSize(int width, int height);
 
+    /// As if the mouse had gone, whether it is over the button or not.
+    void leaveMouse() { model_.mouseIsElsewhere(0); }
+
     /// While a press gives it the focus: a click may follow, or not.
     [[nodiscard]] bool isFocusedByPress() const { return focusedByPress_; }
 

@@ -286,6 +286,7 @@ bool frmSettings::focusNextControl(int held) {
     if ((held & ~modifier::shift) != 0) {
         return false;
     }
+    tabbing.raise(held == modifier::shift);
     if (const HWND next = nextTabStop(handle(), GetFocus(), held == modifier::shift)) {
         SetFocus(next);
         tabbed.raise(next);

@@ -72,6 +72,8 @@ class frmSettings : public Window {
     Event<POINT> pressed;
     /// The window itself has got the keyboard and does not keep it.
     Event<> keyboardArrived;
+    /// The Tab key is about to give it to the next control, or backwards.
+    Event<bool> tabbing;
     /// The Tab key has given it to a control.
     Event<HWND> tabbed;
     /// Its place among the other windows may be another one.

@@ -12,6 +12,8 @@ inline constexpr UINT_PTR tmrButtonBig = 2;
 /// While another program holds the clipboard, and while a note is shown.
 inline constexpr UINT_PTR tmrClipboard = 3;
 inline constexpr UINT_PTR tmrNote = 4;
+/// While panels are made ready that may be seen next.
+inline constexpr UINT_PTR tmrSupply = 5;
 /// While another program holds the clipboard, and a text is to be put on it.
 inline constexpr UINT_PTR tmrCopy = 8;
 

@@ -109,17 +109,16 @@ void PanelFocus::focusWithoutSelecting(HWND window) {
 }
 
 void PanelFocus::EnsurePanelVisible(const PanelWindow& panel) {
-    const PixelRect box = ports_.list.placeInContent(panel.handle());
+    const PixelRect box = panel.placeInList();
     ports_.list.EnsurePanelVisible(box.top, box.height());
 }
 
 void PanelFocus::ensureControlVisible(HWND control) {
-    const HWND panel = GetParent(control);
-    if (ports_.panels.panelOf(panel) != nullptr) {
+    if (const PanelWindow* const panel = ports_.panels.panelWith(control)) {
         constexpr int room = 4;
         // Not beyond the panel, and so not beyond the content.
-        const PixelRect box = ports_.list.placeInContent(control).grown(room).intersected(
-            ports_.list.placeInContent(panel));
+        const PixelRect box =
+            ports_.list.placeInContent(control).grown(room).intersected(panel->placeInList());
         ports_.list.EnsurePanelVisible(box.top, box.height());
     }
 }

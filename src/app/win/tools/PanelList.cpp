@@ -77,10 +77,10 @@ void PanelList::layOut() {
     const PixelSize size = inside();
     const ListViewport viewport(size.width, size.height, listScrollBarWidth(dpi_));
     scrInner_.place({viewport.scrollLeft, 0, size.width, viewport.scrollHeight});
-    adoptHeights();
     if (!bulkUpdate_) {
         setVisible(ListViewport::shows(size.height));
     }
+    adoptHeights();
 }
 
 void PanelList::setContentHeight(int height) {
@@ -114,8 +114,8 @@ void PanelList::adoptHeights() {
 
 void PanelList::moveContent() {
     picInner_.place({0, contentTop(), contentWidth(), contentTop() + content_});
-    RedrawWindow(picInner_.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     viewChanged.raise();
+    RedrawWindow(picInner_.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 bool PanelList::shows(HWND panel) const {

@@ -46,7 +46,7 @@ class PanelList : public PictureBox {
     /// Notches of the wheel, as a glide; positive ones turn away from the user.
     void Scroll(int notches);
 
-    /// Another part of the content shows now.
+    /// Another part of the content shows now, and is not painted yet.
     Event<> viewChanged;
     /// Whether some of a panel of the content shows.
     [[nodiscard]] bool shows(HWND panel) const;

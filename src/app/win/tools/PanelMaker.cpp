@@ -19,14 +19,11 @@ class PanelMaker::Listed : public ListedPanel {
     ~Listed() override { std::erase(maker_.panels_, window_.get()); }
 
     [[nodiscard]] SettingControl& panel() override { return window_->core(); }
-    [[nodiscard]] int top() const override { return top_; }
+    [[nodiscard]] int top() const override { return window_->placeInList().top; }
     void setTop(int top) override {
-        top_ = top;
-        const PixelSize size = window_->size();
-        const PixelRect place{0, top, size.width, top + size.height};
-        if (place_ != place) {
-            place_ = place;
-            window_->place(place);
+        window_->setTop(top);
+        if (!maker_.ports_.list.bulkUpdate()) {
+            window_->takePlace();
         }
     }
     [[nodiscard]] int height() const override { return window_->size().height; }
@@ -34,19 +31,18 @@ class PanelMaker::Listed : public ListedPanel {
     void setVisible(bool visible) override {
         visible_ = visible;
         window_->setVisible(visible);
+        maker_.useChanged.raise();
     }
 
   private:
     PanelMaker& maker_;
     std::unique_ptr<PanelWindow> window_;
-    int top_ = 0;
-    PixelRect place_;
     bool visible_ = false;
 };
 
 std::unique_ptr<ListedPanel> PanelMaker::makePanel(ToolKind kind, OverlayItem& tool) {
     auto window = std::make_unique<PanelWindow>(
-        PanelWindow::Ports{ports_.list.picInner(), ++made_, ports_.host,
+        PanelWindow::Ports{ports_.list.picInner(), ++made_, ports_.host, ports_.store,
                            ports_.globalEvents.FontSizeChange},
         [&](PanelView& view) { return makeCore(kind, tool, view); });
     window->setDpi(dpi_);
@@ -80,9 +76,22 @@ void PanelMaker::setDpi(int dpi) {
     }
 }
 
+void PanelMaker::takePlaces() {
+    for (PanelWindow* panel : panels_) {
+        panel->takePlace();
+    }
+}
+
 PanelWindow* PanelMaker::panelOf(HWND window) const {
     const auto at = std::ranges::find_if(
         panels_, [window](const PanelWindow* panel) { return panel->handle() == window; });
+    return at == panels_.end() ? nullptr : *at;
+}
+
+PanelWindow* PanelMaker::panelWith(HWND control) const {
+    const auto at = std::ranges::find_if(panels_, [control](const PanelWindow* panel) {
+        return IsChild(panel->handle(), control) != FALSE;
+    });
     return at == panels_.end() ? nullptr : *at;
 }
 

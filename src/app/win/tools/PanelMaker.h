@@ -25,6 +25,7 @@ class PanelMaker : public PanelFactory {
         const ToolSettings& settings;
         const SpecialRatios& ratios;
         clsGlobalEvents& globalEvents;
+        PanelControlStore& store;
         /// A tool, or what else its panel keeps in files, may have changed.
         std::function<void()> changed;
     };
@@ -34,11 +35,18 @@ class PanelMaker : public PanelFactory {
 
     std::unique_ptr<ListedPanel> makePanel(ToolKind kind, OverlayItem& tool) override;
     void setDpi(int dpi);
+    /// Moves all panels to where the list wants them. While many come and go none is moved.
+    void takePlaces();
 
     /// All panels, in the order of their making.
     [[nodiscard]] const std::vector<PanelWindow*>& panels() const { return panels_; }
     /// Null for a window that is none of them.
     [[nodiscard]] PanelWindow* panelOf(HWND window) const;
+    /// The one that the control is in; null for any other window.
+    [[nodiscard]] PanelWindow* panelWith(HWND control) const;
+
+    /// A panel has come into use, or out of use.
+    Event<> useChanged;
 
   private:
     class Listed;

@@ -27,9 +27,11 @@ ToolsPane::ToolsPane(const Ports& ports)
                      ports.codePage, [this](bool aside) { ports_.view.putWindowsAside(aside); }}),
       focus_({ports.window, ports.view, ports.focus, list_, panelMaker_, ports.worksheet.sheet(),
               tools_, removed_}),
+      panelControls_(list_.handle(), ports.globalEvents.FontSizeChange),
       panelMaker_({list_, clock_, ports.worksheet.sheet(), focus_, panelDialogs_,
-                   ports.state.toolSettings(), ports.ratios, ports.globalEvents,
+                   ports.state.toolSettings(), ports.ratios, ports.globalEvents, panelControls_,
                    [this] { changed.raise(); }}),
+      supply_({list_, panelMaker_.panels(), panelControls_}, ports.window.handle(), tmrSupply),
       dialogs_(ports.window.handle(), ports.window.bar()),
       tools_({ports.worksheet.sheet(), panelMaker_, *this, messages_,
               ports.state.options().defaultUnits}),
@@ -39,7 +41,10 @@ ToolsPane::ToolsPane(const Ports& ports)
       automatic_({automaticFile_, automaticToolFile_, ports.store, tools_}, automaticFile()),
       documents_({toolsFile_, ports.store, toolFile_, tools_, removed_, *this, dialogs_}),
       subscriptions_{list_.viewChanged.subscribe([this] { tellPanelsWhatShows(); }),
+                     panelMaker_.useChanged.subscribe([this] { tellPanelsWhatShows(); }),
                      ports.window.ticked.subscribe([this](UINT_PTR timer) { onTimer(timer); }),
+                     ports.window.tabbing.subscribe(
+                         [this](bool backwards) { supply_.prepareTab(GetFocus(), backwards); }),
                      ports.window.mouseNear().subscribe([this] { tellPanelsWhatShows(); }),
                      ports.window.listPlaced.subscribe([this] { takePlace(); }),
                      ports.window.dpiChanged.subscribe([this] { takeDpi(); }),
@@ -94,6 +99,7 @@ void ToolsPane::UpdatePanelLayout(bool AdjustFormHeight, bool Force) {
 }
 
 void ToolsPane::tellPanelsWhatShows() {
+    supply_.update();
     const bool isNear = ports_.window.isMouseNear();
     for (PanelWindow* panel : panelMaker_.panels()) {
         panel->setGrowing(isNear && list_.shows(panel->handle()));
@@ -109,6 +115,7 @@ void ToolsPane::onTimer(UINT_PTR timer) {
     if (timer == tmrFast) {
         clock_.tick();
     }
+    supply_.onTimer(timer);
 }
 
 bool ToolsPane::execute(Command command) {
@@ -158,6 +165,7 @@ void ToolsPane::beginBusy(const std::string& info, bool hourglass) {
 }
 
 void ToolsPane::endBusy() {
+    panelMaker_.takePlaces();
     list_.setBulkUpdate(false);
     ports_.window.bar().showInfo({});
     SetCursor(LoadCursorW(nullptr, IDC_ARROW));

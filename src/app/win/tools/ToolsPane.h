@@ -13,6 +13,7 @@
 #include "app/win/tools/PanelList.h"
 #include "app/win/tools/PanelMaker.h"
 #include "dialogs/win/WindowsMessagePresenter.h"
+#include "toolkit/win/PanelSupply.h"
 
 namespace ormala {
 
@@ -94,7 +95,9 @@ class ToolsPane : private ToolListView, private BusyView {
     PanelList list_;
     PanelDialogs panelDialogs_;
     PanelFocus focus_;
+    PanelControlStore panelControls_;
     PanelMaker panelMaker_;
+    PanelSupply supply_;
     DocumentDialogs dialogs_;
     ToolList tools_;
     RemovedTools removed_;
