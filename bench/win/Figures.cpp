@@ -19,13 +19,28 @@ double median(std::vector<double> values) {
     return *middle;
 }
 
+double scatter(std::vector<double> values) {
+    std::ranges::sort(values);
+    const std::size_t quarter = values.size() / 4;
+    return (values[values.size() - 1 - quarter] - values[quarter]) / median(values);
+}
+
+Limit limitOf(const std::vector<double>& values, const std::string& name,
+              std::optional<double> mostRatio) {
+    return {median(values), name, mostRatio, scatter(values)};
+}
+
 void report(const std::string& what, double figure, const std::string& unit, const Limit& limit) {
     std::printf("%-46s %9.3f %-3s  ratio %5.2f", what.c_str(), figure, unit.c_str(),
                 figure / limit.value);
     if (limit.mostRatio) {
         std::printf(" (at most %g)", *limit.mostRatio);
     }
-    std::printf(" to %s (%.3f %s)\n", limit.name.c_str(), limit.value, unit.c_str());
+    std::printf(" to %s (%.3f %s)", limit.name.c_str(), limit.value, unit.c_str());
+    if (constexpr double quiet = 0.2; limit.scatter > quiet) {
+        std::printf("   no verdict: this limit scatters by %.0f %%", 100 * limit.scatter);
+    }
+    std::printf("\n");
     std::fflush(stdout);
 }
 
