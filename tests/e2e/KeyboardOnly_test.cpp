@@ -14,8 +14,11 @@
 namespace ormala::test {
 namespace {
 
-bool hasFocus(const DesktopWindow& control) {
-    return waitUntil([&] { return focusedWindow() == control; });
+testing::AssertionResult hasFocus(const DesktopWindow& control) {
+    if (waitUntil([&] { return focusedWindow() == control; })) {
+        return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure() << "The focus is on '" << focusedWindow().name() << "'";
 }
 
 /// Presses a key that moves the focus; false if it stays where it is.
@@ -116,6 +119,12 @@ class Walk {
     int steps_ = 0;
 };
 
+/// That a button of a panel lies in; null for any other control.
+HWND listOf(const DesktopWindow& button) {
+    const HWND panel = GetParent(GetParent(button.handle()));
+    return GetParent(panel);
+}
+
 SettingsFile bothTools() {
     return ToolSet()
         .stencil({100, 100, 300, 233})
@@ -155,9 +164,7 @@ TEST(KeyboardOnly, EveryButtonOfThePanelsIsPressedAndShowsItsFocus) {
             EXPECT_FALSE(difference(screen::waitUntilStill(place, milliseconds(20)), with).empty())
                 << button.name() << " looks with the focus as without it";
         }
-    } while (GetParent(GetParent(focusedWindow().handle())) ==
-                 GetParent(GetParent(first.handle())) &&
-             pressed < 100);
+    } while (listOf(focusedWindow()) == listOf(first) && pressed < 100);
     EXPECT_GT(pressed, 40);
 }
 

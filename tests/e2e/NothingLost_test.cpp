@@ -69,8 +69,13 @@ TEST(NothingLost, WhileAButtonIsHeldNothingIsWritten) {
     LostScene scene;
     scene.mouse.moveTo(scene.onScreen({200, 200}));
     scene.mouse.press();
-    scene.mouse.moveTo(scene.onScreen({215, 200}));
-    scene.mouse.moveTo(scene.onScreen({230, 200}));
+    // The first move that arrives only begins the drag.
+    const ToolPanel panel(scene);
+    EXPECT_TRUE(waitUntil([&] {
+        scene.mouse.moveTo(scene.onScreen({229, 200}));
+        scene.mouse.moveTo(scene.onScreen({230, 200}));
+        return panel.number("lblPositionLeft") == 130;
+    }));
     EXPECT_FALSE(waitUntil([&] { return scene.left() != 100; }, milliseconds{3200}));
     scene.mouse.release();
     EXPECT_TRUE(waitUntil([&] { return scene.left() == 130; }, soon)) << scene.left();

@@ -167,8 +167,9 @@ PanelWindow* PanelFocus::panelWithKeyboard() const {
 void PanelFocus::goToPanel(int places) {
     PanelWindow* const from = panelWithKeyboard();
     const SettingControl* const core = from != nullptr ? &from->core() : nullptr;
-    if (const PanelWindow* const to = windowOf(ports_.tools.panelBeside(core, places))) {
+    if (PanelWindow* const to = windowOf(ports_.tools.panelBeside(core, places))) {
         EnsurePanelVisible(*to);
+        to->equip();
         const HWND first = nextTabStop(to->handle(), nullptr, false);
         SetFocus(first != nullptr ? first : to->handle());
     }

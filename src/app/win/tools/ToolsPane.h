@@ -105,7 +105,7 @@ class ToolsPane : private ToolListView, private BusyView {
     ToolFile automaticToolFile_;
     AutomaticTools automatic_;
     Documents documents_;
-    std::array<Subscription, 7> subscriptions_;
+    std::array<Subscription, 9> subscriptions_;
 };
 
 }  // namespace ormala
