@@ -127,8 +127,7 @@ DesktopWindow PanelScene::control(std::string_view name) const {
 }
 
 void PanelScene::scrollIntoView(const DesktopWindow& panel) {
-    const DesktopWindow list(GetParent(GetParent(panel.handle())));
-    const ScreenRect view = list.rect();
+    const ScreenRect view = DesktopWindow(GetParent(GetParent(panel.handle()))).rect();
     Mouse mouse;
     mouse.moveTo(view.center());
     const bool came = waitUntil([&] {
@@ -141,6 +140,27 @@ void PanelScene::scrollIntoView(const DesktopWindow& panel) {
         return !above && !below;
     });
     EXPECT_TRUE(came) << "a panel does not come into view";
+}
+
+void PanelScene::bringIntoSight(const DesktopWindow& control) {
+    HWND panel = control.handle();
+    while (panel != nullptr && !isPanel(DesktopWindow(panel))) {
+        panel = GetParent(panel);
+    }
+    if (panel == nullptr) {
+        return;
+    }
+    const ScreenRect view = DesktopWindow(GetParent(GetParent(panel))).rect();
+    const auto isSeen = [&] { return view.contains(control.center()); };
+    Mouse mouse;
+    while (!isSeen()) {
+        const ScreenPoint before = control.center();
+        mouse.moveTo(view.center());
+        mouse.wheel(before.y < view.top ? 1 : -1);
+        requireSoon("a list that scrolls", [&] { return control.center() != before; });
+        // Its glide goes on for a while.
+        screen::waitUntilStill(view);
+    }
 }
 
 DesktopWindow PanelScene::control(const DesktopWindow& panel, std::string_view name) {
@@ -170,6 +190,7 @@ bool PanelScene::says(const DesktopWindow& panel, std::string_view name, std::st
 }
 
 void PanelScene::press(const DesktopWindow& control) {
+    bringIntoSight(control);
     mouse.click(control.center());
 }
 

@@ -64,6 +64,8 @@ class PanelScene {
     static DesktopWindow control(const DesktopWindow& panel, std::string_view name);
     /// Turns the wheel over the list until the panel shows: only near that it has its controls.
     static void scrollIntoView(const DesktopWindow& panel);
+    /// The same until a control of a panel shows; nothing for any other control.
+    static void bringIntoSight(const DesktopWindow& control);
     [[nodiscard]] bool waitForPanels(std::size_t count) const;
     /// Whether a panel's control says that in the end. A point between digits stands for the user's
     /// decimal separator.

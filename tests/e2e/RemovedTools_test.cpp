@@ -133,6 +133,8 @@ TEST(RemovedTools, NewAndLoadAreTakenBackAsAWhole) {
         EXPECT_TRUE(played.notes(texts.replaced)) << scene.control("lblInfo").text();
         played.takeBack();
         ASSERT_TRUE(scene.waitForPanels(3));
+        // They come before they are at their places.
+        ASSERT_TRUE(waitUntil([&] { return scene.panel(1).className() == "ctlSetMeasure"; }));
         EXPECT_TRUE(PanelScene::says(scene.panel(1), "lblTitle", texts.measure));
         EXPECT_TRUE(PanelScene::says(scene.settings(), "lblPath", noDocument));
         // So nothing is asked.

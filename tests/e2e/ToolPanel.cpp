@@ -41,7 +41,9 @@ bool ToolPanel::isDown(std::string_view name) const {
 }
 
 void ToolPanel::press(std::string_view name, Modifiers modifiers) const {
-    scene_.mouse.click(control(name).center(), MouseButton::Left, modifiers);
+    const DesktopWindow button = control(name);
+    PanelScene::bringIntoSight(button);
+    scene_.mouse.click(button.center(), MouseButton::Left, modifiers);
 }
 
 void ToolPanel::pressByKeys(std::string_view name, Modifiers modifiers) const {
