@@ -27,10 +27,10 @@ constexpr int listHeight = 64;
 /// The short window ends this much above the list.
 constexpr int cutAboveList = 12;
 
-constexpr int firstRow = margin;
-constexpr int secondRow = firstRow + textButtonHeight + margin;
-constexpr int thirdRow = secondRow + textButtonHeight + margin;
-constexpr int lookRow = thirdRow + textButtonHeight + margin;
+constexpr int firstButtonRow = margin;
+constexpr int secondButtonRow = firstButtonRow + textButtonHeight + margin;
+constexpr int thirdButtonRow = secondButtonRow + textButtonHeight + margin;
+constexpr int lookRow = thirdButtonRow + textButtonHeight + margin;
 constexpr int pathRow = lookRow + 2 * sliderHeight + margin;
 constexpr int listTop = pathRow + pathHeight + gapAboveList;
 
@@ -66,14 +66,14 @@ class Row {
 }  // namespace
 
 SettingsLayout::SettingsLayout(int dpi) {
-    Row(*this, firstRow, margin, dpi)
+    Row(*this, firstButtonRow, margin, dpi)
         .add(Command::editMode, editButton)
         .add(Command::templateMode, templateButton)
         .add(Command::pauseMode, pauseButton)
         .gap(inside - editButton - templateButton - pauseButton - 2 * smallButton)
         .add(Command::templateAndMinimise, smallButton)
         .add(Command::pauseAndMinimise, smallButton);
-    Row(*this, secondRow, margin, dpi)
+    Row(*this, secondButtonRow, margin, dpi)
         .add(Command::addStencil, stencilButton)
         .add(Command::addMeasure, measureButton)
         .gap(inside - stencilButton - measureButton - 4 * smallButton)
@@ -81,7 +81,7 @@ SettingsLayout::SettingsLayout(int dpi) {
         .add(Command::load, smallButton)
         .add(Command::save, smallButton)
         .add(Command::saveAs, smallButton);
-    Row(*this, thirdRow, margin, dpi)
+    Row(*this, thirdButtonRow, margin, dpi)
         .add(Command::lens, smallButton)
         .add(Command::grid, smallButton)
         .add(Command::crossHair, smallButton)
