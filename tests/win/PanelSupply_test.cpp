@@ -161,9 +161,8 @@ TEST_F(PanelSupplyTest, WhatTheListShowsHasItsControlsAndWhatIsFarHasNone) {
 
 TEST_F(PanelSupplyTest, PanelsThatAreLoadedHaveControlsOnlyWhereTheyAreSeen) {
     fill(12);
-    const std::string file = folder_.path().string() + "\\twelve.OM";
-    program_.tools().documents().saveAutomatic(file);
-    program_.tools().documents().loadAutomatic(file);
+    ASSERT_TRUE(program_.tools().automatic().save());
+    program_.tools().automatic().load({});
     const auto found = panels();
     ASSERT_EQ(found.size(), 12U);
     EXPECT_EQ(std::ranges::count_if(found, isEquipped), visibleCount());
