@@ -22,7 +22,7 @@ bool isPasted(const std::string& text) {
     return waitUntil([&] { return clipboard::text() == text; });
 }
 
-SettingsFile bothTools() {
+SettingsFile copiedTools() {
     return ToolSet()
         .stencil({100, 100, 300, 233})
         .measure({{400, 300}, {499, 300}}, {{400, 360}, {449, 360}}, false, 1)
@@ -30,7 +30,7 @@ SettingsFile bothTools() {
 }
 
 TEST(Copies, ReadOutsOfTheSelectedToolFromTheWorksheetAndFromTheList) {
-    PanelScene scene(bothTools());
+    PanelScene scene(copiedTools());
     clipboard::clear();
     // The centre of the stencil.
     ASSERT_TRUE(clickToFront(scene.mouse, scene.worksheet(), scene.onScreen({200, 166})));

@@ -18,7 +18,7 @@ SettingsFile languageOf(const char* language) {
     return options;
 }
 
-SettingsFile oneStencil() {
+SettingsFile keptStencil() {
     return ToolSet().stencil({100, 100, 300, 300}).file();
 }
 
@@ -30,7 +30,7 @@ std::filesystem::path beside(const std::filesystem::path& file, const char* word
 class LostScene : public PanelScene {
   public:
     explicit LostScene(const char* language = " 9")
-        : PanelScene(oneStencil(), languageOf(language)) {}
+        : PanelScene(keptStencil(), languageOf(language)) {}
 
     [[nodiscard]] double left() const {
         return fileNumber(data().toolsFile(), "Tool 1", "RectBoundLeft");
@@ -55,14 +55,14 @@ TEST(NothingLost, ChangesAreThereAgainAfterTheProgramIsKilled) {
     EXPECT_FALSE(scene.control("lblInfo").isVisible()) << "nothing is said of it";
     // Of the run before.
     const auto previous = beside(scene.data().toolsFile(), "previous");
-    EXPECT_EQ(bytesOf(previous), oneStencil().text());
+    EXPECT_EQ(bytesOf(previous), keptStencil().text());
     EXPECT_EQ(fileNumber(beside(scene.data().optionsFile(), "previous"), "Options", "Language"),
               1031);
     endByForce(scene.program());
     scene.startAgain();
     EXPECT_TRUE(ToolPanel(scene).shows("lblPositionLeft", 101));
     EXPECT_EQ(scene.control("chkGrid").send(BM_GETCHECK), BST_CHECKED);
-    EXPECT_EQ(bytesOf(previous), oneStencil().text()) << "once a day";
+    EXPECT_EQ(bytesOf(previous), keptStencil().text()) << "once a day";
 }
 
 TEST(NothingLost, WhileAButtonIsHeldNothingIsWritten) {
