@@ -26,7 +26,7 @@ SettingsFile inEnglish(SettingsFile options) {
 /// The name field of the system's file dialogs.
 constexpr int fileNameField = 1148;
 
-bool isPanel(const DesktopWindow& window) {
+bool isPanelOfTool(const DesktopWindow& window) {
     const std::string name = window.className();
     return name == "ctlSetRatioGrid" || name == "ctlSetMeasure";
 }
@@ -106,7 +106,7 @@ ScreenPoint PanelScene::onScreen(ScreenPoint sheet) const {
 std::vector<DesktopWindow> PanelScene::panels() const {
     std::vector<DesktopWindow> found;
     for (const DesktopWindow& window : settings().descendants()) {
-        if (isPanel(window) && window.hasStyle(WS_VISIBLE)) {
+        if (isPanelOfTool(window) && window.hasStyle(WS_VISIBLE)) {
             found.push_back(window);
         }
     }
@@ -144,7 +144,7 @@ void PanelScene::scrollIntoView(const DesktopWindow& panel) {
 
 void PanelScene::bringIntoSight(const DesktopWindow& control) {
     HWND panel = control.handle();
-    while (panel != nullptr && !isPanel(DesktopWindow(panel))) {
+    while (panel != nullptr && !isPanelOfTool(DesktopWindow(panel))) {
         panel = GetParent(panel);
     }
     if (panel == nullptr) {
@@ -165,7 +165,7 @@ void PanelScene::bringIntoSight(const DesktopWindow& control) {
 
 DesktopWindow PanelScene::control(const DesktopWindow& panel, std::string_view name) {
     DesktopWindow found = panel.named(name);
-    if (!found.exists() && isPanel(panel)) {
+    if (!found.exists() && isPanelOfTool(panel)) {
         scrollIntoView(panel);
         waitUntil([&] { return (found = panel.named(name)).exists(); });
     }
