@@ -197,6 +197,20 @@ TEST_F(ModalDialogTest, StaysInTheWorkAreaBesideAnOwnerAtTheEdge) {
     dialog_.ask(owner_.handle());
 }
 
+TEST_F(ModalDialogTest, KeepsItsSizeWhateverPlacesIt) {
+    player_.untilActive("TestDialog")
+        .then([this] {
+            const RECT place = dialog_.rectangle();
+            SetWindowPos(dialog_.handle(), nullptr, place.left + 10, place.top, 1, 1,
+                         SWP_NOZORDER | SWP_NOACTIVATE);
+            const RECT now = dialog_.rectangle();
+            EXPECT_EQ(now.left, place.left + 10);
+            EXPECT_EQ(sizeOf(now), sizeOf(place));
+        })
+        .key(VK_ESCAPE);
+    EXPECT_FALSE(dialog_.ask(owner_.handle()));
+}
+
 TEST_F(ModalDialogTest, FirstFocusIsWhereTheWorkIs) {
     player_.until("the first focus", [this] { return GetFocus() == dialog_.second.handle(); })
         .key(VK_ESCAPE);

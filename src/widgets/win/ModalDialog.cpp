@@ -278,6 +278,16 @@ void ModalDialog::onSettingChange() {
     }
 }
 
+/// A dialog has one size. Under Wine a display may tell late of one that it had before, which would
+/// then stay.
+void ModalDialog::onPlaceChanging(WINDOWPOS& place) const {
+    if (dpi_ != 0 && (place.flags & SWP_NOSIZE) == 0) {
+        const PixelSize size = outerSize();
+        place.cx = size.width;
+        place.cy = size.height;
+    }
+}
+
 LRESULT ModalDialog::onTimer() {
     tmrFocus_.stop();
     focus_ = firstFocus();
@@ -304,6 +314,9 @@ std::optional<LRESULT> ModalDialog::onMessage(UINT message, WPARAM wParam, LPARA
             return onNextControl(wParam, LOWORD(lParam) != 0);
         case DM_GETDEFID:
             return MAKELRESULT(defaultButton(), DC_HASDEFID);
+        case WM_WINDOWPOSCHANGING:
+            onPlaceChanging(*reinterpret_cast<WINDOWPOS*>(lParam));
+            return std::nullopt;
         case WM_DPICHANGED:
             return onDpiChanged(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
         case WM_SETTINGCHANGE:
