@@ -16,6 +16,9 @@ TEST(CompassText, HasTheRadiusAndItsGoldenSectionInTheUsersForm) {
     TextForm comma;
     comma.decimalSeparator = ",";
     EXPECT_EQ(compassText(50.04, comma), "r = 50,0\r\nG * r = 30,9");
+    TextForm logical;
+    logical.logicalDpi = 192;
+    EXPECT_EQ(compassText(100, logical), "r = 50.0\r\nG * r = 30.9");
 }
 
 class CompassReadOutTest : public testing::Test {

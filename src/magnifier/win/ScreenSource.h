@@ -21,6 +21,10 @@ class ScreenSource {
                 Color ground) const;
 
   private:
+    void copy(HDC screen, const BackBuffer& buffer, PixelPoint source, const PixelRect& bounds,
+              Color ground) const;
+
+    /// None with several monitors.
     MemoryContext screen_;
     /// Screens of different sizes leave gaps.
     bool gaps_ = false;

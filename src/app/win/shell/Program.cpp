@@ -99,7 +99,13 @@ void Program::listen() {
     };
     keep(settings_->chosen.subscribe([this](Command command) { execute(command); }));
     keep(settings_->orderChanged.subscribe([this] { view_->lens().raise(true); }));
-    keep(settings_->displayChanged.subscribe([this] { bringAllOntoScreens(); }));
+    keep(settings_->displayChanged.subscribe([this] {
+        constexpr unsigned untilAllIsPlaced = 1000;
+        bringAllOntoScreens();
+        screensAtRest_.start(untilAllIsPlaced);
+    }));
+    // The system, or who manages the windows, may place some of them after the change.
+    keep(screensAtRest_.due.subscribe([this] { bringAllOntoScreens(); }));
     keep(worksheet_->activated.subscribe([this] {
         // A worksheet that comes to the front must not cover the panels.
         settings_->later([this] {

@@ -15,6 +15,7 @@
 #include "app/win/shell/frmSettings.h"
 #include "app/win/tools/ToolsPane.h"
 #include "app/win/view/ViewPane.h"
+#include "platform/win/LaterTimer.h"
 #include "platform/win/MouseWheelHook.h"
 #include "stencil/SpecialRatios.h"
 #include "storage/win/WindowsCodePage.h"
@@ -90,6 +91,7 @@ class Program : public WorksheetCommands, private ProgramEnding {
     /// In the order of the key that goes through them.
     std::vector<WindowPart> parts_;
     std::unique_ptr<MouseWheelHook> wheelHook_;
+    LaterTimer screensAtRest_;
     /// Ended before anything else goes: the focus that the parts leave behind finds them half gone.
     std::vector<Subscription> subscriptions_;
 };
