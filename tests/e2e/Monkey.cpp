@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "e2e/PanelScene.h"
 #include "e2e/support/StageFailure.h"
 
 namespace ormala::test {
@@ -28,11 +29,6 @@ MouseButton buttonOf(Deed deed) {
     return deed == Deed::rightClick    ? MouseButton::Right
            : deed == Deed::middleClick ? MouseButton::Middle
                                        : MouseButton::Left;
-}
-
-bool isPanel(const DesktopWindow& window) {
-    const std::string name = window.className();
-    return (name == "ctlSetRatioGrid" || name == "ctlSetMeasure") && window.hasStyle(WS_VISIBLE);
 }
 
 /// Where a window manager has its hand in.

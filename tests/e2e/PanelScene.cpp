@@ -26,12 +26,12 @@ SettingsFile inEnglish(SettingsFile options) {
 /// The name field of the system's file dialogs.
 constexpr int fileNameField = 1148;
 
-bool isPanelOfTool(const DesktopWindow& window) {
-    const std::string name = window.className();
-    return name == "ctlSetRatioGrid" || name == "ctlSetMeasure";
-}
-
 }  // namespace
+
+bool isPanel(const DesktopWindow& window) {
+    const std::string name = window.className();
+    return (name == "ctlSetRatioGrid" || name == "ctlSetMeasure") && window.hasStyle(WS_VISIBLE);
+}
 
 std::string localised(std::string_view text) {
     wchar_t separator[8]{};
@@ -106,7 +106,7 @@ ScreenPoint PanelScene::onScreen(ScreenPoint sheet) const {
 std::vector<DesktopWindow> PanelScene::panels() const {
     std::vector<DesktopWindow> found;
     for (const DesktopWindow& window : settings().descendants()) {
-        if (isPanelOfTool(window) && window.hasStyle(WS_VISIBLE)) {
+        if (isPanel(window)) {
             found.push_back(window);
         }
     }
@@ -144,7 +144,7 @@ void PanelScene::scrollIntoView(const DesktopWindow& panel) {
 
 void PanelScene::bringIntoSight(const DesktopWindow& control) {
     HWND panel = control.handle();
-    while (panel != nullptr && !isPanelOfTool(DesktopWindow(panel))) {
+    while (panel != nullptr && !isPanel(DesktopWindow(panel))) {
         panel = GetParent(panel);
     }
     if (panel == nullptr) {
@@ -165,7 +165,7 @@ void PanelScene::bringIntoSight(const DesktopWindow& control) {
 
 DesktopWindow PanelScene::control(const DesktopWindow& panel, std::string_view name) {
     DesktopWindow found = panel.named(name);
-    if (!found.exists() && isPanelOfTool(panel)) {
+    if (!found.exists() && isPanel(panel)) {
         scrollIntoView(panel);
         waitUntil([&] { return (found = panel.named(name)).exists(); });
     }

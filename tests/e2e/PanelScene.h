@@ -29,6 +29,9 @@ class ToolSet {
     int count_ = 0;
 };
 
+/// Whether it is the panel of a tool in use.
+bool isPanel(const DesktopWindow& window);
+
 /// With the user's decimal separator for each point between two digits.
 std::string localised(std::string_view text);
 
