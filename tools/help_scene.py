@@ -21,6 +21,7 @@ POLL_SECONDS = 0.1
 # A window of the program's own, as `xwininfo -tree` lists it: its place on the screen comes last.
 WINDOW = re.compile(r'(0x[0-9a-f]+) (?:"(.*)"|\(has no name\)): \("ormala\.exe".*\)'
                     r"\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)", re.IGNORECASE)
+SHEET_TITLES = "Ormala Worksheet", "Ormala Arbeitsblatt"
 # Of the mouse: away from everything that answers to it.
 AWAY = 1270, 790
 MARK_FONT = "DejaVu-Sans-Bold"
@@ -242,11 +243,11 @@ class Ormala:
         return next((w for w in windows() if w.title and w.title.startswith(beginnings)), None)
 
     def sheet_at_rest(self):
-        """The largest window without a title, once it stays where it is."""
+        """The window that its frame, which has the same title, lies around, once it stays there."""
         seen = []
         for _ in range(3):
-            boxes = [window.box for window in windows() if not window.title]
-            seen.append(max(boxes, key=lambda box: box.width * box.height, default=None))
+            boxes = [window.box for window in windows() if window.title in SHEET_TITLES]
+            seen.append(min(boxes, key=lambda box: box.width * box.height, default=None))
             time.sleep(POLL_SECONDS)
         box = seen[-1]
         return box if box and box.height > 100 and seen.count(box) == len(seen) else None
