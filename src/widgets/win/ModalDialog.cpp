@@ -278,10 +278,20 @@ void ModalDialog::onSettingChange() {
     }
 }
 
+/// Whether the client area becomes what the design wants, with the frame that the window has now.
+bool ModalDialog::fitsDesign(const WINDOWPOS& place) const {
+    const RECT outer = rectangle();
+    const RECT client = clientRectangle();
+    const PixelSize frame{sizeOf(outer).width - sizeOf(client).width,
+                          sizeOf(outer).height - sizeOf(client).height};
+    return place.cx == frame.width + scaledLength(design_.client.width, dpi_) &&
+           place.cy == frame.height + scaledLength(design_.client.height, dpi_);
+}
+
 /// A dialog has one size. Under Wine a display may tell late of one that it had before, which would
 /// then stay.
 void ModalDialog::onPlaceChanging(WINDOWPOS& place) const {
-    if (dpi_ != 0 && (place.flags & SWP_NOSIZE) == 0) {
+    if (dpi_ != 0 && (place.flags & SWP_NOSIZE) == 0 && !fitsDesign(place)) {
         const PixelSize size = outerSize();
         place.cx = size.width;
         place.cy = size.height;

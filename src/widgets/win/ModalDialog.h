@@ -89,6 +89,7 @@ class ModalDialog : public Window {
     LRESULT onCommand(int id, int notification);
     LRESULT onNextControl(WPARAM wParam, bool isNamed);
     LRESULT onDpiChanged(UINT dpi, const RECT& suggested);
+    [[nodiscard]] bool fitsDesign(const WINDOWPOS& place) const;
     void onPlaceChanging(WINDOWPOS& place) const;
     LRESULT onTimer();
 
