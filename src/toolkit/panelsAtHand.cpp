@@ -19,7 +19,7 @@ std::vector<std::size_t> inOrder(std::span<const PanelInList> panels) {
     return order;
 }
 
-/// Marks those that can be seen, and returns what lies right above and below them.
+/// What lies right above and below those that can be seen.
 std::vector<std::size_t> neighboursOfSeen(std::span<const std::size_t> order,
                                           const std::vector<bool>& seen) {
     std::vector<std::size_t> found;

@@ -108,7 +108,7 @@ TEST_P(OptionsTexts, HaveRoomAtEveryResolution) {
         SendMessageW(dialog_.handle(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi),
                      reinterpret_cast<LPARAM>(&suggested));
         const FontHandle font = controlFont(dpi, FontLook::normal);
-        const MemoryContext context(CreateCompatibleDC(nullptr));
+        const ContextHandle context(CreateCompatibleDC(nullptr));
         const Selected selected(context.get(), font.get());
         for (const Labelled& each : labelled) {
             if (std::string_view(each.control).ends_with("Color")) {

@@ -267,6 +267,19 @@ TEST_F(Modes, WindowsComeBackWhenTheirMonitorGoesWhileTheProgramRuns) {
     EXPECT_TRUE(worksheetLiesInTheFrame());
 }
 
+TEST_F(Modes, WindowsThatSomethingPlacesAfterAChangeOfTheScreensComeBackToo) {
+    start();
+    const HWND frame = program_->resizer().handle();
+    const auto isOnAScreen = [frame] {
+        return MonitorFromWindow(frame, MONITOR_DEFAULTTONULL) != nullptr;
+    };
+    SendMessageW(settings_->handle(), WM_DISPLAYCHANGE, 32, 0);
+    SetWindowPos(frame, nullptr, 9000, 7000, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ASSERT_FALSE(isOnAScreen());
+    EXPECT_TRUE(test::waitUntil(isOnAScreen));
+    EXPECT_TRUE(worksheetLiesInTheFrame());
+}
+
 TEST_F(Modes, FullScreenWorksheetFitsTheScreenAgainAfterItsChange) {
     start();
     program_->resizer().maximise();

@@ -25,7 +25,7 @@ class ScreenSource {
               Color ground) const;
 
     /// None with several monitors.
-    MemoryContext screen_;
+    ContextHandle screen_;
     /// Screens of different sizes leave gaps.
     bool gaps_ = false;
 };

@@ -23,7 +23,7 @@ class BackBuffer {
     [[nodiscard]] PixelView view() const;
 
   private:
-    MemoryContext context_;
+    ContextHandle context_;
     BitmapHandle bitmap_;
     std::uint32_t* pixels_ = nullptr;
     PixelSize size_;

@@ -19,7 +19,7 @@ class GdiFonts : public TextMeter {
 
   private:
     int dpi_;
-    MemoryContext context_;
+    ContextHandle context_;
     mutable int size_ = 0;
     mutable FontHandle font_;
 };

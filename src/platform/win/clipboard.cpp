@@ -55,7 +55,7 @@ GlobalMemory pictureOfScreen(const RECT& area) {
     const SIZE size{area.right - area.left, area.bottom - area.top};
     const WindowContext screen(nullptr);
     const BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), size.cx, size.cy));
-    const MemoryContext memory(CreateCompatibleDC(screen.get()));
+    const ContextHandle memory(CreateCompatibleDC(screen.get()));
     if (!bitmap || !memory) {
         return {};
     }

@@ -51,7 +51,7 @@ using BrushHandle = Handle<HBRUSH, &DeleteObject>;
 using FontHandle = Handle<HFONT, &DeleteObject>;
 using BitmapHandle = Handle<HBITMAP, &DeleteObject>;
 using RegionHandle = Handle<HRGN, &DeleteObject>;
-using MemoryContext = Handle<HDC, &DeleteDC>;
+using ContextHandle = Handle<HDC, &DeleteDC>;
 using HookHandle = Handle<HHOOK, &UnhookWindowsHookEx>;
 
 /// Selects an object into a device context for its lifetime.

@@ -15,7 +15,7 @@ inline constexpr UINT_PTR tmrNote = 4;
 /// While panels are made ready that may be seen next.
 inline constexpr UINT_PTR tmrSupply = 5;
 /// While another program holds the clipboard, and a text is to be put on it.
-inline constexpr UINT_PTR tmrCopy = 8;
+inline constexpr UINT_PTR tmrCopy = 6;
 
 /// Above those of the toolbar.
 inline constexpr int idList = 200;

@@ -1,9 +1,11 @@
 #include "app/win/tools/PanelFocus.h"
-#include "platform/win/monitors.h"
-#include "widgets/win/tabStops.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
+
+#include "platform/win/monitors.h"
+#include "widgets/win/tabStops.h"
 
 namespace ormala {
 
