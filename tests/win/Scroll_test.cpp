@@ -360,6 +360,7 @@ TEST_F(ScrollTest, HandlerMayDestroyTheBar) {
 }
 
 TEST_F(ScrollTest, BarGoesWithItsParentAndLeavesNoName) {
+    removeControlName(bar_->handle());
     setControlName(bar_->handle(), "scrNamedOnlyHere");
     EXPECT_NE(GlobalFindAtomW(L"scrNamedOnlyHere"), 0);
     SetFocus(part("cmdBR"));

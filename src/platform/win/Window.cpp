@@ -27,6 +27,12 @@ To castBits(From value) {
     return reinterpret_cast<To>(value);
 }
 
+HICON ownIcon(int widthMetric, int heightMetric) {
+    return static_cast<HICON>(LoadImageW(module(), MAKEINTRESOURCEW(1), IMAGE_ICON,
+                                         GetSystemMetrics(widthMetric),
+                                         GetSystemMetrics(heightMetric), LR_SHARED));
+}
+
 void registerClass(const WindowDesign& design, WNDPROC procedure) {
     WNDCLASSEXW existing{};
     existing.cbSize = sizeof existing;
@@ -38,10 +44,20 @@ void registerClass(const WindowDesign& design, WNDPROC procedure) {
     made.style = design.classStyle;
     made.lpfnWndProc = procedure;
     made.hInstance = module();
-    made.hIcon = LoadIconW(module(), MAKEINTRESOURCEW(1));
+    if ((design.style & WS_SYSMENU) != 0) {
+        // Both, since the system would make the small one of the other for each class anew.
+        made.hIcon = ownIcon(SM_CXICON, SM_CYICON);
+        made.hIconSm = ownIcon(SM_CXSMICON, SM_CYSMICON);
+    }
     made.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     made.lpszClassName = design.className;
     RegisterClassExW(&made);
+}
+
+bool isFrameless(const WindowDesign& design) {
+    constexpr DWORD frames = WS_BORDER | WS_DLGFRAME | WS_THICKFRAME | WS_HSCROLL | WS_VSCROLL;
+    constexpr DWORD edges = WS_EX_CLIENTEDGE | WS_EX_STATICEDGE | WS_EX_WINDOWEDGE;
+    return (design.style & frames) == 0 && (design.extendedStyle & edges) == 0;
 }
 
 /// What a finger does on the window comes as a mouse, and not as panning, zooming or turning.
@@ -74,6 +90,7 @@ bool endsCapture(HWND window, WPARAM held) {
 void Window::create(const WindowDesign& design) {
     registerClass(design, &Window::dispatch);
     takesTouchAtOnce_ = design.takesTouchAtOnce;
+    frameless_ = isFrameless(design);
     const RECT& place = design.place;
     CreateWindowExW(design.extendedStyle, design.className, L"", design.style, place.left,
                     place.top, place.right - place.left, place.bottom - place.top, design.owner,
@@ -130,6 +147,10 @@ LRESULT CALLBACK Window::dispatch(HWND handle, UINT message, WPARAM wParam, LPAR
             window = castBits<Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
         }
         if (window == nullptr || OwnQuestion::isForged(message, lParam)) {
+            return 0;
+        }
+        if (message == WM_NCPAINT && window->frameless_) {
+            // For the default handling the system gets a context, only to paint nothing.
             return 0;
         }
         if (message == WM_TABLET_QUERYSYSTEMGESTURESTATUS && window->takesTouchAtOnce_) {

@@ -63,6 +63,7 @@ class Window {
 
     HWND handle_ = nullptr;
     bool takesTouchAtOnce_ = false;
+    bool frameless_ = false;
 };
 
 constexpr bool isMouseMessage(UINT message) {

@@ -17,7 +17,6 @@ ATOM atomOf(HANDLE property) {
 }  // namespace
 
 void setControlName(HWND window, std::string_view name) {
-    removeControlName(window);
     const std::uintptr_t atom = GlobalAddAtomW(wide(name).c_str());
     SetPropW(window, nameProperty, reinterpret_cast<HANDLE>(atom));
 }

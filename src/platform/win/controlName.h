@@ -7,9 +7,9 @@
 
 namespace ormala {
 
-/// Gives a control its own name, such as "scrInner" or "cmdMove(3)", by which automation tools and
-/// tests find it: the window property `Name`, whose value is a global atom. `Window` takes it back
-/// at the end.
+/// Gives a control without a name its own one, such as "scrInner" or "cmdMove(3)", by which
+/// automation tools and tests find it: the window property `Name`, whose value is a global atom.
+/// `Window` takes it back at the end.
 void setControlName(HWND window, std::string_view name);
 
 /// Empty for a window without a name.

@@ -4,11 +4,6 @@ namespace ormala {
 
 namespace {
 
-int metricOr(int index, int fallback) {
-    const int value = GetSystemMetrics(SM_CMONITORS) == 0 ? 0 : GetSystemMetrics(index);
-    return value != 0 ? value : fallback;
-}
-
 MONITORINFO factsOf(HMONITOR handle) {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
@@ -19,10 +14,16 @@ MONITORINFO factsOf(HMONITOR handle) {
 }  // namespace
 
 RECT virtualScreen() {
-    const LONG left = metricOr(SM_XVIRTUALSCREEN, 0);
-    const LONG top = metricOr(SM_YVIRTUALSCREEN, 0);
-    return {left, top, left + metricOr(SM_CXVIRTUALSCREEN, GetSystemMetrics(SM_CXSCREEN)),
-            top + metricOr(SM_CYVIRTUALSCREEN, GetSystemMetrics(SM_CYSCREEN))};
+    if (GetSystemMetrics(SM_CMONITORS) != 0) {
+        const LONG width = GetSystemMetrics(SM_CXVIRTUALSCREEN);
+        const LONG height = GetSystemMetrics(SM_CYVIRTUALSCREEN);
+        if (width != 0 && height != 0) {
+            const LONG left = GetSystemMetrics(SM_XVIRTUALSCREEN);
+            const LONG top = GetSystemMetrics(SM_YVIRTUALSCREEN);
+            return {left, top, left + width, top + height};
+        }
+    }
+    return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
 }
 
 MONITORINFO monitorAround(HWND window) {

@@ -89,6 +89,7 @@ void frmPatternSelect::makeControls() {
         makeTab(tab);
     }
     PatternSelect_ = std::make_unique<ctlPatternSelect>(handle(), idPatternSelect, choice_->page());
+    removeControlName(PatternSelect_->handle());
     setControlName(PatternSelect_->handle(), "PatternSelect");
     startGroup(PatternSelect_->handle());
     constexpr DWORD labelStyle = SS_LEFT | SS_NOPREFIX | WS_GROUP;

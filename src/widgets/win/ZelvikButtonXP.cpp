@@ -107,6 +107,10 @@ bool ZelvikButtonXP::pressAccessKey(wchar_t key) {
 
 void ZelvikButtonXP::applyShape() {
     refresh();
+    if (size() == PixelSize{}) {
+        // While the button is designed, before it has its place.
+        return;
+    }
     const RoundedBox shape = buttonShape(design_, size(), dpi());
     if (shape == shape_) {
         return;
