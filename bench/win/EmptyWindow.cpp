@@ -19,7 +19,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     made.lpfnWndProc = &onMessage;
     made.hInstance = instance;
     made.lpszClassName = L"EmptyWindow";
-    made.hbrBackground = static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH));
+    made.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
     RegisterClassW(&made);
     const HWND window = CreateWindowW(made.lpszClassName, L"", WS_OVERLAPPEDWINDOW, 0, 0, 1920,
                                       1040, nullptr, nullptr, instance, nullptr);

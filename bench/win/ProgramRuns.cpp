@@ -1,7 +1,8 @@
 #include <windows.h>
 
-#include <cstdio>
 #include <filesystem>
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include "benchmarks.h"
 #include "e2e/support/AppDataFolder.h"
 #include "support/win/ChildProcess.h"
+#include "support/win/Screen.h"
 #include "support/win/Wait.h"
 
 namespace ormala::bench {
@@ -33,55 +35,90 @@ HWND mainWindow(DWORD process, const wchar_t* className) {
     return nullptr;
 }
 
-/// From the start to the property that both programs set when their window is painted.
-double startTime(const std::filesystem::path& program, const wchar_t* className) {
-    double time = 0;
+bool isReady(const test::ChildProcess& child, const wchar_t* className) {
+    const HWND window = mainWindow(child.id(), className);
+    return window != nullptr && GetPropW(window, L"Ready") != nullptr;
+}
+
+/// More often than `waitUntil` asks.
+void watchFor(const std::function<bool()>& effect) {
     const auto began = GetTickCount64();
-    LARGE_INTEGER frequency{};
-    LARGE_INTEGER start{};
-    LARGE_INTEGER end{};
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&start);
-    test::ChildProcess child(program);
-    HWND window = nullptr;
-    while (GetTickCount64() - began < 20000) {
-        window = mainWindow(child.id(), className);
-        if (window != nullptr && GetPropW(window, L"Ready") != nullptr) {
-            break;
-        }
+    while (!effect() && GetTickCount64() - began < 20000) {
         Sleep(1);
     }
-    QueryPerformanceCounter(&end);
-    time = 1000.0 * static_cast<double>(end.QuadPart - start.QuadPart) /
-           static_cast<double>(frequency.QuadPart);
-    PostMessageW(window, WM_CLOSE, 0, 0);
+}
+
+/// A program that shows a window, by the class that is ready last.
+struct Started {
+    std::filesystem::path program;
+    const wchar_t* className;
+};
+
+struct StartTimes {
+    double painted = 0;
+    double ready = 0;
+};
+
+/// In the worksheet of a first start, and in the window of the empty program, beside all tools.
+constexpr test::ScreenPoint spot{400, 600};
+
+/// The colour of the spot when all has come to rest.
+test::Color paintedColor(const Started& started) {
+    const test::Color ground = test::screen::pixel(spot);
+    test::ChildProcess child(started.program);
+    test::waitUntil([&] { return isReady(child, started.className); });
+    const test::Color color =
+        test::screen::waitUntilStill({spot.x, spot.y, spot.x + 1, spot.y + 1}).at(spot);
+    PostMessageW(mainWindow(child.id(), started.className), WM_CLOSE, 0, 0);
     child.waitForExit();
-    return time;
+    test::waitUntil([&] { return test::screen::pixel(spot) == ground; });
+    return color;
+}
+
+/// In milliseconds, to the pixel on the screen and to the property that both programs set.
+StartTimes startTimes(const Started& started, test::Color color) {
+    const test::Color ground = test::screen::pixel(spot);
+    StartTimes times;
+    std::optional<test::ChildProcess> child;
+    times.painted = elapsed([&] {
+        child.emplace(started.program);
+        watchFor([&] { return test::screen::pixel(spot) == color; });
+    });
+    times.ready = times.painted +
+                  elapsed([&] { watchFor([&] { return isReady(*child, started.className); }); });
+    PostMessageW(mainWindow(child->id(), started.className), WM_CLOSE, 0, 0);
+    child->waitForExit();
+    test::waitUntil([&] { return test::screen::pixel(spot) == ground; });
+    return times;
 }
 
 }  // namespace
 
 void start() {
     const test::AppDataFolder folder;
-    const auto ormala = ownFolder() / "../../Ormala.exe";
-    const auto empty = ownFolder() / "empty_window.exe";
-    std::vector<double> program;
+    const Started ormala{ownFolder() / "../../Ormala.exe", L"frmSettings"};
+    const Started empty{ownFolder() / "empty_window.exe", L"EmptyWindow"};
+    const test::Color worksheet = paintedColor(ormala);
+    const test::Color gray = paintedColor(empty);
+    std::vector<double> painted;
+    std::vector<double> ready;
     std::vector<double> bare;
     for (int i = 0; i < 11; ++i) {
-        program.push_back(startTime(ormala, L"frmSettings"));
-        bare.push_back(startTime(empty, L"EmptyWindow"));
+        const StartTimes times = startTimes(ormala, worksheet);
+        painted.push_back(times.painted);
+        ready.push_back(times.ready);
+        bare.push_back(startTimes(empty, gray).painted);
     }
-    report("start to the painted worksheet", median(program), "ms",
+    report("start to the painted worksheet", median(painted), "ms",
            limitOf(bare, "an empty window program", 2));
+    report("start until the control window has come too", median(ready), "ms",
+           limitOf(bare, "an empty window program", 3));
 }
 
 void idle() {
     const test::AppDataFolder folder;
     test::ChildProcess child(ownFolder() / "../../Ormala.exe");
-    test::waitUntil([&] {
-        const HWND window = mainWindow(child.id(), L"frmSettings");
-        return window != nullptr && GetPropW(window, L"Ready") != nullptr;
-    });
+    test::waitUntil([&] { return isReady(child, L"frmSettings"); });
     Sleep(1000);
     constexpr int seconds = 30;
     const auto before = child.processorTime();

@@ -166,9 +166,11 @@ DesktopWindow lineOf(PanelScene& scene, std::string_view name) {
 void expectCrossHair(PanelScene& scene, ScreenPoint cursor, bool along, bool down) {
     scene.mouse.moveTo(cursor);
     const ScreenRect sheet = scene.worksheet().rect();
-    const DesktopWindow x = lineOf(scene, "CrossHairX");
-    const DesktopWindow y = lineOf(scene, "CrossHairY");
+    DesktopWindow x;
+    DesktopWindow y;
     EXPECT_TRUE(waitUntil([&] {
+        x = lineOf(scene, "CrossHairX");
+        y = lineOf(scene, "CrossHairY");
         return x.rect() == ScreenRect{sheet.left, cursor.y, sheet.right, cursor.y + 1} &&
                y.rect() == ScreenRect{cursor.x, sheet.top, cursor.x + 1, sheet.bottom} &&
                x.isVisible() == along && y.isVisible() == down;

@@ -37,6 +37,8 @@ class frmCrossHairTest : public testing::Test {
     void enable(bool enabled) {
         test_.aids.crossHair = enabled;
         worksheet_.aidsChanged();
+        x_ = crossHairOf(worksheet_.handle(), "CrossHairX");
+        y_ = crossHairOf(worksheet_.handle(), "CrossHairY");
     }
     static void moveCursor(int x, int y) {
         EXPECT_TRUE(test::waitUntil([&] {
@@ -55,15 +57,18 @@ class frmCrossHairTest : public testing::Test {
     TestSheet test_{{640, 480}};
     frmWorksheet& worksheet_ = test_.window();
     const PixelRect sheet_ = placeOf(worksheet_.handle());
-    const HWND x_ = crossHairOf(worksheet_.handle(), "CrossHairX");
-    const HWND y_ = crossHairOf(worksheet_.handle(), "CrossHairY");
+    /// Made when they are first enabled.
+    HWND x_ = nullptr;
+    HWND y_ = nullptr;
 };
 
 TEST_F(frmCrossHairTest, HasTwoLinesThatStayHiddenUntilTheyAreEnabled) {
-    ASSERT_NE(x_, nullptr);
-    ASSERT_NE(y_, nullptr);
+    enable(false);
     EXPECT_FALSE(visible(x_));
     EXPECT_FALSE(visible(y_));
+    enable(true);
+    EXPECT_TRUE(visible(x_));
+    EXPECT_TRUE(visible(y_));
 }
 
 TEST_F(frmCrossHairTest, NeverTakesAClickAndIsFaintAndTopmost) {

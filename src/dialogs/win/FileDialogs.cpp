@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "language/MlStringModule.h"
+#include "platform/win/SystemLibrary.h"
 #include "platform/win/text.h"
 #include "storage/modStorage.h"
 
@@ -16,6 +17,14 @@ namespace {
 
 /// As long as any path can be, in characters.
 constexpr DWORD longestPath = 32768;
+
+/// Loaded with the first dialog, since it takes much of the system along.
+bool pick(OPENFILENAMEW& record, bool forSaving) {
+    static const SystemLibrary dialogs(L"comdlg32.dll");
+    auto* const ask = forSaving ? dialogs.function<decltype(GetSaveFileNameW)>("GetSaveFileNameW")
+                                : dialogs.function<decltype(GetOpenFileNameW)>("GetOpenFileNameW");
+    return ask != nullptr && ask(&record) != FALSE;
+}
 
 std::wstring currentFolder() {
     std::wstring folder(GetCurrentDirectoryW(0, nullptr), L'\0');
@@ -57,8 +66,7 @@ std::string PickToolsFile(HWND owner, bool forSaving) {
     record.lpstrDefExt = L"OM";
     record.Flags =
         OFN_LONGNAMES | OFN_HIDEREADONLY | (forSaving ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST);
-    const BOOL picked = forSaving ? GetSaveFileNameW(&record) : GetOpenFileNameW(&record);
-    std::string name = picked != FALSE ? narrow(file) : std::string();
+    std::string name = pick(record, forSaving) ? narrow(file) : std::string();
     CutAtNull(name);
     return name;
 }

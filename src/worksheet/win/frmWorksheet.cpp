@@ -64,11 +64,8 @@ frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
     keepFromFullScreenMode(handle());
     takeNoInputMethod(handle());
     takeDpi(GetDpiForWindow(handle()));
-    tip_ = std::make_unique<TipWindow>(handle());
-    CrossHairX_ = std::make_unique<frmCrossHair>(handle(), "CrossHairX");
-    CrossHairY_ = std::make_unique<frmCrossHair>(handle(), "CrossHairY");
     languageChanged_ = GetLanguageSupport().LanguageChange.subscribe([this] {
-        tip_->setText(sheetTip_.text());
+        tip_.setText(sheetTip_.text());
         tellScreenReaders();
     });
 }
@@ -76,7 +73,7 @@ frmWorksheet::frmWorksheet(ToolFactory& factory, ForegroundMemory& foreground,
 frmWorksheet::~frmWorksheet() {
     CrossHairX_.reset();
     CrossHairY_.reset();
-    tip_.reset();
+    tip_ = {};
     forgetFullScreenMode(handle());
     destroy();
 }
@@ -160,6 +157,9 @@ void frmWorksheet::show() {
         // The screen may have changed while the window was hidden.
         setMaxSized(true);
     }
+    // Much may follow before the queue is empty and the screen would get it by itself.
+    paintNow();
+    GdiFlush();
 }
 
 void frmWorksheet::setShown(bool shown) {
@@ -235,7 +235,7 @@ LRESULT frmWorksheet::paintNow() {
 
 void frmWorksheet::showTip(const OverlayItem& item, TipId tip) {
     if (sheetTip_.show(item, tip)) {
-        tip_->setText(sheetTip_.text());
+        tip_.setText(sheetTip_.text());
     }
 }
 
@@ -264,12 +264,19 @@ void frmWorksheet::movePointer(PixelPoint by) {
 }
 
 void frmWorksheet::showCrossHair(const CrossHairLine& along, const CrossHairLine& down) {
+    if (!CrossHairX_) {
+        if (!along.shown && !down.shown) {
+            return;
+        }
+        CrossHairX_ = std::make_unique<frmCrossHair>(handle(), "CrossHairX");
+        CrossHairY_ = std::make_unique<frmCrossHair>(handle(), "CrossHairY");
+    }
     CrossHairX_->move(along);
     CrossHairY_->move(down);
 }
 
 void frmWorksheet::raiseWorksheet(bool crossHair) {
-    raiseWithoutActivating(crossHair ? CrossHairX_->handle() : handle());
+    raiseWithoutActivating(crossHair && CrossHairX_ ? CrossHairX_->handle() : handle());
 }
 
 void frmWorksheet::raiseControlWindow() {

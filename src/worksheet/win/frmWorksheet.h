@@ -157,9 +157,9 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     SheetPainter painter_;
     std::optional<SheetLayers> layers_;
     SheetTip sheetTip_;
-    std::unique_ptr<TipWindow> tip_;
+    HoverTip tip_;
     Subscription languageChanged_;
-    /// The line along the worksheet, and the one down it.
+    /// The line along the worksheet, and the one down it; made when they are first shown.
     std::unique_ptr<frmCrossHair> CrossHairX_;
     std::unique_ptr<frmCrossHair> CrossHairY_;
     Transparency transparency_;

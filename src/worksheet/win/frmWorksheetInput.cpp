@@ -123,7 +123,7 @@ std::optional<LRESULT> frmWorksheet::onPlaceMessage(UINT message, WPARAM wParam)
 }
 
 LRESULT frmWorksheet::onPress(int button, WPARAM wParam, LPARAM lParam) {
-    tip_->relay(WM_LBUTTONDOWN, wParam, lParam);
+    tip_.relay(handle(), WM_LBUTTONDOWN, wParam, lParam);
     if (GetFocus() != handle()) {
         SetFocus(handle());
     }
@@ -137,7 +137,7 @@ LRESULT frmWorksheet::onPress(int button, WPARAM wParam, LPARAM lParam) {
 
 LRESULT frmWorksheet::onMove(WPARAM wParam, LPARAM lParam) {
     mouse_.move(mouseInput(heldButtons(wParam), wParam, lParam));
-    tip_->relay(WM_MOUSEMOVE, wParam, lParam);
+    tip_.relay(handle(), WM_MOUSEMOVE, wParam, lParam);
     keepTime();
     return paintNow();
 }

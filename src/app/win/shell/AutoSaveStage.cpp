@@ -17,7 +17,6 @@ AutoSaveStage::AutoSaveStage(const Parts& parts) : parts_(parts) {
     changes(parts_.state.changed);
     changes(parts_.settings.placed);
     changes(parts_.resizer.worksheetPlaced);
-    changes(parts_.view.lens().lens().placed);
     ends(parts_.modes.switched);
     ends(parts_.settings.screenLock().locked);
     ends(parts_.settings.screenLock().suspended);
@@ -25,6 +24,8 @@ AutoSaveStage::AutoSaveStage(const Parts& parts) : parts_(parts) {
 }
 
 void AutoSaveStage::begin() {
+    subscriptions_.push_back(
+        parts_.view.lens().lens().placed.subscribe([this] { autoSave_.changed(); }));
     parts_.options.noteAsSaved(keptOptions());
     autoSave_.begin();
 }

@@ -66,7 +66,7 @@ void ModeStage::layOutAnew() {
 
 void ModeStage::showMode(Mode mode, bool minimise) {
     windows_.settings.showMode();
-    windows_.view.lens().lens().SetMode(mode);
+    windows_.view.showMode(mode);
     if (minimise) {
         ShowWindow(windows_.settings.handle(), SW_MINIMIZE);
     }

@@ -74,8 +74,6 @@ void Program::makeWindows() {
     resizer_ = std::make_unique<frmResizer>(*worksheet_, *this);
     view_ = std::make_unique<ViewPane>(ViewPane::Ports{
         *settings_, *worksheet_, *resizer_, state_, [this](Command command) { execute(command); }});
-    frmLens& lens = view_->lens().lens();
-    optionsKeeper_.restorePlace(lens.handle(), lens.acrossDpi(), formSection::lens, false);
     tools_ = std::make_unique<ToolsPane>(ToolsPane::Ports{*settings_, *worksheet_, *view_, state_,
                                                           focus_, ratios_, store_, codePage_,
                                                           globalEvents_});
@@ -86,7 +84,6 @@ void Program::makeWindows() {
     modes_ = std::make_unique<ModeSwitch>(*stage_, state_);
     autoSave_ = std::make_unique<AutoSaveStage>(AutoSaveStage::Parts{
         *settings_, *resizer_, *view_, *tools_, state_, *modes_, optionsKeeper_});
-    parts_ = partsOfProgram(*settings_, *tools_, *worksheet_, *resizer_, view_->lens().lens());
     wheelHook_ = std::make_unique<MouseWheelHook>([this](int notches) {
         // Later, when what the hook sees is out of the queue, and only what follows it waits there.
         settings_->later([this, notches] { tools_->Scroll(notches); });
@@ -98,7 +95,7 @@ void Program::listen() {
         subscriptions_.push_back(std::move(subscription));
     };
     keep(settings_->chosen.subscribe([this](Command command) { execute(command); }));
-    keep(settings_->orderChanged.subscribe([this] { view_->lens().raise(true); }));
+    keep(settings_->orderChanged.subscribe([this] { view_->raiseLens(true); }));
     keep(settings_->displayChanged.subscribe([this] {
         constexpr unsigned untilAllIsPlaced = 1000;
         bringAllOntoScreens();
@@ -134,8 +131,17 @@ void Program::restoreLook(bool anotherRuns) {
     state_.setMode(Mode::edit);
     modes_->SetMode(first, false);
     settings_->size().restoreEditModeHeight(state_.options().editModeFormHeight);
-    view_->lens().setAside(false);
+    // What lies beside the worksheet could wait until that is painted.
+    makeLens();
     GetLanguageSupport().ChangeLanguage(CurrentLanguage());
+}
+
+void Program::makeLens() {
+    LensPane& pane = view_->lens();
+    frmLens& lens = pane.lens();
+    optionsKeeper_.restorePlace(lens.handle(), lens.acrossDpi(), formSection::lens, false);
+    parts_ = partsOfProgram(*settings_, *tools_, *worksheet_, *resizer_, lens);
+    pane.setAside(false);
 }
 
 void Program::RefreshRuntimeStrings() {

@@ -49,7 +49,7 @@ class Program : public WorksheetCommands, private ProgramEnding {
   private:
     bool takeKey(int key, int modifiers) override;
     void raiseControlWindowAt(POINT screen) override;
-    bool raiseLens(bool onlySticked) override { return view_ && view_->lens().raise(onlySticked); }
+    bool raiseLens(bool onlySticked) override { return view_ && view_->raiseLens(onlySticked); }
     void ShowContextMenu(POINT screen) override { view_->ShowContextMenu(screen); }
     void closeProgram() override;
 
@@ -64,6 +64,7 @@ class Program : public WorksheetCommands, private ProgramEnding {
     void makeWindows();
     void listen();
     void restoreLook(bool anotherRuns);
+    void makeLens();
     void RefreshRuntimeStrings();
     void bringAllOntoScreens();
     void ShowHelp();

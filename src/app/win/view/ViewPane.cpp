@@ -20,8 +20,6 @@ namespace ormala {
 
 ViewPane::ViewPane(const Ports& ports)
     : ports_(ports),
-      lens_({ports.worksheet, ports.state, ports.execute,
-             [this](PixelPoint screen) { askForLensMenu(screen); }}),
       shot_(ports.window.handle(), tmrClipboard),
       copied_(ports.window.handle(), tmrCopy) {
     const auto keep = [this](Subscription subscription) {
@@ -70,7 +68,34 @@ void ViewPane::showState() {
         // In template mode it is the key, and waits for the next change to edit mode.
         ports_.worksheet.setBackground(colorRef(options.worksheetColor));
     }
-    lens_.showState();
+    tellLens([](LensPane& pane) { pane.showState(); });
+}
+
+void ViewPane::tellLens(const std::function<void(LensPane&)>& tell) {
+    if (lens_) {
+        tell(*lens_);
+    }
+}
+
+LensPane& ViewPane::lens() {
+    return lens_ ? *lens_ : makeLens();
+}
+
+LensPane& ViewPane::makeLens() {
+    LensPane& made =
+        lens_.emplace(LensPane::Ports{ports_.worksheet, ports_.state, ports_.execute,
+                                      [this](PixelPoint screen) { askForLensMenu(screen); }});
+    made.showState();
+    made.lens().SetMode(ports_.state.options().mode);
+    return made;
+}
+
+void ViewPane::showMode(Mode mode) {
+    tellLens([mode](LensPane& pane) { pane.lens().SetMode(mode); });
+}
+
+bool ViewPane::raiseLens(bool onlySticked) {
+    return lens_ && lens_->raise(onlySticked);
 }
 
 bool ViewPane::execute(Command command) {
@@ -79,7 +104,7 @@ bool ViewPane::execute(Command command) {
         {Command::worksheetMaximised, [](ViewPane& self) { self.ports_.resizer.maximise(); }},
         {Command::worksheetMenu, [](ViewPane& self) { self.ports_.worksheet.ShowContextMenu(); }},
         {Command::copyColor, [](ViewPane& self) { self.copyColor(); }},
-        {Command::lensMenu, [](ViewPane& self) { self.lens_.lens().showMenuAtOrigin(); }},
+        {Command::lensMenu, [](ViewPane& self) { self.lens().lens().showMenuAtOrigin(); }},
     }};
     if (const auto page = optionsPageOf(command)) {
         ShowOptions(*page);
@@ -90,12 +115,12 @@ bool ViewPane::execute(Command command) {
 
 void ViewPane::takeScreenShot() {
     takesScreenShot_ = true;
-    lens_.setAside(true);
+    lens().setAside(true);
     ports_.worksheet.setAidsAside(true);
     ports_.window.bar().showNote({});
     shot_.take(ports_.worksheet);
     takesScreenShot_ = false;
-    lens_.setAside(false);
+    lens().setAside(false);
     ports_.worksheet.setAidsAside(false);
 }
 
@@ -122,7 +147,7 @@ void ViewPane::onTimer(UINT_PTR timer) {
 }
 
 void ViewPane::copyColor() {
-    if (const auto pixel = lens_.lens().pixelUnderHotSpot()) {
+    if (const auto pixel = lens().lens().pixelUnderHotSpot()) {
         copy(copyOfColor(pixel->color));
     }
 }
@@ -137,7 +162,7 @@ void ViewPane::ShowContextMenu(POINT screen) {
 
 void ViewPane::askForLensMenu(PixelPoint screen) {
     ports_.window.later([this, place = POINT{screen.x, screen.y}] {
-        popUpMenu(frmMenu_.mnuLens(), lens_.lens(), place);
+        popUpMenu(frmMenu_.mnuLens(), lens().lens(), place);
     });
 }
 
@@ -198,7 +223,7 @@ bool ViewPane::ShowHelp() {
 
 void ViewPane::raiseAboveAll() {
     ports_.window.raise();
-    lens_.raise(true);
+    raiseLens(true);
 }
 
 void ViewPane::putWindowsAside(bool aside) {
@@ -211,7 +236,7 @@ void ViewPane::putWindowsAside(bool aside) {
         ports_.resizer.show();
     }
     // In front of the frame, where it was.
-    lens_.setAside(aside);
+    lens().setAside(aside);
 }
 
 }  // namespace ormala

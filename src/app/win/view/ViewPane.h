@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "app/ViewState.h"
 #include "app/win/shell/frmSettings.h"
@@ -38,6 +39,8 @@ class ViewPane : public OptionsPort {
 
     /// Brings the state to all that show it.
     void showState();
+    /// The mode is another one.
+    void showMode(Mode mode);
     /// A command of the view; false for any other one.
     bool execute(Command command);
     /// Opens the worksheet's menu once the event is over that asks for it.
@@ -62,7 +65,10 @@ class ViewPane : public OptionsPort {
     /// For that moment the view is not what the user has made it, and takes no command.
     [[nodiscard]] bool takesScreenShot() const { return takesScreenShot_; }
 
-    [[nodiscard]] LensPane& lens() { return lens_; }
+    /// Made at the first call, which the start leaves until the worksheet is painted.
+    [[nodiscard]] LensPane& lens();
+    /// As that of the magnifier, if it is made.
+    bool raiseLens(bool onlySticked);
     [[nodiscard]] frmMenu& menu() { return frmMenu_; }
 
     /// The user has closed the options dialog with OK, and everything has been set.
@@ -71,6 +77,9 @@ class ViewPane : public OptionsPort {
     Event<> languageChanged;
 
   private:
+    LensPane& makeLens();
+    /// If it is made.
+    void tellLens(const std::function<void(LensPane&)>& tell);
     void changeLanguage(int language);
 
     void loadLook();
@@ -84,7 +93,7 @@ class ViewPane : public OptionsPort {
 
     Ports ports_;
     frmMenu frmMenu_;
-    LensPane lens_;
+    std::optional<LensPane> lens_;
     std::unique_ptr<frmOptions> frmOptions_;
     ScreenShot shot_;
     CopiedText copied_;
