@@ -7,11 +7,16 @@
 #include <vector>
 
 #include "Figures.h"
+#include "QuietToolList.h"
+#include "app/ToolFile.h"
 #include "benchmarks.h"
 #include "e2e/support/AppDataFolder.h"
+#include "storage/win/WindowsCodePage.h"
+#include "storage/win/WindowsFileStore.h"
 #include "support/win/ChildProcess.h"
 #include "support/win/Screen.h"
 #include "support/win/Wait.h"
+#include "support/win/WideText.h"
 
 namespace ormala::bench {
 
@@ -113,6 +118,48 @@ void start() {
            limitOf(bare, "an empty window program", 2));
     report("start until the control window has come too", median(ready), "ms",
            limitOf(bare, "an empty window program", 3));
+}
+
+namespace {
+
+/// For the next start.
+void leaveTools(const std::filesystem::path& path, ToolKind kind, int count) {
+    std::filesystem::create_directories(path.parent_path());
+    QuietToolList tools;
+    WindowsFileStore store;
+    const WindowsCodePage codePage;
+    MemoryMessagePresenter messages;
+    INIFile file(store, codePage, messages);
+    ToolFile toolFile({file, store, tools.list, tools.view}, {"", [] { return std::string(); }});
+    file.setPath(test::narrow(path.wstring()));
+    tools.list.RemoveAllTools();
+    tools.add(kind, count);
+    toolFile.save();
+}
+
+}  // namespace
+
+void memory() {
+    constexpr int count = 33;
+    constexpr double megabyte = 1 << 20;
+    const test::AppDataFolder folder;
+    leaveTools(folder.toolsFile(), ToolKind::stencil, count);
+    test::ChildProcess child(ownFolder() / "../../Ormala.exe");
+    test::waitUntil([&] { return isReady(child, L"frmSettings"); });
+    PostMessageW(mainWindow(child.id(), L"frmResizer"), WM_SYSCOMMAND, SC_MAXIMIZE, 0);
+    const HWND worksheet = mainWindow(child.id(), L"frmWorksheet");
+    RECT place{};
+    test::waitUntil([&] {
+        GetWindowRect(worksheet, &place);
+        return place.right - place.left == GetSystemMetrics(SM_CXSCREEN);
+    });
+    test::screen::waitUntilStill(test::screen::primaryMonitor());
+    const double bitmaps = 2.0 * 4 * (place.right - place.left) * (place.bottom - place.top);
+    report("private memory with 33 stencils beside two bitmaps",
+           (static_cast<double>(child.privateBytes()) - bitmaps) / megabyte, "MB",
+           {25, "what was promised", 1});
+    PostMessageW(mainWindow(child.id(), L"frmSettings"), WM_CLOSE, 0, 0);
+    child.waitForExit();
 }
 
 void idle() {

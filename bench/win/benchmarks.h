@@ -34,6 +34,9 @@ void flood();
 
 /// From the start of the program to its painted worksheet.
 void start();
+/// Private memory of the program with as many tools as it takes, on a worksheet that fills the
+/// screen.
+void memory();
 
 /// Processor time with 33 panels while nothing happens.
 void idlePanels();

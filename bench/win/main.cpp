@@ -40,6 +40,9 @@ int main(int argc, char** argv) {
     if (wanted("start")) {
         bench::start();
     }
+    if (wanted("memory")) {
+        bench::memory();
+    }
     if (wanted("idle")) {
         bench::idlePanels();
         bench::idle();

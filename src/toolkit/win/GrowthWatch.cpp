@@ -12,7 +12,7 @@ namespace {
 
 /// Milliseconds between two looks.
 constexpr UINT nearInterval = 44;
-constexpr UINT farInterval = 200;
+constexpr UINT farInterval = 500;
 
 }  // namespace
 
