@@ -85,8 +85,6 @@ function(ormala_windows_library folder)
   cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LINK")
   list(TRANSFORM ARG_SOURCES PREPEND "win/")
   add_library(${folder}_win STATIC ${ARG_SOURCES})
-  # Windows have names of their own for their parts, which would meet in one source.
-  set_target_properties(${folder}_win PROPERTIES UNITY_BUILD OFF)
   if(CMAKE_UNITY_BUILD)
     if(TARGET base_win AND NOT folder STREQUAL "base")
       target_precompile_headers(${folder}_win REUSE_FROM base_win)

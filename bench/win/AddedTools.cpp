@@ -9,14 +9,14 @@ namespace ormala::bench {
 
 namespace {
 
-constexpr int runs = 100;
+constexpr int addedRuns = 100;
 
-void measure(ToolKind kind, const std::string& what) {
+void measureAdding(ToolKind kind, const std::string& what) {
     constexpr int toolsAtStart = 2;
     constexpr int toolsBeforeLast = 32;
     std::vector<double> firsts;
     std::vector<double> lasts;
-    for (int i = 0; i < runs; ++i) {
+    for (int i = 0; i < addedRuns; ++i) {
         QuietToolList tools;
         firsts.push_back(elapsed([&] { tools.add(kind, 1); }));
         tools.add(kind, toolsBeforeLast - 1 - toolsAtStart);
@@ -29,8 +29,8 @@ void measure(ToolKind kind, const std::string& what) {
 }  // namespace
 
 void addedTools() {
-    measure(ToolKind::stencil, "stencil");
-    measure(ToolKind::measurement, "measuring tool");
+    measureAdding(ToolKind::stencil, "stencil");
+    measureAdding(ToolKind::measurement, "measuring tool");
 }
 
 }  // namespace ormala::bench

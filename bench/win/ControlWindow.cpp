@@ -16,8 +16,8 @@ namespace ormala::bench {
 
 namespace {
 
-constexpr std::size_t toolCount = 33;
-constexpr int runs = 9;
+constexpr std::size_t windowTools = 33;
+constexpr int windowRuns = 9;
 
 /// With all that are in it.
 int windowsOf(HWND window) {
@@ -67,7 +67,7 @@ class ControlWindowStage {
         paint();
     }
     void fill(ToolKind kind) {
-        while (list().GetPanelsInVisualOrder().size() < toolCount) {
+        while (list().GetPanelsInVisualOrder().size() < windowTools) {
             add(kind);
         }
     }
@@ -97,13 +97,13 @@ int windowsToPaint(HWND window) {
 void addPanels(ControlWindowStage& stage, ToolKind kind, const std::string& what) {
     std::vector<double> firsts;
     std::vector<double> lasts;
-    for (int i = 0; i < runs; ++i) {
+    for (int i = 0; i < windowRuns; ++i) {
         stage.list().RemoveAllTools();
         // The first pair has its window already.
         stage.add(kind);
         ControlWindowStage::settle();
         firsts.push_back(elapsed([&] { stage.add(kind); }));
-        while (stage.list().GetPanelsInVisualOrder().size() + 1 < toolCount) {
+        while (stage.list().GetPanelsInVisualOrder().size() + 1 < windowTools) {
             stage.add(kind);
         }
         ControlWindowStage::settle();
@@ -143,7 +143,7 @@ class BareWindows {
 void makePanel(ControlWindowStage& stage) {
     std::vector<double> made;
     std::vector<double> bare;
-    for (int i = 0; i < runs; ++i) {
+    for (int i = 0; i < windowRuns; ++i) {
         stage.list().RemoveAllTools();
         stage.add(ToolKind::stencil);
         ControlWindowStage::settle();
@@ -161,7 +161,7 @@ void loadPanels(ControlWindowStage& stage, ToolKind kind, const std::string& wha
     stage.fill(kind);
     stage.pane().automatic().save();
     std::vector<double> times;
-    for (int i = 0; i < runs; ++i) {
+    for (int i = 0; i < windowRuns; ++i) {
         times.push_back(elapsed([&] {
             stage.pane().automatic().load({});
             stage.paint();

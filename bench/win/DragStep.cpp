@@ -13,7 +13,7 @@ namespace ormala::bench {
 
 namespace {
 
-constexpr int toolCount = 33;
+constexpr int draggedTools = 33;
 
 std::string named(const std::string& what, PixelSize size) {
     return what + ", " + std::to_string(size.width) + " x " + std::to_string(size.height);
@@ -46,7 +46,7 @@ PatternList fivePatterns(int first) {
 /// Adds the stencils; the last one, 600 x 400, is in front.
 ctlRatioGrid& addStencils(TestSheet& sheet, PixelSize size) {
     Places places(size);
-    for (int i = 1; i < toolCount; ++i) {
+    for (int i = 1; i < draggedTools; ++i) {
         const Point at = places.corner();
         const double width = 200 + places.pick(800);
         const double height = 150 + places.pick(500);
@@ -78,7 +78,7 @@ ctlMeasure& addMeasure(TestSheet& sheet, const Line& a, const Line& b) {
 /// Adds connected measuring tools; the last one, in front, has lines of 600 and 400 pixels.
 ctlMeasure& addMeasures(TestSheet& sheet, PixelSize size) {
     Places places(size);
-    for (int i = 1; i < toolCount; ++i) {
+    for (int i = 1; i < draggedTools; ++i) {
         const Point a = places.corner();
         const Point b = places.corner();
         const Point joint = places.corner();

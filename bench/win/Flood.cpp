@@ -12,7 +12,7 @@ namespace ormala::bench {
 
 namespace {
 
-constexpr int toolCount = 33;
+constexpr int floodedTools = 33;
 constexpr ULONGLONG floodTime = 5000;
 
 /// The program with 33 stencils, whose drag never comes to an end: each move of the mouse is
@@ -21,7 +21,7 @@ class FloodedDrag {
   public:
     FloodedDrag() {
         program_.tools().tools().RemoveAllTools();
-        for (int i = 0; i < toolCount; ++i) {
+        for (int i = 0; i < floodedTools; ++i) {
             program_.execute(Command::addStencil);
         }
         program_.execute(Command::crossHair);

@@ -19,8 +19,8 @@ namespace ormala::bench {
 
 namespace {
 
-constexpr int toolCount = 33;
-constexpr int runs = 200;
+constexpr int fileTools = 33;
+constexpr int fileRuns = 200;
 
 void require(bool done) {
     if (!done) {
@@ -61,7 +61,7 @@ class ToolSet {
           plainPath_(longPath(path_ + ".plain")) {
         file_.setPath(path_);
         tools_.list.RemoveAllTools();
-        tools_.add(kind, toolCount);
+        tools_.add(kind, fileTools);
         require(toolFile_.save());
         bytes_ = store_.read(path_).bytes;
         writeCarefully(plainPath_, bytes_);
@@ -70,7 +70,7 @@ class ToolSet {
     void save() { toolFile_.save(); }
     void load() {
         toolFile_.load();
-        require(tools_.list.GetPanelsInVisualOrder().size() == toolCount);
+        require(tools_.list.GetPanelsInVisualOrder().size() == fileTools);
     }
     void writePlainly() { writeCarefully(plainPath_, bytes_); }
     void readPlainly() { readAtOnce(plainPath_, bytes_); }
@@ -89,13 +89,13 @@ class ToolSet {
     std::string bytes_;
 };
 
-void measure(ToolKind kind, const std::string& what) {
+void measureFiles(ToolKind kind, const std::string& what) {
     ToolSet set(kind);
     std::vector<double> saves;
     std::vector<double> writes;
     std::vector<double> loads;
     std::vector<double> reads;
-    for (int i = 0; i < runs; ++i) {
+    for (int i = 0; i < fileRuns; ++i) {
         saves.push_back(elapsed([&] { set.save(); }));
         writes.push_back(elapsed([&] { set.writePlainly(); }));
         loads.push_back(elapsed([&] { set.load(); }));
@@ -112,8 +112,8 @@ void measure(ToolKind kind, const std::string& what) {
 }  // namespace
 
 void toolFiles() {
-    measure(ToolKind::stencil, "stencils");
-    measure(ToolKind::measurement, "measuring tools");
+    measureFiles(ToolKind::stencil, "stencils");
+    measureFiles(ToolKind::measurement, "measuring tools");
 }
 
 }  // namespace ormala::bench

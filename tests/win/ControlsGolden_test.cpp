@@ -17,7 +17,7 @@
 namespace ormala {
 namespace {
 
-constexpr Color ink = rgb(255, 230, 0);
+constexpr Color goldenInk = rgb(255, 230, 0);
 constexpr Color face = rgb(112, 112, 112);
 constexpr Color lit = rgb(187, 168, 0);
 
@@ -51,7 +51,7 @@ class ControlsGolden : public testing::TestWithParam<int> {
             std::make_unique<ZelvikButtonXP>(panel_.handle(), ++lastId_, caption));
         made.setDpi(dpi());
         made.setBackColor(face);
-        made.setForeColor(ink);
+        made.setForeColor(goldenInk);
         made.setCaption(caption);
         made.setPictureSize(16, 16);
         if (picture) {
@@ -103,7 +103,7 @@ class ControlsGolden : public testing::TestWithParam<int> {
         title_.place(box(0, 0, 436, 16));
         readOut_.setDpi(dpi());
         readOut_.setText("W:H = 1.614   H:W = 0.619");
-        readOut_.setTextColor(ink);
+        readOut_.setTextColor(goldenInk);
         readOut_.place(box(8, 20, 200, 16));
     }
     /// The panel as a picture at the origin.

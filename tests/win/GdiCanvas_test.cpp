@@ -12,16 +12,16 @@
 namespace ormala {
 namespace {
 
-constexpr COLORREF ground = RGB(79, 79, 79);
-constexpr COLORREF ink = RGB(255, 159, 0);
-const Color inkColor = static_cast<Color>(ink);
+constexpr COLORREF canvasGround = RGB(79, 79, 79);
+constexpr COLORREF canvasInk = RGB(255, 159, 0);
+const Color inkColor = static_cast<Color>(canvasInk);
 
 class GdiCanvasTest : public testing::Test {
   protected:
     GdiCanvasTest() : size_{200, 160}, fonts_(96) {
         buffer_.resize(size_);
         const RECT all{0, 0, size_.width, size_.height};
-        SetDCBrushColor(buffer_.context(), ground);
+        SetDCBrushColor(buffer_.context(), canvasGround);
         FillRect(buffer_.context(), &all, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
     }
 
@@ -58,14 +58,14 @@ TEST_F(GdiCanvasTest, HalvesOnA101PixelStencilHasItsMiddleLinesOnPixel50) {
         drawPatterns(canvas, halvesAt(0, 0, 100, 100), {inkColor, 2}, true);
     });
     for (int i = 0; i <= 100; ++i) {
-        EXPECT_EQ(map.at(50, i), ink) << i;
-        EXPECT_EQ(map.at(i, 50), ink) << i;
-        EXPECT_EQ(map.at(0, i), ink) << i;
-        EXPECT_EQ(map.at(100, i), ink) << i;
-        EXPECT_EQ(map.at(i, 0), ink) << i;
-        EXPECT_EQ(map.at(i, 100), ink) << i;
+        EXPECT_EQ(map.at(50, i), canvasInk) << i;
+        EXPECT_EQ(map.at(i, 50), canvasInk) << i;
+        EXPECT_EQ(map.at(0, i), canvasInk) << i;
+        EXPECT_EQ(map.at(100, i), canvasInk) << i;
+        EXPECT_EQ(map.at(i, 0), canvasInk) << i;
+        EXPECT_EQ(map.at(i, 100), canvasInk) << i;
     }
-    EXPECT_EQ(std::ranges::count(map.pixels, ink), 101 * 6 - 9);
+    EXPECT_EQ(std::ranges::count(map.pixels, canvasInk), 101 * 6 - 9);
 }
 
 TEST_F(GdiCanvasTest, SolidPenIsOnePixelLessWideThanItsCode) {
@@ -73,14 +73,14 @@ TEST_F(GdiCanvasTest, SolidPenIsOnePixelLessWideThanItsCode) {
         const PixelMap map = draw([&](Canvas& canvas) {
             canvas.shape({ShapeKind::rectangle,
                           {0, 0, 200, 160},
-                          static_cast<Color>(ground),
+                          static_cast<Color>(canvasGround),
                           1,
-                          static_cast<Color>(ground)});
+                          static_cast<Color>(canvasGround)});
             canvas.line({inkColor, code}, {10, 80}, {190, 80});
         });
         int width = 0;
         for (int y = 0; y < 160; ++y) {
-            width += map.at(100, y) == ink ? 1 : 0;
+            width += map.at(100, y) == canvasInk ? 1 : 0;
         }
         EXPECT_EQ(width, code - 1);
     }
@@ -92,13 +92,13 @@ TEST_F(GdiCanvasTest, DottedAndDashedLinesDifferFromSolidAndFromEachOther) {
         canvas.line({inkColor, 1}, {0, 20}, {200, 20});
         canvas.line({inkColor, 2}, {0, 30}, {200, 30});
     });
-    const int dotted = countInRow(map, 10, ink);
-    const int dashed = countInRow(map, 20, ink);
-    EXPECT_EQ(countInRow(map, 30, ink), 200);
+    const int dotted = countInRow(map, 10, canvasInk);
+    const int dashed = countInRow(map, 20, canvasInk);
+    EXPECT_EQ(countInRow(map, 30, canvasInk), 200);
     EXPECT_GT(dotted, 50);
     EXPECT_LT(dotted, dashed);
     EXPECT_LT(dashed, 200);
-    EXPECT_EQ(countInRow(map, 10, ground) + dotted, 200) << "gaps show the ground";
+    EXPECT_EQ(countInRow(map, 10, canvasGround) + dotted, 200) << "gaps show the ground";
 }
 
 TEST_F(GdiCanvasTest, DottedSpiralRunsOnFromSegmentToSegment) {
@@ -108,11 +108,11 @@ TEST_F(GdiCanvasTest, DottedSpiralRunsOnFromSegmentToSegment) {
     const PixelMap dotted = draw([&](Canvas& canvas) {
         drawPatterns(canvas, state, {inkColor, 0}, true);
     });
-    const auto dottedCount = std::ranges::count(dotted.pixels, ink);
+    const auto dottedCount = std::ranges::count(dotted.pixels, canvasInk);
     const PixelMap solid = draw([&](Canvas& canvas) {
         drawPatterns(canvas, state, {inkColor, 2}, true);
     });
-    const auto solidCount = std::ranges::count(solid.pixels, ink);
+    const auto solidCount = std::ranges::count(solid.pixels, canvasInk);
     // A style that began anew at each short segment would fill nearly all of the curve.
     EXPECT_LT(dottedCount, solidCount * 7 / 10);
     EXPECT_GT(dottedCount, solidCount * 3 / 10);
@@ -136,7 +136,7 @@ TEST_F(GdiCanvasTest, NothingIsSmoothed) {
         label.draw(canvas);
     });
     for (const COLORREF pixel : map.pixels) {
-        EXPECT_TRUE(pixel == ground || pixel == ink);
+        EXPECT_TRUE(pixel == canvasGround || pixel == canvasInk);
     }
 }
 
@@ -146,9 +146,9 @@ TEST_F(GdiCanvasTest, HugeRectangleShowsItsSideOnTheExactPixel) {
             const PixelMap map = draw([&](Canvas& canvas) {
                 canvas.shape({ShapeKind::rectangle,
                               {0, 0, 200, 160},
-                              static_cast<Color>(ground),
+                              static_cast<Color>(canvasGround),
                               1,
-                              static_cast<Color>(ground)});
+                              static_cast<Color>(canvasGround)});
                 StencilState state;
                 state.RectBound = {70, -distance, 470, distance};
                 state.PatternList[0].Pattern = 0;
@@ -156,11 +156,11 @@ TEST_F(GdiCanvasTest, HugeRectangleShowsItsSideOnTheExactPixel) {
             });
             int inColumn = 0;
             for (int y = 0; y < 160; ++y) {
-                inColumn += map.at(70, y) == ink ? 1 : 0;
+                inColumn += map.at(70, y) == canvasInk ? 1 : 0;
             }
             EXPECT_GT(inColumn, 50) << distance << " code " << code;
-            EXPECT_EQ(map.at(60, 80), ground);
-            EXPECT_EQ(map.at(90, 80), ground);
+            EXPECT_EQ(map.at(60, 80), canvasGround);
+            EXPECT_EQ(map.at(90, 80), canvasGround);
         }
     }
 }
@@ -188,11 +188,11 @@ TEST_F(GdiCanvasTest, ShapeCoversExactlyItsBoxWithItsBorderInside) {
         const PixelMap map = draw([&](Canvas& canvas) {
             canvas.shape({ShapeKind::rectangle, {40, 30, 61, 51}, inkColor, border, rgb(1, 2, 3)});
         });
-        EXPECT_EQ(map.at(40, 30), ink);
-        EXPECT_EQ(map.at(60, 50), ink);
-        EXPECT_EQ(map.at(39, 40), ground);
-        EXPECT_EQ(map.at(61, 40), ground);
-        EXPECT_EQ(map.at(40 + border - 1, 40), ink);
+        EXPECT_EQ(map.at(40, 30), canvasInk);
+        EXPECT_EQ(map.at(60, 50), canvasInk);
+        EXPECT_EQ(map.at(39, 40), canvasGround);
+        EXPECT_EQ(map.at(61, 40), canvasGround);
+        EXPECT_EQ(map.at(40 + border - 1, 40), canvasInk);
         EXPECT_EQ(map.at(40 + border, 40), RGB(1, 2, 3));
     }
 }
@@ -201,8 +201,8 @@ TEST_F(GdiCanvasTest, ShapeWithoutFillLeavesItsInside) {
     const PixelMap map = draw([&](Canvas& canvas) {
         canvas.shape({ShapeKind::oval, {40, 30, 100, 90}, inkColor, 1, std::nullopt});
     });
-    EXPECT_EQ(map.at(70, 60), ground);
-    EXPECT_EQ(map.at(70, 30), ink);
+    EXPECT_EQ(map.at(70, 60), canvasGround);
+    EXPECT_EQ(map.at(70, 30), canvasInk);
 }
 
 TEST_F(GdiCanvasTest, LabelHasItsHaloOnEverySide) {
@@ -218,11 +218,11 @@ TEST_F(GdiCanvasTest, LabelHasItsHaloOnEverySide) {
     int checked = 0;
     for (int y = 1; y + 1 < map.size.height; ++y) {
         for (int x = 2; x + 2 < map.size.width; ++x) {
-            if (map.at(x, y) == ink) {
+            if (map.at(x, y) == canvasInk) {
                 ++checked;
                 for (const POINT beside : {POINT{x - 1, y}, POINT{x + 1, y}, POINT{x, y - 1},
                                            POINT{x, y + 1}, POINT{x - 2, y}, POINT{x + 2, y}}) {
-                    EXPECT_NE(map.at(beside.x, beside.y), ground);
+                    EXPECT_NE(map.at(beside.x, beside.y), canvasGround);
                 }
             }
         }

@@ -20,16 +20,16 @@
 namespace ormala {
 namespace {
 
-constexpr PixelSize size{260, 220};
-constexpr PixelRect area{0, 0, size.width, size.height};
-constexpr COLORREF ground = RGB(79, 79, 79);
-constexpr Color ink = rgb(255, 159, 0);
+constexpr PixelSize footprintSize{260, 220};
+constexpr PixelRect area{0, 0, footprintSize.width, footprintSize.height};
+constexpr COLORREF footprintGround = RGB(79, 79, 79);
+constexpr Color footprintInk = rgb(255, 159, 0);
 /// Dotted, dashed, and solid of one to four pixels.
 constexpr int lineCodes[] = {0, 1, 2, 3, 4, 5};
 
 class GdiFootprint : public testing::Test {
   protected:
-    GdiFootprint() { buffer_.resize(size); }
+    GdiFootprint() { buffer_.resize(footprintSize); }
 
     struct Result {
         int painted = 0;
@@ -38,18 +38,18 @@ class GdiFootprint : public testing::Test {
 
     /// Draws on a plain ground and counts the pixels that no rectangle of the region meets.
     Result drawn(const DirtyRegion& region, const std::function<void(Canvas&)>& paint) {
-        const RECT all{0, 0, size.width, size.height};
-        SetDCBrushColor(buffer_.context(), ground);
+        const RECT all{0, 0, footprintSize.width, footprintSize.height};
+        SetDCBrushColor(buffer_.context(), footprintGround);
         FillRect(buffer_.context(), &all, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
         {
             GdiCanvas canvas(buffer_.context(), area, fonts_);
             paint(canvas);
         }
-        const PixelMap map = readPixels(buffer_.context(), size);
+        const PixelMap map = readPixels(buffer_.context(), footprintSize);
         Result result;
-        for (int y = 0; y < size.height; ++y) {
-            for (int x = 0; x < size.width; ++x) {
-                if (map.at(x, y) != ground) {
+        for (int y = 0; y < footprintSize.height; ++y) {
+            for (int x = 0; x < footprintSize.width; ++x) {
+                if (map.at(x, y) != footprintGround) {
                     ++result.painted;
                     result.outside += region.meets({x, y, x + 1, y + 1}) ? 0 : 1;
                 }
@@ -78,7 +78,7 @@ TEST_F(GdiFootprint, HoldsAStrokeOfEveryPenInEveryDirection) {
             to = {from.x + i % 2, from.y + i % 3};
         }
         for (const int code : lineCodes) {
-            const Pen pen{ink, code};
+            const Pen pen{footprintInk, code};
             DirtyRegion region;
             region.addStroke(pen, from, to, area);
             const Result result =
@@ -102,7 +102,7 @@ TEST_F(GdiFootprint, HoldsEveryPatternWithEveryPen) {
                 state.RotationAngle = angle;
                 state.PatternList[0].Pattern = pattern;
                 for (const int code : lineCodes) {
-                    const Pen pen{ink, code};
+                    const Pen pen{footprintInk, code};
                     DirtyRegion region;
                     addPatternsTo(region, state, pen, true, area);
                     const Result result = drawn(
@@ -126,7 +126,7 @@ TEST_F(GdiFootprint, HoldsEveryShapeWithEveryBorder) {
             for (int border = 1; border <= 4; ++border) {
                 DirtyRegion region;
                 region.add(box);
-                const ShapeFace face{kind, box, ink, border, rgb(1, 2, 3)};
+                const ShapeFace face{kind, box, footprintInk, border, rgb(1, 2, 3)};
                 const Result result = drawn(region, [&](Canvas& canvas) { canvas.shape(face); });
                 EXPECT_EQ(result.outside, 0) << box.width() << " border " << border;
                 EXPECT_GT(result.painted, 0) << box.width() << " border " << border;
@@ -145,7 +145,7 @@ TEST_F(GdiFootprint, HoldsTheOutlineOfAnOvalInEitherDivision) {
             DirtyRegion close;
             close.addOutlineClosely(box, 1);
             const auto oval = [&](Canvas& canvas) {
-                canvas.shape({ShapeKind::oval, box, ink, 1, std::nullopt});
+                canvas.shape({ShapeKind::oval, box, footprintInk, 1, std::nullopt});
             };
             EXPECT_EQ(drawn(coarse, oval).outside, 0) << side;
             EXPECT_EQ(drawn(close, oval).outside, 0) << side;
@@ -157,7 +157,7 @@ TEST_F(GdiFootprint, HoldsALabelWithItsHalo) {
     for (const char* caption : {"", "I", "123 x 456", "µ = 45.0°\r\nWWW", "fjÄ|"}) {
         ctlLabel label;
         label.setCaption(caption);
-        label.setForeColor(ink);
+        label.setForeColor(footprintInk);
         label.setBackColor(rgb(255, 255, 255));
         label.setVisible(true);
         label.fit(fonts_);
@@ -172,7 +172,7 @@ TEST_F(GdiFootprint, HoldsALabelWithItsHalo) {
 
 TEST_F(GdiFootprint, HoldsTheTextsAndTheCircleOfAMeasurement) {
     MeasureSigns signs;
-    signs.ColorA = ink;
+    signs.ColorA = footprintInk;
     for (const bool connected : {true, false}) {
         for (const Point end : {Point{250, 30}, Point{30, 110}, Point{131, 215}}) {
             const MeasureState state{

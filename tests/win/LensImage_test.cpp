@@ -16,9 +16,8 @@ extern decltype(&BitBlt) importedBitBlt __asm__("__imp_BitBlt");
 
 namespace {
 
-constexpr COLORREF ink = RGB(255, 230, 0);
+constexpr COLORREF lensInk = RGB(255, 230, 0);
 constexpr COLORREF quietInk = RGB(128, 119, 38);
-constexpr UINT quietly = SWP_NOZORDER | SWP_NOACTIVATE;
 
 /// Notes the raster operations of all copies that are made from the screen or another window.
 class NotedCopies {
@@ -276,7 +275,7 @@ TEST_F(LensImageTest, ScalesReadAgainstEachOrigin) {
             const int y = row * factor + factor / 2 - 1;
             const int valueLeft = base(options.topOrigin, source.y, worksheet.y) + row;
             const int valueRight = base(options.bottomOrigin, source.y, worksheet.y) + row;
-            EXPECT_EQ(left.at(left.size.width - 1, y), ink) << "each row has a tick";
+            EXPECT_EQ(left.at(left.size.width - 1, y), lensInk) << "each row has a tick";
             EXPECT_EQ(left.at(0, y) == quietInk, valueLeft % 10 == 0) << valueLeft;
             EXPECT_EQ(right.at(right.size.width - 1, y) == quietInk, valueRight % 10 == 0)
                 << valueRight;
@@ -288,7 +287,7 @@ TEST_F(LensImageTest, ScalesReadAgainstEachOrigin) {
             const int x = left.size.width + column * factor + factor / 2 - 1;
             const int valueTop = base(options.topOrigin, source.x, worksheet.x) + column;
             const int valueBottom = base(options.bottomOrigin, source.x, worksheet.x) + column;
-            EXPECT_EQ(top.at(x, top.size.height - 1), ink) << "each column has a tick";
+            EXPECT_EQ(top.at(x, top.size.height - 1), lensInk) << "each column has a tick";
             EXPECT_EQ(top.at(x, 0) == quietInk, valueTop % 10 == 0) << valueTop;
             EXPECT_EQ(bottom.at(x, bottom.size.height - 1) == quietInk, valueBottom % 10 == 0)
                 << valueBottom;

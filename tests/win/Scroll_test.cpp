@@ -18,13 +18,12 @@
 #include "win/ControlPanel.h"
 #include "win/EnglishTexts.h"
 #include "win/TestSheet.h"
+#include "win/marks.h"
 
 namespace ormala {
 namespace {
 
 constexpr COLORREF glyph = RGB(255, 230, 0);
-constexpr COLORREF hoverMark = RGB(225, 153, 71);
-constexpr COLORREF focusMark = RGB(140, 170, 230);
 
 /// A window that holds bars.
 class Holder : public Window {

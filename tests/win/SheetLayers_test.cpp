@@ -13,8 +13,8 @@ namespace {
 
 constexpr RECT windowPlace{200, 150, 500, 350};
 constexpr COLORREF key = LayeredPicture::key;
-constexpr COLORREF ink = LayeredPicture::ink;
-constexpr COLORREF ground = RGB(30, 140, 250);
+constexpr COLORREF layerInk = LayeredPicture::ink;
+constexpr COLORREF layerGround = RGB(30, 140, 250);
 constexpr LayeredLook veil{WS_EX_LAYERED | WS_EX_TOPMOST, 0xFFFFFFFF, 191, LWA_ALPHA};
 
 /// A window of one colour.
@@ -38,14 +38,14 @@ class Ground : public Window {
             return std::nullopt;
         }
         const RECT client = clientRectangle();
-        SetDCBrushColor(reinterpret_cast<HDC>(wParam), ground);
+        SetDCBrushColor(reinterpret_cast<HDC>(wParam), layerGround);
         FillRect(reinterpret_cast<HDC>(wParam), &client,
                  static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
         return 1;
     }
 };
 
-test::Picture shown() {
+test::Picture shownLayers() {
     return test::screen::waitUntilStill(
         {windowPlace.left, windowPlace.top, windowPlace.right, windowPlace.bottom});
 }
@@ -65,9 +65,9 @@ TEST(SheetLayers, BothWaysShowTheSamePixels) {
             window.layers->apply(LayeredPicture::keyedLook(opacity), window.picture);
             window.paint(window.all());
             EXPECT_EQ(window.layers->byPixels(), mostRuns.has_value());
-            pictures.push_back(shown());
+            pictures.push_back(shownLayers());
         }
-        EXPECT_GT(pictures[0].count(ground), 1000U);
+        EXPECT_GT(pictures[0].count(layerGround), 1000U);
         EXPECT_TRUE(difference(pictures[0], pictures[1]).empty()) << opacity;
     }
 }
@@ -96,31 +96,32 @@ TEST(SheetLayers, ASystemThatCutsNoShapesKeysEverythingOut) {
 TEST(SheetLayers, TheWayBackShowsTheWholePicture) {
     const Ground under;
     LayeredPicture window(windowPlace, 100);
-    window.fill({50, 50, 100, 100}, ink);
+    window.fill({50, 50, 100, 100}, layerInk);
     window.drawRuns(101);
     window.paint(window.all());
     ASSERT_TRUE(window.layers->byPixels());
     window.fill({0, 0, 300, 40}, key);
     window.paint({0, 0, 300, 40});
     EXPECT_FALSE(window.layers->byPixels());
-    EXPECT_TRUE(test::waitUntil([] { return shownAt(75, 75) == ink && shownAt(0, 0) == ground; }));
+    EXPECT_TRUE(test::waitUntil(
+        [] { return shownAt(75, 75) == layerInk && shownAt(0, 0) == layerGround; }));
 }
 
 TEST(SheetLayers, APartThatChangesIsShownAndTheRestStays) {
     const Ground under;
     LayeredPicture window(windowPlace, 10);
     window.drawRuns(40);
-    window.fill({50, 150, 100, 180}, ink);
+    window.fill({50, 150, 100, 180}, layerInk);
     window.paint(window.all());
     ASSERT_TRUE(window.layers->byPixels());
-    EXPECT_TRUE(test::waitUntil([] { return shownAt(60, 160) == ink; }));
-    window.fill({120, 150, 130, 180}, ink);
+    EXPECT_TRUE(test::waitUntil([] { return shownAt(60, 160) == layerInk; }));
+    window.fill({120, 150, 130, 180}, layerInk);
     window.fill({50, 150, 80, 160}, key);
     window.paint({50, 150, 130, 180});
-    EXPECT_TRUE(
-        test::waitUntil([] { return shownAt(125, 160) == ink && shownAt(55, 155) == ground; }));
-    EXPECT_EQ(shownAt(90, 160), ink);
-    EXPECT_EQ(shownAt(200, 160), ground);
+    EXPECT_TRUE(test::waitUntil(
+        [] { return shownAt(125, 160) == layerInk && shownAt(55, 155) == layerGround; }));
+    EXPECT_EQ(shownAt(90, 160), layerInk);
+    EXPECT_EQ(shownAt(200, 160), layerGround);
 }
 
 TEST(SheetLayers, AVeilIsTheSystemsAgain) {

@@ -9,8 +9,6 @@
 namespace ormala {
 namespace {
 
-constexpr PixelSize sheetSize{640, 480};
-
 void expectSameAsPaintedAnew(TestSheet& sheet) {
     const HWND window = sheet.window().handle();
     UpdateWindow(window);

@@ -170,7 +170,7 @@ ShownTexts listRows(HWND control, int dpi) {
 }
 
 /// For controls that only pass on the text of a part.
-ShownTexts nothing(HWND /*control*/, int /*dpi*/) {
+ShownTexts noTexts(HWND /*control*/, int /*dpi*/) {
     return {};
 }
 
@@ -183,7 +183,7 @@ const std::map<std::string, Texts>& textsOfClasses() {
         {"ctlSlider", &sliderTexts},  {"Static", &staticLines},
         {"Button", &frameCaption},    {"Edit", &editLine},
         {"ComboBox", &comboRows},     {"ListBox", &listRows},
-        {"TextBoxNumeric", &nothing},
+        {"TextBoxNumeric", &noTexts},
     };
     return classes;
 }

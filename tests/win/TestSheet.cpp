@@ -6,7 +6,7 @@ namespace ormala {
 
 namespace {
 
-constexpr COLORREF ground = RGB(79, 79, 79);
+constexpr COLORREF sheetGround = RGB(79, 79, 79);
 
 SpecialRatios makeRatios() {
     MlSetLanguage(languageEnglish, {});
@@ -50,7 +50,7 @@ PixelMap readClient(HWND window) {
 TestSheet::TestSheet(PixelSize size) : ratios_(makeRatios()) {
     window_ =
         std::make_unique<frmWorksheet>(maker_, foreground_, commands, aids, settings.textForm);
-    window_->setBackground(ground);
+    window_->setBackground(sheetGround);
     window_->setClickAlpha(191);
     window_->setMaxSized(false);
     window_->show();
@@ -71,7 +71,7 @@ ctlRatioGrid& TestSheet::addStencil(const Rect& rect, double angle, Color color)
 void TestSheet::paintAnew() {
     // A change of the background and back draws both layers.
     window_->setBackground(RGB(1, 1, 1));
-    window_->setBackground(ground);
+    window_->setBackground(sheetGround);
     UpdateWindow(window_->handle());
 }
 

@@ -12,6 +12,10 @@
 
 namespace ormala {
 
+constexpr PixelSize sheetSize{640, 480};
+/// Of SetWindowPos: what places a window and does nothing else to it.
+constexpr UINT quietly = SWP_NOZORDER | SWP_NOACTIVATE;
+
 /// The pixels of a device context as 0x00BBGGRR, row by row.
 struct PixelMap {
     PixelSize size;

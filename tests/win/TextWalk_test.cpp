@@ -21,7 +21,7 @@ namespace {
 
 constexpr int dpi = designDpi;
 constexpr PixelRect wide{10, 10, 200, 34};
-constexpr PixelRect narrow{10, 10, 40, 34};
+constexpr PixelRect narrowPlace{10, 10, 40, 34};
 
 class TextWalkTest : public testing::Test {
   protected:
@@ -42,7 +42,7 @@ class TextWalkTest : public testing::Test {
     void expectCutOnlyInNarrow(const Place& place) const {
         place(wide);
         expectNone();
-        place(narrow);
+        place(narrowPlace);
         expectOne("cuts off");
     }
     template <typename Control>
@@ -109,7 +109,7 @@ TEST_F(TextWalkTest, CountsThePictureOfAButtonToItsCaption) {
     ZelvikButtonXP button(owner_.handle(), 1, "cmdTest");
     button.setDpi(dpi);
     button.setCaption("Edit");
-    button.place(narrow);
+    button.place(narrowPlace);
     expectNone();
     button.setPictureSize(16, 16);
     button.setPicture([](PixelSize size) { return PixelImage{size, {}}; });
@@ -224,7 +224,7 @@ TEST_F(TextWalkTest, LooksAtControlsWithinControlsWhileTheWindowIsHidden) {
     move(group.handle(), {0, 0, 300, 100});
     Label inside(group.handle(), 1, "inside");
     inside.setText("A longer text");
-    inside.place(narrow);
+    inside.place(narrowPlace);
     EXPECT_EQ(TextWalk(hidden.handle(), dpi).complaints().size(), 1U);
 }
 

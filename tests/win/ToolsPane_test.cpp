@@ -14,7 +14,7 @@
 namespace ormala {
 namespace {
 
-std::string textOf(HWND window) {
+std::string toolTextOf(HWND window) {
     wchar_t text[400]{};
     GetWindowTextW(window, text, 400);
     return narrow(text);
@@ -42,9 +42,9 @@ class ToolsPaneTest : public testing::Test {
 TEST_F(ToolsPaneTest, AFirstStartShowsAPanelOfEachKind) {
     EXPECT_TRUE(IsWindowVisible(stencil()));
     EXPECT_TRUE(IsWindowVisible(measure()));
-    EXPECT_EQ(textOf(namedChild(stencil(), "lblTitle")), "Stencil Tool");
-    EXPECT_EQ(textOf(namedChild(measure(), "lblTitle")), "Measurement Tool 1");
-    EXPECT_EQ(textOf(namedChild(measure(), "lblAngleVert")), "Vertical angle ");
+    EXPECT_EQ(toolTextOf(namedChild(stencil(), "lblTitle")), "Stencil Tool");
+    EXPECT_EQ(toolTextOf(namedChild(measure(), "lblTitle")), "Measurement Tool 1");
+    EXPECT_EQ(toolTextOf(namedChild(measure(), "lblAngleVert")), "Vertical angle ");
 }
 
 TEST_F(ToolsPaneTest, PauseHidesTheToolAndLeavesOnlyItsOwnButton) {
@@ -116,13 +116,13 @@ TEST_F(ToolsPaneTest, UndoOfADisconnectShowsTheLinesConnectedAgain) {
 
 TEST_F(ToolsPaneTest, TextsFollowTheLanguageAndComeBack) {
     GetLanguageSupport().ChangeLanguage(languageGerman);
-    EXPECT_EQ(textOf(namedChild(stencil(), "lblTitle")), "Schablonenwerkzeug");
-    EXPECT_EQ(textOf(namedChild(measure(), "lblTitle")), "Messwerkzeug 1");
-    EXPECT_EQ(textOf(namedChild(stencil(), "cmdUndo")), "Rückgängig");
-    EXPECT_TRUE(textOf(namedChild(stencil(), "lblPositionTop")).starts_with("oben = "));
+    EXPECT_EQ(toolTextOf(namedChild(stencil(), "lblTitle")), "Schablonenwerkzeug");
+    EXPECT_EQ(toolTextOf(namedChild(measure(), "lblTitle")), "Messwerkzeug 1");
+    EXPECT_EQ(toolTextOf(namedChild(stencil(), "cmdUndo")), "Rückgängig");
+    EXPECT_TRUE(toolTextOf(namedChild(stencil(), "lblPositionTop")).starts_with("oben = "));
     GetLanguageSupport().ChangeLanguage(languageEnglish);
-    EXPECT_EQ(textOf(namedChild(stencil(), "lblTitle")), "Stencil Tool");
-    EXPECT_EQ(textOf(namedChild(stencil(), "cmdUndo")), "Undo");
+    EXPECT_EQ(toolTextOf(namedChild(stencil(), "lblTitle")), "Stencil Tool");
+    EXPECT_EQ(toolTextOf(namedChild(stencil(), "cmdUndo")), "Undo");
 }
 
 TEST_F(ToolsPaneTest, PanelsFollowTheResolutionOfTheirMonitor) {
@@ -155,7 +155,8 @@ std::vector<std::string> waitingForPainting(HWND panel) {
         panel,
         [](HWND control, LPARAM parameter) -> BOOL {
             if (GetUpdateRect(control, nullptr, FALSE) != FALSE) {
-                reinterpret_cast<std::vector<std::string>*>(parameter)->push_back(textOf(control));
+                reinterpret_cast<std::vector<std::string>*>(parameter)->push_back(
+                    toolTextOf(control));
             }
             return TRUE;
         },

@@ -29,7 +29,7 @@ void forEachOfThread(const Visit& visit) {
     EnumThreadWindows(GetCurrentThreadId(), &visitOne, reinterpret_cast<LPARAM>(&visit));
 }
 
-std::string tipOf(HWND control) {
+std::string tipOfControl(HWND control) {
     // The tip of a control at rest has no window yet. This message of the mouse does nothing else.
     SendMessageW(control, WM_MOUSEHWHEEL, 0, 0);
     std::string found;
@@ -90,7 +90,8 @@ std::vector<WindowText> windowTexts() {
     std::vector<WindowText> texts;
     for (const HWND window : windows) {
         const bool isChild = (GetWindowLongPtrW(window, GWL_STYLE) & WS_CHILD) != 0;
-        WindowText text{window, placeOf(window), textOf(window), isChild ? tipOf(window) : ""};
+        WindowText text{window, placeOf(window), textOf(window),
+                        isChild ? tipOfControl(window) : ""};
         if (!text.text.empty() || !text.tip.empty()) {
             texts.push_back(std::move(text));
         }

@@ -11,13 +11,12 @@
 #include "support/win/Wait.h"
 #include "win/AccessibleReader.h"
 #include "win/ControlPanel.h"
+#include "win/marks.h"
 
 namespace ormala {
 namespace {
 
 constexpr COLORREF outline = RGB(64, 64, 64);
-constexpr COLORREF hoverMark = RGB(225, 153, 71);
-constexpr COLORREF focusMark = RGB(140, 170, 230);
 constexpr COLORREF accent = RGB(255, 230, 0);
 
 class ZelvikButtonXPTest : public testing::Test {

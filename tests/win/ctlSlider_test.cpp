@@ -11,13 +11,13 @@
 #include "win/TestAccessible.h"
 #include "win/TestSheet.h"
 #include "win/TestWindow.h"
+#include "win/marks.h"
 
 namespace ormala {
 namespace {
 
 constexpr COLORREF onColor = RGB(187, 168, 0);
 constexpr COLORREF labelColor = RGB(255, 230, 0);
-constexpr COLORREF hoverMark = RGB(225, 153, 71);
 
 /// A slider from 0 to 100 whose handle can go 200 pixels.
 class ctlSliderTest : public testing::Test {

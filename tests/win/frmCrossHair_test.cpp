@@ -23,7 +23,7 @@ HWND crossHairOf(HWND worksheet, const char* name) {
     return nullptr;
 }
 
-PixelRect placeOf(HWND window) {
+PixelRect placeOfHair(HWND window) {
     RECT place{};
     GetWindowRect(window, &place);
     return fromRect(place);
@@ -51,12 +51,12 @@ class frmCrossHairTest : public testing::Test {
     }
     [[nodiscard]] static bool visible(HWND window) { return IsWindowVisible(window) != FALSE; }
     [[nodiscard]] static bool waitForPlace(HWND window, const PixelRect& place) {
-        return test::waitUntil([&] { return placeOf(window) == place; });
+        return test::waitUntil([&] { return placeOfHair(window) == place; });
     }
 
     TestSheet test_{{640, 480}};
     frmWorksheet& worksheet_ = test_.window();
-    const PixelRect sheet_ = placeOf(worksheet_.handle());
+    const PixelRect sheet_ = placeOfHair(worksheet_.handle());
     /// Made when they are first enabled.
     HWND x_ = nullptr;
     HWND y_ = nullptr;
@@ -102,8 +102,8 @@ TEST_F(frmCrossHairTest, LinesAreOnePixelWideAndCrossAtTheCursor) {
     enable(true);
     const int x = sheet_.left + 200;
     const int y = sheet_.top + 100;
-    EXPECT_EQ(placeOf(x_), (PixelRect{sheet_.left, y, sheet_.right, y + 1}));
-    EXPECT_EQ(placeOf(y_), (PixelRect{x, sheet_.top, x + 1, sheet_.bottom}));
+    EXPECT_EQ(placeOfHair(x_), (PixelRect{sheet_.left, y, sheet_.right, y + 1}));
+    EXPECT_EQ(placeOfHair(y_), (PixelRect{x, sheet_.top, x + 1, sheet_.bottom}));
     EXPECT_TRUE(visible(x_));
     EXPECT_TRUE(visible(y_));
 }

@@ -13,8 +13,6 @@
 namespace ormala {
 namespace {
 
-constexpr UINT quietly = SWP_NOZORDER | SWP_NOACTIVATE;
-
 class frmLensTest : public LensFixture {};
 
 TEST_F(frmLensTest, IsATopmostToolWindowThatCanBeSized) {

@@ -13,13 +13,11 @@
 namespace ormala {
 namespace {
 
-constexpr UINT quietly = SWP_NOZORDER | SWP_NOACTIVATE;
-
 int widthOf(const RECT& rect) {
     return static_cast<int>(rect.right - rect.left);
 }
 
-int heightOf(const RECT& rect) {
+int heightOfFrame(const RECT& rect) {
     return static_cast<int>(rect.bottom - rect.top);
 }
 
@@ -73,7 +71,7 @@ TEST_F(frmResizerTest, FirstPlaceIsTheGoldenSectionOfTheScreenCentred) {
     const int width = GetSystemMetrics(SM_CXSCREEN);
     const int height = GetSystemMetrics(SM_CYSCREEN);
     EXPECT_NEAR(widthOf(place), 0.618034 * width, 1);
-    EXPECT_NEAR(heightOf(place), 0.618034 * height, 1);
+    EXPECT_NEAR(heightOfFrame(place), 0.618034 * height, 1);
     EXPECT_NEAR(place.left + place.right, width, 2);
     EXPECT_NEAR(place.top + place.bottom, height, 2);
     EXPECT_FALSE(frame.isVisible());
@@ -185,7 +183,7 @@ TEST_F(frmResizerTest, CannotBeMadeSmallerThan200By124) {
     const int dpi = static_cast<int>(GetDpiForWindow(frame_.handle()));
     SetWindowPos(frame_.handle(), nullptr, 0, 0, 20, 20, quietly | SWP_NOMOVE);
     EXPECT_EQ(widthOf(frame_.rectangle()), MulDiv(200, dpi, 96));
-    EXPECT_EQ(heightOf(frame_.rectangle()), MulDiv(124, dpi, 96));
+    EXPECT_EQ(heightOfFrame(frame_.rectangle()), MulDiv(124, dpi, 96));
     EXPECT_FALSE(worksheet().empty());
 }
 
@@ -255,7 +253,7 @@ TEST_F(frmResizerTest, SnappedToAHalfOfTheScreenItTakesTheWorksheetAlong) {
     // Without a sizing loop, and repainted by the same call.
     for (const int left : {0, half}) {
         SetWindowPos(frame_.handle(), nullptr, static_cast<int>(work.left) + left,
-                     static_cast<int>(work.top), half, heightOf(work),
+                     static_cast<int>(work.top), half, heightOfFrame(work),
                      quietly | SWP_FRAMECHANGED | SWP_NOCOPYBITS);
         EXPECT_EQ(worksheet(), hole());
         EXPECT_FALSE(sheet_.window().MaxSized());
@@ -295,7 +293,7 @@ TEST_F(frmResizerTest, StoredAsMaximisedItBringsAFullScreenWorksheet) {
     EXPECT_TRUE(fillsScreen());
     frame_.showNormal();
     EXPECT_EQ(widthOf(frame_.rectangle()), 700);
-    EXPECT_EQ(heightOf(frame_.rectangle()), 500);
+    EXPECT_EQ(heightOfFrame(frame_.rectangle()), 500);
 }
 
 TEST_F(frmResizerTest, CloseBoxMeansPauseAndUnloadsNothing) {

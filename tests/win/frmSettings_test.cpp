@@ -19,7 +19,7 @@ std::string captionOf(HWND window) {
     return narrow(text);
 }
 
-int heightOf(const RECT& rect) {
+int outerHeightOf(const RECT& rect) {
     return static_cast<int>(rect.bottom - rect.top);
 }
 
@@ -132,12 +132,12 @@ TEST_F(frmSettingsTest, FollowsTheResolutionOfItsMonitor) {
 }
 
 TEST_F(frmSettingsTest, ShortWindowGrowsAgainAfterAChangeOfResolution) {
-    const int before = heightOf(settings_.rectangle());
+    const int before = outerHeightOf(settings_.rectangle());
     program_.modes().SetMode(Mode::pause, false);
     const MINMAXINFO limits = doubleTheResolution();
-    EXPECT_EQ(heightOf(settings_.rectangle()), limits.ptMinTrackSize.y);
+    EXPECT_EQ(outerHeightOf(settings_.rectangle()), limits.ptMinTrackSize.y);
     program_.modes().SetMode(Mode::edit, false);
-    EXPECT_NEAR(heightOf(settings_.rectangle()), 2 * before, 2);
+    EXPECT_NEAR(outerHeightOf(settings_.rectangle()), 2 * before, 2);
 }
 
 TEST_F(frmSettingsTest, ButtonsOfTheModesChangeThem) {

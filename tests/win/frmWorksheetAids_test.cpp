@@ -13,8 +13,7 @@
 namespace ormala {
 namespace {
 
-constexpr PixelSize sheetSize{640, 480};
-constexpr COLORREF ground = RGB(79, 79, 79);
+constexpr COLORREF aidsGround = RGB(79, 79, 79);
 constexpr COLORREF gridColor = RGB(0, 128, 255);
 constexpr COLORREF brightGreen = RGB(0, 255, 0);
 constexpr COLORREF darkGreen = RGB(0, 127, 0);
@@ -28,7 +27,7 @@ void showGrid(TestSheet& sheet, const BackgroundGrid& grid) {
     sheet.window().aidsChanged();
 }
 
-PixelMap shown(TestSheet& sheet) {
+PixelMap shownAids(TestSheet& sheet) {
     return readClient(sheet.window().handle());
 }
 
@@ -41,7 +40,7 @@ PixelMap drawnWithPen(const BackgroundGrid& grid, PixelSize size) {
     BackBuffer picture;
     picture.resize(size);
     const HDC context = picture.context();
-    SetDCBrushColor(context, ground);
+    SetDCBrushColor(context, aidsGround);
     const RECT all{0, 0, size.width, size.height};
     FillRect(context, &all, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
     SetBkMode(context, TRANSPARENT);
@@ -65,7 +64,7 @@ TEST(WorksheetGrid, LinesLookAsThePenOfTheSystemDrawsThem) {
     for (const int lineWidth : {0, 1, 2, 3, 4, 5, 8}) {
         for (const Grid& steps : {Grid{50, 40, 7, 9}, Grid{64, 60, 0, 0}, Grid{90, 70, -1, 2}}) {
             showGrid(sheet, gridOf(2, lineWidth, steps));
-            EXPECT_EQ(shown(sheet), drawnWithPen(gridOf(2, lineWidth, steps), sheetSize))
+            EXPECT_EQ(shownAids(sheet), drawnWithPen(gridOf(2, lineWidth, steps), sheetSize))
                 << lineWidth << ", " << steps.stepX;
         }
     }
@@ -74,10 +73,10 @@ TEST(WorksheetGrid, LinesLookAsThePenOfTheSystemDrawsThem) {
 TEST(WorksheetGrid, PointsStandOnTheCrossings) {
     TestSheet sheet(sheetSize);
     showGrid(sheet, gridOf(1, 0));
-    const PixelMap map = shown(sheet);
+    const PixelMap map = shownAids(sheet);
     EXPECT_EQ(map.at(7, 9), gridColor);
     EXPECT_EQ(map.at(607, 449), gridColor);
-    EXPECT_EQ(map.at(8, 9), ground);
+    EXPECT_EQ(map.at(8, 9), aidsGround);
     EXPECT_EQ(count(map, gridColor), 13 * 12);
 }
 
@@ -85,16 +84,16 @@ TEST(WorksheetGrid, SettingItPaintsNothingUntilTheWorksheetIsTold) {
     TestSheet sheet(sheetSize);
     sheet.aids.grid = gridOf(2, 2);
     sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
-    EXPECT_EQ(count(shown(sheet), gridColor), 0);
+    EXPECT_EQ(count(shownAids(sheet), gridColor), 0);
     sheet.window().aidsChanged();
-    EXPECT_GT(count(shown(sheet), gridColor), 0);
+    EXPECT_GT(count(shownAids(sheet), gridColor), 0);
 }
 
 TEST(WorksheetGrid, StaysBehindTheTools) {
     TestSheet sheet(sheetSize);
     sheet.addStencil({107, 89, 307, 249}, 0, rgb(255, 0, 0));
     showGrid(sheet, gridOf(2, 2));
-    const PixelMap map = shown(sheet);
+    const PixelMap map = shownAids(sheet);
     EXPECT_EQ(map.at(107, 130), RGB(255, 0, 0)) << "the stencil's side lies on a line of the grid";
     EXPECT_EQ(map.at(57, 130), gridColor);
 }
@@ -108,9 +107,9 @@ TEST(WorksheetGrid, IsDrawnAnewWhereAToolWas) {
     sheet.window().sheet().SelectControl(*sheet.window().sheet().zOrder().front());
     stencil.setRectBound({30, 30, 200, 200});
     UpdateWindow(sheet.window().handle());
-    const PixelMap step = shown(sheet);
+    const PixelMap step = shownAids(sheet);
     sheet.paintAnew();
-    EXPECT_EQ(step, shown(sheet));
+    EXPECT_EQ(step, shownAids(sheet));
 }
 
 TEST(WorksheetGrid, FollowsTheSizeOfTheWorksheet) {
@@ -120,7 +119,7 @@ TEST(WorksheetGrid, FollowsTheSizeOfTheWorksheet) {
         SetWindowPos(sheet.window().handle(), nullptr, 0, 0, size.width, size.height,
                      SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
         UpdateWindow(sheet.window().handle());
-        EXPECT_EQ(shown(sheet), drawnWithPen(gridOf(2, 2), size));
+        EXPECT_EQ(shownAids(sheet), drawnWithPen(gridOf(2, 2), size));
     }
 }
 
@@ -130,8 +129,8 @@ TEST(WorksheetGrid, StaysVisibleInTemplateModeWhereTheBackgroundIsKeyedOut) {
     sheet.window().setClickable(false);
     COLORREF key = 0;
     GetLayeredWindowAttributes(sheet.window().handle(), &key, nullptr, nullptr);
-    EXPECT_EQ(key, ground);
-    EXPECT_EQ(shown(sheet).at(50, 30), gridColor);
+    EXPECT_EQ(key, aidsGround);
+    EXPECT_EQ(shownAids(sheet).at(50, 30), gridColor);
 }
 
 TEST(WorksheetGrid, TurnedOffItIsGone) {
@@ -140,7 +139,7 @@ TEST(WorksheetGrid, TurnedOffItIsGone) {
     BackgroundGrid grid = sheet.aids.grid;
     grid.enabled = false;
     showGrid(sheet, grid);
-    EXPECT_EQ(count(shown(sheet), ground), sheetSize.width * sheetSize.height);
+    EXPECT_EQ(count(shownAids(sheet), aidsGround), sheetSize.width * sheetSize.height);
 }
 
 TEST(WorksheetGrid, EachChangeThatIsSeenIsPaintedAtOnceAndOnce) {
@@ -172,13 +171,13 @@ class WorksheetCompassTest : public testing::Test {
     }
     void moveTo(int x, int y) { sheet_.mouse(WM_MOUSEMOVE, MK_LBUTTON, x, y); }
     [[nodiscard]] int greens() {
-        const PixelMap map = shown(sheet_);
+        const PixelMap map = shownAids(sheet_);
         return count(map, brightGreen) + count(map, darkGreen);
     }
     void expectAsPaintedAnew() {
-        const PixelMap step = shown(sheet_);
+        const PixelMap step = shownAids(sheet_);
         sheet_.paintAnew();
-        EXPECT_EQ(step, shown(sheet_));
+        EXPECT_EQ(step, shownAids(sheet_));
     }
 
     TestSheet sheet_{sheetSize};
@@ -189,7 +188,7 @@ TEST_F(WorksheetCompassTest, ShowsNothingUpTo12PixelsAndBothCirclesWithTheCentre
     moveTo(162, 120);
     EXPECT_EQ(greens(), 0);
     moveTo(163, 120);
-    const PixelMap map = shown(sheet_);
+    const PixelMap map = shownAids(sheet_);
     for (const int x : {137, 163, 142, 158, 149, 151}) {
         EXPECT_EQ(map.at(x, 120), brightGreen) << x;
     }
@@ -212,14 +211,14 @@ TEST_F(WorksheetCompassTest, GrowsAndShrinksOverToolsAndGridWithoutATrace) {
 TEST_F(WorksheetCompassTest, LiesOverTheToolInFront) {
     press(450, 250);
     moveTo(500, 250);
-    EXPECT_EQ(shown(sheet_).at(450, 300), brightGreen) << "where it meets the stencil's top";
+    EXPECT_EQ(shownAids(sheet_).at(450, 300), brightGreen) << "where it meets the stencil's top";
 }
 
 TEST_F(WorksheetCompassTest, IsDarkGreenOnWhite) {
     sheet_.window().setBackground(RGB(255, 255, 255));
     press(150, 120);
     moveTo(200, 120);
-    const PixelMap map = shown(sheet_);
+    const PixelMap map = shownAids(sheet_);
     EXPECT_EQ(map.at(200, 120), darkGreen);
     EXPECT_EQ(map.at(150, 120), brightGreen);
 }

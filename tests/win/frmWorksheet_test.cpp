@@ -15,8 +15,6 @@
 namespace ormala {
 namespace {
 
-constexpr PixelSize sheetSize{640, 480};
-
 struct Layering {
     COLORREF key = 0;
     BYTE alpha = 0;

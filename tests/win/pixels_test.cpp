@@ -11,16 +11,16 @@
 namespace ormala {
 namespace {
 
-constexpr PixelSize size{20, 10};
-constexpr COLORREF red = RGB(255, 0, 0);
+constexpr PixelSize mapSize{20, 10};
+constexpr COLORREF redPixel = RGB(255, 0, 0);
 constexpr COLORREF blue = RGB(0, 0, 255);
 
 TEST(CopyRow, PutsItsPixelsIntoOneRowFromTheLeftOn) {
     BackBuffer picture;
-    picture.resize(size);
+    picture.resize(mapSize);
     copyRow(picture.context(), {5, 3}, std::array<std::uint32_t, 2>{0xFF0000, 0x0000FF});
-    const PixelMap map = readPixels(picture.context(), size);
-    EXPECT_EQ(map.at(5, 3), red);
+    const PixelMap map = readPixels(picture.context(), mapSize);
+    EXPECT_EQ(map.at(5, 3), redPixel);
     EXPECT_EQ(map.at(6, 3), blue);
     EXPECT_EQ(std::ranges::count(map.pixels, RGB(0, 0, 0)), 20 * 10 - 2);
 }
@@ -28,14 +28,14 @@ TEST(CopyRow, PutsItsPixelsIntoOneRowFromTheLeftOn) {
 TEST(BackBuffer, RowsAreThePixelsOfItsPictureAlsoInABitmapThatIsWider) {
     BackBuffer picture;
     picture.resize({40, 30});
-    picture.resize(size);
+    picture.resize(mapSize);
     const PixelView view = picture.view();
-    ASSERT_EQ(view.size, size);
-    std::fill_n(view.row(7), size.width, 0xFF0000U);
-    const PixelMap map = readPixels(picture.context(), size);
-    EXPECT_EQ(std::ranges::count(map.pixels, red), 20);
-    EXPECT_EQ(map.at(0, 7), red);
-    EXPECT_EQ(map.at(19, 7), red);
+    ASSERT_EQ(view.size, mapSize);
+    std::fill_n(view.row(7), mapSize.width, 0xFF0000U);
+    const PixelMap map = readPixels(picture.context(), mapSize);
+    EXPECT_EQ(std::ranges::count(map.pixels, redPixel), 20);
+    EXPECT_EQ(map.at(0, 7), redPixel);
+    EXPECT_EQ(map.at(19, 7), redPixel);
 }
 
 TEST(RectsOfARegion, CoverItOnceEach) {

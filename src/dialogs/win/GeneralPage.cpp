@@ -7,7 +7,7 @@ namespace ormala {
 
 namespace {
 
-enum Id { idLanguage = 11, idLanguageFrame = 21, idTemplateWithBorder, idLogicalPixels };
+enum GeneralId { idLanguage = 11, idLanguageFrame = 21, idTemplateWithBorder, idLogicalPixels };
 
 }  // namespace
 

@@ -11,7 +11,7 @@ namespace ormala {
 
 namespace {
 
-enum Id {
+enum GridId {
     idGridMode = 11,
     idSizeX = 21,
     idSizeY,

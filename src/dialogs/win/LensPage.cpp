@@ -10,7 +10,7 @@ namespace ormala {
 
 namespace {
 
-enum Id {
+enum LensId {
     idCursorVisible = 11,
     idStick,
     idMagnification,

@@ -14,7 +14,7 @@ namespace ormala {
 namespace {
 
 /// Round the text, for the mark of the focus, in pixels at 96 DPI.
-constexpr int margin = 2;
+constexpr int linkMargin = 2;
 
 FontHandle underlined(const FontHandle& font) {
     LOGFONTW face{};
@@ -40,7 +40,7 @@ void LinkLabel::draw(HDC context) {
     SetBkMode(context, TRANSPARENT);
     SetTextColor(context, colorRef(dark::link));
     RECT place = area;
-    InflateRect(&place, -scaledLength(margin, dpi()), 0);
+    InflateRect(&place, -scaledLength(linkMargin, dpi()), 0);
     DrawTextW(context, wide(text()).c_str(), -1, &place,
               DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
     if (GetFocus() == handle()) {

@@ -17,7 +17,7 @@ namespace ormala {
 
 namespace {
 
-enum Id { idTitle = 11, idVersion, idVersionInfo, idHomepage, idLink, idMail, idMailLink };
+enum AboutId { idTitle = 11, idVersion, idVersionInfo, idHomepage, idLink, idMail, idMailLink };
 
 constexpr Color ground = dark::liftedGround;
 
@@ -26,7 +26,7 @@ constexpr int clientWidth = 400;
 constexpr PixelRect logoPlace{20, 20, 100, 100};
 constexpr int firstBlock = 116;
 constexpr int blockHeight = 48;
-constexpr int margin = 16;
+constexpr int aboutMargin = 16;
 
 int buttonTopFor(const ProgramFacts& facts) {
     const int blocks = (facts.webAddress.empty() ? 0 : 1) + (facts.mailAddress.empty() ? 0 : 1);
@@ -37,7 +37,7 @@ int buttonTopFor(const ProgramFacts& facts) {
 
 frmAbout::frmAbout(ProgramFacts facts, LinkOpener openLink)
     : facts_(std::move(facts)), openLink_(std::move(openLink)) {
-    open({L"frmAbout", {clientWidth, buttonTopFor(facts_) + textButtonHeight + margin}});
+    open({L"frmAbout", {clientWidth, buttonTopFor(facts_) + textButtonHeight + aboutMargin}});
 }
 
 std::unique_ptr<Label> frmAbout::makeLabel(int id, std::string_view name, Color color) const {
@@ -93,7 +93,7 @@ void frmAbout::layOut() {
     placeBlock(mail_, placeBlock(homepage_, firstBlock));
     const int top = buttonTopFor(facts_);
     place(*cmdClose_,
-          {clientWidth - margin - 88, top, clientWidth - margin, top + textButtonHeight});
+          {clientWidth - aboutMargin - 88, top, clientWidth - aboutMargin, top + textButtonHeight});
 }
 
 void frmAbout::SetRuntimeTexts() {

@@ -14,10 +14,10 @@ namespace ormala {
 
 namespace {
 
-enum Id { idPicker = 11, idPalette = 21 };
+enum ColorId { idPicker = 11, idPalette = 21 };
 
 // In pixels at 96 DPI.
-constexpr PixelSize clientSize{424, 252};
+constexpr PixelSize colorClientSize{424, 252};
 constexpr PixelRect pickerPlace{12, 12, 412, 204};
 constexpr PixelRect presentPlace{12, 216, 60, 240};
 constexpr PixelRect pickedPlace{60, 216, 108, 240};
@@ -35,7 +35,7 @@ constexpr std::array paletteTexts{543, 544, 545};
 }  // namespace
 
 frmColor::frmColor() {
-    open({L"frmColor", clientSize, true});
+    open({L"frmColor", colorClientSize, true});
 }
 
 void frmColor::makeControls() {

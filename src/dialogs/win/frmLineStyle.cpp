@@ -6,20 +6,20 @@ namespace ormala {
 
 namespace {
 
-constexpr int idLineSelect = 11;
+constexpr int idLines = 11;
 
 /// In pixels at 96 DPI.
-constexpr PixelSize clientSize{272, 220};
+constexpr PixelSize lineClientSize{272, 220};
 
 }  // namespace
 
 frmLineStyle::frmLineStyle() {
-    open({L"frmLineStyle", clientSize, true});
+    open({L"frmLineStyle", lineClientSize, true});
 }
 
 void frmLineStyle::makeControls() {
     setCaption("Select Line Style");
-    LineSelect_ = std::make_unique<ctlLineSelect>(handle(), idLineSelect, "LineSelect");
+    LineSelect_ = std::make_unique<ctlLineSelect>(handle(), idLines, "LineSelect");
     cmdOK_ = makeButton(IDOK, "cmdOK", "OK");
     ending_ = LineSelect_->DoubleClick.subscribe([this] { accept(); });
 }

@@ -19,10 +19,10 @@ namespace ormala {
 
 namespace {
 
-enum Id { idTab = 11, idPage = 21, idAbout = 31 };
+enum OptionsId { idTab = 11, idPage = 21, idAbout = 31 };
 
 // In pixels at 96 DPI.
-constexpr int margin = 8;
+constexpr int optionsMargin = 8;
 constexpr int tabTop = 8;
 constexpr int tabHeight = 28;
 constexpr int tabWidth = 192;
@@ -30,14 +30,16 @@ constexpr int tabGap = 4;
 /// The page begins below a line that joins the open tab to it.
 constexpr int lineTop = tabTop + tabHeight + 2;
 constexpr int lineHeight = 2;
-constexpr PixelRect pagePlace{margin, lineTop + lineHeight, margin + optionPageSize.width,
+constexpr PixelRect pagePlace{optionsMargin, lineTop + lineHeight,
+                              optionsMargin + optionPageSize.width,
                               lineTop + lineHeight + optionPageSize.height};
-constexpr int buttonTop = pagePlace.bottom + margin;
+constexpr int buttonTop = pagePlace.bottom + optionsMargin;
 constexpr int buttonBottom = buttonTop + 24;
-constexpr PixelSize clientSize{pagePlace.right + margin, buttonBottom + margin};
+constexpr PixelSize optionsClientSize{pagePlace.right + optionsMargin,
+                                      buttonBottom + optionsMargin};
 
 constexpr PixelRect tabPlace(int index) {
-    const int left = margin + index * (tabWidth + tabGap);
+    const int left = optionsMargin + index * (tabWidth + tabGap);
     return {left, tabTop, left + tabWidth, tabTop + tabHeight};
 }
 
@@ -45,7 +47,7 @@ constexpr PixelRect tabPlace(int index) {
 
 frmOptions::frmOptions(OptionsPort& port, ProgramFacts facts, LinkOpener openLink)
     : port_(port), facts_(std::move(facts)), openLink_(std::move(openLink)) {
-    open({L"frmOptions", clientSize});
+    open({L"frmOptions", optionsClientSize});
     openPage(0);
 }
 
@@ -77,7 +79,7 @@ void frmOptions::layOut() {
         page->place(scaledToDpi(pagePlace, dpi()).grown(-lineWidthAt(dpi())));
         page->layOut(dpi(), font());
     }
-    place(*cmdAbout_, {margin, buttonTop, margin + 96, buttonBottom});
+    place(*cmdAbout_, {optionsMargin, buttonTop, optionsMargin + 96, buttonBottom});
     place(*cmdOK_, {pagePlace.right - 184, buttonTop, pagePlace.right - 96, buttonBottom});
     place(*cmdCancel_, {pagePlace.right - 88, buttonTop, pagePlace.right, buttonBottom});
 }

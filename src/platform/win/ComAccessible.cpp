@@ -10,7 +10,7 @@ namespace {
 // The import library's own constant of that name is another number.
 const IID accessibleInterface = __uuidof(IAccessible);
 
-const SystemLibrary& library() {
+const SystemLibrary& accessibilityLibrary() {
     static const SystemLibrary accessibility(L"oleacc.dll");
     return accessibility;
 }
@@ -58,8 +58,8 @@ bool asksForClient(LPARAM lParam) {
 }
 
 IAccessible* plainAccessible(HWND window) {
-    auto* const make =
-        library().function<decltype(CreateStdAccessibleObject)>("CreateStdAccessibleObject");
+    auto* const make = accessibilityLibrary().function<decltype(CreateStdAccessibleObject)>(
+        "CreateStdAccessibleObject");
     void* plain = nullptr;
     const bool made =
         make != nullptr && SUCCEEDED(make(window, OBJID_CLIENT, accessibleInterface, &plain));
@@ -67,7 +67,8 @@ IAccessible* plainAccessible(HWND window) {
 }
 
 LRESULT handOver(WPARAM wParam, IAccessible& object) {
-    auto* const give = library().function<decltype(LresultFromObject)>("LresultFromObject");
+    auto* const give =
+        accessibilityLibrary().function<decltype(LresultFromObject)>("LresultFromObject");
     return give != nullptr ? give(accessibleInterface, wParam, &object) : 0;
 }
 

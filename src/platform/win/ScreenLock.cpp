@@ -9,7 +9,7 @@ namespace ormala {
 
 namespace {
 
-const SystemLibrary& library() {
+const SystemLibrary& sessionLibrary() {
     static const SystemLibrary services(L"wtsapi32.dll");
     return services;
 }
@@ -17,7 +17,7 @@ const SystemLibrary& library() {
 }  // namespace
 
 ScreenLock::ScreenLock(HWND window) : window_(window) {
-    if (auto* const ask = library().function<decltype(WTSRegisterSessionNotification)>(
+    if (auto* const ask = sessionLibrary().function<decltype(WTSRegisterSessionNotification)>(
             "WTSRegisterSessionNotification")) {
         ask(window_, NOTIFY_FOR_THIS_SESSION);
     }
@@ -25,7 +25,7 @@ ScreenLock::ScreenLock(HWND window) : window_(window) {
 
 ScreenLock::~ScreenLock() {
     Timer::restAll(false);
-    if (auto* const end = library().function<decltype(WTSUnRegisterSessionNotification)>(
+    if (auto* const end = sessionLibrary().function<decltype(WTSUnRegisterSessionNotification)>(
             "WTSUnRegisterSessionNotification")) {
         end(window_);
     }

@@ -9,14 +9,14 @@ namespace ormala {
 
 namespace {
 
-const SystemLibrary& library() {
+const SystemLibrary& compositionLibrary() {
     static const SystemLibrary composition(L"dwmapi.dll");
     return composition;
 }
 
 void turn(HWND window, DWORD attribute, BOOL on) {
-    if (auto* const set =
-            library().function<decltype(DwmSetWindowAttribute)>("DwmSetWindowAttribute")) {
+    if (auto* const set = compositionLibrary().function<decltype(DwmSetWindowAttribute)>(
+            "DwmSetWindowAttribute")) {
         set(window, attribute, &on, sizeof on);
     }
 }
@@ -24,13 +24,14 @@ void turn(HWND window, DWORD attribute, BOOL on) {
 }  // namespace
 
 void waitForComposition() {
-    if (auto* const flush = library().function<decltype(DwmFlush)>("DwmFlush")) {
+    if (auto* const flush = compositionLibrary().function<decltype(DwmFlush)>("DwmFlush")) {
         flush();
     }
 }
 
 bool isCloaked(HWND window) {
-    auto* const ask = library().function<decltype(DwmGetWindowAttribute)>("DwmGetWindowAttribute");
+    auto* const ask =
+        compositionLibrary().function<decltype(DwmGetWindowAttribute)>("DwmGetWindowAttribute");
     DWORD cloaked = 0;
     return ask != nullptr && SUCCEEDED(ask(window, DWMWA_CLOAKED, &cloaked, sizeof cloaked)) &&
            cloaked != 0;

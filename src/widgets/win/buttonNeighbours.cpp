@@ -21,7 +21,7 @@ bool canBePressed(HWND window) {
     return isButton(window) && IsWindowVisible(window) != FALSE && IsWindowEnabled(window) != FALSE;
 }
 
-PixelRect placeOf(HWND window) {
+PixelRect placeOfButton(HWND window) {
     RECT place{};
     GetWindowRect(window, &place);
     return fromRect(place);
@@ -34,12 +34,12 @@ HWND neighbourOfButton(HWND focus, int key) {
         return nullptr;
     }
     std::vector<HWND> buttons{focus};
-    std::vector<PixelRect> places{placeOf(focus)};
+    std::vector<PixelRect> places{placeOfButton(focus)};
     for (HWND each = GetWindow(focus, GW_HWNDFIRST); each != nullptr;
          each = GetWindow(each, GW_HWNDNEXT)) {
         if (each != focus && canBePressed(each)) {
             buttons.push_back(each);
-            places.push_back(placeOf(each));
+            places.push_back(placeOfButton(each));
         }
     }
     const auto next = buttonBeside(places, 0, key);

@@ -9,7 +9,7 @@ namespace ormala {
 namespace {
 
 /// Above the IDs of the commands.
-enum ControlId { idGround = 100, idPath, idInfo };
+enum BarId { idGround = 100, idPath, idInfo };
 
 constexpr int pictureSize = 16;
 

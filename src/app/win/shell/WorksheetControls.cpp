@@ -10,7 +10,7 @@ namespace ormala {
 namespace {
 
 /// Above the IDs of the command bar.
-enum ControlId { idLabel = 110, idEditMode, idTemplateMode, idColor };
+enum WorksheetId { idLabel = 110, idEditMode, idTemplateMode, idColor };
 
 }  // namespace
 
