@@ -267,11 +267,11 @@ TEST(Magnifier, NumbersBeyondTheirRangeDoNoHarm) {
         << "a style that is none draws nothing";
     // The grid's draw mode is none either: what is under its lines stays.
     scene.choose(LensEntry::grid);
-    scene.scene.mouse.moveTo(LensScene::spot);
     const LensView view = scene.lens.view(LensScene::spot, 10, true);
     const Picture all =
         enlarged(scene.scene.backdrop().picture(view.source), 10, view.image.origin());
     EXPECT_TRUE(waitUntil([&] {
+        scene.scene.mouse.moveTo(LensScene::spot);
         const ScreenRect image = scene.lens.part("picLens").rect();
         return image == view.image && difference(all.part(image), screen::capture(image)).empty();
     }));

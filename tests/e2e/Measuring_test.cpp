@@ -39,8 +39,8 @@ TEST(Measuring, AThreeFourFiveTriangleHasItsRatioAndAngles) {
         ToolSet().measure({{600, 400}, {200, 400}}, {{500, 500}, {200, 400}}, true).file());
     scene.mouse.drag(scene.onScreen({500, 500}), scene.onScreen({600, 100}));
     const DesktopWindow panel = scene.panel(0);
-    EXPECT_TRUE(PanelScene::says(panel, "lblLengthA", "a = 401.0 "));
-    EXPECT_TRUE(PanelScene::says(panel, "lblLengthB", "b = 501.0 "));
+    ASSERT_TRUE(PanelScene::says(panel, "lblLengthA", "a = 401.0 "));
+    ASSERT_TRUE(PanelScene::says(panel, "lblLengthB", "b = 501.0 "));
     EXPECT_TRUE(PanelScene::says(panel, "lblRatioA", "a:b = 0.8004 "));
     EXPECT_TRUE(PanelScene::says(panel, "lblRatioB", "b:a = 1.249 "));
     // From the direction of a, leftwards, to that of b, down to the left: atan(3/4).

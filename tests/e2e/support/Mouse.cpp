@@ -48,15 +48,16 @@ void sendMove(ScreenPoint point) {
     send(mouse);
 }
 
-/// The window that the mouse speaks to: the one that holds it, else the one under the pointer.
-DesktopWindow target() {
+/// Lets those windows answer that the mouse speaks to: the one that holds it, and the one under the
+/// pointer, which the display tells of each move all the same.
+void settleListeners() {
     GUITHREADINFO info{};
     info.cbSize = sizeof(info);
     if (GetGUIThreadInfo(0, &info) != 0 && info.hwndCapture != nullptr) {
-        return DesktopWindow(info.hwndCapture);
+        DesktopWindow(info.hwndCapture).settle();
     }
     const ScreenPoint point = Mouse::position();
-    return DesktopWindow(WindowFromPoint({point.x, point.y}));
+    DesktopWindow(WindowFromPoint({point.x, point.y})).settle();
 }
 
 /// Returns when the display has done all that it was told before. Of requests by several ways it
@@ -66,12 +67,12 @@ void waitForDisplay() {
     screen::pixel({0, 0});
 }
 
-/// Lets the input arrive. The display tells each move of the pointer to the program's window too,
-/// and a late echo of an earlier one would take the pointer back for a moment.
+/// Lets the input arrive. The display tells each move of the pointer to the window there too, and a
+/// late echo of an earlier one would take the pointer back for a moment.
 void letArrive() {
-    target().settle();
+    settleListeners();
     waitForDisplay();
-    target().settle();
+    settleListeners();
 }
 
 void sendWheel(DWORD wheel, int turn) {
