@@ -127,9 +127,17 @@ TEST(Drags, WorksheetFollowsTheEdgeOfItsFrame) {
     EXPECT_TRUE(worksheetFits(play.scene)) << play.scene.worksheet().rect();
 }
 
+/// Takes the frame and the control window apart, so that none lies over an edge of the other: which
+/// one is above depends on the one that the window manager came to last.
+void takeApart(const SheetScene& scene) {
+    place(frameOf(scene), {20, 20, 1220, 720});
+    EXPECT_TRUE(worksheetFits(scene));
+    moveTo(scene.settings(), {1300, 60});
+}
+
 TEST(Drags, SideEdgesOfTheControlWindowChangeNothing) {
     SheetScene scene;
-    moveTo(scene.settings(), {1300, 60});
+    takeApart(scene);
     const ScreenRect before = scene.settings().rect();
     Device device;
     for (const int x : {before.left, before.right - 1}) {
@@ -145,7 +153,7 @@ TEST(Drags, SideEdgesOfTheControlWindowChangeNothing) {
 
 TEST(Drags, BottomEdgeOfTheControlWindowStopsAtTheLeastHeight) {
     SheetScene scene;
-    moveTo(scene.settings(), {1300, 60});
+    takeApart(scene);
     const ScreenRect before = scene.settings().rect();
     Device device;
     const ScreenPoint edge{before.center().x, before.bottom - 1};
