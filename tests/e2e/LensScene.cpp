@@ -84,6 +84,16 @@ LensScene::LensScene(const SettingsFile& options)
     scene.mouse.moveTo(spot);
 }
 
+testing::AssertionResult LensScene::showsScreenAround(ScreenPoint cursor, int factor) {
+    constexpr int tries = 3;
+    testing::AssertionResult shows = testing::AssertionFailure();
+    for (int i = 0; i < tries && !shows; ++i) {
+        scene.mouse.moveTo(cursor);
+        shows = lens.showsScreen(cursor, factor);
+    }
+    return shows;
+}
+
 void LensScene::restart() {
     scene.restart();
     lens = LensWindow(scene.program().window("frmLens"));

@@ -68,6 +68,8 @@ class LensScene {
     PanelScene scene;
     LensWindow lens;
 
+    /// Moves the mouse there, and again if a busy display took the pointer back.
+    testing::AssertionResult showsScreenAround(ScreenPoint cursor, int factor);
     void restart();
     /// Chooses from the popup menu that is open, or is just coming up.
     void chooseFromMenu(LensEntry entry);

@@ -256,8 +256,7 @@ TEST(Magnifier, ScalesCountFromTheWorksheetAndFromTheImage) {
     const ScreenPoint sheet = scene.scene.worksheet().rect().origin();
     const LensScales scales(scene.lens, 4, false);
     for (const ScreenPoint cursor : {LensScene::spot, LensScene::spot + ScreenPoint{13, 7}}) {
-        scene.scene.mouse.moveTo(cursor);
-        ASSERT_TRUE(scene.lens.showsScreen(cursor, 4));
+        ASSERT_TRUE(scene.showsScreenAround(cursor, 4));
         const LensView view = scene.lens.view(cursor, 4);
         EXPECT_TRUE(scales.columnsAre("picRulTop", view.source.left - sheet.x));
         EXPECT_TRUE(scales.rowsAre("picRulLeft", view.source.top - sheet.y));
