@@ -10,7 +10,13 @@ namespace ormala {
 namespace {
 
 std::string cutToBuffer(std::string_view text, std::size_t size) {
-    return std::string(text.substr(0, std::max<std::size_t>(size, 1) - 1));
+    const std::size_t most = std::max<std::size_t>(size, 1) - 1;
+    if (text.size() <= most) {
+        return std::string(text);
+    }
+    // What is left may end in blanks, which would be gone once it is written and read again.
+    text = text.substr(0, most);
+    return std::string(text.substr(0, text.find_last_not_of(" \t") + 1));
 }
 
 }  // namespace

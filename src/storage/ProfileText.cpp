@@ -154,7 +154,7 @@ std::optional<std::string_view> ProfileText::value(std::string_view section,
         return std::nullopt;
     }
     const auto raw = rawValue(found, keyName(key));
-    return raw ? std::optional(withoutBlanks(*raw)) : std::nullopt;
+    return raw ? std::optional(withoutBlanks(upToLineEnd(*raw))) : std::nullopt;
 }
 
 bool ProfileText::canHold(std::string_view key) {

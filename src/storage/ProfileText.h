@@ -22,7 +22,8 @@ class ProfileText {
 
     const std::string& bytes() const { return bytes_; }
 
-    /// The key's value without the blanks around it. Valid until the text changes.
+    /// The key's value up to its first zero byte, without the blanks around it. Valid until the
+    /// text changes.
     std::optional<std::string_view> value(std::string_view section, std::string_view key) const;
 
     /// Whether a line with this key would be read back as such.

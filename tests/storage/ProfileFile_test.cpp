@@ -55,6 +55,13 @@ TEST_F(ProfileFileTest, CutsValuesAndDefaultsToTheBuffer) {
     EXPECT_EQ(file_.value("A", "K", "", 0), "");
 }
 
+TEST_F(ProfileFileTest, ACutValueEndsInNoBlank) {
+    bytes() = "[A]\r\nK=ab \t cd\r\n";
+    EXPECT_EQ(file_.value("A", "K", "", 6), "ab");
+    EXPECT_EQ(file_.value("A", "K", "", 7), "ab \t c");
+    EXPECT_EQ(file_.value("A", "L", "ab ", 4), "ab ");
+}
+
 TEST_F(ProfileFileTest, AnEmptyValueIsNotTheDefault) {
     bytes() = "[A]\r\nK=\r\n";
     EXPECT_EQ(value("K"), "");

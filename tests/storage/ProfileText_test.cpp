@@ -134,6 +134,14 @@ TEST(ProfileText, TextsEndWhereALineWouldEnd) {
     EXPECT_EQ(afterSetting("", "A\r\nB", "K\nL", std::string("1\0002", 3)), "[A]\r\nK=1\r\n");
 }
 
+TEST(ProfileText, AValueEndsAtItsFirstZeroByte) {
+    const std::string line("[S]\nLengthUnit=mm \0x\nNumber= 1\n", 31);
+    const ProfileText text(line);
+    EXPECT_EQ(text.value("S", "LengthUnit"), "mm");
+    EXPECT_EQ(text.value("S", "Number"), "1");
+    EXPECT_EQ(text.bytes(), line);
+}
+
 TEST(ProfileText, CantHoldKeysThatWouldReadAsSomethingElse) {
     EXPECT_FALSE(ProfileText::canHold("[K]"));
     EXPECT_FALSE(ProfileText::canHold(" ;K"));
