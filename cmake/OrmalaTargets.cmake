@@ -37,7 +37,12 @@ if(ORMALA_COVERAGE)
 endif()
 
 if(ORMALA_FUZZ)
-  target_compile_options(ormala_options INTERFACE -fsanitize=fuzzer-no-link)
+  # Texts are compared character by character, which takes a third of the time to trace and tells
+  # nothing: the fuzzers know the words by their corpora.
+  target_compile_options(ormala_options INTERFACE -fsanitize=fuzzer-no-link
+                                                  -fno-sanitize-coverage=trace-cmp)
+  # What the sanitizers add to small functions else keeps them out of line, at a third of the speed.
+  target_compile_options(ormala_options INTERFACE "SHELL:-mllvm -inline-threshold=1000")
 endif()
 
 # Neither a path nor a time of this build gets into the program or its symbols.

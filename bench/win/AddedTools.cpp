@@ -2,8 +2,8 @@
 #include <vector>
 
 #include "Figures.h"
-#include "QuietToolList.h"
 #include "benchmarks.h"
+#include "support/QuietToolList.h"
 
 namespace ormala::bench {
 

@@ -5,13 +5,13 @@
 #include <vector>
 
 #include "Figures.h"
-#include "QuietToolList.h"
 #include "app/ToolFile.h"
 #include "benchmarks.h"
 #include "storage/win/FileHandle.h"
 #include "storage/win/LongPath.h"
 #include "storage/win/WindowsCodePage.h"
 #include "storage/win/WindowsFileStore.h"
+#include "support/QuietToolList.h"
 #include "support/win/TemporaryFolder.h"
 #include "support/win/WideText.h"
 

@@ -235,10 +235,11 @@ void ToolList::dropRemoved() {
 
 /// A first pair that was not in use before is out of use again.
 void ToolList::removeReplacements(const Removed& removed) {
-    const auto come = std::ranges::stable_partition(
-        pairs_, [&](const Pair& pair) { return removed.placeOf(pair) < removed.places.size(); });
-    Pairs gone(std::move_iterator(come.begin()), std::move_iterator(come.end()));
-    pairs_.erase(come.begin(), come.end());
+    const auto come = std::stable_partition(pairs_.begin(), pairs_.end(), [&](const Pair& pair) {
+        return removed.placeOf(pair) < removed.places.size();
+    });
+    Pairs gone(std::make_move_iterator(come), std::make_move_iterator(pairs_.end()));
+    pairs_.erase(come, pairs_.end());
     for (const Pair& pair : pairs_) {
         if (!removed.hadShown(pair)) {
             hide(pair);

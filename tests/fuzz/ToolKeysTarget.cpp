@@ -4,7 +4,7 @@
 #include "fuzz/Require.h"
 #include "fuzz/Targets.h"
 #include "support/MemoryINIFile.h"
-#include "support/ToolListStage.h"
+#include "support/QuietToolList.h"
 
 namespace ormala {
 
@@ -15,14 +15,12 @@ constexpr const char* section = "Tool 1";
 /// One tool of each kind, which takes the keys of one input after another.
 struct TwoTools {
     TwoTools() {
-        stage.addStencil();
-        stage.addMeasure();
         for (auto* panel : stage.panels()) {
             panels.push_back(panel->core.get());
         }
     }
 
-    ToolListStage stage;
+    QuietToolList stage;
     std::vector<SettingControl*> panels;
 };
 

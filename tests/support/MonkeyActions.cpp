@@ -16,6 +16,9 @@ struct Share {
     T what;
     int ofHundred;
 };
+// Clang before 17 finds none for an aggregate.
+template <typename T>
+Share(T, int) -> Share<T>;
 
 constexpr std::array deeds{
     Share{Deed::move, 8},        Share{Deed::click, 24},      Share{Deed::rightClick, 5},

@@ -5,7 +5,7 @@
 
 #include "support/ToolListStage.h"
 
-namespace ormala::bench {
+namespace ormala {
 
 /// The window of a panel that shows nothing.
 class QuietPanelView : public PanelView {
@@ -44,4 +44,4 @@ class QuietToolList : public StagedToolList<QuietPanelView, QuietSheetView> {
     }
 };
 
-}  // namespace ormala::bench
+}  // namespace ormala
