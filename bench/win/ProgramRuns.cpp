@@ -7,12 +7,12 @@
 #include <vector>
 
 #include "Figures.h"
-#include "QuietToolList.h"
 #include "app/ToolFile.h"
 #include "benchmarks.h"
 #include "e2e/support/AppDataFolder.h"
 #include "storage/win/WindowsCodePage.h"
 #include "storage/win/WindowsFileStore.h"
+#include "support/QuietToolList.h"
 #include "support/win/ChildProcess.h"
 #include "support/win/Screen.h"
 #include "support/win/Wait.h"
