@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "language/MlStringModule.h"
+#include "platform/win/StandardControl.h"
 #include "platform/win/controlName.h"
 #include "platform/win/regions.h"
 #include "platform/win/text.h"
@@ -115,12 +116,6 @@ class ScrollTest : public testing::Test {
     std::unique_ptr<Scroll> bar_ =
         std::make_unique<Scroll>(holder_.handle(), 7, "scrInner", clock_);
 };
-
-std::string textOf(HWND window) {
-    wchar_t text[40]{};
-    GetWindowTextW(window, text, 40);
-    return narrow(text);
-}
 
 std::string classOf(HWND window) {
     wchar_t text[40]{};
