@@ -51,4 +51,9 @@ void lens();
 /// A hundred thousand frames of the magnifier: what they leave of memory and handles.
 void lensSoak();
 
+/// A million steps of a drag, ten thousand changes of mode, a thousand openings of each dialog, and
+/// a thousand tools removed and added: what each leaves of memory, handles and windows. A divisor
+/// plays so much less.
+void soak(int divisor);
+
 }  // namespace ormala::bench

@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <cstdlib>
 #include <cstring>
 
 #include "benchmarks.h"
@@ -50,9 +52,12 @@ int main(int argc, char** argv) {
     if (wanted("lens")) {
         bench::lens();
     }
-    // Takes minutes, and only when it is asked for.
+    // These take minutes, and only when they are asked for.
     if (argc > 1 && wanted("lens-soak")) {
         bench::lensSoak();
+    }
+    if (argc > 1 && wanted("soak")) {
+        bench::soak(argc > 2 ? std::max(1, std::atoi(argv[2])) : 1);
     }
     return 0;
 }
