@@ -242,6 +242,19 @@ class RandomMessages : public ModesStage {
         option("Options", "Language", " 9");
         option("Options", "LensVisible", "-1");
         start();
+        showCrossHair();
+    }
+
+    /// Its lines are made when they are first shown, which is where the mouse is.
+    void showCrossHair() {
+        const RECT sheet = program_->worksheet().rectangle();
+        program_->execute(Command::crossHair);
+        EXPECT_TRUE(test::waitUntil([&] {
+            SetCursorPos((sheet.left + sheet.right) / 2, (sheet.top + sheet.bottom) / 2);
+            return std::ranges::any_of(topWindows(), [](HWND window) {
+                return classNameOf(window) == "frmCrossHair";
+            });
+        }));
     }
 
     /// Each dialog at least once.
