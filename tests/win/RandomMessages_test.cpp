@@ -251,9 +251,8 @@ class RandomMessages : public ModesStage {
         program_->execute(Command::crossHair);
         EXPECT_TRUE(test::waitUntil([&] {
             SetCursorPos((sheet.left + sheet.right) / 2, (sheet.top + sheet.bottom) / 2);
-            return std::ranges::any_of(topWindows(), [](HWND window) {
-                return classNameOf(window) == "frmCrossHair";
-            });
+            return std::ranges::any_of(
+                topWindows(), [](HWND window) { return classNameOf(window) == "frmCrossHair"; });
         }));
     }
 
