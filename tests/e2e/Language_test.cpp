@@ -67,6 +67,8 @@ class LanguageScene {
     void pick(const DesktopWindow& dialog, Language language) {
         const DesktopWindow option = PanelScene::control(
             dialog, language == Language::german ? "optLanguage(1)" : "optLanguage(0)");
+        // A dialog that has just come up may not have got its place on the display yet.
+        screen::waitUntilStill(dialog.rect());
         scene.press(option);
         ASSERT_TRUE(waitUntil([&] { return option.send(BM_GETCHECK) == BST_CHECKED; }));
     }

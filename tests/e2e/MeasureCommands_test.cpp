@@ -112,8 +112,10 @@ TEST_F(MeasureCommands, CenterPutsTheCommonEndInTheMiddle) {
     panel.press("cmdDefaultPos");
     EXPECT_TRUE(waitUntil([&] { return panel.isEnabled("cmdUndo"); }));
     panel.press("cmdUndo");
+    EXPECT_TRUE(waitUntil([&] { return panel.isEnabled("cmdRedo"); }));
     expectConnected(true);
     panel.pressByKeys("cmdDefaultPos");
+    EXPECT_TRUE(waitUntil([&] { return !panel.isEnabled("cmdRedo"); }));
     const SettingsFile kept = closeAndRead();
     EXPECT_EQ(kept.number("Tool 1", "AX2"), std::floor(sheet.width() / 2.0));
     EXPECT_EQ(kept.number("Tool 1", "AY2"), std::floor(sheet.height() / 2.0));
