@@ -133,7 +133,7 @@ class Program(unittest.TestCase):
         self.assertNotIn(b".debug_info", self.program)
         self.assertIn("wWinMain", objdump(self.symbols, "--syms"))
         self.assertRegex(objdump(self.symbols, "--dwarf=info", "--dwarf-depth=1"),
-                         r"DW_AT_name .*src/app/win/frmSettings\.cpp")
+                         r"DW_AT_name .*src/app/win/shell/frmSettings\.cpp")
 
 
 class Winget(unittest.TestCase):
