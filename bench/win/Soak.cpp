@@ -217,9 +217,9 @@ void soak(int divisor) {
         {"cmdLineStyle", "frmLineStyle"}, {"cmdSelectPattern", "frmPatternSelect"},
         {"cmdEditRatio", "frmRatio"},     {"cmdUnits", "frmUnit"},
     };
-    for (const auto& [button, dialog] : dialogs) {
-        play(std::string("openings of ") + dialog, 1000 / divisor,
-             [&] { stage.openDialog(button, dialog); });
+    for (const auto& opened : dialogs) {
+        play(std::string("openings of ") + opened.second, 1000 / divisor,
+             [&] { stage.openDialog(opened.first, opened.second); });
     }
     play("removals and additions", 1000 / divisor, [&] { stage.addAndRemove(); });
 }

@@ -1,10 +1,14 @@
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <exception>
 
 #include "benchmarks.h"
 
-int main(int argc, char** argv) {
+namespace {
+
+void runWanted(int argc, char** argv) {
     using namespace ormala;
     const auto wanted = [&](const char* name) {
         return argc < 2 || std::strcmp(argv[1], name) == 0;
@@ -59,5 +63,16 @@ int main(int argc, char** argv) {
     if (argc > 1 && wanted("soak")) {
         bench::soak(argc > 2 ? std::max(1, std::atoi(argv[2])) : 1);
     }
-    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        runWanted(argc, argv);
+        return 0;
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        return 1;
+    }
 }

@@ -147,7 +147,7 @@ bool ToolList::Removed::hadShown(const Pair& pair) const {
     return place < places.size() && places[place].shown;
 }
 
-bool ToolList::hasFirst(const Pairs& pairs, ToolKind kind) const {
+bool ToolList::hasFirst(const Pairs& pairs, ToolKind kind) {
     return std::ranges::any_of(
         pairs, [kind](const Pair& pair) { return pair.first && pair.kind == kind; });
 }

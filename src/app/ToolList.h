@@ -122,7 +122,7 @@ class ToolList {
     void show(const Pair& pair);
     void destroy(Pair pair);
     void removeReplacements(const Removed& removed);
-    [[nodiscard]] bool hasFirst(const Pairs& pairs, ToolKind kind) const;
+    [[nodiscard]] static bool hasFirst(const Pairs& pairs, ToolKind kind);
     [[nodiscard]] std::size_t count() const;
     Pair* reuseFirst(ToolKind kind, std::optional<ToolChanges>& changes);
     Pair* makePair(ToolKind kind, std::optional<ToolChanges>& changes);

@@ -105,7 +105,7 @@ DesktopWindow LensScene::openMenu() {
     return scene.menus().wait();
 }
 
-void LensScene::chooseFromMenu(LensEntry entry) {
+void LensScene::chooseFromMenu(LensEntry entry) const {
     const DesktopWindow menu = scene.menus().wait();
     scene.menus().walkDown(static_cast<int>(entry));
     keyboard::press(VK_RETURN);

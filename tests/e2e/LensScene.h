@@ -72,7 +72,7 @@ class LensScene {
     testing::AssertionResult showsScreenAround(ScreenPoint cursor, int factor);
     void restart();
     /// Chooses from the popup menu that is open, or is just coming up.
-    void chooseFromMenu(LensEntry entry);
+    void chooseFromMenu(LensEntry entry) const;
     /// By the menu of the magnifier's window.
     void choose(LensEntry entry);
     void chooseFactor(int factor);

@@ -36,7 +36,7 @@ class MenuScene {
         scene.mouse.click(background(), MouseButton::Right);
         return menu();
     }
-    [[nodiscard]] DesktopWindow menu() { return scene.menus().wait(); }
+    [[nodiscard]] DesktopWindow menu() const { return scene.menus().wait(); }
     template <typename Item>
     void walkTo(Item entry) {
         scene.menus().walkDown(static_cast<int>(entry));

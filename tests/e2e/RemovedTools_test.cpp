@@ -34,6 +34,10 @@ constexpr std::array bothLanguages{
           "Werkzeuge laden"},
 };
 
+void undoByKeys() {
+    keyboard::press('Z', Modifiers::Ctrl);
+}
+
 class RemovedScene {
   public:
     explicit RemovedScene(const Texts& texts)
@@ -44,11 +48,10 @@ class RemovedScene {
                     .file(),
                 options(texts)) {}
 
-    bool notes(const char* text) {
+    bool notes(const char* text) const {
         const DesktopWindow note = scene.control("lblInfo");
         return waitUntil([&] { return note.isVisible() && note.text() == text; });
     }
-    void takeBack() { keyboard::press('Z', Modifiers::Ctrl); }
     void remove(std::size_t index) {
         scene.press(PanelScene::control(scene.panel(index), "cmdDelete"));
     }
@@ -72,13 +75,13 @@ TEST(RemovedTools, AToolComesBackToItsPlaceWithItsHistory) {
         played.remove(1);
         ASSERT_TRUE(scene.waitForPanels(2));
         EXPECT_TRUE(played.notes(texts.measureGone)) << scene.control("lblInfo").text();
-        played.takeBack();
+        undoByKeys();
         ASSERT_TRUE(scene.waitForPanels(3));
         EXPECT_TRUE(PanelScene::says(scene.panel(1), "lblTitle", texts.measure));
         EXPECT_TRUE(waitUntil([&] { return ToolPanel(scene, 1).isEnabled("cmdUndo"); }));
         EXPECT_TRUE(waitUntil([&] { return scene.control("lblPath").isVisible(); }));
         // The next one goes through its history.
-        played.takeBack();
+        undoByKeys();
         EXPECT_TRUE(waitUntil([&] { return !ToolPanel(scene, 1).isEnabled("cmdUndo"); }));
         EXPECT_EQ(scene.panels().size(), 3U);
     }
@@ -92,7 +95,7 @@ TEST(RemovedTools, OneThatComesBackOnTheWorksheetHasTheKeyboard) {
         keyboard::press(VK_DELETE);
         ASSERT_TRUE(scene.waitForPanels(2));
         EXPECT_TRUE(played.notes(texts.stencilGone)) << scene.control("lblInfo").text();
-        played.takeBack();
+        undoByKeys();
         ASSERT_TRUE(scene.waitForPanels(3));
         EXPECT_TRUE(
             PanelScene::says(scene.panel(0), "lblPositionLeft",
@@ -109,7 +112,7 @@ TEST(RemovedTools, NothingComesBackOnceAnotherToolHasMoved) {
     ASSERT_TRUE(scene.waitForPanels(2));
     ToolPanel(scene, 0).press("cmdMove(1)");
     ASSERT_TRUE(ToolPanel(scene, 0).shows("lblPositionLeft", 101));
-    played.takeBack();
+    undoByKeys();
     EXPECT_TRUE(ToolPanel(scene, 0).shows("lblPositionLeft", 100));
     EXPECT_EQ(scene.panels().size(), 2U);
 }
@@ -122,7 +125,7 @@ TEST(RemovedTools, NewAndLoadAreTakenBackAsAWhole) {
         scene.press("cmdNew");
         ASSERT_TRUE(scene.waitForPanels(0));
         EXPECT_TRUE(played.notes(texts.allGone)) << scene.control("lblInfo").text();
-        played.takeBack();
+        undoByKeys();
         ASSERT_TRUE(scene.waitForPanels(3));
         EXPECT_TRUE(PanelScene::says(scene.settings(), "lblPath", noDocument));
         const auto file = scene.data().path() / "example.OM";
@@ -131,7 +134,7 @@ TEST(RemovedTools, NewAndLoadAreTakenBackAsAWhole) {
         scene.answerFileDialog(texts.loadTitle, file);
         ASSERT_TRUE(scene.waitForPanels(2));
         EXPECT_TRUE(played.notes(texts.replaced)) << scene.control("lblInfo").text();
-        played.takeBack();
+        undoByKeys();
         ASSERT_TRUE(scene.waitForPanels(3));
         // They come before they are at their places.
         ASSERT_TRUE(waitUntil([&] { return scene.panel(1).className() == "ctlSetMeasure"; }));

@@ -53,14 +53,14 @@ class Shot {
     }
 
     /// What a user sees of the worksheet without the program's other windows.
-    Picture seen() {
+    Picture seen() const {
         putControlWindow(false);
         return screen::waitUntilStill(scene.worksheet().rect());
     }
 
     /// What a user sees of the worksheet before a shot: the reference for it, and for the screen
     /// afterwards. The control window has the keyboard.
-    Picture seenBefore() {
+    Picture seenBefore() const {
         scene.settings().activate();
         return seen();
     }

@@ -11,6 +11,7 @@ namespace {
 std::vector<MonkeyAction> actionsOf(std::uint32_t seed, int count) {
     MonkeyActions actions(seed);
     std::vector<MonkeyAction> list;
+    list.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         list.push_back(actions.next());
     }

@@ -340,7 +340,7 @@ class AccessibleEvents : public AccessibleTree {
     }
     ~AccessibleEvents() override { UnhookWinEvent(hook_); }
 
-    bool hears(const Heard& wanted) {
+    static bool hears(const Heard& wanted) {
         return test::waitUntil([&] { return count(wanted) > 0; });
     }
     [[nodiscard]] static int count(const Heard& wanted) {

@@ -41,8 +41,8 @@ PixelImage disc(PixelSize size) {
 class ControlsGolden : public testing::TestWithParam<int> {
   protected:
     [[nodiscard]] static int dpi() { return GetParam(); }
-    [[nodiscard]] int scaled(int length) const { return scaledLength(length, dpi()); }
-    [[nodiscard]] PixelRect box(int left, int top, int width, int height) const {
+    [[nodiscard]] static int scaled(int length) { return scaledLength(length, dpi()); }
+    [[nodiscard]] static PixelRect box(int left, int top, int width, int height) {
         return {scaled(left), scaled(top), scaled(left + width), scaled(top + height)};
     }
 

@@ -53,7 +53,7 @@ class HighContrast : public testing::TestWithParam<LanguageAndDpi> {
 
     /// Looks at a dialog while it is shown: as ever, in high contrast, and as ever again.
     void lookAt(const std::string& className, const std::vector<COLORREF>& allowed) {
-        player_.untilActive(className).then([this, allowed] {
+        player_.untilActive(className).then([allowed] {
             const HWND dialog = GetActiveWindow();
             moveToDpi(dialog, GetParam().dpi);
             const PixelMap before = painted(dialog);

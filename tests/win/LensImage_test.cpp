@@ -363,7 +363,7 @@ TEST_F(LensImageTest, AFrameIsCopiedWithoutHidingThePointer) {
     {
         const NotedCopies copies;
         look({500, 300});
-        operations = copies.operations();
+        operations = NotedCopies::operations();
     }
     expectEnlarged({470, 275}, 4);
     ASSERT_FALSE(operations.empty());

@@ -31,7 +31,7 @@ class MouseWheel : public testing::Test {
     }
 
     /// Plays turns that end in a notch which is heard, and returns what was heard up to there.
-    std::vector<int> heard(const std::vector<int>& turns) {
+    static std::vector<int> heard(const std::vector<int>& turns) {
         std::vector<int> notches;
         const MouseWheelHook hook([&notches](int count) { notches.push_back(count); });
         turn(turns);

@@ -95,7 +95,7 @@ TEST_F(TwoResolutions, DragThereAndBackLeavesEverySize) {
             tellResolution(window, system, other);
             RECT there{};
             GetWindowRect(window, &there);
-            EXPECT_NEAR(heightOf(there), heightOf(before) * other / system, 1) << other;
+            EXPECT_NEAR(heightOf(there), 1.0 * heightOf(before) * other / system, 1) << other;
             tellResolution(window, other, system);
             RECT back{};
             GetWindowRect(window, &back);

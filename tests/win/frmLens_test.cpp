@@ -258,7 +258,7 @@ TEST_F(frmLensTest, ATipTellsThePixelAfterASecondOfRestAndGoesWithTheColour) {
     const std::string text = lensPixelText(toldPixel(backdrop_, {300, 200}, {}));
     EXPECT_TRUE(test::waitUntil([&] { return tip() == text; }));
     backdrop_.show(lensPattern(backdrop_.size(), 1));
-    EXPECT_TRUE(test::waitUntil([&] { return tip() == ""; }));
+    EXPECT_TRUE(test::waitUntil([&] { return tip().empty(); }));
     EXPECT_TRUE(test::waitUntil([&] {
         return tip() == lensPixelText(toldPixel(backdrop_, {300, 200}, {}));
     }));

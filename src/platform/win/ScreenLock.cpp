@@ -37,7 +37,7 @@ void ScreenLock::takePower(WPARAM event) const {
     }
 }
 
-void ScreenLock::take(WPARAM change) {
+void ScreenLock::take(WPARAM change) const {
     switch (change) {
         case WTS_SESSION_LOCK:
         case WTS_CONSOLE_DISCONNECT:

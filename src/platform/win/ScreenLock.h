@@ -17,7 +17,7 @@ class ScreenLock {
     ScreenLock& operator=(const ScreenLock&) = delete;
 
     /// For WM_WTSSESSION_CHANGE, with what it tells.
-    void take(WPARAM change);
+    void take(WPARAM change) const;
 
     /// For WM_POWERBROADCAST, with what it tells.
     void takePower(WPARAM event) const;

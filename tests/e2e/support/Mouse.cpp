@@ -102,6 +102,7 @@ ScreenPoint Mouse::position() {
     return {static_cast<int>(point.x), static_cast<int>(point.y)};
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): of the one that is held
 void Mouse::moveTo(ScreenPoint point) {
     requireSoon("mouse pointer at " + text(point), [point] {
         keyboard::repeatHeldModifiers();
@@ -169,12 +170,14 @@ void Mouse::makeSureHeld(const HeldKeys& keys) {
     });
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): of the one that is held
 void Mouse::wheel(int notches, Modifiers modifiers) {
     const HeldKeys keys(modifiers);
     sendWheel(MOUSEEVENTF_WHEEL, notches * WHEEL_DELTA);
     letArrive();
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): of the one that is held
 void Mouse::wheelByParts(int turn, int parts) {
     for (int i = 0; i < parts; ++i) {
         sendWheel(MOUSEEVENTF_WHEEL, turn);
@@ -182,6 +185,7 @@ void Mouse::wheelByParts(int turn, int parts) {
     letArrive();
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): of the one that is held
 void Mouse::tiltWheel(int notches) {
     sendWheel(MOUSEEVENTF_HWHEEL, notches * WHEEL_DELTA);
     letArrive();

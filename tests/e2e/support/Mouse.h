@@ -24,7 +24,6 @@ class Mouse {
     static ScreenPoint position();
 
     /// Fails the stage if the pointer does not get there.
-    // NOLINTNEXTLINE(readability-convert-member-functions-to-static): of the one that is held
     void moveTo(ScreenPoint point);
     void press(MouseButton button = MouseButton::Left);
     void release(MouseButton button = MouseButton::Left);
@@ -37,7 +36,6 @@ class Mouse {
     void drag(ScreenPoint from, ScreenPoint to, int steps = 8,
               Modifiers modifiers = Modifiers::None, MouseButton button = MouseButton::Left);
     /// Turns the wheel where the pointer stands; positive notches turn it away from the user.
-    // NOLINTNEXTLINE(readability-convert-member-functions-to-static): of the one that is held
     void wheel(int notches, Modifiers modifiers = Modifiers::None);
     /// The same in steps as small as a touchpad's; a notch is WHEEL_DELTA of them.
     void wheelByParts(int turn, int parts);

@@ -6,6 +6,7 @@
 // Needs the types of COM.
 #include <gdiplus.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <stdexcept>
 
@@ -47,7 +48,8 @@ class LockedPixels {
 
     [[nodiscard]] bool valid() const { return valid_; }
     [[nodiscard]] std::uint32_t* row(int y) const {
-        return reinterpret_cast<std::uint32_t*>(static_cast<BYTE*>(data_.Scan0) + y * data_.Stride);
+        return reinterpret_cast<std::uint32_t*>(static_cast<BYTE*>(data_.Scan0) +
+                                                std::ptrdiff_t{y} * data_.Stride);
     }
 
   private:

@@ -273,7 +273,7 @@ bool frmSettings::preview(const MSG& message) {
            (key == key::tab && focusNextControl(held)) || focusButtonBeside(key, held);
 }
 
-bool frmSettings::focusButtonBeside(int key, int held) {
+bool frmSettings::focusButtonBeside(int key, int held) const {
     const HWND next = held == 0 ? neighbourOfButton(GetFocus(), key) : nullptr;
     if (next != nullptr) {
         SetFocus(next);

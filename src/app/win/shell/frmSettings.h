@@ -113,7 +113,7 @@ class frmSettings : public Window {
     std::optional<LRESULT> onTimer(UINT_PTR timer);
     std::optional<LRESULT> onCommand(WPARAM notification);
     bool focusNextControl(int held);
-    bool focusButtonBeside(int key, int held);
+    bool focusButtonBeside(int key, int held) const;
 
     Ports ports_;
     SettingsSize size_{*this};

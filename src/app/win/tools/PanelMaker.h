@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "app/ListedPanel.h"
 #include "app/win/tools/PanelDialogs.h"
 #include "app/win/tools/PanelList.h"
@@ -31,7 +33,7 @@ class PanelMaker : public PanelFactory {
     };
 
     /// All must outlive the panels, and so must the maker.
-    explicit PanelMaker(const Ports& ports) : ports_(ports) {}
+    explicit PanelMaker(Ports ports) : ports_(std::move(ports)) {}
 
     std::unique_ptr<ListedPanel> makePanel(ToolKind kind, OverlayItem& tool) override;
     void setDpi(int dpi);

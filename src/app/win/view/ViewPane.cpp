@@ -167,8 +167,8 @@ void ViewPane::askForLensMenu(PixelPoint screen) {
 }
 
 /// A menu has a message loop of its own, which must not run within the event that asks for it.
-void ViewPane::popUpMenu(HMENU menu, const Window& owner, POINT place) {
-    if (const auto command = frmMenu_.popUp(menu, owner.handle(), place)) {
+void ViewPane::popUpMenu(HMENU menu, const Window& owner, POINT place) const {
+    if (const auto command = frmMenu::popUp(menu, owner.handle(), place)) {
         ports_.execute(*command);
     }
 }

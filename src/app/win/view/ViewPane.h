@@ -89,7 +89,7 @@ class ViewPane : public OptionsPort {
     void onTimer(UINT_PTR timer);
     [[nodiscard]] HWND ownerOfDialogs() const;
     void askForLensMenu(PixelPoint screen);
-    void popUpMenu(HMENU menu, const Window& owner, POINT place);
+    void popUpMenu(HMENU menu, const Window& owner, POINT place) const;
 
     Ports ports_;
     frmMenu frmMenu_;
