@@ -236,9 +236,8 @@ TEST_F(frmResizerTest, MaximisedAndAtOnceRestoredItIsThereAsBefore) {
     const RECT before = frame_.rectangle();
     ShowWindow(frame_.handle(), SW_SHOWMAXIMIZED);
     ShowWindow(frame_.handle(), SW_RESTORE);
-    EXPECT_TRUE(test::waitUntil([&] {
-        return opacity() != 0 && frame_.isVisible() && !sheet_.window().MaxSized();
-    }));
+    EXPECT_TRUE(test::waitUntil(
+        [&] { return opacity() != 0 && frame_.isVisible() && !sheet_.window().MaxSized(); }));
     EXPECT_TRUE(test::waitUntil([&] {
         const RECT after = frame_.rectangle();
         return EqualRect(&after, &before) != FALSE;
