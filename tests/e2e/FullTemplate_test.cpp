@@ -61,6 +61,8 @@ TEST(FullTemplate, AllModesInTurnAreLivedThrough) {
         scene.goToPause();
         scene.goToTemplate();
         scene.goToEdit();
+        scene.goToPause();
+        scene.goToEdit();
         ASSERT_TRUE(waitUntil([&] { return scene.answers(); }, milliseconds{20000}));
         ASSERT_TRUE(scene.program().process().isRunning());
     }

@@ -170,5 +170,24 @@ TEST(SheetLayers, TheWorksheetChangesItsWayWithItsModeAndItsSize) {
     EXPECT_TRUE(isKeyed());
 }
 
+TEST(SheetLayers, AFineWorksheetThatWaitsForItsPaintingIsNotCutByWhatItShowed) {
+    constexpr int width = 1600;
+    constexpr int height = 900;
+    TestSheet sheet({width, height});
+    sheet.aids.grid = {true, 1, 2, 0x1EC801, {5, 5, 0, 0}};
+    sheet.window().aidsChanged();
+    const HWND window = sheet.window().handle();
+    for (const int grown : {1, 2, 3}) {
+        // A mode's key can come before the window paints itself in its new size. A shape of what
+        // it shows until then would end this program.
+        SetWindowPos(window, nullptr, 20, 20, width + grown, height + grown,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+        sheet.window().setClickable(false);
+        EXPECT_EQ(GetLayeredWindowAttributes(window, nullptr, nullptr, nullptr) != FALSE,
+                  !test::runsUnderWine());
+        sheet.window().setClickable(true);
+    }
+}
+
 }  // namespace
 }  // namespace ormala

@@ -83,6 +83,8 @@ void frmWorksheet::setOwner(HWND owner) {
 }
 
 void frmWorksheet::ApplyLayered() {
+    // How it is shown depends on the picture that the screen has.
+    paintNow();
     const LayeredLook look = layeredLook(transparency_, aids_.background());
     layers_->apply(look, painter_.picture());
 }

@@ -124,8 +124,17 @@ DesktopWindow DesktopWindow::named(std::string_view name) const {
 }
 
 void DesktopWindow::activate() const {
+    using Clock = std::chrono::steady_clock;
+    static constexpr milliseconds patience{500};
     SetForegroundWindow(handle_);
-    requireSoon("foreground for " + described(*this), [this] { return isForeground(); });
+    requireSoon("foreground for " + described(*this), [this, asked = Clock::now()]() mutable {
+        // A window that comes to the screen late can take it away; whoever plays then asks again.
+        if (!isForeground() && Clock::now() - asked > patience) {
+            SetForegroundWindow(handle_);
+            asked = Clock::now();
+        }
+        return isForeground();
+    });
     settle();
 }
 
