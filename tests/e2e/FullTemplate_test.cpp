@@ -61,11 +61,11 @@ TEST(FullTemplate, AllModesInTurnAreLivedThrough) {
         scene.goToPause();
         scene.goToTemplate();
         scene.goToEdit();
-        scene.goToPause();
-        scene.goToEdit();
         ASSERT_TRUE(waitUntil([&] { return scene.answers(); }, milliseconds{20000}));
         ASSERT_TRUE(scene.program().process().isRunning());
     }
+    scene.goToPause();
+    scene.goToEdit();
     EXPECT_EQ(scene.program().close(), 0U);
 }
 

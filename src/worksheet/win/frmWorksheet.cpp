@@ -85,8 +85,11 @@ void frmWorksheet::setOwner(HWND owner) {
 void frmWorksheet::ApplyLayered() {
     // How it is shown depends on the picture that the screen has.
     paintNow();
-    const LayeredLook look = layeredLook(transparency_, aids_.background());
-    layers_->apply(look, painter_.picture());
+    layerAnew();
+}
+
+void frmWorksheet::layerAnew() {
+    layers_->apply(layeredLook(transparency_, aids_.background()), painter_.picture());
 }
 
 void frmWorksheet::setTransparentToMouse(bool transparent) {
@@ -150,10 +153,11 @@ void frmWorksheet::show() {
     ShowWindow(handle(), SW_SHOWNA);
     if (transparency_.clickable) {
         // A key that was taken away while the window was hidden can be left behind in its shape.
+        // Nothing may be painted yet that is too fine for one.
         SetLayeredWindowAttributes(handle(), colorRef(aids_.background()),
                                    static_cast<BYTE>(transparency_.clickAlpha),
                                    LWA_COLORKEY | LWA_ALPHA);
-        ApplyLayered();
+        layerAnew();
     }
     if (maxSized_) {
         // The screen may have changed while the window was hidden.

@@ -125,6 +125,8 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     void runTimer(Ticking& ticking, int interval, bool running) override;
 
     void ApplyLayered();
+    /// The picture on the screen has to be the painter's.
+    void layerAnew();
     void invalidate(const DirtyRegion& region, bool atRest);
     /// Of the monitor that the window is on.
     void takeDpi(UINT dpi);
