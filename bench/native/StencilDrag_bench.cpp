@@ -2,6 +2,7 @@
 
 #include "stencil/ctlRatioGrid.h"
 #include "support/OwnToolSettings.h"
+#include "support/QuietToolHost.h"
 
 // All that a step of a drag computes without painting, beside the drawing of the same stencil into
 // nothing.
@@ -9,16 +10,10 @@
 namespace ormala {
 namespace {
 
-class EmptyHost : public ToolHost, public TextMeter {
+class EmptyHost : public QuietToolHost {
   public:
-    void repaint(const OverlayItem&, const DirtyRegion& region) override {
+    void repaint(const OverlayItem& /*item*/, const DirtyRegion& region) override {
         benchmark::DoNotOptimize(region.rects().data());
-    }
-    void showTip(const OverlayItem&, TipId) override {}
-    const TextMeter& textMeter() const override { return *this; }
-    void runTimer(Ticking&, int, bool) override {}
-    PixelSize measure(std::string_view text, int) const override {
-        return {static_cast<int>(text.size()) * 6, 13};
     }
 };
 

@@ -12,7 +12,7 @@
 namespace ormala {
 
 /// Undo and redo of a tool whose state is a value that can be compared: the ring with its records,
-/// whose memory is taken at once. Owned by the tool.
+/// whose memory grows with the steps. Owned by the tool.
 template <class State>
 class StateHistory : private HistorySlots {
   public:
@@ -21,7 +21,6 @@ class StateHistory : private HistorySlots {
     /// `state` is the tool's, and `load` puts a record into its place.
     StateHistory(const State& state, std::function<void(const State&)> load)
         : state_(state), load_(std::move(load)) {
-        records_.reserve(slots);
         helper_.Initialize(slots - 1);
     }
     StateHistory(const StateHistory&) = delete;
@@ -30,7 +29,7 @@ class StateHistory : private HistorySlots {
     [[nodiscard]] HistoryHelper& helper() { return helper_; }
 
   private:
-    /// Records are made as the ring reaches them, within the memory that is there.
+    /// Records are made as the ring reaches them. Valid until the next step.
     [[nodiscard]] State& record(std::int32_t slot) {
         if (slot < 0 || slot >= slots) {
             throw std::out_of_range("a history has no such slot");
@@ -42,7 +41,10 @@ class StateHistory : private HistorySlots {
         return records_[index];
     }
     void StoreToHistory(std::int32_t slot) override { record(slot) = state_; }
-    void LoadFromHistory(std::int32_t slot) override { load_(record(slot)); }
+    void LoadFromHistory(std::int32_t slot) override {
+        const State stored = record(slot);
+        load_(stored);
+    }
     bool CompareWithHistory(std::int32_t slot) override { return state_ != record(slot); }
 
     const State& state_;
