@@ -14,11 +14,12 @@ constexpr UINT restInterval = 15;
 std::vector<PanelInList> PanelSupply::places() const {
     std::vector<PanelInList> found;
     found.reserve(ports_.panels.size());
+    const HeldWindows held;
     for (const PanelWindow* panel : ports_.panels) {
         const RECT place = panel->rectangle();
         const bool equipped = panel->isEquipped();
         found.push_back({static_cast<int>(place.top), static_cast<int>(place.bottom),
-                         panel->isVisible(), equipped, equipped && panel->isHeld()});
+                         panel->isVisible(), equipped, equipped && panel->holds(held)});
     }
     return found;
 }

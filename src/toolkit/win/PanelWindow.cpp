@@ -51,7 +51,7 @@ PanelWindow::PanelWindow(const Ports& ports, const MakeCore& makeCore)
 }
 
 PanelWindow::~PanelWindow() {
-    if (!isHeld()) {
+    if (!holds({})) {
         strip();
     }
     destroy();
@@ -74,11 +74,11 @@ void PanelWindow::strip() {
     }
 }
 
-bool PanelWindow::isHeld() const {
+bool PanelWindow::holds(const HeldWindows& held) const {
     const auto isInside = [this](HWND window) {
         return window != nullptr && (window == handle() || IsChild(handle(), window) != FALSE);
     };
-    return isInside(GetFocus()) || isInside(GetCapture());
+    return isInside(held.focus) || isInside(held.capture);
 }
 
 PixelSize PanelWindow::size() const {

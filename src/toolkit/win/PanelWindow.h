@@ -29,6 +29,13 @@ class PanelHost {
     virtual void removePanel(PanelWindow& panel, bool byMouse) = 0;
 };
 
+/// What has the keyboard and the mouse; null for what nobody has. The system is asked at once, for
+/// all panels that are to be compared.
+struct HeldWindows {
+    HWND focus = GetFocus();
+    HWND capture = GetCapture();
+};
+
 /// The window of a tool's panel. Its controls, which show what the panel tells and tell it what is
 /// done to them, are there only while it has been given some: so many windows are too dear for
 /// panels that nobody sees.
@@ -66,8 +73,8 @@ class PanelWindow : public Window, private PanelView {
     void equip();
     void strip();
     [[nodiscard]] bool isEquipped() const { return controls_ != nullptr; }
-    /// One of its controls has the keyboard or the mouse, or the panel itself has.
-    [[nodiscard]] bool isHeld() const;
+    /// One of its controls has one of them, or the panel itself has.
+    [[nodiscard]] bool holds(const HeldWindows& held) const;
     /// Whether small buttons grow under the mouse, which the panel then looks for.
     void setGrowing(bool growing);
 

@@ -4,6 +4,7 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "language/MlStringModule.h"
 #include "platform/win/controlDpi.h"
@@ -39,7 +40,10 @@ Scroll::Button::Button(Scroll& bar, ScrollPart part, std::string_view name)
     setCornerStyle(square);
 }
 
-void Scroll::Button::place(const PixelRect& box) const {
+void Scroll::Button::place(const PixelRect& box) {
+    if (std::exchange(box_, box) == box) {
+        return;
+    }
     const UINT visibility = box.empty() ? SWP_HIDEWINDOW : SWP_SHOWWINDOW;
     SetWindowPos(handle(), nullptr, box.left, box.top, box.width(), box.height(),
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW | SWP_NOCOPYBITS | visibility);
@@ -64,7 +68,7 @@ Scroll::Scroll(HWND parent, int id, std::string_view name, Clock& clock) : clock
     buttons_ = {std::make_unique<Button>(*this, ScrollPart::topLeft, "cmdTL"),
                 std::make_unique<Button>(*this, ScrollPart::thumb, "cmdMove"),
                 std::make_unique<Button>(*this, ScrollPart::bottomRight, "cmdBR")};
-    placing_ = model_.LayoutChange.subscribe([this] { refresh(); });
+    placing_ = model_.LayoutChange.subscribe([this] { onLayout(); });
     following_ = model_.Change.subscribe([this] { Change.raise(); });
     relabeling_ = GetLanguageSupport().LanguageChange.subscribe([this] { ApplyLanguage(); });
     ApplyLanguage();
@@ -130,6 +134,22 @@ void Scroll::refresh() {
     drawn_ = false;
     placeButtons();
     RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+/// A step of the thumb leaves the rest of the picture as it is.
+void Scroll::onLayout() {
+    const ScrollLayout former = std::exchange(layout_, model_.layout());
+    ScrollLayout moved = former;
+    moved.cmdMove = layout_.cmdMove;
+    if (handle() == nullptr || moved != layout_ || former.cmdMove.empty() ||
+        layout_.cmdMove.empty()) {
+        refresh();
+        return;
+    }
+    drawn_ = false;
+    placeButtons();
+    const RECT way = toRect(former.cmdMove.united(layout_.cmdMove));
+    RedrawWindow(handle(), &way, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
 /// Bar and buttons all show their piece of one picture, which is drawn out of sight.

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 #include "base/Clock.h"
@@ -48,13 +49,14 @@ class Scroll : public Window {
         Button(Scroll& bar, ScrollPart part, std::string_view name);
         [[nodiscard]] ScrollPart part() const { return part_; }
         /// Moves it without painting, and hides it where the place is empty.
-        void place(const PixelRect& box) const;
+        void place(const PixelRect& box);
 
       private:
         std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
         Scroll& bar_;
         ScrollPart part_;
+        std::optional<PixelRect> box_;
     };
 
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -65,6 +67,7 @@ class Scroll : public Window {
     void ApplyLanguage();
     LRESULT tellFacts(ScrollPart part, AccessibleFacts& facts) const;
     void refresh();
+    void onLayout();
     void placeButtons();
     LRESULT paint(HWND window);
     LRESULT onSize();
@@ -79,6 +82,8 @@ class Scroll : public Window {
 
     Clock& clock_;
     ScrollModel model_;
+    /// That the bar shows.
+    ScrollLayout layout_;
     std::array<std::unique_ptr<Button>, 3> buttons_;
     BackBuffer buffer_;
     bool drawn_ = false;
