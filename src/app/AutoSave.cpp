@@ -38,6 +38,10 @@ void AutoSave::save() {
     port_.runTimer(0);
     const bool saved = port_.saveChanges();
     delay_ = saved ? delay : std::min(2 * delay_, longestDelay);
+    if (!saved) {
+        waits_ = true;
+        port_.runTimer(delay_);
+    }
     if (!std::exchange(told_, !saved) && !saved) {
         port_.tellFailure();
     }

@@ -7,6 +7,8 @@ void AutomaticTools::load(const std::string& now) {
     if (!loadIfReadable()) {
         ports_.tools.showFirstTools();
     }
+    // Those of a first start, which nobody has seen.
+    ports_.tools.dropRemoved();
     saved_ = ports_.tools.keysText();
 }
 

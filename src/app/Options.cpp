@@ -1,6 +1,8 @@
 #include "app/Options.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 #include "modAPI/rounding.h"
 
@@ -68,8 +70,11 @@ class KeyReader {
     void operator()(const char* key, Mode& value) const {
         value = static_cast<Mode>(file_.LongValue(key, numberOf(value)));
     }
+    /// A whole number, and the only one that can be larger than others.
     void operator()(const char* key, double& value) const {
-        value = file_.LongValue(key, static_cast<int>(value));
+        const double stored = RoundHalfAway(file_.DoubleValue(key, value), 0);
+        const bool large = std::abs(stored) > std::numeric_limits<int>::max();
+        value = large ? stored : file_.LongValue(key, static_cast<int>(value));
     }
     void operator()(const char* key, std::string& value) const {
         value = file_.TextValue(key, value);

@@ -113,6 +113,10 @@ int TickLength(int Value, int factor) {
 }
 
 int labelStep(int sampleWidth, int factor) {
+    // On a screen so fine that the digits are that wide.
+    if (sampleWidth >= 50 * factor) {
+        return 10;
+    }
     if (sampleWidth >= 20 * factor) {
         return 5;
     }

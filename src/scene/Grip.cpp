@@ -55,7 +55,8 @@ void Grip::setScale(const SheetScale& present) {
 }
 
 double Grip::reach() const {
-    return grown() ? 0 : scale.length(restingReach);
+    // As far as it grows, to the pixel.
+    return grown() ? 0 : scale.pixels(restingReach);
 }
 
 void Grip::place(const Point& point) {

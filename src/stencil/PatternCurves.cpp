@@ -74,11 +74,6 @@ Point cut(Point point) {
 
 }  // namespace
 
-PatternCurves::PatternCurves() {
-    constexpr std::size_t pointsOfLongestCurve = 178;
-    points_.reserve(pointsOfLongestCurve);
-}
-
 void PatternCurves::draw(const PatternRecord& pattern, const PatternPlacement& placement,
                          PatternReceiver& receiver) {
     const UnitSquareTransform transform(placement.rectBound, placement.preRotation,
@@ -102,6 +97,8 @@ void PatternCurves::draw(const PatternRecord& pattern, const PatternPlacement& p
 void PatternCurves::join(Point p1, Point p2, PatternReceiver& receiver) {
     if (points_.empty() || p1 != points_.back()) {
         flush(receiver);
+        constexpr std::size_t pointsOfLongestCurve = 178;
+        points_.reserve(pointsOfLongestCurve);
         points_.assign({p1, p2});
     } else if (p2 != points_.back()) {
         points_.push_back(p2);

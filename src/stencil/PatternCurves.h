@@ -47,12 +47,10 @@ class PatternReceiver {
     virtual void bezier(const BezierEllipse& points) = 0;
 };
 
-/// Turns and stretches patterns into rectangles. It keeps its buffer of points, so that redrawing
-/// allocates nothing.
+/// Turns and stretches patterns into rectangles. It keeps its buffer of points from one curve to
+/// the next.
 class PatternCurves {
   public:
-    PatternCurves();
-
     /// A running curve in a dotted or dashed style comes as polylines, so that the style runs on
     /// along it; all other lines come as segments.
     void draw(const PatternRecord& pattern, const PatternPlacement& placement,

@@ -152,7 +152,8 @@ void DragSizeCorner(StencilState& state, const GripDrag& drag) {
     // The true outer edges of the pixels: their ratio is what the eye sees.
     Rect outer{bound.left - 0.5, bound.top - 0.5, bound.right + 0.5, bound.bottom + 0.5};
     const Point center = RectCenter(outer);
-    const double q = PixelRatio(bound, false);
+    const double ratio = PixelRatio(bound, false);
+    const double q = ratio == 0 || IsInfinite(ratio) ? 1 : ratio;
     const Point direction = directionOfCorner(drag.grip.number);
     const Point away{-direction.x, -direction.y};
     const Point mouse = inOwnFrame(center, drag, state.RotationAngle);

@@ -184,7 +184,8 @@ void SettingControl::Redo() {
 }
 
 void SettingControl::goTo(void (HistoryHelper::*neighbour)()) {
-    if (pause_) {
+    // The next move of a drag would take the rest of what was held back.
+    if (pause_ || tool_.grips().active()) {
         return;
     }
     letGo();

@@ -30,7 +30,9 @@ PixelPoint wayOf(int key) {
 }
 
 bool restsInDrag(int key) {
-    return wayOf(key) != PixelPoint{} || key == key::home || key == key::remove;
+    // Each of the others places the tool, which the next move of the drag would undo.
+    return wayOf(key) != PixelPoint{} || key == key::home || key == key::end ||
+           key == key::pageUp || key == key::pageDown || key == key::remove;
 }
 
 bool isModifier(int key) {
@@ -129,7 +131,7 @@ void SheetMouse::lost() {
     OverlayItem* item = holder_;
     letGo();
     if (item != nullptr) {
-        item->mouseUp({}, sourceOf(item));
+        item->mouseUp(last_, sourceOf(item));
         port_.raiseLens(true);
     } else {
         aids_.lost();

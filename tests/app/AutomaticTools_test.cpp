@@ -58,6 +58,14 @@ TEST_F(AutomaticToolsTest, WhatCouldNotBeWrittenStillDiffers) {
     EXPECT_FALSE(automatic_.differ());
 }
 
+TEST_F(AutomaticToolsTest, AStartWithoutToolsHasNoneToBringBack) {
+    stage_.list.RemoveAllTools();
+    automatic_.save();
+    automatic_.load(time_);
+    EXPECT_TRUE(stage_.list.GetPanelsInVisualOrder().empty());
+    EXPECT_FALSE(removed_.canBringBack());
+}
+
 TEST_F(AutomaticToolsTest, TheFileOfTheLastRunIsKept) {
     EXPECT_EQ(beside("previous"), exampleToolFile);
     stage_.stencil(0).setLineWidth(7);

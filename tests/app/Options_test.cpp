@@ -158,6 +158,14 @@ TEST_F(OptionsTest, ALengthFactorWithAFractionComesBackAsTheNearestWholeNumber) 
     EXPECT_EQ(readOptions(file_, languageEnglish).defaultUnits.LengthFactor, 2);
 }
 
+TEST_F(OptionsTest, ALengthFactorLargerThanOtherNumbersComesBack) {
+    Options options;
+    options.defaultUnits.LengthFactor = 3e9;
+    writeOptions(file_, options);
+    EXPECT_EQ(readOptions(file_, languageEnglish).defaultUnits.LengthFactor, 3e9);
+    EXPECT_EQ(file_.LastError(), "");
+}
+
 TEST_F(OptionsTest, AnyNumberButZeroReadsAsTrue) {
     EXPECT_TRUE(readOne("GridEnabled", " 1").aids.grid.enabled);
     EXPECT_TRUE(readOne("GridEnabled", "-7").aids.grid.enabled);

@@ -77,6 +77,9 @@ TEST(LabelStep, LeavesRoomForTheSample) {
     EXPECT_EQ(labelStep(36, 3), 2);
     EXPECT_EQ(labelStep(36, 2), 2);
     EXPECT_EQ(labelStep(36, 1), 5);
+    EXPECT_EQ(labelStep(49, 1), 5);
+    EXPECT_EQ(labelStep(50, 1), 10) << "the digits of a very fine screen";
+    EXPECT_EQ(labelStep(72, 2), 5);
     EXPECT_EQ(labelStep(20, 1), 5);
     EXPECT_EQ(labelStep(19, 1), 2);
     EXPECT_EQ(labelStep(9, 1), 1);

@@ -224,6 +224,17 @@ TEST(DragSizeCorner, FollowsTheMousePastTheCentreDownToTheLeastSize) {
     EXPECT_TRUE(isNear(state.RectBound, {70, 35, 129, 64}, 1e-9));
 }
 
+TEST(DragSizeCorner, OfAStencilWithoutHeightStaysFinite) {
+    for (const Rect& flat : {Rect{100, 100, 399, 99}, Rect{100, 100, 99, 399}}) {
+        StencilState state = stencilAt(flat);
+        DragSizeCorner(state, dragTo(StencilGripKind::sizeCorner, 1, {500, 500}));
+        const Rect& bound = state.RectBound;
+        for (const double edge : {bound.left, bound.top, bound.right, bound.bottom}) {
+            EXPECT_LT(std::abs(edge), 10000);
+        }
+    }
+}
+
 TEST(DragSizeCorner, FollowsTheMouseAlongTheDiagonal) {
     StencilState state = stencilAt({0, 0, 199, 99});
     DragSizeCorner(state, dragTo(StencilGripKind::sizeCorner, 1, {399, 199}));

@@ -133,6 +133,23 @@ TEST_F(SetRatioGridButtonsTest, UndoDuringARunTakesTheRunBack) {
     EXPECT_EQ(tool_.RectBound(), plain);
 }
 
+TEST_F(SetRatioGridButtonsTest, UndoInADragWaitsForItsEnd) {
+    start(plain);
+    press("cmdMove(1)");
+    panel_->release();
+    const Rect moved = tool_.RectBound();
+    ASSERT_NE(moved, plain);
+    const Point grip = tool_.grips()[0].center();
+    const MouseInput at{mouseButton::left, 0, static_cast<float>(grip.x),
+                        static_cast<float>(grip.y)};
+    tool_.mouseDown(at, {});
+    panel_->Undo();
+    EXPECT_EQ(tool_.RectBound(), moved);
+    tool_.mouseUp(at, {});
+    panel_->Undo();
+    EXPECT_EQ(tool_.RectBound(), plain);
+}
+
 TEST_F(SetRatioGridButtonsTest, TheModifiersOfTheAngleChooseTheStep) {
     constexpr double degree = pi / 180;
     start(plain, 1);

@@ -48,8 +48,7 @@ PixelMap readClient(HWND window) {
 }
 
 TestSheet::TestSheet(PixelSize size) : ratios_(makeRatios()) {
-    window_ =
-        std::make_unique<frmWorksheet>(maker_, foreground_, commands, aids, settings.textForm);
+    window_ = std::make_unique<frmWorksheet>(maker_, foreground, commands, aids, settings.textForm);
     window_->setBackground(sheetGround);
     window_->setClickAlpha(191);
     window_->setMaxSized(false);

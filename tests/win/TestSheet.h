@@ -78,11 +78,11 @@ class TestSheet {
     NotedCommands commands;
     OwnToolSettings settings;
     AidOptions aids{{}, false, false};
+    ForegroundMemory foreground;
 
   private:
     SpecialRatios ratios_;
     ToolMaker maker_{settings, ratios_};
-    ForegroundMemory foreground_;
     std::unique_ptr<frmWorksheet> window_;
 };
 

@@ -232,24 +232,24 @@ TEST_F(frmResizerTest, DraggedToTheUpperEdgeItGoesTheSameWay) {
     EXPECT_FALSE(IsZoomed(frame_.handle()));
 }
 
-TEST_F(frmResizerTest, MaximisedAndAtOnceRestoredItIsThereAsBefore) {
+TEST_F(frmResizerTest, MaximisedAndAtOnceRestoredItEndsAsOneOfTheTwo) {
     const RECT before = frame_.rectangle();
-    const LONG_PTR style = GetWindowLongPtrW(frame_.handle(), GWL_STYLE);
-    const RECT client = frame_.clientRectangle();
-    // As the system tells it. What a window manager makes of two wishes in a row is its own affair.
-    const auto tell = [&](LONG_PTR state, WPARAM size) {
-        SetWindowLongPtrW(frame_.handle(), GWL_STYLE, style | state);
-        SendMessageW(frame_.handle(), WM_SIZE, size, MAKELPARAM(client.right, client.bottom));
+    ShowWindow(frame_.handle(), SW_SHOWMAXIMIZED);
+    ShowWindow(frame_.handle(), SW_RESTORE);
+    const auto isBack = [&] {
+        const RECT now = frame_.rectangle();
+        return opacity() == 255 && frame_.isVisible() && !sheet_.window().MaxSized() &&
+               EqualRect(&now, &before) != FALSE && worksheet() == hole();
     };
-    tell(WS_MAXIMIZE, SIZE_MAXIMIZED);
-    EXPECT_EQ(opacity(), 0);
-    tell(0, SIZE_RESTORED);
-    EXPECT_TRUE(test::waitUntil([&] { return opacity() != 0; }));
-    EXPECT_TRUE(frame_.isVisible());
-    EXPECT_FALSE(sheet_.window().MaxSized());
-    const RECT after = frame_.rectangle();
-    EXPECT_NE(EqualRect(&after, &before), FALSE);
-    EXPECT_TRUE(settles());
+    // A window manager may heed the first of two wishes after the second one.
+    const auto isFullScreen = [&] {
+        return sheet_.window().MaxSized() && !frame_.isVisible() &&
+               IsZoomed(frame_.handle()) == FALSE;
+    };
+    EXPECT_TRUE(test::waitUntil([&] { return isBack() || isFullScreen(); }));
+    if (isFullScreen()) {
+        EXPECT_TRUE(fillsScreen());
+    }
 }
 
 TEST_F(frmResizerTest, SnappedToAHalfOfTheScreenItTakesTheWorksheetAlong) {
@@ -317,6 +317,39 @@ TEST_F(frmResizerTest, ModeKeysWorkInTheFrame) {
     const std::vector<Command> asked{Command::editMode, Command::pauseMode, Command::templateMode,
                                      Command::help};
     EXPECT_EQ(sheet_.commands.executed, asked);
+}
+
+/// The keys of the frame are the worksheet's, and so is its keyboard.
+TEST_F(frmResizerTest, ArrowKeysInTheFrameMoveTheSelectedTool) {
+    const ctlRatioGrid& one = sheet_.addStencil({100, 100, 200, 200}, 0, rgb(255, 0, 0));
+    const ctlRatioGrid& other = sheet_.addStencil({300, 100, 400, 200}, 0, rgb(0, 255, 0));
+    Sheet& tools = sheet_.window().sheet();
+    const auto press = [&](WPARAM key) {
+        SendMessageW(frame_.handle(), WM_KEYDOWN, key, 0);
+        SendMessageW(frame_.handle(), WM_KEYUP, key, 0);
+    };
+    SetForegroundWindow(sheet_.window().handle());
+    ASSERT_TRUE(test::waitUntil([&] { return GetFocus() == sheet_.window().handle(); }));
+    const std::vector<OverlayItem*> order = tools.zOrder();
+    tools.giveFocus(*order.front());
+    ASSERT_EQ(tools.focused(), order.front());
+    // The other one is selected by its panel meanwhile.
+    SetFocus(nullptr);
+    sheet_.foreground.LastForegroundWindow = nullptr;
+    tools.SelectControl(*order.back());
+    SetForegroundWindow(frame_.handle());
+    ASSERT_TRUE(test::waitUntil([&] { return GetForegroundWindow() == frame_.handle(); }));
+    SetFocus(frame_.handle());
+    EXPECT_EQ(tools.focused(), order.back());
+    press(VK_RIGHT);
+    EXPECT_EQ(one.RectBound().left, 100);
+    EXPECT_EQ(other.RectBound().left, 301);
+    tools.focusNext(false);
+    EXPECT_EQ(tools.focused(), order.front()) << "the worksheet is in front with its frame";
+    press(VK_RIGHT);
+    EXPECT_EQ(one.RectBound().left, 101);
+    SetFocus(sheet_.window().handle());
+    EXPECT_EQ(tools.focused(), order.front()) << "nothing has changed hands";
 }
 
 TEST_F(frmResizerTest, TakesNoInputMethod) {

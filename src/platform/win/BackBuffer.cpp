@@ -19,7 +19,6 @@ bool BackBuffer::resize(PixelSize size) {
         size_ = size;
         return true;
     }
-    // The context lets go of the bitmap first: a selected bitmap cannot be destroyed.
     context_.reset();
     bitmap_.reset();
     pixels_ = nullptr;

@@ -11,6 +11,11 @@ namespace ormala {
 /// A bitmap of the screen's format with a device context of its own, to paint on out of sight.
 class BackBuffer {
   public:
+    BackBuffer() = default;
+    BackBuffer(BackBuffer&&) = default;
+    BackBuffer& operator=(BackBuffer&&) = default;
+    ~BackBuffer() { context_.reset(); }
+
     /// Gives it that size; the content is lost when the size changes. A bitmap that is a little too
     /// large is kept, so that a window that is being sized needs no new one each time. False if the
     /// system has no memory for it, in which case the buffer is empty.
@@ -23,6 +28,7 @@ class BackBuffer {
     [[nodiscard]] PixelView view() const;
 
   private:
+    /// Lets go of the bitmap first, which cannot be destroyed while it is selected.
     ContextHandle context_;
     BitmapHandle bitmap_;
     std::uint32_t* pixels_ = nullptr;

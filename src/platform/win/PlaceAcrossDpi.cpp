@@ -55,6 +55,19 @@ void setNormalPlace(HWND window, const PixelRect& place) {
     SetWindowPlacement(window, &placement);
 }
 
+void setHeight(HWND window, int height) {
+    if (IsIconic(window) != FALSE) {
+        PixelRect place = normalPlaceOf(window);
+        place.bottom = place.top + height;
+        setNormalPlace(window, place);
+        return;
+    }
+    RECT place{};
+    GetWindowRect(window, &place);
+    SetWindowPos(window, nullptr, 0, 0, static_cast<int>(place.right - place.left), height,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void PlaceAcrossDpi::restore(const std::function<bool()>& place) {
     restored_ = true;
     placeSteadily(place);

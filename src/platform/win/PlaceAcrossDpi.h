@@ -19,6 +19,8 @@ void placeSteadily(const std::function<bool()>& place);
 PixelRect normalPlaceOf(HWND window);
 /// Neither shows the window nor hides it, nor changes its state.
 void setNormalPlace(HWND window, const PixelRect& place);
+/// In pixels; a minimised window comes back with it.
+void setHeight(HWND window, int height);
 
 /// The place of a top-level window through changes of resolution.
 class PlaceAcrossDpi {

@@ -23,8 +23,7 @@ class Handle {
     ~Handle() { reset(); }
 
     void reset(H handle = H{}) {
-        if (handle_ != H{}) {
-            Close(handle_);
+        if (handle_ != H{} && Close(handle_) != FALSE) {
             HandleCount::close();
         }
         if (handle != H{}) {

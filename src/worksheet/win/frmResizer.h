@@ -67,6 +67,8 @@ class frmResizer : public Window {
     void makeUnseen() const;
     void leaveMaximised();
     void tellPlace() const;
+    std::optional<LRESULT> onSystemCommand(WPARAM command);
+    std::optional<LRESULT> onKey(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onHitTest(LPARAM lParam);
     LRESULT onPaint();
     LRESULT onSize(WPARAM wParam, LPARAM lParam);

@@ -46,19 +46,14 @@ std::optional<LRESULT> frmResizer::onMessage(UINT message, WPARAM wParam, LPARAM
         case WM_GETMINMAXINFO:
             return onGetMinMaxInfo(lParam);
         case WM_SYSCOMMAND:
-            if ((wParam & 0xFFF0U) == SC_MAXIMIZE) {
-                PostMessageW(handle(), wmFullScreen, TRUE, 0);
-                return 0;
-            }
+            return onSystemCommand(wParam);
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
+            worksheet_.frameFocusChanged(message == WM_SETFOCUS, reinterpret_cast<HWND>(wParam));
             return std::nullopt;
         case WM_KEYDOWN:
         case WM_SYSKEYDOWN:
-            if (worksheet_.KeyDown(static_cast<int>(wParam), heldModifiers())) {
-                return 0;
-            }
-            // Who changes windows by the keyboard comes here, and means the tools.
-            SendMessageW(worksheet_.handle(), message, wParam, lParam);
-            return std::nullopt;
+            return onKey(message, wParam, lParam);
         case WM_TIMER:
             return onTimer(wParam);
         case WM_DPICHANGED:
@@ -69,6 +64,23 @@ std::optional<LRESULT> frmResizer::onMessage(UINT message, WPARAM wParam, LPARAM
         default:
             return std::nullopt;
     }
+}
+
+std::optional<LRESULT> frmResizer::onSystemCommand(WPARAM command) {
+    if ((command & 0xFFF0U) != SC_MAXIMIZE) {
+        return std::nullopt;
+    }
+    PostMessageW(handle(), wmFullScreen, TRUE, 0);
+    return 0;
+}
+
+/// Who changes windows by the keyboard comes here, and means the tools.
+std::optional<LRESULT> frmResizer::onKey(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (worksheet_.KeyDown(static_cast<int>(wParam), heldModifiers())) {
+        return 0;
+    }
+    SendMessageW(worksheet_.handle(), message, wParam, lParam);
+    return std::nullopt;
 }
 
 LRESULT frmResizer::onHitTest(LPARAM lParam) {

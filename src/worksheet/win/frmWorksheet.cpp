@@ -82,6 +82,10 @@ void frmWorksheet::setOwner(HWND owner) {
     SetWindowLongPtrW(handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
 }
 
+HWND frmWorksheet::frame() const {
+    return GetWindow(handle(), GW_OWNER);
+}
+
 void frmWorksheet::ApplyLayered() {
     // How it is shown depends on the picture that the screen has.
     paintNow();
@@ -196,12 +200,14 @@ void frmWorksheet::narrowAndWiden() {
 }
 
 void frmWorksheet::setFocusHeld(bool held) {
-    sheet_.setFocusHeld(held, GetFocus() == handle());
+    const HWND focus = GetFocus();
+    sheet_.setFocusHeld(held, focus != nullptr && (focus == handle() || focus == frame()));
     paintNow();
 }
 
 bool frmWorksheet::wasInFront() const {
-    return handle() == foreground_.LastForegroundWindow;
+    const void* const last = foreground_.LastForegroundWindow;
+    return last != nullptr && (last == handle() || last == frame());
 }
 
 void frmWorksheet::rememberForeground() {

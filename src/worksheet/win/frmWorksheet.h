@@ -79,6 +79,9 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     /// Meanwhile the tools do not learn that the window gets or loses the keyboard; at the end they
     /// learn who has it then.
     void setFocusHeld(bool held);
+    /// The frame passes its keys on: its keyboard is the worksheet's. `other` had it before, or has
+    /// it then.
+    void frameFocusChanged(bool got, HWND other);
     /// What the menu key does: asks for the context menu.
     void ShowContextMenu() override;
     void show();
@@ -124,6 +127,8 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     const TextMeter& textMeter() const override { return fonts_; }
     void runTimer(Ticking& ticking, int interval, bool running) override;
 
+    /// The owner; null without one.
+    [[nodiscard]] HWND frame() const;
     void ApplyLayered();
     /// The picture on the screen has to be the painter's.
     void layerAnew();
@@ -131,6 +136,7 @@ class frmWorksheet : public Window, private SheetPort, private MousePort, privat
     /// Of the monitor that the window is on.
     void takeDpi(UINT dpi);
     std::optional<LRESULT> onPlaceMessage(UINT message, WPARAM wParam);
+    LRESULT onFocusLost(HWND other);
     std::optional<LRESULT> onScreenReader(UINT message, WPARAM wParam, LPARAM lParam);
     /// What screen readers know of the tools may have changed. A drag is told of at its end.
     void tellScreenReaders();

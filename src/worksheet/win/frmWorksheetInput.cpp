@@ -61,10 +61,7 @@ std::optional<LRESULT> frmWorksheet::onMessage(UINT message, WPARAM wParam, LPAR
             tellScreenReaders();
             return paintNow();
         case WM_KILLFOCUS:
-            mouse_.keyboardLost();
-            sheet_.windowLostFocus();
-            tellScreenReaders();
-            return paintNow();
+            return onFocusLost(reinterpret_cast<HWND>(wParam));
         case WM_TIMER:
             return onTimer(wParam);
         case WM_CLOSE:
@@ -188,6 +185,27 @@ std::optional<LRESULT> frmWorksheet::onKey(WPARAM key) {
         sheet_.focused()->keyDown(static_cast<int>(key), shift);
     }
     return paintNow();
+}
+
+LRESULT frmWorksheet::onFocusLost(HWND other) {
+    mouse_.keyboardLost();
+    if (other == nullptr || other != frame()) {
+        sheet_.windowLostFocus();
+    }
+    tellScreenReaders();
+    return paintNow();
+}
+
+void frmWorksheet::frameFocusChanged(bool got, HWND other) {
+    if (other == handle()) {
+        return;
+    }
+    if (got) {
+        sheet_.windowGotFocus();
+    } else {
+        sheet_.windowLostFocus();
+    }
+    paintNow();
 }
 
 bool frmWorksheet::takesKey(int key, int shift) const {

@@ -42,7 +42,8 @@ void SettingsSize::placeFirst() {
 }
 
 void SettingsSize::restoreEditModeHeight(int twips) {
-    const int below = GetSystemMetrics(SM_CYSCREEN) - static_cast<int>(window_.rectangle().top);
+    const auto below = static_cast<int>(monitorAround(window_.handle()).rcMonitor.bottom -
+                                        window_.rectangle().top);
     height_.setEditModeHeight(std::min(pixelsOfTwips(twips, dpi_), std::max(below, 0)));
 }
 
@@ -104,15 +105,13 @@ PanelLayout::Window SettingsSize::forPanels(Mode mode) const {
     const SettingsLayout places = layout();
     const SettingsHeight::Present now = present();
     const int below =
-        static_cast<int>(workAreaAround(window_.handle()).bottom - window_.rectangle().top);
+        static_cast<int>(workAreaAround(window_.handle()).bottom) - placeWhenRestored().top;
     return {places.picOuter.left, places.picOuter.top, static_cast<int>(frame().cy), below,
             now.height == now.shortHeight && mode == Mode::templateMode};
 }
 
 void SettingsSize::takeHeight(int height) const {
-    const RECT place = window_.rectangle();
-    SetWindowPos(window_.handle(), nullptr, 0, 0, place.right - place.left, height,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    setHeight(window_.handle(), height);
 }
 
 SIZE SettingsSize::frame() const {
@@ -125,11 +124,13 @@ SIZE SettingsSize::frame() const {
 }
 
 SettingsHeight::Present SettingsSize::present() const {
-    const WindowState state = stateOf(window_.handle());
-    // Of a minimised window the one that it comes back to.
-    const PixelRect place = state == WindowState::minimised ? normalPlaceOf(window_.handle())
-                                                            : fromRect(window_.rectangle());
-    return {state, place.height(), layout().shortHeight + static_cast<int>(frame().cy)};
+    return {stateOf(window_.handle()), placeWhenRestored().height(),
+            layout().shortHeight + static_cast<int>(frame().cy)};
+}
+
+PixelRect SettingsSize::placeWhenRestored() const {
+    return IsIconic(window_.handle()) != FALSE ? normalPlaceOf(window_.handle())
+                                               : fromRect(window_.rectangle());
 }
 
 }  // namespace ormala

@@ -49,6 +49,8 @@ class SettingsSize {
                                                   const SettingsHeight::Present& former);
     [[nodiscard]] SIZE frame() const;
     [[nodiscard]] SettingsHeight::Present present() const;
+    /// Of a minimised window the one that it comes back to.
+    [[nodiscard]] PixelRect placeWhenRestored() const;
 
     const Window& window_;
     PlaceAcrossDpi acrossDpi_;
