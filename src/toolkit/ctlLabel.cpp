@@ -49,17 +49,15 @@ bool atBottom(Anchor anchor) {
 
 }  // namespace
 
-int ctlLabel::TextWidth(const TextMeter& meter) const {
-    return meter.measure(caption_, fontSize_).width + haloSize;
-}
-
-int ctlLabel::TextHeight(const TextMeter& meter) const {
-    return meter.measure(caption_, fontSize_).height + haloSize;
+PixelSize ctlLabel::textSize(const TextMeter& meter) const {
+    const PixelSize text = meter.measure(caption_, fontSize_);
+    return {text.width + haloSize, text.height + haloSize};
 }
 
 void ctlLabel::fit(const TextMeter& meter) {
-    box_.right = box_.left + TextWidth(meter);
-    box_.bottom = box_.top + TextHeight(meter);
+    const PixelSize text = textSize(meter);
+    box_.right = box_.left + text.width;
+    box_.bottom = box_.top + text.height;
     overhang_ = meter.scale().pixels(overhang);
 }
 
@@ -91,19 +89,18 @@ void ctlLabel::addTo(DirtyRegion& region) const {
 
 void PlaceInfoLabel(ctlLabel& label, const Point& point, PixelSize area, const TextMeter& meter) {
     const double width = label.box().width();
-    const double textWidth = label.TextWidth(meter);
-    const double textHeight = label.TextHeight(meter);
+    const PixelSize text = label.textSize(meter);
     const double gap = meter.scale().length(gapBesideGrip);
     double left = point.x - width - gap;
     double top = point.y - label.box().height() / 2.0;
-    if (top + textHeight > area.height) {
-        top = area.height - textHeight;
+    if (top + text.height > area.height) {
+        top = area.height - text.height;
     }
     if (left + width > area.width) {
         left = area.width - width;
     }
     top = std::max(top, 0.0);
-    if (left + width - textWidth < 0) {
+    if (left + width - text.width < 0) {
         left = std::max(point.x + gap, 0.0);
         label.setAlignment(Alignment::left);
     } else {

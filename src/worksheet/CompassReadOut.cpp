@@ -32,6 +32,9 @@ CompassReadOut::CompassReadOut(const AidTexts& texts) : texts_(texts) {
 
 void CompassReadOut::show(const std::optional<CircleCompass::Opening>& opening, const Point& mouse,
                           PixelSize sheet) {
+    if (!opening && !label_.visible()) {
+        return;
+    }
     const ctlLabel former = label_;
     label_.setVisible(opening.has_value());
     if (opening) {

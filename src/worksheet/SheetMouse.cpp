@@ -131,7 +131,9 @@ void SheetMouse::lost() {
     OverlayItem* item = holder_;
     letGo();
     if (item != nullptr) {
-        item->mouseUp(last_, sourceOf(item));
+        // Where the mouse will be next, nobody knows; no grip is under it until it moves.
+        constexpr float nowhere = -32000;
+        item->mouseUp({mouseButton::none, 0, nowhere, nowhere}, sourceOf(item));
         port_.raiseLens(true);
     } else {
         aids_.lost();

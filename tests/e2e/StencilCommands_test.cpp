@@ -312,6 +312,8 @@ TEST_F(StencilCommands, TheMouseActionInEditModeDragsInTheProgramBelowAndNoGrip)
     EXPECT_TRUE(waitUntil([&] { return scene.program().window("frmResizer").isVisible(); }));
     expectStart();
     EXPECT_FALSE(panel.isEnabled("cmdUndo"));
+    // A window manager may give the frame, which is back, the keyboard that the panel had.
+    scene.settings().activate();
     // Once the preview is over, everything is as before, and the worksheet takes the mouse.
     EXPECT_TRUE(waitUntil([&] { return difference(stencilPicture(), before).empty(); }));
     scene.mouse.drag(scene.onScreen({285, 206}), scene.onScreen({305, 216}));

@@ -204,6 +204,14 @@ TEST_F(frmResizerTest, MaximiseButtonMakesTheWorksheetFullScreenWithoutAFrame) {
     EXPECT_TRUE(settles());
 }
 
+TEST_F(frmResizerTest, FullScreenWorksheetThatSomethingPutsElsewhereComesBack) {
+    frame_.maximise();
+    ASSERT_TRUE(fillsScreen());
+    SetWindowPos(sheet_.window().handle(), nullptr, 205, 180, 690, 460, quietly);
+    EXPECT_TRUE(fillsScreen());
+    EXPECT_FALSE(frame_.isVisible());
+}
+
 TEST_F(frmResizerTest, MaximisedByTheSystemItGoesTheSameWay) {
     const RECT before = frame_.rectangle();
     ShowWindow(frame_.handle(), SW_SHOWMAXIMIZED);

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/win/PlaceAcrossDpi.h"
 #include "win/ModesStage.h"
 
 // The height of the control window through modes, minimising and starts.
@@ -55,6 +56,18 @@ TEST_F(ControlHeight, ChangeBySystemMenuWhileMinimisedLosesNoHeight) {
     ASSERT_TRUE(test::waitUntil([&] { return height() == shortHeight(); }));
     press(VK_F2);
     EXPECT_TRUE(test::waitUntil([&] { return height() == pulled; })) << height();
+}
+
+TEST_F(ControlHeight, AMinimisedWindowComesBackWithTheHeightThatItWasGiven) {
+    start();
+    const RECT before = settings_->rectangle();
+    ShowWindow(settings_->handle(), SW_MINIMIZE);
+    setHeight(settings_->handle(), pulled);
+    EXPECT_TRUE(IsIconic(settings_->handle()));
+    ShowWindow(settings_->handle(), SW_RESTORE);
+    EXPECT_TRUE(test::waitUntil([&] { return height() == pulled; })) << height();
+    EXPECT_EQ(settings_->rectangle().top, before.top);
+    EXPECT_EQ(widthOf(settings_->rectangle()), widthOf(before));
 }
 
 TEST_F(ControlHeight, AProgramThatEndsMinimisedAndShortKnowsItsHeight) {

@@ -171,8 +171,8 @@ TEST_F(SheetMouseTest, ALostCaptureEndsTheDragOfTheTool) {
     mouse_.lost();
     EXPECT_EQ(noted(left_, "mouseUp"), 1);
     EXPECT_EQ(left_.input.button, mouseButton::none);
-    EXPECT_EQ(left_.input.x, 25) << "the mouse is still where it was";
-    EXPECT_EQ(left_.input.y, 50);
+    EXPECT_LT(left_.input.x, -1000) << "over no grip";
+    EXPECT_LT(left_.input.y, -1000);
     EXPECT_FALSE(mouse_.holding());
     mouse_.move(at(mouseButton::none, 125, 50));
     EXPECT_EQ(noted(right_, "mouseMove"), 1);

@@ -139,7 +139,12 @@ void frmLens::UpdatePosition() {
     if (!Sticked() || !isVisible() || !isNormal()) {
         return;
     }
-    const PixelPoint place = lensBesideMouse(CursorPoint_, sizeOf(rectangle()), bounds_, dpi_);
+    const PixelRect now = fromRect(rectangle());
+    const PixelPoint place =
+        lensBesideMouse(CursorPoint_, {now.width(), now.height()}, bounds_, dpi_);
+    if (place == PixelPoint{now.left, now.top}) {
+        return;
+    }
     SetWindowPos(handle(), nullptr, place.x, place.y, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

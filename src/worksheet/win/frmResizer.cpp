@@ -5,6 +5,7 @@
 #include "language/MlStringModule.h"
 #include "platform/win/inputMethod.h"
 #include "platform/win/regions.h"
+#include "worksheet/win/fullScreen.h"
 
 namespace ormala {
 
@@ -94,16 +95,20 @@ void frmResizer::layWorksheetInside(POINT shift) {
 }
 
 void frmResizer::checkHoleSoon() {
-    if (!worksheet_.MaxSized() && !std::exchange(checking_, true)) {
+    if (!std::exchange(checking_, true)) {
         PostMessageW(handle(), wmCheckHole, 0, 0);
     }
 }
 
 void frmResizer::checkHole() {
     checking_ = false;
+    if (worksheet_.MaxSized()) {
+        checkFullScreen();
+        return;
+    }
     const bool atRest = IsIconic(handle()) == FALSE && IsZoomed(handle()) == FALSE &&
                         IsIconic(worksheet_.handle()) == FALSE && !unseenDrag_;
-    if (!atRest || worksheet_.MaxSized()) {
+    if (!atRest) {
         return;
     }
     switch (keeper_.next(fromRect(worksheet_.rectangle()), hole())) {
@@ -115,6 +120,20 @@ void frmResizer::checkHole() {
             break;
         case HoleKeeper::Step::rest:
             break;
+    }
+}
+
+/// A window manager may put a worksheet that has just left its frame back to where it was.
+void frmResizer::checkFullScreen() {
+    if (!worksheet_.isVisible() || IsIconic(worksheet_.handle()) != FALSE) {
+        return;
+    }
+    const auto step =
+        keeper_.next(fromRect(worksheet_.rectangle()), fullScreenPlaceAround(worksheet_.handle()));
+    if (step == HoleKeeper::Step::putNow) {
+        worksheet_.setMaxSized(true);
+    } else if (step == HoleKeeper::Step::putLater) {
+        tmrSetSize_.start(handle(), tmrSetSizeInterval);
     }
 }
 

@@ -62,6 +62,7 @@ class frmResizer : public Window {
     void layWorksheetInside(POINT shift = {0, 0});
     void checkHoleSoon();
     void checkHole();
+    void checkFullScreen();
     void goFullScreenSoon();
     LRESULT onFullScreen(bool asked);
     void makeUnseen() const;

@@ -152,6 +152,8 @@ void frmResizer::followUnseen() {
         tmrSetSize_.stop();
         if (isVisible()) {
             PositionWorksheet();
+        } else if (worksheet_.MaxSized()) {
+            worksheet_.setMaxSized(true);
         }
     } else if (isVisible()) {
         const POINT cursor = cursorPlace();
