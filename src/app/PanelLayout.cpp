@@ -12,7 +12,7 @@ std::optional<int> PanelLayout::UpdatePanelLayout(int content, bool Force, const
     }
     const int change = std::abs(content - content_);
     content_ = content;
-    if (!Force && (change == 0 || change >= followed)) {
+    if (change >= followed && !Force) {
         return std::nullopt;
     }
     const int outer = window.listTop + window.listLeft + content + window.frameHeight;

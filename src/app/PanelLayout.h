@@ -24,8 +24,8 @@ class PanelLayout {
 
     /// `UpdatePanelLayout` with a change of heights: takes the content's new height and answers the
     /// outer height that the window is to take, nothing if it stays as it is. It follows the small
-    /// changes, and any with `Force`; panels that come or go, and none that change the height,
-    /// leave it to the scroll bar.
+    /// changes of a panel that folds lines in or out, and any change with `Force`; panels that come
+    /// or go leave it to the scroll bar.
     std::optional<int> UpdatePanelLayout(int content, bool Force, const Window& window);
 
   private:

@@ -255,7 +255,12 @@ void ToolList::bringBack() {
     if (removed.pairs.empty()) {
         return;
     }
+    const bool hadPanels = !GetPanelsInVisualOrder().empty();
     removeReplacements(removed);
+    if (hadPanels && GetPanelsInVisualOrder().empty()) {
+        // A set that goes is told by itself: one of the same height would change the window's.
+        ArrangePanels();
+    }
     OverlayItem* selected = nullptr;
     for (Pair& pair : removed.pairs) {
         show(pair);

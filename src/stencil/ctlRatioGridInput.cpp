@@ -148,6 +148,8 @@ void ctlRatioGrid::keyDown(int key, int shift) {
         case key::pageUp:
         case key::pageDown:
             ModifyAngle(key == key::pageDown, angleStepOf(shift));
+            // A drag that is under way goes on with it.
+            pressAngle_ = state_.RotationAngle;
             break;
         case key::end:
         case key::remove:

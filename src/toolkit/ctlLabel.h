@@ -28,8 +28,7 @@ class ctlLabel {
     [[nodiscard]] Color BackColor() const { return backColor_; }
     void setBackColor(Color color) { backColor_ = color; }
 
-    /// The caption's size and the halo's four pixels. Measuring is what costs most in a step of a
-    /// drag, so that both come at once.
+    /// The caption's size and the halo's four pixels. Both come of one question to the system.
     [[nodiscard]] PixelSize textSize(const TextMeter& meter) const;
     [[nodiscard]] int TextWidth(const TextMeter& meter) const { return textSize(meter).width; }
     [[nodiscard]] int TextHeight(const TextMeter& meter) const { return textSize(meter).height; }

@@ -30,9 +30,7 @@ PixelPoint wayOf(int key) {
 }
 
 bool restsInDrag(int key) {
-    // Each of the others places the tool, which the next move of the drag would undo.
-    return wayOf(key) != PixelPoint{} || key == key::home || key == key::end ||
-           key == key::pageUp || key == key::pageDown || key == key::remove;
+    return wayOf(key) != PixelPoint{} || key == key::home || key == key::remove;
 }
 
 bool isModifier(int key) {

@@ -31,9 +31,8 @@ class SheetMouse {
     /// which goes no further.
     bool keyChanged(int key, int shift);
     /// A key went down or repeated itself. While the left button holds a grip, each arrow key moves
-    /// the mouse by a pixel, with Ctrl by ten, and the other keys that place a tool do nothing.
-    /// True if the tool is not to hear of the key; one that went down in a drag rests until it is
-    /// let go.
+    /// the mouse by a pixel, with Ctrl by ten, and Home and Delete do nothing. True if the tool is
+    /// not to hear of the key; one that went down in a drag rests until it is let go.
     bool keyPressed(int key, int shift);
     void keyReleased(int key) { std::erase(resting_, key); }
     /// Whatever is let go now, nobody tells of it.

@@ -23,12 +23,6 @@ TEST(PanelLayout, TheWindowFollowsAPanelThatFoldsALine) {
     EXPECT_EQ(layout.UpdatePanelLayout(300, false, window), 300 + around);
 }
 
-TEST(PanelLayout, AsManyOtherPanelsLeaveTheWindowAsItStands) {
-    PanelLayout layout;
-    layout.UpdatePanelLayout(300, true, window);
-    EXPECT_EQ(layout.UpdatePanelLayout(300, false, window), std::nullopt);
-}
-
 TEST(PanelLayout, ForceMakesTheWindowFollowAnyChange) {
     PanelLayout layout;
     EXPECT_EQ(layout.UpdatePanelLayout(900, true, window), 900 + around);

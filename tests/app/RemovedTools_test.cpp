@@ -242,6 +242,17 @@ TEST_F(RemovedToolsTest, AfterALoadTheFormerSetComesBackInsteadOfTheLoadedOne) {
     EXPECT_EQ(ini_.file.Path(), "");
 }
 
+TEST_F(RemovedToolsTest, ASetThatReplacesAnotherIsLaidOutAsRemovedAndAdded) {
+    loadNamed();
+    const int before = stage_.view.layouts;
+    bringBack();
+    EXPECT_EQ(stage_.view.layouts, before + 2);
+    removed_.remove(stage_.stencil(0));
+    const int without = stage_.view.layouts;
+    bringBack();
+    EXPECT_EQ(stage_.view.layouts, without + 1);
+}
+
 TEST_F(RemovedToolsTest, WhatALoadReplacedGoesForGoodWithTheNextTool) {
     loadNamed();
     const auto loaded = stage_.panels().size();

@@ -27,13 +27,8 @@ TEST_F(HeldGripStatements, OfTheArrowKeys) {
         {"each press moves the mouse, and the grip with it, by one pixel, with Ctrl by ten.",
          "the right arrow key, and the up key with Ctrl",
          [this] { return at(key::right) + at(key::up, modifier::ctrl); }, "1,0 0,-10 "},
-        {"Home, End, Page Up, Page Down and Delete do nothing while a grip is held.",
-         "all of them, and Tab",
-         [this] {
-             return at(key::home) + at(key::end) + at(key::pageUp) + at(key::pageDown) +
-                    at(key::remove) + at(key::tab);
-         },
-         "the tool's "},
+        {"Home and Delete do nothing while a grip is held.", "both, and Page Up",
+         [this] { return at(key::home) + at(key::remove) + at(key::pageUp); }, "the tool's "},
         {"Jeder Druck bewegt die Maus und mit ihr den Griff um ein Pixel, mit Strg um zehn.",
          "the left arrow key, and the same with Ctrl",
          [this] { return at(key::left) + at(key::left, modifier::ctrl); }, "-1,0 -10,0 "},

@@ -297,6 +297,21 @@ TEST(CtlRatioGridInput, ArrowsMoveTheCentreByAPixel) {
     EXPECT_EQ(stage.tool.History().newest(), 0);
 }
 
+TEST(CtlRatioGridInput, ATurnByKeysInADragStays) {
+    StencilOnSheet stage;
+    const Point from = stage.gripAt(StencilGripKind::move);
+    const Point center = RectCenter(stage.tool.RectBound());
+    stage.press(from);
+    stage.dragTo({from.x + 5, from.y});
+    stage.tool.keyDown(key::pageUp, 0);
+    stage.dragTo({from.x + 9, from.y});
+    EXPECT_NEAR(stage.tool.RotationAngle(), pi / 180, 1e-12);
+    EXPECT_EQ(RectCenter(stage.tool.RectBound()), (Point{center.x + 9, center.y}));
+    stage.release({from.x + 9, from.y});
+    EXPECT_NEAR(stage.tool.RotationAngle(), pi / 180, 1e-12);
+    EXPECT_EQ(stage.tool.History().newest(), 1);
+}
+
 TEST(CtlRatioGridInput, CtrlArrowsMoveTheCentreAlongTheGrid) {
     StencilOnSheet stage;
     stage.settings.grid = {70, 30, 5, 7};
