@@ -4,7 +4,9 @@
     second_monitor.py open MAIN SECOND           gives both monitors their sizes, each WxH
     second_monitor.py serve MAIN SECOND FOLDER   takes the second away and gives it back on request
 
-A request (tools/stage_service.py tells how) is "absent" or "present".
+A request (tools/stage_service.py tells how) is "absent", "present" or "stir". The last changes the
+main monitor's rate and changes it back: whoever listens to the display is told, and no window sees
+anything else.
 """
 
 import pathlib
@@ -14,24 +16,25 @@ import sys
 import stage_service
 
 MAIN, SECOND = "DUMMY0", "DUMMY1"
-# The driver shows nothing, so that any blanking will do.
+# The driver shows nothing, so that any blanking and any rate will do.
 BLANKING = (16, 32, 64)
-FRAMES_PER_SECOND = 60
+FRAMES_PER_SECOND = (60, 59)
 
 
 def xrandr(*arguments):
     subprocess.run(["xrandr", *arguments], check=True, capture_output=True, text=True, timeout=30)
 
 
-def mode_of(output):
-    return f"stage-{output}"
+def mode_of(output, rate=FRAMES_PER_SECOND[0]):
+    return f"stage-{output}-{rate}"
 
 
-def add_mode(output, size):
+def add_modes(output, size):
     across, down = ([length, *(length + part for part in BLANKING)] for length in size)
-    clock = across[-1] * down[-1] * FRAMES_PER_SECOND / 1e6
-    xrandr("--newmode", mode_of(output), f"{clock:.2f}", *map(str, across + down))
-    xrandr("--addmode", output, mode_of(output))
+    for rate in FRAMES_PER_SECOND:
+        clock = across[-1] * down[-1] * rate / 1e6
+        xrandr("--newmode", mode_of(output, rate), f"{clock:.2f}", *map(str, across + down))
+        xrandr("--addmode", output, mode_of(output, rate))
 
 
 def lay_out(main, second):
@@ -48,8 +51,13 @@ def lay_out(main, second):
 
 
 def answer_to(wanted, main, second):
+    print(wanted, flush=True)
     try:
-        lay_out(main, {"absent": (0, 0), "present": second}[wanted])
+        if wanted == "stir":
+            for rate in reversed(FRAMES_PER_SECOND):
+                xrandr("--output", MAIN, "--mode", mode_of(MAIN, rate))
+        else:
+            lay_out(main, {"absent": (0, 0), "present": second}[wanted])
     except subprocess.CalledProcessError as error:
         return error.stderr
     except (KeyError, subprocess.TimeoutExpired) as error:
@@ -68,8 +76,8 @@ def size_of(text):
 
 def open_both(main, second):
     try:
-        add_mode(MAIN, main)
-        add_mode(SECOND, second)
+        add_modes(MAIN, main)
+        add_modes(SECOND, second)
         lay_out(main, second)
     except subprocess.CalledProcessError as error:
         sys.exit(f"No second monitor: {error.stderr.strip()}")

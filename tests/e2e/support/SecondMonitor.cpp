@@ -4,7 +4,6 @@
 #include <memory>
 #include <thread>
 
-#include "e2e/support/DesktopWindow.h"
 #include "e2e/support/StageFailure.h"
 #include "support/win/Screen.h"
 
@@ -14,10 +13,30 @@ namespace {
 
 constexpr const wchar_t* mainDisplay = LR"(\\.\DISPLAY1)";
 
+bool desktopAnswers() {
+    constexpr UINT answerTime = 500;
+    DWORD_PTR result = 0;
+    return SendMessageTimeoutW(GetDesktopWindow(), WM_NULL, 0, 0, SMTO_NORMAL, answerTime,
+                               &result) != 0;
+}
+
+/// Wine 8's desktop can sleep for ever once it has handled a change: it sends messages meanwhile,
+/// which spoils what it waits for. Every program that starts waits for it then. The next change of
+/// the display wakes it.
+void wakeDesktop(const StageService& stage) {
+    requireSoon("desktop that is awake", [&] {
+        if (desktopAnswers()) {
+            return true;
+        }
+        stage.request("stir");
+        return false;
+    });
+}
+
 /// Wine notices a change from outside, but tells the programs only of its own: this one sets what
 /// is set already. It is told to each window in turn and has no limit of its own, so that a thread
 /// waits for it which may be left behind.
-void tellThePrograms() {
+void tellThePrograms(const StageService& stage) {
     const auto told = std::make_shared<std::atomic<bool>>(false);
     std::thread([told] {
         DEVMODEW present{};
@@ -26,7 +45,10 @@ void tellThePrograms() {
         ChangeDisplaySettingsExW(mainDisplay, &present, nullptr, 0, nullptr);
         *told = true;
     }).detach();
-    requireSoon("news of the monitors", [&] { return told->load(); });
+    requireSoon("news of the monitors", [&] {
+        wakeDesktop(stage);
+        return told->load();
+    });
 }
 
 }  // namespace
@@ -38,6 +60,7 @@ SecondMonitor::SecondMonitor()
     if (!stage_.isThere()) {
         failStage("this stage has no second monitor: open one with --second-monitor left");
     }
+    wakeDesktop(stage_);
     giveBack();
     const ScreenRect all = screen::virtualScreen();
     const POINT corner{all.left, all.top};
@@ -78,9 +101,9 @@ void SecondMonitor::change(bool there) {
     stage_.request(there ? "present" : "absent");
     requireSoon(there ? "second monitor" : "loss of the second monitor",
                 [there] { return isThere() == there; });
-    tellThePrograms();
+    tellThePrograms(stage_);
     requireSoon("lasting change of the monitors", [there] { return isThere() == there; });
-    DesktopWindow(GetDesktopWindow()).settle();
+    wakeDesktop(stage_);
 }
 
 }  // namespace ormala::test
