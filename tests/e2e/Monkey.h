@@ -44,6 +44,7 @@ class Monkey {
 
     void comeToRest();
     [[nodiscard]] std::vector<std::string> panelTexts() const;
+    void expectPanels(const std::vector<std::string>& shown) const;
     void expectSavedTools() const;
     void endAndCompare();
     void end();
