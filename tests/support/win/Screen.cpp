@@ -6,7 +6,9 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
+#include <span>
 #include <stdexcept>
 #include <type_traits>
 #include <utility>
@@ -45,6 +47,52 @@ constexpr Color colorFromBitmap(std::uint32_t value) {
     return ((value & 0xFFU) << 16U) | (value & 0xFF00U) | ((value >> 16U) & 0xFFU);
 }
 
+/// A part of the screen as it was when it was last taken, in the bitmap's own pixels: a screenful
+/// is compared much faster than it is made a picture.
+class ScreenCopy {
+  public:
+    explicit ScreenCopy(const ScreenRect& rect)
+        : rect_(rect), from_(GetDC(nullptr)), memory_(CreateCompatibleDC(from_.get())) {
+        const BITMAPINFO info = topDown32Bit(rect);
+        void* bits = nullptr;
+        bitmap_.reset(CreateDIBSection(from_.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+        if (!from_ || !memory_ || !bitmap_) {
+            throw std::runtime_error("no bitmap for a capture of the screen");
+        }
+        const auto size =
+            static_cast<std::size_t>(rect.width()) * static_cast<std::size_t>(rect.height());
+        pixels_ = {static_cast<const std::uint32_t*>(bits), size};
+    }
+
+    void take() {
+        const HGDIOBJ previous = SelectObject(memory_.get(), bitmap_.get());
+        const BOOL copied = BitBlt(memory_.get(), 0, 0, rect_.width(), rect_.height(), from_.get(),
+                                   rect_.left, rect_.top, SRCCOPY | CAPTUREBLT);
+        GdiFlush();
+        SelectObject(memory_.get(), previous);
+        if (copied == 0) {
+            throw std::runtime_error("the screen cannot be captured");
+        }
+    }
+
+    [[nodiscard]] bool equals(const ScreenCopy& other) const {
+        return std::memcmp(pixels_.data(), other.pixels_.data(), pixels_.size_bytes()) == 0;
+    }
+
+    [[nodiscard]] Picture picture() const {
+        std::vector<Color> colors(pixels_.size());
+        std::ranges::transform(pixels_, colors.begin(), colorFromBitmap);
+        return {rect_, std::move(colors)};
+    }
+
+  private:
+    ScreenRect rect_;
+    ScreenContext from_;
+    MemoryContext memory_;
+    Bitmap bitmap_;
+    std::span<const std::uint32_t> pixels_;
+};
+
 }  // namespace
 
 void usePhysicalPixels() {
@@ -65,28 +113,9 @@ ScreenRect primaryMonitor() {
 }
 
 Picture capture(const ScreenRect& rect) {
-    const ScreenContext from(GetDC(nullptr));
-    const MemoryContext memory(CreateCompatibleDC(from.get()));
-    const BITMAPINFO info = topDown32Bit(rect);
-    void* bits = nullptr;
-    const Bitmap bitmap(CreateDIBSection(from.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-    if (!from || !memory || !bitmap) {
-        throw std::runtime_error("no bitmap for a capture of the screen");
-    }
-    const HGDIOBJ previous = SelectObject(memory.get(), bitmap.get());
-    const BOOL copied = BitBlt(memory.get(), 0, 0, rect.width(), rect.height(), from.get(),
-                               rect.left, rect.top, SRCCOPY | CAPTUREBLT);
-    GdiFlush();
-    SelectObject(memory.get(), previous);
-    if (copied == 0) {
-        throw std::runtime_error("the screen cannot be captured");
-    }
-    const auto* values = static_cast<const std::uint32_t*>(bits);
-    const auto size =
-        static_cast<std::size_t>(rect.width()) * static_cast<std::size_t>(rect.height());
-    std::vector<Color> pixels(size);
-    std::transform(values, values + size, pixels.begin(), colorFromBitmap);
-    return {rect, std::move(pixels)};
+    ScreenCopy copy(rect);
+    copy.take();
+    return copy.picture();
 }
 
 Color pixel(ScreenPoint point) {
@@ -97,7 +126,9 @@ Picture waitUntilStill(const ScreenRect& rect, milliseconds quiet, milliseconds 
     using Clock = std::chrono::steady_clock;
     // Often enough to see a movement; each look at the screen is work for the display.
     constexpr milliseconds interval{25};
-    Picture last = capture(rect);
+    ScreenCopy last(rect);
+    ScreenCopy now(rect);
+    last.take();
     auto changed = Clock::now();
     const auto end = changed + deadline;
     while (Clock::now() - changed < quiet) {
@@ -105,13 +136,13 @@ Picture waitUntilStill(const ScreenRect& rect, milliseconds quiet, milliseconds 
             throw std::runtime_error("the screen does not come to rest");
         }
         pause(interval);
-        Picture now = capture(rect);
-        if (now != last) {
-            last = std::move(now);
+        now.take();
+        if (!now.equals(last)) {
+            std::swap(now, last);
             changed = Clock::now();
         }
     }
-    return last;
+    return last.picture();
 }
 
 }  // namespace ormala::test::screen
