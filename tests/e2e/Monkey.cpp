@@ -411,11 +411,15 @@ void Monkey::expectPanels(const std::vector<std::string>& shown) const {
     const auto panels = panelTexts();
     ASSERT_EQ(panels.size(), shown.size()) << trace();
     for (std::size_t i = 0; i < panels.size(); ++i) {
-        // Out of view, where a low window has all of them, a panel has no controls after a start.
-        const bool bare = panels[i].find(' ') == std::string::npos;
-        EXPECT_TRUE(bare ? shown[i].starts_with(panels[i]) : panels[i] == shown[i])
-            << panels[i] << "\nand not " << shown[i] << '\n'
-            << trace();
+        // Out of view, where a low window has all of them, a panel may have no controls.
+        const auto isBare = [](const std::string& text) {
+            return text.find(' ') == std::string::npos;
+        };
+        const bool readable = !isBare(panels[i]) && !isBare(shown[i]);
+        const auto part = [&](const std::string& text) {
+            return readable ? text : text.substr(0, text.find(' '));
+        };
+        EXPECT_EQ(part(panels[i]), part(shown[i])) << trace();
     }
 }
 
