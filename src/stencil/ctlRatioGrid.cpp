@@ -67,6 +67,9 @@ void ctlRatioGrid::PositionAll() {
         return;
     }
     PositionGrips();
+    if (mouseAction_.linesVisible()) {
+        mouseAction_.arrange(state_.RectBound, true);
+    }
     refresh();
 }
 

@@ -249,6 +249,18 @@ TEST(CtlRatioGrid, PreviewShowsTheArrowAndTheUnturnedRectangle) {
     EXPECT_FALSE(stage.tool.mouseAction().linesVisible());
 }
 
+TEST(CtlRatioGrid, ArrowOfThePreviewFollowsTheStencil) {
+    StencilOnSheet stage;
+    stage.tool.setPreviewMouseAction(true);
+    stage.tool.keyDown(key::right, modifier::ctrl);
+    const Rect& bound = stage.tool.RectBound();
+    const Line arrow{bound.left, bound.top, bound.right, bound.bottom};
+    EXPECT_EQ(stage.tool.mouseAction().lines()[0], arrow);
+    stage.tool.ShowMouseAction();
+    stage.tool.setRectBound({100, 200, 300, 500});
+    EXPECT_EQ(stage.tool.mouseAction().lines()[0], (Line{100, 200, 300, 500}));
+}
+
 TEST(CtlRatioGrid, EndOfThePreviewLeavesARunningActionAlone) {
     StencilOnSheet stage;
     stage.tool.setPreviewMouseAction(true);
