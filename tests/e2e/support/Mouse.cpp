@@ -73,6 +73,9 @@ void letArrive() {
     settleListeners();
     waitForDisplay();
     settleListeners();
+    // Who is late answers first, and looks only then at what the display has told meanwhile.
+    pause(milliseconds{1});
+    settleListeners();
 }
 
 void sendWheel(DWORD wheel, int turn) {

@@ -36,9 +36,20 @@ void dropArtefacts() {
     }
 }
 
+/// A test that is tried again may pass then.
+void setArtefactsAside() {
+    const auto folder = artefactFolder();
+    for (const char* const kind : {".png", ".txt"}) {
+        const std::string name = currentTestName();
+        if (folder && std::filesystem::exists(*folder / (name + kind))) {
+            std::filesystem::rename(*folder / (name + kind),
+                                    *folder / (name + " (earlier)" + kind));
+        }
+    }
+}
+
 class ArtefactKeeper : public testing::EmptyTestEventListener {
-    /// Those of an earlier run.
-    void OnTestStart(const testing::TestInfo&) override { dropArtefacts(); }
+    void OnTestStart(const testing::TestInfo&) override { setArtefactsAside(); }
 
     void OnTestPartResult(const testing::TestPartResult& result) override {
         if (result.failed()) {

@@ -32,7 +32,8 @@ std::optional<std::filesystem::path> artefactFolder();
 void keepArtefacts();
 
 /// From now on calls keepArtefacts at each failed expectation, while the programs still run, and
-/// removes what was kept in a test that passes in the end.
+/// removes what was kept in a test that passes in the end. What an earlier try has left gets
+/// another name, "<Suite>.<Test> (earlier).png".
 void keepArtefactsOfFailures();
 
 }  // namespace ormala::test
