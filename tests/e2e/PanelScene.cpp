@@ -87,6 +87,18 @@ PanelScene::PanelScene(const SettingsFile& tools, const SettingsFile& options,
 void PanelScene::start() {
     program_ = std::make_unique<Program>(data_);
     program_->waitUntilReady();
+    bringControlWindowForward();
+}
+
+void PanelScene::bringControlWindowForward() const {
+    constexpr UINT order = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
+    const HWND control = settings().handle();
+    if (worksheet().isVisible() && !settings().isMinimised()) {
+        SetWindowPos(control, worksheet().handle(), 0, 0, 0, 0, order);
+        SetWindowPos(control, HWND_TOP, 0, 0, 0, 0, order);
+        settings().settle();
+        screen::waitUntilStill(settings().rect(), milliseconds{50});
+    }
 }
 
 void PanelScene::restart() {

@@ -89,6 +89,10 @@ class PanelScene {
 
   private:
     void start();
+    /// A window manager that is busy may have put the worksheet in front of the control window in
+    /// the course of the start, where a click goes to whatever the display has under the mouse.
+    /// Both ways, since what the system takes for done it does not do.
+    void bringControlWindowForward() const;
 
     Backdrop backdrop_;
     AppDataFolder data_;
