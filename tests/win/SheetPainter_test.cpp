@@ -75,6 +75,72 @@ TEST(SheetPainter, ToolThatLeavesTheFrontIsNotPaintedTwice) {
     expectSameAsPaintedAnew(sheet);
 }
 
+/// In the middle of a drag of the stencil's corner.
+class HeldStencil {
+  public:
+    HeldStencil() {
+        sheet.addStencil({150, 160, 450, 400}, 1.1, rgb(0, 255, 0));
+        stencil = &sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));
+        const Point at = stencil->grips()[0].center();
+        x = static_cast<int>(at.x);
+        y = static_cast<int>(at.y);
+        sheet.mouse(WM_MOUSEMOVE, 0, x, y);
+        sheet.mouse(WM_LBUTTONDOWN, MK_LBUTTON, x, y);
+        step();
+        UpdateWindow(window());
+    }
+    [[nodiscard]] HWND window() { return sheet.window().handle(); }
+    void step() {
+        x += 7;
+        y += 5;
+        sheet.mouse(WM_MOUSEMOVE, MK_LBUTTON, x, y);
+    }
+
+    TestSheet sheet{sheetSize};
+    ctlRatioGrid* stencil = nullptr;
+    int x = 0;
+    int y = 0;
+};
+
+TEST(SheetPainter, StepOfADragIsOnTheScreenWithoutTheSystemsAsking) {
+    HeldStencil held;
+    for (int i = 0; i < 5; ++i) {
+        const PixelMap before = readClient(held.window());
+        held.step();
+        EXPECT_FALSE(GetUpdateRect(held.window(), nullptr, FALSE));
+        const PixelMap after = readClient(held.window());
+        EXPECT_NE(before, after);
+        held.sheet.paintAnew();
+        EXPECT_EQ(after, readClient(held.window()));
+    }
+}
+
+TEST(SheetPainter, WhatAnotherWindowUncoversInADragIsPaintedToo) {
+    HeldStencil held;
+    const RECT uncovered{0, 0, 640, 240};
+    {
+        const WindowContext context(held.window());
+        FillRect(context.get(), &uncovered, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    }
+    InvalidateRect(held.window(), &uncovered, FALSE);
+    held.step();
+    expectSameAsPaintedAnew(held.sheet);
+}
+
+TEST(SheetPainter, PaintingThatTheSystemAsksForInAStepShowsItsChangesToo) {
+    HeldStencil held;
+    int asked = 0;
+    const Subscription painting = held.stencil->events().change.subscribe([&] {
+        ++asked;
+        const RECT little{0, 0, 4, 4};
+        InvalidateRect(held.window(), &little, FALSE);
+        UpdateWindow(held.window());
+    });
+    held.step();
+    EXPECT_GT(asked, 0);
+    expectSameAsPaintedAnew(held.sheet);
+}
+
 TEST(SheetPainter, MovingOverTheSheetWithoutAGripRepaintsNothing) {
     TestSheet sheet(sheetSize);
     sheet.addStencil({100, 100, 300, 250}, 0, rgb(255, 0, 0));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 #include "platform/win/pixels.h"
 #include "platform/win/regions.h"
@@ -13,6 +14,13 @@ namespace {
 /// In the order of a bitmap's bytes.
 std::uint32_t bitmapPixel(COLORREF color) {
     return RGB(GetBValue(color), GetGValue(color), GetRValue(color));
+}
+
+void add(RegionHandle& all, HRGN region) {
+    if (!all) {
+        all.reset(CreateRectRgn(0, 0, 0, 0));
+    }
+    CombineRgn(all.get(), all.get(), region, RGN_OR);
 }
 
 }  // namespace
@@ -59,11 +67,37 @@ void SheetPainter::allChanged() {
     restDirty_.reset(CreateRectRgn(0, 0, size_.width, size_.height));
 }
 
-void SheetPainter::restChanged(HRGN region) {
-    if (!restDirty_) {
-        restDirty_.reset(CreateRectRgn(0, 0, 0, 0));
+void SheetPainter::changed(HWND window, HRGN region, bool atRest) {
+    if (atRest) {
+        add(restDirty_, region);
     }
-    CombineRgn(restDirty_.get(), restDirty_.get(), region, RGN_OR);
+    if (step_) {
+        add(*step_, region);
+    } else {
+        InvalidateRgn(window, region, FALSE);
+    }
+}
+
+void SheetPainter::handStepOver(HWND window) {
+    if (step_ && *step_) {
+        const RegionHandle region = std::exchange(*step_, {});
+        InvalidateRgn(window, region.get(), FALSE);
+    }
+}
+
+void SheetPainter::showStep(HWND window, SheetLayers& layers) {
+    if (!buffered_ || !step_ || !*step_) {
+        return;
+    }
+    const RegionHandle region = std::exchange(*step_, {});
+    const PixelRect area = boundsOf(region.get());
+    drawInBuffer(region.get(), area);
+    if (layers.prepare(shown_)) {
+        UpdateWindow(window);
+        return;
+    }
+    const WindowContext context(window);
+    layers.show(context.get(), shown_, area);
 }
 
 void SheetPainter::fill(HDC context, const PixelRect& area) const {
@@ -151,6 +185,7 @@ void SheetPainter::paintDirectly(HDC context, const PixelRect& area) const {
 }
 
 void SheetPainter::paint(HWND window, SheetLayers& layers) {
+    handStepOver(window);
     const RegionHandle region = updateRegionOf(window);
     PixelRect area = boundsOf(region.get());
     if (buffered_ && !area.empty()) {

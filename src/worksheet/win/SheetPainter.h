@@ -26,12 +26,34 @@ class SheetPainter {
     /// Takes the grid as it is set now. Whether anything looks different.
     bool RefreshGrid();
 
-    /// The layer at rest is to be drawn anew in this region before it is shown the next time.
-    void restChanged(HRGN region);
+    /// That region of the window is to be painted anew; with `atRest` the layer at rest, too.
+    void changed(HWND window, HRGN region, bool atRest);
     /// The whole work of a WM_PAINT.
     void paint(HWND window, SheetLayers& layers);
     /// What was shown last; empty without memory for it.
     [[nodiscard]] const BackBuffer& picture() const { return shown_; }
+
+    /// A step of a drag. What it changes is kept from the system, which takes longer to ask for the
+    /// painting than that takes. None begins within another one.
+    class Step {
+      public:
+        Step(SheetPainter& painter, HWND window) : painter_(painter), window_(window) {
+            painter.step_.emplace();
+        }
+        Step(const Step&) = delete;
+        Step& operator=(const Step&) = delete;
+        /// What has not been shown is left to the system.
+        ~Step() {
+            painter_.handStepOver(window_);
+            painter_.step_.reset();
+        }
+        /// Brings what has changed so far to the screen.
+        void show(SheetLayers& layers) { painter_.showStep(window_, layers); }
+
+      private:
+        SheetPainter& painter_;
+        HWND window_;
+    };
 
   private:
     void allChanged();
@@ -44,6 +66,9 @@ class SheetPainter {
     void drawFront(HDC context, const PixelRect& area) const;
     void paintDirectly(HDC context, const PixelRect& area) const;
     void drawInBuffer(HRGN region, const PixelRect& area);
+    void showStep(HWND window, SheetLayers& layers);
+    /// Lets the system ask for the painting of what the step has changed so far.
+    void handStepOver(HWND window);
 
     const Sheet& sheet_;
     const Aids& aids_;
@@ -56,6 +81,8 @@ class SheetPainter {
     BackBuffer shown_;
     /// Null if the layer at rest is up to date.
     RegionHandle restDirty_;
+    /// What a step has changed, null if nothing. None between the steps.
+    std::optional<RegionHandle> step_;
     /// Without memory for the bitmaps everything is drawn at once on the window.
     bool buffered_ = true;
 };

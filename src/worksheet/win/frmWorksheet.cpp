@@ -215,11 +215,7 @@ void frmWorksheet::rememberForeground() {
 }
 
 void frmWorksheet::invalidate(const DirtyRegion& region, bool atRest) {
-    const RegionHandle changed = regionOf(region);
-    if (atRest) {
-        painter_.restChanged(changed.get());
-    }
-    InvalidateRgn(handle(), changed.get(), FALSE);
+    painter_.changed(handle(), regionOf(region).get(), atRest);
 }
 
 void frmWorksheet::tellScreenReaders() {

@@ -133,10 +133,18 @@ LRESULT frmWorksheet::onPress(int button, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT frmWorksheet::onMove(WPARAM wParam, LPARAM lParam) {
-    mouse_.move(mouseInput(heldButtons(wParam), wParam, lParam));
+    const MouseInput input = mouseInput(heldButtons(wParam), wParam, lParam);
+    if (mouse_.holding()) {
+        SheetPainter::Step step(painter_, handle());
+        mouse_.move(input);
+        step.show(*layers_);
+    } else {
+        mouse_.move(input);
+        paintNow();
+    }
     tip_.relay(handle(), WM_MOUSEMOVE, wParam, lParam);
     keepTime();
-    return paintNow();
+    return 0;
 }
 
 LRESULT frmWorksheet::onRelease(int button, WPARAM wParam, LPARAM lParam) {
