@@ -235,11 +235,20 @@ void controlWindow() {
     makePanel(stage);
     addPanels(stage, ToolKind::stencil, "stencil");
     refreshPanel(stage);
-    turnWheel(stage, "stencils");
     loadPanels(stage, ToolKind::stencil, "stencils");
     addPanels(stage, ToolKind::measurement, "measuring tool");
-    turnWheel(stage, "measuring tools");
     loadPanels(stage, ToolKind::measurement, "measuring tools");
+}
+
+void wheel() {
+    ControlWindowStage stage;
+    for (const auto& [kind, what] : {std::pair{ToolKind::stencil, "stencils"},
+                                     std::pair{ToolKind::measurement, "measuring tools"}}) {
+        stage.list().RemoveAllTools();
+        stage.fill(kind);
+        ControlWindowStage::settle();
+        turnWheel(stage, what);
+    }
 }
 
 }  // namespace ormala::bench

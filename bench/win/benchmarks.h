@@ -26,8 +26,11 @@ void toolFiles();
 /// Adding the last tool that there can be of a kind, without repainting.
 void addedTools();
 
-/// The control window on the screen with 33 panels: adding, loading, refreshing and scrolling them.
+/// The control window on the screen with 33 panels: adding, loading and refreshing them.
 void controlWindow();
+
+/// Its list of 33 panels under the wheel.
+void wheel();
 
 /// A drag with the magnifier shown, while the mouse moves faster than anybody can paint.
 void flood();

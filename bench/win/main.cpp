@@ -40,6 +40,9 @@ void runWanted(int argc, char** argv) {
     if (wanted("panels")) {
         bench::controlWindow();
     }
+    if (wanted("wheel")) {
+        bench::wheel();
+    }
     if (wanted("flood")) {
         bench::flood();
     }

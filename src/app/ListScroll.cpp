@@ -20,6 +20,14 @@ int valueShowing(int panelTop, int panelHeight, const ScrollRange& range) {
     return y + panelHeight > inside ? inside - (panelTop + panelHeight) : range.Value;
 }
 
+UncoveredPart uncoveredPart(int formerTop, int top, PixelSize view, int content) {
+    const int by = std::clamp(top - formerTop, -view.height, view.height);
+    const bool below = by < 0;
+    const int first = below ? view.height + by - top : -top;
+    const PixelRect shown{0, first, view.width, first + std::abs(by)};
+    return {shown, {0, below ? shown.top : 0, view.width, below ? content : shown.bottom}};
+}
+
 std::vector<int> glideOfNotches(int notches, const ScrollRange& range, int smallChange) {
     constexpr int shownSteps = 8;
     const bool down = notches < 0;

@@ -4,6 +4,7 @@
 #include <span>
 #include <vector>
 
+#include "modAPI/PixelRect.h"
 #include "widgets/scrollLayout.h"
 
 namespace ormala {
@@ -18,6 +19,20 @@ ScrollRange rangeOfList(int content, int inside);
 /// The value at which a panel of the content shows, its head if not all of it. It may lie beyond
 /// the range, which the bar keeps to.
 int valueShowing(int panelTop, int panelHeight, const ScrollRange& range);
+
+/// In pixels of the content.
+struct UncoveredPart {
+    PixelRect shown;
+    /// With all that lies beyond the view on that side. It needs no painting either: whatever of it
+    /// comes into view is uncovered then.
+    PixelRect withBeyond;
+
+    bool operator==(const UncoveredPart&) const = default;
+};
+
+/// What a view of that size shows, and did not show before the top of a content of that height went
+/// from the one to the other: all that it shows if nothing of it stays, nothing if the top stays.
+UncoveredPart uncoveredPart(int formerTop, int top, PixelSize view, int content);
 
 /// The values that these notches of the wheel glide through, in eight steps at most, however many
 /// notches came at once. Positive ones turn away from the user and lead up the list.

@@ -56,6 +56,27 @@ TEST(ListScroll, EachStepIsRoundedToAWholePixel) {
               (std::vector<int>{-6, -12, -18, -24, -30, -36, -42, -48}));
 }
 
+UncoveredPart uncoveredBetween(int formerTop, int top) {
+    return uncoveredPart(formerTop, top, {200, inside}, 1000);
+}
+
+TEST(ListScroll, UncoversBelowWhatMovesUp) {
+    EXPECT_EQ(uncoveredBetween(-30, -40), (UncoveredPart{{0, 430, 200, 440}, {0, 430, 200, 1000}}));
+}
+
+TEST(ListScroll, UncoversAboveWhatMovesDown) {
+    EXPECT_EQ(uncoveredBetween(-40, -30), (UncoveredPart{{0, 30, 200, 40}, {0, 0, 200, 40}}));
+}
+
+TEST(ListScroll, UncoversAllThatShowsAfterAJump) {
+    EXPECT_EQ(uncoveredBetween(0, -500), (UncoveredPart{{0, 500, 200, 900}, {0, 500, 200, 1000}}));
+    EXPECT_EQ(uncoveredBetween(-500, 0), (UncoveredPart{{0, 0, 200, 400}, {0, 0, 200, 400}}));
+}
+
+TEST(ListScroll, UncoversNothingWhereTheTopStays) {
+    EXPECT_TRUE(uncoveredBetween(-30, -30).shown.empty());
+}
+
 TEST(ListScroll, TheGlideStopsAtTheEndOfTheList) {
     EXPECT_EQ(glideOfNotches(-1, listAt(0), 300), (std::vector<int>{-155, -310, -465, -600}));
     EXPECT_TRUE(glideOfNotches(-1, listAt(-600), 300).empty());

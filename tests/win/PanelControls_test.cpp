@@ -8,6 +8,7 @@
 
 #include "measure/measurePanelDesign.h"
 #include "stencil/stencilPanelDesign.h"
+#include "support/win/Wait.h"
 #include "win/ControlPanel.h"
 #include "win/EnglishTexts.h"
 #include "win/ModalPlayer.h"
@@ -129,6 +130,63 @@ TEST_F(PanelsThatComeAndGo, AButtonThatTheMouseIsOverForgetsItWithItsPanel) {
     ASSERT_TRUE(tool->PreviewMouseAction());
     panel->strip();
     EXPECT_FALSE(tool->PreviewMouseAction());
+}
+
+/// A stencil's panel on a screen, whose buttons look for the mouse.
+class DrawnPanel : public testing::Test {
+  protected:
+    DrawnPanel() {
+        panel_->place(whole_);
+        panel_->setVisible(true);
+    }
+    PixelMap drawn(const PixelRect& part) {
+        BackBuffer picture;
+        picture.resize({whole_.width(), whole_.height()});
+        EXPECT_TRUE(panel_->drawPart(picture.context(), part));
+        return readPixels(picture.context(), picture.size());
+    }
+
+    EnglishTexts english_;
+    PanelStage stage_;
+    std::unique_ptr<ctlRatioGrid> tool_ = stage_.makeStencil();
+    PixelRect whole_{0, 0, stencilPanelDesign().size.width, stencilPanelDesign().size.height};
+    ControlPanel ground_{{whole_.width(), whole_.height()}};
+    std::unique_ptr<PanelWindow> panel_ = stage_.makePanel(ground_.handle(), *tool_);
+};
+
+TEST_F(DrawnPanel, IsDrawnAsItsWindowsPaintThemselves) {
+    panel_->core().ShowAllProps(true);
+    const PixelMap shown = ground_.shown();
+    EXPECT_EQ(drawn(whole_), shown);
+}
+
+TEST_F(DrawnPanel, APartIsDrawnAsInTheWhole) {
+    const PixelMap whole = drawn(whole_);
+    for (int top = 0; top < whole_.height(); top += 7) {
+        const PixelMap part = drawn({0, top, whole_.width(), top + 7});
+        for (int y = top; y < std::min(top + 7, whole_.height()); ++y) {
+            for (int x = 0; x < whole_.width(); ++x) {
+                ASSERT_EQ(part.at(x, y), whole.at(x, y)) << x << ' ' << y;
+            }
+        }
+    }
+}
+
+TEST_F(DrawnPanel, AGrownButtonIsLeftToTheSystem) {
+    const HWND button = namedChild(panel_->handle(), "cmdMove(4)");
+    RECT rest{};
+    GetWindowRect(button, &rest);
+    SetCursorPos((rest.left + rest.right) / 2, (rest.top + rest.bottom) / 2);
+    ASSERT_TRUE(test::waitUntil([&] {
+        // The timer of the growth.
+        SendMessageW(panel_->handle(), WM_TIMER, 1, 0);
+        RECT place{};
+        GetWindowRect(button, &place);
+        return place.right - place.left > rest.right - rest.left;
+    }));
+    BackBuffer picture;
+    picture.resize({whole_.width(), whole_.height()});
+    EXPECT_FALSE(panel_->drawPart(picture.context(), whole_));
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "stencil/ctlRatioGrid.h"
 #include "support/win/Wait.h"
 #include "win/ModalPlayer.h"
+#include "win/TestSheet.h"
 
 namespace ormala {
 namespace {
@@ -200,6 +201,103 @@ TEST_F(ToolsPaneTest, DeleteRemovesTheFirstPairFromSight) {
     RECT inner{};
     GetWindowRect(namedChild(settings_.handle(), "picInner"), &inner);
     EXPECT_EQ(place.top, inner.top);
+}
+
+/// Counts the windows in another one that the system has asked to paint themselves.
+class AskedToPaint {
+  public:
+    explicit AskedToPaint(HWND around)
+        : hook_(SetWindowsHookExW(WH_CALLWNDPROC, &AskedToPaint::heard, nullptr,
+                                  GetCurrentThreadId())) {
+        around_ = around;
+        count_ = 0;
+    }
+    [[nodiscard]] static int count() { return count_; }
+
+  private:
+    static LRESULT CALLBACK heard(int code, WPARAM wParam, LPARAM lParam) {
+        const auto* message = reinterpret_cast<const CWPSTRUCT*>(lParam);
+        if (message->message == WM_PAINT && IsChild(around_, message->hwnd) != FALSE) {
+            ++count_;
+        }
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    inline static HWND around_ = nullptr;
+    inline static int count_ = 0;
+    HookHandle hook_;
+};
+
+/// A list of panels longer than what shows of it.
+class ScrolledToolsTest : public ToolsPaneTest {
+  protected:
+    ScrolledToolsTest() {
+        for (int i = 0; i < 5; ++i) {
+            program_.execute(Command::addStencil);
+            program_.execute(Command::addMeasure);
+        }
+        paint();
+    }
+    [[nodiscard]] HWND list() const { return namedChild(settings_.handle(), "picOuter"); }
+    void paint() const {
+        RedrawWindow(settings_.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    }
+    void paintEachWindow() const {
+        RedrawWindow(list(), nullptr, nullptr,
+                     RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    }
+    void scroll(int notches) { program_.tools().Scroll(notches); }
+    void expectTheSamePaintedByEachWindow() const {
+        // The scroll bar is not painted before the system asks for it.
+        paint();
+        const PixelMap shown = readClient(list());
+        paintEachWindow();
+        EXPECT_EQ(shown, readClient(list()));
+    }
+};
+
+TEST_F(ScrolledToolsTest, WhatTheWheelUncoversIsWhatEachWindowWouldPaint) {
+    const PixelMap first = readClient(list());
+    for (const int notches : {-1, -1, 1, -3, -2, 4, -20, 1, 2, 20}) {
+        SCOPED_TRACE(notches);
+        scroll(notches);
+        expectTheSamePaintedByEachWindow();
+    }
+    scroll(-1);
+    EXPECT_NE(first, readClient(list()));
+}
+
+TEST_F(ScrolledToolsTest, NoWindowIsAskedToPaintWhatTheWheelUncovers) {
+    paintEachWindow();
+    const AskedToPaint asked(namedChild(list(), "picInner"));
+    for (const int notches : {-1, 1, -4, 2}) {
+        scroll(notches);
+        paint();
+        EXPECT_EQ(AskedToPaint::count(), 0) << notches;
+    }
+    paintEachWindow();
+    EXPECT_GT(AskedToPaint::count(), 0);
+}
+
+TEST_F(ScrolledToolsTest, TheLookOfADisabledPanelAndOfASelectedOneComesIntoViewToo) {
+    click(stencil(), "cmdPause");
+    sheet().SelectControl(*sheet().GetFirstControl(1));
+    for (const int notches : {-2, 2}) {
+        scroll(notches);
+        expectTheSamePaintedByEachWindow();
+    }
+}
+
+TEST_F(ScrolledToolsTest, WhatWasCoveredByAnotherWindowIsPaintedBesideWhatTheWheelUncovers) {
+    {
+        const RECT covered{0, 40, 100, 90};
+        const UnclippedContext context(list());
+        FillRect(context.get(), &covered, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+        RedrawWindow(list(), &covered, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    }
+    scroll(-1);
+    paint();
+    expectTheSamePaintedByEachWindow();
 }
 
 TEST_F(ToolsPaneTest, WithoutPanelsTheListIsEmptyAndTheWheelDoesNothing) {

@@ -8,7 +8,7 @@ namespace ormala {
 class OriginScope {
   public:
     OriginScope(HDC context, int x, int y) : context_(context) {
-        SetViewportOrgEx(context, x, y, &former_);
+        OffsetViewportOrgEx(context, x, y, &former_);
     }
     OriginScope(const OriginScope&) = delete;
     OriginScope& operator=(const OriginScope&) = delete;

@@ -18,6 +18,7 @@ class ButtonGrowth {
     void add(ZelvikButtonXP& button) { entries_.push_back({&button}); }
     /// Nothing is grown while the window takes no input.
     void tick(int dpi);
+    [[nodiscard]] bool someGrown() const;
     /// All buttons return to their size at rest.
     void reset(int dpi);
 
@@ -31,7 +32,6 @@ class ButtonGrowth {
         HWND before = nullptr;
     };
 
-    [[nodiscard]] bool someGrown() const;
     [[nodiscard]] bool hasWork(PixelPoint mouse, int dpi) const;
     [[nodiscard]] std::vector<GrowingButton> buttons() const;
     void apply(const GrowthSteps& steps, int dpi);

@@ -6,6 +6,7 @@
 #include "language/MlStringModule.h"
 #include "platform/win/fills.h"
 #include "platform/win/mousePassing.h"
+#include "platform/win/regions.h"
 #include "scene/Input.h"
 #include "toolkit/PanelMemory.h"
 #include "widgets/dpi.h"
@@ -201,7 +202,9 @@ void PanelControls::retire() {
 
 void PanelControls::layOut(int dpi) {
     shrinkButtons();
-    dpi_ = dpi;
+    if (std::exchange(dpi_, dpi) == dpi) {
+        return;
+    }
     const PixelSize size = design_.size;
     place({0, 0, scaledLength(size.width, dpi), scaledLength(size.height, dpi)});
     for (std::size_t row = 0; row < controls_.size(); ++row) {
@@ -293,6 +296,34 @@ void PanelControls::enable(const PanelEnabling& enabling) {
         } else if (control.label && row.part != PanelPart::title) {
             control.label->setEnabled(enabling.labels);
         }
+    }
+}
+
+bool PanelControls::drawPart(HDC context, const PixelRect& part) const {
+    if (growth_.someGrown()) {
+        return false;
+    }
+    fillRect(context, toRect(part), look_.background);
+    // The bands lie beneath all others.
+    for (const bool bands : {true, false}) {
+        for (std::size_t row = 0; row < controls_.size(); ++row) {
+            const PixelRect box = scaledToDpi(design_.controls[row].box, dpi_);
+            const bool isBand = controls_[row].band != nullptr;
+            if (isBand == bands && box.meets(part)) {
+                controls_[row].drawInto(context, {box.left, box.top});
+            }
+        }
+    }
+    return true;
+}
+
+void PanelControls::Control::drawInto(HDC context, PixelPoint corner) const {
+    if (band) {
+        band->drawInto(context, corner);
+    } else if (label) {
+        label->drawInto(context, corner);
+    } else {
+        button->drawInto(context, corner);
     }
 }
 

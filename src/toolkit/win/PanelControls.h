@@ -38,11 +38,21 @@ class PanelControls : public Window, public PanelFace {
     /// Hidden, and as if no mouse had ever been over them. What they did for the mouse has ended
     /// for their panel, too.
     void retire();
+    /// Without asking each of them to erase what it paints anyway.
+    void show() const {
+        SetWindowPos(handle(), nullptr, 0, 0, 0, 0,
+                     SWP_SHOWWINDOW | SWP_DEFERERASE | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER |
+                         SWP_NOACTIVATE);
+    }
     void setParent(HWND parent) const { SetParent(handle(), parent); }
     /// For a monitor of that resolution.
     void layOut(int dpi);
     void ApplyLanguage();
     void setFontSize(int points) const;
+
+    /// Draws what of them lies in that part, in pixels of their ground from whose corner the
+    /// context counts. False if only the system can: a grown button lies over others.
+    [[nodiscard]] bool drawPart(HDC context, const PixelRect& part) const;
 
     /// A look at the mouse, for the buttons that grow under it.
     void growButtons() { growth_.tick(dpi_); }
@@ -60,6 +70,8 @@ class PanelControls : public Window, public PanelFace {
         std::unique_ptr<GradShape> band;
         std::unique_ptr<Label> label;
         std::unique_ptr<ZelvikButtonXP> button;
+
+        void drawInto(HDC context, PixelPoint corner) const;
     };
 
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -7,6 +7,7 @@
 #include "platform/win/controlName.h"
 #include "platform/win/fills.h"
 #include "platform/win/monitors.h"
+#include "platform/win/regions.h"
 #include "platform/win/text.h"
 #include "scene/dpi.h"
 
@@ -65,7 +66,7 @@ void PanelWindow::equip() {
     controls_->layOut(dpi_);
     memory_.tell(core_->design(), *controls_);
     controls_->serve({*core_, [this] { host_.panelGotFocus(*this); }});
-    controls_->setVisible(true);
+    controls_->show();
 }
 
 void PanelWindow::strip() {
@@ -79,6 +80,14 @@ bool PanelWindow::holds(const HeldWindows& held) const {
         return window != nullptr && (window == handle() || IsChild(handle(), window) != FALSE);
     };
     return isInside(held.focus) || isInside(held.capture);
+}
+
+bool PanelWindow::drawPart(HDC context, const PixelRect& part) const {
+    if (controls_) {
+        return controls_->drawPart(context, part);
+    }
+    fillRect(context, toRect(part), memory_.look().background);
+    return true;
 }
 
 PixelSize PanelWindow::size() const {

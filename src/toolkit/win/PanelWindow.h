@@ -73,6 +73,9 @@ class PanelWindow : public Window, private PanelView {
     void equip();
     void strip();
     [[nodiscard]] bool isEquipped() const { return controls_ != nullptr; }
+    /// Draws a part of the panel, in its pixels, from whose corner the context counts. False if
+    /// only the system can.
+    [[nodiscard]] bool drawPart(HDC context, const PixelRect& part) const;
     /// One of its controls has one of them, or the panel itself has.
     [[nodiscard]] bool holds(const HeldWindows& held) const;
     /// Whether small buttons grow under the mouse, which the panel then looks for.

@@ -1,6 +1,7 @@
 #include "widgets/win/GradShape.h"
 
 #include "platform/win/GdiCanvas.h"
+#include "platform/win/OriginScope.h"
 #include "platform/win/controlName.h"
 #include "platform/win/mousePassing.h"
 #include "platform/win/pixels.h"
@@ -20,11 +21,15 @@ GradShape::GradShape(HWND parent, int id, std::string_view name) {
     setControlName(handle(), name);
 }
 
+void GradShape::drawInto(HDC context, PixelPoint corner) const {
+    const OriginScope origin(context, corner.x, corner.y);
+    const PixelRect client = fromRect(clientRectangle());
+    copyPixels(context, gradientImage(design_, {client.width(), client.height()}, systemColors()));
+}
+
 LRESULT GradShape::paint() {
     const PaintScope scope(handle());
-    const PixelRect client = fromRect(clientRectangle());
-    copyPixels(scope.context(),
-               gradientImage(design_, {client.width(), client.height()}, systemColors()));
+    drawInto(scope.context(), {0, 0});
     return 0;
 }
 

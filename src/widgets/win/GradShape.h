@@ -18,6 +18,8 @@ class GradShape : public Window {
     void setColorBottomRight(Color color) { set(&GradientDesign::ColorBottomRight, color); }
     void setOrientation(int orientation) { set(&GradientDesign::Orientation, orientation); }
     void setReduce(double percent) { set(&GradientDesign::Reduce, percent); }
+    /// Draws the gradient on a picture of its parent, at its place there.
+    void drawInto(HDC context, PixelPoint corner) const;
     void Refresh() { InvalidateRect(handle(), nullptr, FALSE); }
 
   private:

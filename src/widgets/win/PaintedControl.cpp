@@ -46,6 +46,16 @@ void PaintedControl::invalidateValue() const {
     NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, handle(), OBJID_CLIENT, CHILDID_SELF);
 }
 
+void PaintedControl::drawInto(HDC context, PixelPoint corner) {
+    const PixelSize whole = size();
+    const int former = SaveDC(context);
+    OffsetViewportOrgEx(context, corner.x, corner.y, nullptr);
+    IntersectClipRect(context, 0, 0, whole.width, whole.height);
+    clipToShape(context);
+    draw(context);
+    RestoreDC(context, former);
+}
+
 LRESULT PaintedControl::paint() {
     const PaintScope scope(handle());
     const PixelSize whole = size();

@@ -18,6 +18,9 @@ class PaintedControl : public Window {
     /// The resolution of the screen that it is drawn for; at first that of its window.
     void setDpi(int dpi);
 
+    /// Draws the control as it stands on a picture of its parent, at its place there.
+    void drawInto(HDC context, PixelPoint corner);
+
   protected:
     /// How a kind of control is made.
     struct Kind {
@@ -46,6 +49,9 @@ class PaintedControl : public Window {
   private:
     /// Draws the whole client area.
     virtual void draw(HDC context) = 0;
+    /// Keeps a drawing to the pixels that the window has, where they are fewer than its rectangle.
+    /// The context counts from its corner.
+    virtual void clipToShape(HDC /*context*/) const {}
     virtual void tellFacts(AccessibleFacts& facts) const = 0;
     /// The type of its text, null for a control without.
     [[nodiscard]] virtual HFONT textFont() const { return nullptr; }

@@ -157,6 +157,14 @@ ButtonContent ZelvikButtonXP::content() {
     return layOutButton(context.get(), look());
 }
 
+void ZelvikButtonXP::clipToShape(HDC context) const {
+    POINT corner{};
+    GetViewportOrgEx(context, &corner);
+    const RegionHandle region = regionOf(regionOfShape(shape_));
+    OffsetRgn(region.get(), static_cast<int>(corner.x), static_cast<int>(corner.y));
+    ExtSelectClipRgn(context, region.get(), RGN_AND);
+}
+
 void ZelvikButtonXP::draw(HDC context) {
     paintButton(context, look());
 }

@@ -91,6 +91,7 @@ class ZelvikButtonXP : public PaintedControl, public ButtonEvents, private Butto
     std::optional<LRESULT> askedMessage(UINT message, WPARAM wParam);
 
     void draw(HDC context) override;
+    void clipToShape(HDC context) const override;
     void tellFacts(AccessibleFacts& facts) const override;
     [[nodiscard]] HFONT textFont() const override { return font_->get(); }
     void dpiChanged() override;

@@ -1,5 +1,7 @@
 #include "app/win/tools/PanelList.h"
 
+#include <utility>
+
 #include "app/ListScroll.h"
 #include "app/PanelLayout.h"
 #include "app/settingsLayout.h"
@@ -113,8 +115,13 @@ void PanelList::adoptHeights() {
 }
 
 void PanelList::moveContent() {
-    picInner_.place({0, contentTop(), contentWidth(), contentTop() + content_});
+    const int formerTop = std::exchange(shownTop_, contentTop());
+    // Nothing is erased that is drawn below.
+    SetWindowPos(picInner_.handle(), nullptr, 0, contentTop(), contentWidth(), content_,
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_DEFERERASE);
     viewChanged.raise();
+    uncovered.raise(
+        uncoveredPart(formerTop, contentTop(), {contentWidth(), inside().height}, content_));
     RedrawWindow(picInner_.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/ListScroll.h"
 #include "modAPI/PixelRect.h"
 #include "platform/win/Window.h"
 #include "widgets/win/Scroll.h"
@@ -48,6 +49,9 @@ class PanelList : public PictureBox {
 
     /// Another part of the content shows now, and is not painted yet.
     Event<> viewChanged;
+    /// Raised after it for the part that has come into view. What nobody paints of it then is left
+    /// to the system.
+    Event<const UncoveredPart&> uncovered;
     /// Whether some of a panel of the content shows.
     [[nodiscard]] bool shows(HWND panel) const;
 
@@ -61,6 +65,7 @@ class PanelList : public PictureBox {
     ormala::Scroll scrInner_;
     Subscription scrolled_;
     int content_ = 0;
+    int shownTop_ = 0;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
     bool bulkUpdate_ = false;
 };

@@ -41,6 +41,10 @@ ToolsPane::ToolsPane(const Ports& ports)
       automatic_({automaticFile_, automaticToolFile_, ports.store, tools_}, automaticFile()),
       documents_({toolsFile_, ports.store, toolFile_, tools_, removed_, *this, dialogs_}),
       subscriptions_{list_.viewChanged.subscribe([this] { tellPanelsWhatShows(); }),
+                     list_.uncovered.subscribe([this](const UncoveredPart& part) {
+                         uncovered_.show(list_.picInner(), panelMaker_.panels(), part.shown,
+                                         part.withBeyond);
+                     }),
                      panelMaker_.useChanged.subscribe([this] { tellPanelsWhatShows(); }),
                      ports.window.ticked.subscribe([this](UINT_PTR timer) { onTimer(timer); }),
                      ports.window.tabbing.subscribe(

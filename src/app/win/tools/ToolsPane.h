@@ -14,6 +14,7 @@
 #include "app/win/tools/PanelMaker.h"
 #include "dialogs/win/WindowsMessagePresenter.h"
 #include "toolkit/win/PanelSupply.h"
+#include "toolkit/win/UncoveredPanels.h"
 
 namespace ormala {
 
@@ -98,6 +99,7 @@ class ToolsPane : private ToolListView, private BusyView {
     PanelControlStore panelControls_;
     PanelMaker panelMaker_;
     PanelSupply supply_;
+    UncoveredPanels uncovered_;
     DocumentDialogs dialogs_;
     ToolList tools_;
     RemovedTools removed_;
@@ -105,7 +107,7 @@ class ToolsPane : private ToolListView, private BusyView {
     ToolFile automaticToolFile_;
     AutomaticTools automatic_;
     Documents documents_;
-    std::array<Subscription, 9> subscriptions_;
+    std::array<Subscription, 10> subscriptions_;
 };
 
 }  // namespace ormala
