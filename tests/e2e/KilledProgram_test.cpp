@@ -75,7 +75,7 @@ class KilledProgram : public testing::Test {
 
     /// Of the first panel.
     static DesktopWindow firstMove(const Program& program) {
-        return program.settings().child("ctlSetRatioGrid").named(moveRight);
+        return program.settings().named("picInner").child("ctlSetRatioGrid").named(moveRight);
     }
 
     /// Moves a tool and toggles an option, and has the session ask whether it may end, at which the

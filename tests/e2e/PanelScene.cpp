@@ -117,8 +117,10 @@ ScreenPoint PanelScene::onScreen(ScreenPoint sheet) const {
 
 std::vector<DesktopWindow> PanelScene::panels() const {
     std::vector<DesktopWindow> found;
-    for (const DesktopWindow& window : settings().descendants()) {
-        if (isPanel(window)) {
+    const HWND list = settings().named("picInner").handle();
+    for (HWND child = GetWindow(list, GW_CHILD); child != nullptr;
+         child = GetWindow(child, GW_HWNDNEXT)) {
+        if (const DesktopWindow window(child); isPanel(window)) {
             found.push_back(window);
         }
     }

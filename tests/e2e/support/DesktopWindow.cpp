@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
+#include <map>
+#include <utility>
 
 #include "e2e/support/StageFailure.h"
 #include "support/win/WideText.h"
@@ -23,9 +26,72 @@ DesktopWindow firstOf(const std::vector<DesktopWindow>& windows, auto predicate)
     return found == windows.end() ? DesktopWindow() : *found;
 }
 
+/// The first one inside, at any depth. Those behind it are not looked for.
+DesktopWindow firstInside(HWND around, const std::function<bool(const DesktopWindow&)>& wanted) {
+    struct Search {
+        const std::function<bool(const DesktopWindow&)>& wanted;
+        DesktopWindow found;
+    } search{wanted, {}};
+    const auto look = [](HWND handle, LPARAM object) -> BOOL {
+        auto& self = *reinterpret_cast<Search*>(object);
+        if (!self.wanted(DesktopWindow(handle))) {
+            return TRUE;
+        }
+        self.found = DesktopWindow(handle);
+        return FALSE;
+    };
+    EnumChildWindows(around, look, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
 DWORD styleBits(HWND handle, int index) {
     return static_cast<DWORD>(GetWindowLongPtrW(handle, index));
 }
+
+ATOM atomIn(HWND window, LPCWSTR property) {
+    return static_cast<ATOM>(reinterpret_cast<UINT_PTR>(GetPropW(window, property)));
+}
+
+/// The windows that carry a name, found without asking each for the text of its own.
+class Named {
+  public:
+    explicit Named(std::string_view name)
+        : property_(GlobalFindAtomW(L"Name")), name_(GlobalFindAtomW(wide(name).c_str())) {}
+
+    bool operator()(const DesktopWindow& window) const {
+        return property_ != 0 && name_ != 0 &&
+               atomIn(window.handle(), MAKEINTATOM(property_)) == name_;
+    }
+
+  private:
+    ATOM property_;
+    ATOM name_;
+};
+
+/// Where controls were found. To look for one again takes as many requests as there are windows,
+/// and a scenario reads the same ones over and over.
+class FoundControls {
+  public:
+    static FoundControls& instance() {
+        static FoundControls found;
+        return found;
+    }
+
+    DesktopWindow in(const DesktopWindow& around, std::string_view name) {
+        const Named isNamed(name);
+        DesktopWindow& known = known_[{around.handle(), std::string(name)}];
+        // One out of sight may be another one's that has gone there.
+        const bool stays = IsChild(around.handle(), known.handle()) != FALSE && known.isVisible() &&
+                           isNamed(known);
+        if (!stays) {
+            known = firstInside(around.handle(), isNamed);
+        }
+        return known;
+    }
+
+  private:
+    std::map<std::pair<HWND, std::string>, DesktopWindow> known_;
+};
 
 std::string described(const DesktopWindow& window) {
     return window.exists() ? window.className() + " \"" + window.text() + '"' : "(gone)";
@@ -40,7 +106,7 @@ std::string DesktopWindow::className() const {
 }
 
 std::string DesktopWindow::name() const {
-    const auto atom = static_cast<ATOM>(reinterpret_cast<UINT_PTR>(GetPropW(handle_, L"Name")));
+    const ATOM atom = atomIn(handle_, L"Name");
     std::array<wchar_t, longestName> buffer{};
     const UINT length =
         atom == 0 ? 0 : GlobalGetAtomNameW(atom, buffer.data(), static_cast<int>(buffer.size()));
@@ -114,13 +180,14 @@ std::vector<DesktopWindow> DesktopWindow::descendants() const {
 }
 
 DesktopWindow DesktopWindow::child(std::string_view className, std::string_view name) const {
-    return firstOf(descendants(), [&](const DesktopWindow& window) {
-        return window.className() == className && (name.empty() || window.name() == name);
+    const Named isNamed(name);
+    return firstInside(handle_, [&](const DesktopWindow& window) {
+        return (name.empty() || isNamed(window)) && window.className() == className;
     });
 }
 
 DesktopWindow DesktopWindow::named(std::string_view name) const {
-    return firstOf(descendants(), [&](const auto& window) { return window.name() == name; });
+    return FoundControls::instance().in(*this, name);
 }
 
 void DesktopWindow::activate() const {
@@ -189,12 +256,24 @@ std::vector<DesktopWindow> topLevelWindows(std::optional<DWORD> processId) {
     return windows;
 }
 
+std::vector<DesktopWindow> topLevelWindows(DWORD processId, std::string_view className) {
+    const std::wstring wanted = wide(className);
+    std::vector<DesktopWindow> windows;
+    for (HWND each = FindWindowExW(nullptr, nullptr, wanted.c_str(), nullptr); each != nullptr;
+         each = FindWindowExW(nullptr, each, wanted.c_str(), nullptr)) {
+        if (const DesktopWindow window(each); window.processId() == processId) {
+            windows.push_back(window);
+        }
+    }
+    return windows;
+}
+
 DesktopWindow findTopLevel(DWORD processId, std::string_view className, std::string_view text) {
-    auto windows = topLevelWindows(processId);
+    auto windows = topLevelWindows(processId, className);
     std::stable_partition(windows.begin(), windows.end(),
                           [](const DesktopWindow& window) { return window.isVisible(); });
     return firstOf(windows, [&](const DesktopWindow& window) {
-        return window.className() == className && (text.empty() || window.text() == text);
+        return text.empty() || window.text() == text;
     });
 }
 
@@ -215,10 +294,8 @@ DesktopWindow waitForTopLevel(DWORD processId, std::string_view className, std::
 }
 
 std::string shownTip(DWORD processId) {
-    return firstOf(topLevelWindows(processId),
-                   [](const DesktopWindow& window) {
-                       return window.className() == "tooltips_class32" && window.isVisible();
-                   })
+    return firstOf(topLevelWindows(processId, "tooltips_class32"),
+                   [](const DesktopWindow& window) { return window.isVisible(); })
         .text();
 }
 

@@ -90,6 +90,10 @@ class DesktopWindow {
 /// The top-level windows of all processes, or of one, from the front to the back.
 std::vector<DesktopWindow> topLevelWindows(std::optional<DWORD> processId = std::nullopt);
 
+/// Those of a process and a class. The system itself picks them, where to look at all windows would
+/// slow a program down that is just starting.
+std::vector<DesktopWindow> topLevelWindows(DWORD processId, std::string_view className);
+
 /// The foremost top-level window of the process with this class and, unless it is empty, this text;
 /// a hidden one only if none is shown. It may not exist.
 DesktopWindow findTopLevel(DWORD processId, std::string_view className, std::string_view text = {});

@@ -19,8 +19,8 @@ DesktopWindow ShownMenus::wait() const {
 
 std::vector<Picture> ShownMenus::look() const {
     std::vector<Picture> pictures;
-    for (const DesktopWindow& window : topLevelWindows(processId_)) {
-        if (window.className() == menuClass && window.isVisible()) {
+    for (const DesktopWindow& window : topLevelWindows(processId_, menuClass)) {
+        if (window.isVisible()) {
             pictures.push_back(screen::capture(window.rect()));
         }
     }
