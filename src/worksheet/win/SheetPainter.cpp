@@ -97,6 +97,7 @@ void SheetPainter::showStep(HWND window, SheetLayers& layers) {
         return;
     }
     const WindowContext context(window);
+    const ClipScope clip(context.get(), region.get());
     layers.show(context.get(), shown_, area);
 }
 
