@@ -3,6 +3,7 @@
 #include <string>
 
 #include "e2e/SheetScene.h"
+#include "e2e/clickToFront.h"
 
 namespace ormala::test {
 namespace {
@@ -157,6 +158,7 @@ TEST(Modes, InTemplateModeAButtonBringsAFullScreenWorksheetBackOnlyWithTheBorder
         frame.waitUntilHidden();
         const DesktopWindow button = scene.settings().named("cmdWorksheetWindowNormal");
         EXPECT_TRUE(waitUntil([&] { return button.isEnabled(); }));
+        bringInFrontOf(scene.worksheet(), scene.settings());
         scene.mouse.click(modeButton(scene, 1));
         scene.settings().waitForText(templateCaption);
         EXPECT_TRUE(waitUntil([&] { return button.isEnabled() == border; }));

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "e2e/clickToFront.h"
 #include "e2e/support/StageFailure.h"
 
 namespace ormala::test {
@@ -15,10 +16,15 @@ std::string number(int value) {
     return (value < 0 ? "" : " ") + std::to_string(value);
 }
 
-/// English texts also on a system that speaks another language.
-SettingsFile inEnglish(SettingsFile options) {
+/// English texts also on a system that speaks another language, and the control window beside the
+/// worksheet's first place: where one lies over the other, the display may have them in another
+/// order than the program for a moment, and a click goes to the wrong one.
+SettingsFile prepared(SettingsFile options) {
     if (!options.value("Options", "Language")) {
         options.set("Options", "Language", " 9");
+    }
+    if (!options.value("FormSettings", "Left")) {
+        options.set("FormSettings", "Left", " 1570");
     }
     return options;
 }
@@ -80,7 +86,7 @@ PanelScene::PanelScene(const SettingsFile& tools, const SettingsFile& options,
                        const BackdropLook& look)
     : backdrop_(look) {
     tools.write(data_.toolsFile());
-    inEnglish(options).write(data_.optionsFile());
+    prepared(options).write(data_.optionsFile());
     start();
 }
 
@@ -91,13 +97,8 @@ void PanelScene::start() {
 }
 
 void PanelScene::bringControlWindowForward() const {
-    constexpr UINT order = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
-    const HWND control = settings().handle();
     if (worksheet().isVisible() && !settings().isMinimised()) {
-        SetWindowPos(control, worksheet().handle(), 0, 0, 0, 0, order);
-        SetWindowPos(control, HWND_TOP, 0, 0, 0, 0, order);
-        settings().settle();
-        screen::waitUntilStill(settings().rect(), milliseconds{50});
+        bringInFrontOf(worksheet(), settings());
     }
 }
 

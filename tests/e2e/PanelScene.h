@@ -89,9 +89,7 @@ class PanelScene {
 
   private:
     void start();
-    /// A window manager that is busy may have put the worksheet in front of the control window in
-    /// the course of the start, where a click goes to whatever the display has under the mouse.
-    /// Both ways, since what the system takes for done it does not do.
+    /// In the course of the start the worksheet may have come to lie in front of it.
     void bringControlWindowForward() const;
 
     Backdrop backdrop_;

@@ -18,4 +18,15 @@ inline bool clickToFront(Mouse& mouse, const DesktopWindow& window, ScreenPoint 
     return false;
 }
 
+/// Puts a window in front of another one on the display too, where a window manager that is busy
+/// may have them the other way round: a click goes to whatever the display has under the mouse.
+/// Both ways, since what the system takes for done it does not do.
+inline void bringInFrontOf(const DesktopWindow& other, const DesktopWindow& window) {
+    constexpr UINT order = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
+    SetWindowPos(window.handle(), other.handle(), 0, 0, 0, 0, order);
+    SetWindowPos(window.handle(), HWND_TOP, 0, 0, 0, 0, order);
+    window.settle();
+    screen::waitUntilStill(window.rect(), milliseconds{50});
+}
+
 }  // namespace ormala::test
