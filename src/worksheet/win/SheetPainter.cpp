@@ -86,7 +86,12 @@ void SheetPainter::handStepOver(HWND window) {
 }
 
 void SheetPainter::showStep(HWND window, SheetLayers& layers) {
-    if (!buffered_ || !step_ || !*step_) {
+    if (!step_ || !*step_) {
+        return;
+    }
+    if (!buffered_) {
+        handStepOver(window);
+        UpdateWindow(window);
         return;
     }
     const RegionHandle region = std::exchange(*step_, {});
