@@ -145,14 +145,21 @@ void PanelScene::scrollIntoView(const DesktopWindow& panel) {
     const ScreenRect view = DesktopWindow(GetParent(GetParent(panel.handle()))).rect();
     Mouse mouse;
     mouse.moveTo(view.center());
+    int turned = 0;
     const bool came = waitUntil([&] {
         const ScreenRect place = panel.rect();
         const bool above = place.top < view.top && place.bottom < view.bottom;
         const bool below = place.bottom > view.bottom && place.top > view.top;
-        if (above || below) {
-            mouse.wheel(above ? 1 : -1);
+        const int turn = above ? 1 : below ? -1 : 0;
+        // A notch may lead past a view that is hardly higher than the panel, and the next one back.
+        const bool passed = turn != 0 && turn == -turned;
+        const bool isSeen = place.top < view.bottom && place.bottom > view.top;
+        if (turn == 0 || (passed && isSeen)) {
+            return true;
         }
-        return !above && !below;
+        turned = turn;
+        mouse.wheel(turn);
+        return false;
     });
     EXPECT_TRUE(came) << "a panel does not come into view";
 }
@@ -179,10 +186,13 @@ void PanelScene::bringIntoSight(const DesktopWindow& control) {
 }
 
 DesktopWindow PanelScene::control(const DesktopWindow& panel, std::string_view name) {
-    DesktopWindow found = panel.named(name);
-    if (!found.exists() && isPanel(panel)) {
+    DesktopWindow found;
+    const auto exists = [&] { return (found = panel.named(name)).exists(); };
+    // Those beside the ones in view get their controls when there is nothing else to do.
+    constexpr milliseconds rest{300};
+    if (!exists() && isPanel(panel) && !waitUntil(exists, rest)) {
         scrollIntoView(panel);
-        waitUntil([&] { return (found = panel.named(name)).exists(); });
+        waitUntil(exists);
     }
     if (!found.exists()) {
         throw StageFailure("There is no control " + std::string(name));
