@@ -51,8 +51,11 @@ std::string lasting(SettingsFile file, const std::vector<std::string>& mended) {
     if (file.value("General", "Time")) {
         file.set("General", "Time", "");
     }
-    if (file.value("Options", "Mode").value_or(" 0") != " 0") {
+    const bool isShort = file.value("Options", "Mode").value_or(" 0") != " 0";
+    if (isShort) {
         file.set("FormSettings", "Bottom", "");
+    }
+    if (isShort || std::ranges::find(mended, "FormSettings") != mended.end()) {
         file.set("Options", "EditModeFormHeight", "");
     }
     return file.text();
