@@ -62,6 +62,13 @@ PixelRect boundsOf(HRGN region) {
     return GetRgnBox(region, &box) > NULLREGION ? fromRect(box) : PixelRect{};
 }
 
+PixelRect placeIn(HWND around, HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    MapWindowPoints(HWND_DESKTOP, around, reinterpret_cast<POINT*>(&place), 2);
+    return fromRect(place);
+}
+
 RECT toRect(const PixelRect& rect) {
     return {rect.left, rect.top, rect.right, rect.bottom};
 }

@@ -22,6 +22,9 @@ RegionHandle updateRegionOf(HWND window);
 
 PixelRect boundsOf(HRGN region);
 
+/// Where a window lies, in pixels of the client area of another one.
+PixelRect placeIn(HWND around, HWND window);
+
 RECT toRect(const PixelRect& rect);
 PixelRect fromRect(const RECT& rect);
 PixelSize sizeOf(const RECT& rect);

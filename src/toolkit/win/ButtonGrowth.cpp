@@ -9,13 +9,6 @@ namespace ormala {
 
 namespace {
 
-PixelRect placeInParent(HWND window) {
-    RECT place{};
-    GetWindowRect(window, &place);
-    MapWindowPoints(HWND_DESKTOP, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
-    return fromRect(place);
-}
-
 WindowId windowAt(PixelPoint point) {
     return WindowFromPoint({point.x, point.y});
 }
@@ -92,7 +85,8 @@ void ButtonGrowth::apply(const GrowthSteps& steps, int dpi) {
 }
 
 void ButtonGrowth::resize(Entry& entry, bool grown, int dpi) {
-    const PixelRect place = placeInParent(entry.button->handle());
+    const HWND button = entry.button->handle();
+    const PixelRect place = placeIn(GetParent(button), button);
     entry.grown = grown;
     entry.button->setUseCornerStyle(!grown);
     entry.button->place(grown ? grownPlace(place, dpi) : placeAtRest(place, dpi));

@@ -11,14 +11,8 @@ namespace ormala {
 
 namespace {
 
-PixelRect placeIn(HWND content, const PanelWindow& panel) {
-    RECT place = panel.rectangle();
-    MapWindowPoints(HWND_DESKTOP, content, reinterpret_cast<POINT*>(&place), 2);
-    return fromRect(place);
-}
-
 bool drawPanel(HDC context, HWND content, const PanelWindow& panel, const PixelRect& part) {
-    const PixelRect box = placeIn(content, panel);
+    const PixelRect box = placeIn(content, panel.handle());
     const PixelRect inside = box.intersected(part);
     if (inside.empty()) {
         return true;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/win/monitors.h"
+#include "platform/win/regions.h"
 #include "widgets/win/tabStops.h"
 
 namespace ormala {
@@ -120,7 +121,7 @@ void PanelFocus::ensureControlVisible(HWND control) {
         constexpr int room = 4;
         // Not beyond the panel, and so not beyond the content.
         const PixelRect box =
-            ports_.list.placeInContent(control).grown(room).intersected(panel->placeInList());
+            placeIn(ports_.list.picInner(), control).grown(room).intersected(panel->placeInList());
         ports_.list.EnsurePanelVisible(box.top, box.height());
     }
 }

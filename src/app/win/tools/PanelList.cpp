@@ -1,7 +1,5 @@
 #include "app/win/tools/PanelList.h"
 
-#include <utility>
-
 #include "app/ListScroll.h"
 #include "app/PanelLayout.h"
 #include "app/settingsLayout.h"
@@ -90,13 +88,6 @@ void PanelList::setContentHeight(int height) {
     adoptHeights();
 }
 
-PixelRect PanelList::placeInContent(HWND panel) const {
-    RECT place{};
-    GetWindowRect(panel, &place);
-    MapWindowPoints(HWND_DESKTOP, picInner(), reinterpret_cast<POINT*>(&place), 2);
-    return fromRect(place);
-}
-
 void PanelList::setBulkUpdate(bool bulkUpdate) {
     bulkUpdate_ = bulkUpdate;
     if (bulkUpdate) {
@@ -115,7 +106,7 @@ void PanelList::adoptHeights() {
 }
 
 void PanelList::moveContent() {
-    const int formerTop = std::exchange(shownTop_, contentTop());
+    const int formerTop = placeIn(handle(), picInner_.handle()).top;
     // Nothing is erased that is drawn below.
     SetWindowPos(picInner_.handle(), nullptr, 0, contentTop(), contentWidth(), content_,
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_DEFERERASE);
@@ -126,10 +117,9 @@ void PanelList::moveContent() {
 }
 
 bool PanelList::shows(HWND panel) const {
-    const PixelRect box = placeInContent(panel);
-    const int top = contentTop() + box.top;
-    return isVisible() && IsWindowVisible(panel) != FALSE && top < inside().height &&
-           top + box.height() > 0;
+    const PixelRect box = placeIn(handle(), panel);
+    return isVisible() && IsWindowVisible(panel) != FALSE && box.top < inside().height &&
+           box.bottom > 0;
 }
 
 void PanelList::EnsurePanelVisible(int panelTop, int panelHeight) {

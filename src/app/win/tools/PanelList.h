@@ -36,8 +36,6 @@ class PanelList : public PictureBox {
     void resize(const PixelRect& box);
     /// Of all panels together.
     void setContentHeight(int height);
-    /// Of a panel, in pixels of the content.
-    [[nodiscard]] PixelRect placeInContent(HWND panel) const;
     /// While many panels come and go the list stays hidden.
     void setBulkUpdate(bool bulkUpdate);
     [[nodiscard]] bool bulkUpdate() const { return bulkUpdate_; }
@@ -65,7 +63,6 @@ class PanelList : public PictureBox {
     ormala::Scroll scrInner_;
     Subscription scrolled_;
     int content_ = 0;
-    int shownTop_ = 0;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
     bool bulkUpdate_ = false;
 };
