@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <stdexcept>
 
+#include "platform/win/callbackGuard.h"
 #include "win/TestSheet.h"
 
 namespace ormala {
@@ -138,6 +140,17 @@ TEST(SheetPainter, PaintingThatTheSystemAsksForInAStepShowsItsChangesToo) {
     });
     held.step();
     EXPECT_GT(asked, 0);
+    expectSameAsPaintedAnew(held.sheet);
+}
+
+TEST(SheetPainter, WhatAStepHasChangedBeforeItFailsIsLeftToTheSystem) {
+    HeldStencil held;
+    {
+        const Subscription failing = held.stencil->events().change.subscribe(
+            [] { throw std::runtime_error("amid a step"); });
+        held.step();
+        EXPECT_THROW(throwKeptFailure(), std::runtime_error);
+    }
     expectSameAsPaintedAnew(held.sheet);
 }
 
