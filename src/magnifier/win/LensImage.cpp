@@ -3,6 +3,7 @@
 #include <cstring>
 #include <utility>
 
+#include "magnifier/enlargement.h"
 #include "magnifier/win/pointers.h"
 #include "platform/win/GdiCanvas.h"
 
@@ -50,8 +51,9 @@ void LensImage::refresh(const LensImageLook& look, HCURSOR pointer, PixelPoint s
     }
     lastLook_ = look;
     takePointer(pointer);
-    enlarge(look.layout);
     const PixelView picBuff = picLens_.picture().view();
+    // The replication of the system's own stretching, in less time than that.
+    enlarge(picBuff, picInter_.view(), look.layout.Factor);
     drawPointer(picBuff, pointerPicture_, look.hotSpot, look.layout.Factor);
     DrawGrid(picBuff, look, systemColors());
     DrawHotSpot(picBuff, look, systemColors());
@@ -65,12 +67,6 @@ std::optional<Color> LensImage::colorAt(PixelPoint place) const {
     const PixelView picture = lastPicture_.view();
     return lastLook_ && picture.contains(place) ? std::optional(colorOfPixel(picture, place))
                                                 : std::nullopt;
-}
-
-void LensImage::enlarge(const LensLayout& layout) const {
-    // The default stretch mode differs from plain replication only where a picture shrinks.
-    StretchBlt(picLens_.picture().context(), 0, 0, layout.LensWidth, layout.LensHeight,
-               picInter_.context(), 0, 0, layout.SourceWidth, layout.SourceHeight, SRCCOPY);
 }
 
 void LensImage::takePointer(HCURSOR pointer) {

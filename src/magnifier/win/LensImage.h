@@ -29,7 +29,6 @@ class LensImage {
     void screenChanged();
 
   private:
-    void enlarge(const LensLayout& layout) const;
     void takePointer(HCURSOR pointer);
 
     /// With `picBuff` as its picture.
