@@ -70,11 +70,10 @@ TEST(Hover, ToolsFollowTheMouseOverTheControlWindow) {
     ASSERT_TRUE(worksheetFits(scene));
     moveTo(scene.settings(), {monitor.right - control.width() - 10, 20});
     const GripSizes sizes = gripSizes(scene);
-    EXPECT_TRUE(waitUntil([&] {
-        // The window that has just been moved may hear of the mouse only with its next move.
-        scene.mouse.moveTo(scene.onScreen(scene.model.gripPixel(-1, -1)));
-        return gripPixels(scene, {-1, -1}, cornerColor) == sizes.grown;
-    }));
+    // Both windows have just been moved.
+    screen::waitUntilStill(monitor);
+    scene.mouse.moveTo(scene.onScreen(scene.model.gripPixel(-1, -1)));
+    EXPECT_EQ(gripPixels(scene, {-1, -1}, cornerColor), sizes.grown);
     scene.mouse.moveTo(scene.settings().center());
     const ScreenPoint at = scene.onScreen(scene.model.gripPixel(-1, -1));
     const int room = sizes.reach + 4;
