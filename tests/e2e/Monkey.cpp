@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "e2e/PanelScene.h"
 #include "e2e/support/StageFailure.h"
@@ -51,25 +52,57 @@ std::string lasting(SettingsFile file, const std::vector<std::string>& mended) {
     if (file.value("General", "Time")) {
         file.set("General", "Time", "");
     }
-    const bool isShort = file.value("Options", "Mode").value_or(" 0") != " 0";
-    if (isShort) {
+    if (file.value("Options", "Mode").value_or(" 0") != " 0") {
         file.set("FormSettings", "Bottom", "");
-    }
-    if (isShort || std::ranges::find(mended, "FormSettings") != mended.end()) {
         file.set("Options", "EditModeFormHeight", "");
     }
     return file.text();
 }
 
-/// The windows that reach beyond the screen, which come back onto it.
-std::vector<std::string> beyondScreen(const SettingsFile& options) {
+RECT workArea() {
     RECT work{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    return work;
+}
+
+RECT savedPlace(const SettingsFile& options, const char* section) {
+    const auto side = [&](const char* key) {
+        return static_cast<LONG>(options.number(section, key).value_or(0));
+    };
+    return {side("Left"), side("Top"), side("Right"), side("Bottom")};
+}
+
+/// Where a start puts the top of the control window, before the display has it.
+LONG topAtStart(const SettingsFile& options) {
+    const RECT work = workArea();
+    const RECT saved = savedPlace(options, "FormSettings");
+    RECT common{};
+    IntersectRect(&common, &work, &saved);
+    const bool elsewhere = common.right - common.left < 11 && common.bottom - common.top < 11;
+    const LONG end = elsewhere ? screen::primaryMonitor().bottom : work.bottom;
+    return std::max(std::min(saved.top, end - (saved.bottom - saved.top)), work.top);
+}
+
+/// The height that the control window is to have again is cut by a start where it would reach below
+/// the screen.
+void cutHeight(SettingsFile& options) {
+    constexpr const char* key = "EditModeFormHeight";
+    constexpr double twipsPerInch = 1440;
+    const LONG room = screen::primaryMonitor().bottom - topAtStart(options);
+    const double most = std::round(room * twipsPerInch / GetDpiForSystem());
+    if (options.number("Options", key).value_or(0) > most) {
+        options.set("Options", key, " " + std::to_string(std::lround(most)));
+    }
+}
+
+/// The windows that reach beyond the screen, which come back onto it.
+std::vector<std::string> beyondScreen(const SettingsFile& options) {
+    const RECT work = workArea();
     std::vector<std::string> found;
     for (const char* section : {"FormSettings", "FormResizer", "FormLens"}) {
-        const auto side = [&](const char* key) { return options.number(section, key).value_or(0); };
-        if (side("Left") < work.left || side("Top") < work.top || side("Right") > work.right ||
-            side("Bottom") > work.bottom) {
+        const RECT saved = savedPlace(options, section);
+        if (saved.left < work.left || saved.top < work.top || saved.right > work.right ||
+            saved.bottom > work.bottom) {
             found.emplace_back(section);
         }
     }
@@ -455,12 +488,13 @@ void Monkey::endAndCompare() {
     const auto shown = panelTexts();
     end();
     const SettingsFile tools = SettingsFile::read(data_.toolsFile());
-    const SettingsFile options = SettingsFile::read(data_.optionsFile());
+    SettingsFile options = SettingsFile::read(data_.optionsFile());
     start();
     expectSavedTools();
     expectPanels(shown);
     end();
     const auto mended = beyondScreen(options);
+    cutHeight(options);
     EXPECT_EQ(lasting(SettingsFile::read(data_.toolsFile()), {}), lasting(tools, {})) << trace();
     EXPECT_EQ(lasting(SettingsFile::read(data_.optionsFile()), mended), lasting(options, mended))
         << trace();
