@@ -19,10 +19,10 @@ target_compile_options(
             -Wundef
             -Werror)
 # In a source that is compiled together with others, their names are no names of its own.
-if(CMAKE_UNITY_BUILD)
-  target_compile_options(ormala_options INTERFACE -Wshadow=local)
-else()
+if(NOT CMAKE_UNITY_BUILD)
   target_compile_options(ormala_options INTERFACE -Wshadow)
+elseif(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(ormala_options INTERFACE -Wshadow=local)
 endif()
 
 if(ORMALA_SANITIZE)

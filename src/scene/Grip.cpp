@@ -14,7 +14,7 @@ constexpr int growth = 6;
 /// Between the widths at rest (9 and 13) and the grown ones (21 and 25).
 constexpr double grownWidth = 14;
 /// A resting grip reaches this far beyond itself.
-constexpr double restingReach = 6;
+constexpr int restingReach = 6;
 
 void enlarge(ShapeBox& box, int margin) {
     const auto by = static_cast<float>(margin);
