@@ -280,6 +280,27 @@ TEST_F(Modes, WindowsThatSomethingPlacesAfterAChangeOfTheScreensComeBackToo) {
     EXPECT_TRUE(worksheetLiesInTheFrame());
 }
 
+TEST_F(Modes, AWindowThatSomethingPlacesOffAllScreensComesBack) {
+    start();
+    for (const HWND window : {settings_->handle(), program_->resizer().handle()}) {
+        const auto isOnAScreen = [window] {
+            return MonitorFromWindow(window, MONITOR_DEFAULTTONULL) != nullptr;
+        };
+        SetWindowPos(window, nullptr, 9000, 7000, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        ASSERT_FALSE(isOnAScreen());
+        EXPECT_TRUE(test::waitUntil(isOnAScreen));
+    }
+    EXPECT_TRUE(worksheetLiesInTheFrame());
+}
+
+TEST_F(Modes, AMinimisedControlWindowStaysSo) {
+    start();
+    const HWND window = settings_->handle();
+    ShowWindow(window, SW_MINIMIZE);
+    test::pause(test::milliseconds{1300});
+    EXPECT_NE(IsIconic(window), FALSE);
+}
+
 TEST_F(Modes, FullScreenWorksheetFitsTheScreenAgainAfterItsChange) {
     start();
     program_->resizer().maximise();

@@ -96,13 +96,10 @@ void Program::listen() {
     };
     keep(settings_->chosen.subscribe([this](Command command) { execute(command); }));
     keep(settings_->orderChanged.subscribe([this] { view_->raiseLens(true); }));
-    keep(settings_->displayChanged.subscribe([this] {
-        constexpr unsigned untilAllIsPlaced = 1000;
-        bringAllOntoScreens();
-        screensAtRest_.start(untilAllIsPlaced);
-    }));
-    // The system, or who manages the windows, may place some of them after the change.
-    keep(screensAtRest_.due.subscribe([this] { bringAllOntoScreens(); }));
+    keep(settings_->displayChanged.subscribe([this] { lostWindows_.screensChanged(); }));
+    keep(settings_->placed.subscribe([this] { lostWindows_.placed(settings_->handle()); }));
+    keep(resizer_->worksheetPlaced.subscribe(
+        [this](PixelPoint) { lostWindows_.placed(resizer_->handle()); }));
     keep(worksheet_->activated.subscribe([this] {
         // A worksheet that comes to the front must not cover the panels.
         settings_->later([this] {
@@ -199,13 +196,6 @@ void Program::raiseControlWindowAt(POINT screen) {
 
 void Program::closeProgram() {
     PostMessageW(settings_->handle(), WM_CLOSE, 0, 0);
-}
-
-void Program::bringAllOntoScreens() {
-    for (const HWND window :
-         {settings_->handle(), resizer_->handle(), view_->lens().lens().handle()}) {
-        bringOntoScreens(window);
-    }
 }
 
 bool Program::isBusy() const {

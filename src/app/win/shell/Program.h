@@ -15,7 +15,7 @@
 #include "app/win/shell/frmSettings.h"
 #include "app/win/tools/ToolsPane.h"
 #include "app/win/view/ViewPane.h"
-#include "platform/win/LaterTimer.h"
+#include "dialogs/win/LostWindows.h"
 #include "platform/win/MouseWheelHook.h"
 #include "stencil/SpecialRatios.h"
 #include "storage/win/WindowsCodePage.h"
@@ -66,7 +66,6 @@ class Program : public WorksheetCommands, private ProgramEnding {
     void restoreLook(bool anotherRuns);
     void makeLens();
     void RefreshRuntimeStrings();
-    void bringAllOntoScreens();
     void ShowHelp();
     void worksheetWindowNormal();
 
@@ -92,7 +91,10 @@ class Program : public WorksheetCommands, private ProgramEnding {
     /// In the order of the key that goes through them.
     std::vector<WindowPart> parts_;
     std::unique_ptr<MouseWheelHook> wheelHook_;
-    LaterTimer screensAtRest_;
+    LostWindows lostWindows_{[this] {
+        return std::vector<HWND>{settings_->handle(), resizer_->handle(),
+                                 view_->lens().lens().handle()};
+    }};
     /// Ended before anything else goes: the focus that the parts leave behind finds them half gone.
     std::vector<Subscription> subscriptions_;
 };
