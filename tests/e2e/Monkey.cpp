@@ -41,6 +41,13 @@ bool belongsToFrame(ScreenPoint point) {
     return root.className() == "frmResizer" || (root.className().starts_with("frm") && outside);
 }
 
+/// As far as a mouse goes.
+ScreenPoint onScreen(ScreenPoint point) {
+    const ScreenRect screen = screen::primaryMonitor();
+    return {std::clamp(point.x, screen.left, screen.right - 1),
+            std::clamp(point.y, screen.top, screen.bottom - 1)};
+}
+
 /// All but the time and what a start mends: outside edit mode the control window comes back short,
 /// and the height that it is to have again is cut where it would reach below the screen.
 std::string lasting(SettingsFile file, const std::vector<std::string>& mended) {
@@ -177,10 +184,8 @@ void Monkey::act(const MonkeyAction& action) {
         return;
     }
     const ScreenRect area = target(action).clientRect();
-    const ScreenRect screen = screen::primaryMonitor();
-    const ScreenPoint point{
-        std::clamp(area.left + area.width() * action.x / 1000, screen.left, screen.right - 1),
-        std::clamp(area.top + area.height() * action.y / 1000, screen.top, screen.bottom - 1)};
+    const ScreenPoint point = onScreen(
+        {area.left + area.width() * action.x / 1000, area.top + area.height() * action.y / 1000});
     if (belongsToFrame(point)) {
         useDevice(action, point);
     } else {
@@ -190,9 +195,7 @@ void Monkey::act(const MonkeyAction& action) {
 
 void Monkey::useMouse(const MonkeyAction& action, ScreenPoint point) {
     const auto modifiers = static_cast<Modifiers>(action.modifiers);
-    const ScreenRect screen = screen::primaryMonitor();
-    const ScreenPoint end{std::clamp(point.x + action.dx, screen.left, screen.right - 1),
-                          std::clamp(point.y + action.dy, screen.top, screen.bottom - 1)};
+    const ScreenPoint end = onScreen(point + ScreenPoint{action.dx, action.dy});
     switch (action.deed) {
         case Deed::move:
             mouse_.moveTo(point);
@@ -214,7 +217,7 @@ void Monkey::useMouse(const MonkeyAction& action, ScreenPoint point) {
 
 void Monkey::useDevice(const MonkeyAction& action, ScreenPoint point) {
     if (action.deed == Deed::drag) {
-        device_.drag(point, point + ScreenPoint{action.dx, action.dy}, 4);
+        device_.drag(point, onScreen(point + ScreenPoint{action.dx, action.dy}), 4);
     } else if (action.deed == Deed::click) {
         device_.click(point);
     } else {
@@ -378,7 +381,9 @@ void Monkey::expectOnScreen(const DesktopWindow& window) const {
                (area.left < all.right && area.right > all.left && area.top < all.bottom &&
                 area.bottom > all.top);
     };
-    EXPECT_TRUE(waitUntil(seen)) << window.className() << " is off all screens\n" << trace();
+    EXPECT_TRUE(waitUntil(seen)) << window.className() << " is off all screens, at "
+                                 << window.rect() << "\n"
+                                 << trace();
 }
 
 void Monkey::expectWorksheetInItsFrame() const {
