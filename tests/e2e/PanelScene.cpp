@@ -17,16 +17,17 @@ std::string number(int value) {
 }
 
 /// English texts also on a system that speaks another language, and the control window beside the
-/// worksheet's first place, at the right edge of the screen, if that has room for both: where one
-/// lies over the other, the display may have them in another order than the program for a moment,
-/// and a click goes to the wrong one.
+/// worksheet's first place, near the right edge of the screen: where one lies over the other, the
+/// display may have them in another order than the program for a moment, and a click goes to the
+/// wrong one.
 SettingsFile prepared(SettingsFile options) {
     if (!options.value("Options", "Language")) {
         options.set("Options", "Language", " 9");
     }
     if (!options.value("FormSettings", "Left")) {
-        // A start brings it back onto the screen.
-        options.set("FormSettings", "Left", number(screen::primaryMonitor().right));
+        // Of a window that is wider than that a start brings the rest back onto the screen.
+        constexpr int room = 350;
+        options.set("FormSettings", "Left", number(screen::primaryMonitor().right - room));
     }
     return options;
 }
