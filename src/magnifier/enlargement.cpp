@@ -24,7 +24,9 @@ void enlarge(const PixelView& to, const PixelView& from, int factor) {
     const int width = std::min(to.size.width, from.size.width * factor);
     const int height = std::min(to.size.height, from.size.height * factor);
     for (int y = 0; y < height; ++y) {
-        if (y % factor == 0) {
+        if (factor == 1) {
+            std::copy_n(from.row(y), width, to.row(y));
+        } else if (y % factor == 0) {
             enlargeRow(to.row(y), width, from.row(y / factor), factor);
         } else {
             std::copy_n(to.row(y - 1), width, to.row(y));
