@@ -4,6 +4,7 @@
 #include <array>
 
 #include "language/MlStringModule.h"
+#include "platform/win/PlaceAcrossDpi.h"
 #include "platform/win/regions.h"
 #include "support/win/Screen.h"
 #include "support/win/Wait.h"
@@ -15,6 +16,19 @@ namespace ormala {
 namespace {
 
 class Modes : public ModesStage {};
+
+bool isOnAScreen(HWND window) {
+    return MonitorFromWindow(window, MONITOR_DEFAULTTONULL) != nullptr;
+}
+
+void placeOffAllScreens(HWND window) {
+    SetWindowPos(window, nullptr, 9000, 7000, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ASSERT_FALSE(isOnAScreen(window));
+}
+
+bool comesBack(HWND window) {
+    return test::waitUntil([window] { return isOnAScreen(window); });
+}
 
 constexpr std::array<bool, 3> allShown{true, true, true};
 constexpr std::array<bool, 3> veilAlone{true, false, true};
@@ -248,7 +262,7 @@ TEST_F(Modes, WindowsOfAMonitorThatIsGoneComeBackAtTheStart) {
     }
     start();
     for (const HWND window : {settings_->handle(), program_->resizer().handle()}) {
-        EXPECT_NE(MonitorFromWindow(window, MONITOR_DEFAULTTONULL), nullptr);
+        EXPECT_TRUE(isOnAScreen(window));
     }
     const RECT place = program_->resizer().rectangle();
     EXPECT_EQ(place.right,
@@ -259,46 +273,51 @@ TEST_F(Modes, WindowsOfAMonitorThatIsGoneComeBackAtTheStart) {
 TEST_F(Modes, WindowsComeBackWhenTheirMonitorGoesWhileTheProgramRuns) {
     start();
     program_->modes().SetMode(Mode::templateMode, false);
-    SetWindowPos(program_->resizer().handle(), nullptr, 9000, 7000, 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    placeOffAllScreens(program_->resizer().handle());
     SendMessageW(settings_->handle(), WM_DISPLAYCHANGE, 32, 0);
-    EXPECT_NE(MonitorFromWindow(program_->resizer().handle(), MONITOR_DEFAULTTONULL), nullptr);
+    EXPECT_TRUE(isOnAScreen(program_->resizer().handle()));
     EXPECT_FALSE(program_->resizer().isVisible()) << "still hidden by the mode";
     EXPECT_TRUE(worksheetLiesInTheFrame());
 }
 
 TEST_F(Modes, WindowsThatSomethingPlacesAfterAChangeOfTheScreensComeBackToo) {
     start();
-    const HWND frame = program_->resizer().handle();
-    const auto isOnAScreen = [frame] {
-        return MonitorFromWindow(frame, MONITOR_DEFAULTTONULL) != nullptr;
-    };
     SendMessageW(settings_->handle(), WM_DISPLAYCHANGE, 32, 0);
-    SetWindowPos(frame, nullptr, 9000, 7000, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    ASSERT_FALSE(isOnAScreen());
-    EXPECT_TRUE(test::waitUntil(isOnAScreen));
+    placeOffAllScreens(program_->resizer().handle());
+    EXPECT_TRUE(comesBack(program_->resizer().handle()));
     EXPECT_TRUE(worksheetLiesInTheFrame());
 }
 
 TEST_F(Modes, AWindowThatSomethingPlacesOffAllScreensComesBack) {
     start();
     for (const HWND window : {settings_->handle(), program_->resizer().handle()}) {
-        const auto isOnAScreen = [window] {
-            return MonitorFromWindow(window, MONITOR_DEFAULTTONULL) != nullptr;
-        };
-        SetWindowPos(window, nullptr, 9000, 7000, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-        ASSERT_FALSE(isOnAScreen());
-        EXPECT_TRUE(test::waitUntil(isOnAScreen));
+        placeOffAllScreens(window);
+        EXPECT_TRUE(comesBack(window));
     }
     EXPECT_TRUE(worksheetLiesInTheFrame());
 }
 
-TEST_F(Modes, AMinimisedControlWindowStaysSo) {
+TEST_F(Modes, AWindowPartlyBeyondTheEdgeStaysWhereAnotherComesBack) {
+    start();
+    const HWND frame = program_->resizer().handle();
+    SetWindowPos(frame, nullptr, -200, 300, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const RECT place = program_->resizer().rectangle();
+    ASSERT_LT(place.left, 0);
+    placeOffAllScreens(settings_->handle());
+    ASSERT_TRUE(comesBack(settings_->handle()));
+    EXPECT_EQ(fromRect(program_->resizer().rectangle()), fromRect(place));
+}
+
+TEST_F(Modes, AMinimisedControlWindowKeepsThePlaceItComesBackTo) {
     start();
     const HWND window = settings_->handle();
+    SetWindowPos(window, nullptr, -60, 200, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const PixelRect place = normalPlaceOf(window);
     ShowWindow(window, SW_MINIMIZE);
-    test::pause(test::milliseconds{1300});
+    placeOffAllScreens(program_->resizer().handle());
+    ASSERT_TRUE(comesBack(program_->resizer().handle()));
     EXPECT_NE(IsIconic(window), FALSE);
+    EXPECT_EQ(normalPlaceOf(window), place);
 }
 
 TEST_F(Modes, FullScreenWorksheetFitsTheScreenAgainAfterItsChange) {

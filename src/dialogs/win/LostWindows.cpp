@@ -10,19 +10,21 @@ namespace {
 
 constexpr UINT untilAllIsPlaced = 1000;
 
-/// A minimised window lies on no screen, and a hidden one is placed when it is shown.
+/// A minimised window lies where it comes back to, and a hidden one is placed when it is shown. One
+/// that its user has put partly beyond the edge is not lost.
 bool isLost(HWND window) {
-    return IsIconic(window) == FALSE && IsWindowVisible(window) != FALSE &&
+    return IsWindowVisible(window) != FALSE &&
            MonitorFromWindow(window, MONITOR_DEFAULTTONULL) == nullptr;
 }
 
 }  // namespace
 
 LostWindows::LostWindows(std::function<std::vector<HWND>()> windows)
-    : windows_(std::move(windows)), due_(atRest_.due.subscribe([this] { bringBack(); })) {}
+    : windows_(std::move(windows)), due_(atRest_.due.subscribe([this] { afterRest(); })) {}
 
 void LostWindows::screensChanged() {
-    bringBack();
+    bringBack([](HWND) { return true; });
+    screensAreNew_ = true;
     atRest_.start(untilAllIsPlaced);
 }
 
@@ -32,9 +34,16 @@ void LostWindows::placed(HWND window) {
     }
 }
 
-void LostWindows::bringBack() const {
+void LostWindows::afterRest() {
+    const bool all = std::exchange(screensAreNew_, false);
+    bringBack([all](HWND window) { return all || isLost(window); });
+}
+
+void LostWindows::bringBack(const std::function<bool(HWND)>& which) const {
     for (const HWND window : windows_()) {
-        bringOntoScreens(window);
+        if (which(window)) {
+            bringOntoScreens(window);
+        }
     }
 }
 

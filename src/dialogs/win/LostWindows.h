@@ -16,15 +16,18 @@ class LostWindows {
     /// `windows` tells at any time which there are.
     explicit LostWindows(std::function<std::vector<HWND>()> windows);
 
-    /// At once, and once more when all is placed after the change.
+    /// All of them are wholly on the screens, at once and once more when all is placed after the
+    /// change.
     void screensChanged();
     /// One of them has another place. A lost one comes back when it has rested there for a second.
     void placed(HWND window);
 
   private:
-    void bringBack() const;
+    void afterRest();
+    void bringBack(const std::function<bool(HWND)>& which) const;
 
     std::function<std::vector<HWND>()> windows_;
+    bool screensAreNew_ = false;
     LaterTimer atRest_;
     Subscription due_;
 };

@@ -98,8 +98,6 @@ void Program::listen() {
     keep(settings_->orderChanged.subscribe([this] { view_->raiseLens(true); }));
     keep(settings_->displayChanged.subscribe([this] { lostWindows_.screensChanged(); }));
     keep(settings_->placed.subscribe([this] { lostWindows_.placed(settings_->handle()); }));
-    keep(resizer_->worksheetPlaced.subscribe(
-        [this](PixelPoint) { lostWindows_.placed(resizer_->handle()); }));
     keep(worksheet_->activated.subscribe([this] {
         // A worksheet that comes to the front must not cover the panels.
         settings_->later([this] {
@@ -110,6 +108,7 @@ void Program::listen() {
     keep(worksheet_->dpiChanged.subscribe([this] { state_.setWorksheetDpi(worksheet_->dpi()); }));
     keep(worksheet_->resized.subscribe([this] { modes_->worksheetResized(); }));
     keep(resizer_->worksheetPlaced.subscribe([this](PixelPoint) {
+        lostWindows_.placed(resizer_->handle());
         if (worksheet_->MaxSized()) {
             // Nobody could see the way back under a worksheet that has just covered the screen.
             view_->raiseAboveAll();
