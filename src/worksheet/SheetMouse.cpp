@@ -88,6 +88,7 @@ void SheetMouse::press(const MouseInput& input) {
 
 void SheetMouse::move(const MouseInput& input) {
     last_ = input;
+    looksAtRest_ = 0;
     OverlayItem* item = holding() ? holder_ : itemAt(input);
     const MouseSource source = sourceOf(item);
     // The tools hear of the mouse's place first: a drag then goes on from the grips as they are.
@@ -172,10 +173,13 @@ bool SheetMouse::keyPressed(int key, int shift) {
 int SheetMouse::interval() const {
     // A little more than a tenth of a second, so that no look comes too early.
     constexpr int tickOutside = 110;
+    constexpr int tickAtRest = 250;
+    constexpr int looksOfASecond = 10;
     if (!sheet_.EditMode()) {
         return 0;
     }
-    return aids_.wantsTick() ? Aids::crossHairInterval : tickOutside;
+    const int slow = looksAtRest_ < looksOfASecond ? tickOutside : tickAtRest;
+    return aids_.wantsTick() ? Aids::crossHairInterval : slow;
 }
 
 void SheetMouse::tick() {
@@ -187,6 +191,8 @@ void SheetMouse::tick() {
 
 void SheetMouse::lookOutside() {
     const Pointer pointer = port_.pointer();
+    looksAtRest_ = pointer.at == lastSeen_ ? looksAtRest_ + 1 : 0;
+    lastSeen_ = pointer.at;
     if (pointer.worksheet.contains(pointer.at)) {
         return;
     }

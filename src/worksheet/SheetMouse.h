@@ -40,7 +40,8 @@ class SheetMouse {
     /// How soon `tick` has something to do, in milliseconds; 0 for never, as things are. A
     /// worksheet that is hidden needs none.
     [[nodiscard]] int interval() const;
-    /// Looks for a mouse that is outside, ten times a second at most.
+    /// Looks for a mouse that is outside, ten times a second at most, and less often where it has
+    /// rested for a second.
     void tick();
 
     [[nodiscard]] bool holding() const { return holder_ != nullptr || background_; }
@@ -66,6 +67,9 @@ class SheetMouse {
     /// Keys that went down while a grip was held, and are still down.
     std::vector<int> resting_;
     RateLimit outsideLooks_;
+    /// Where the last look has found it, and how many in a row have found it there.
+    PixelPoint lastSeen_;
+    int looksAtRest_ = 0;
     Subscription withdrawn_;
 };
 

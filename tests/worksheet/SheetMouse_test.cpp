@@ -269,6 +269,36 @@ TEST_F(SheetMouseOutside, TheClockIsSlowAndStandsStillWhereTheWorksheetDoesNotTa
     EXPECT_EQ(mouse_.interval(), 0);
 }
 
+TEST_F(SheetMouseOutside, ThatHasRestedForASecondIsLookedForLessOftenUntilItMoves) {
+    const auto lookOnce = [this] {
+        window_.time += 0.2F;
+        mouse_.tick();
+    };
+    const int usual = mouse_.interval();
+    for (int look = 0; look < 10; ++look) {
+        lookOnce();
+        EXPECT_EQ(mouse_.interval(), usual) << look;
+    }
+    lookOnce();
+    const int atRest = mouse_.interval();
+    EXPECT_GT(atRest, usual);
+    EXPECT_LE(atRest, 250);
+    window_.mouse.at.x += 1;
+    lookOnce();
+    EXPECT_EQ(mouse_.interval(), usual);
+}
+
+TEST_F(SheetMouseOutside, ThatHasRestedIsLookedForAsOftenAsUsualOnceItHasMovedOnTheWorksheet) {
+    const int usual = mouse_.interval();
+    for (int look = 0; look < 20; ++look) {
+        window_.time += 0.2F;
+        mouse_.tick();
+    }
+    ASSERT_GT(mouse_.interval(), usual);
+    mouse_.move(at(mouseButton::none, 25, 50));
+    EXPECT_EQ(mouse_.interval(), usual);
+}
+
 TEST_F(SheetMouseOutside, ReachesNoToolWhileTheWorksheetDoesNotTakeTheMouse) {
     sheet_.setEditMode(false);
     mouse_.tick();
