@@ -59,7 +59,7 @@ TEST(NoTaskBar, ControlWindowStaysInFrontOfTheWorksheet) {
     full.scene.settings().activate();
     full.clickOnSheet();
     EXPECT_TRUE(full.controlWindowIsInFront());
-    for (const WPARAM mode : {1011, 1010, 1012, 1010}) {
+    for (const WPARAM mode : std::initializer_list<WPARAM>{1011, 1010, 1012, 1010}) {
         full.scene.settings().post(WM_SYSCOMMAND, mode);
         full.scene.settings().settle();
         EXPECT_TRUE(full.controlWindowIsInFront()) << mode;

@@ -103,8 +103,9 @@ TEST_F(LabelTest, RepaintsOnlyWhenTheTextReallyChanges) {
 
 TEST_F(LabelTest, MouseGoesToTheParentInItsCoordinates) {
     panel_.mouse.clear();
-    for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK,
-                               WM_RBUTTONDOWN, WM_RBUTTONUP}) {
+    for (const UINT message :
+         std::initializer_list<UINT>{WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK,
+                                     WM_RBUTTONDOWN, WM_RBUTTONUP}) {
         SendMessageW(label_.handle(), message, 0, MAKELPARAM(3, 4));
         ASSERT_FALSE(panel_.mouse.empty());
         EXPECT_EQ(panel_.mouse.back(), (ControlPanel::MouseNote{message, 23, 14}));

@@ -1,11 +1,9 @@
 #include "win/WindowTextRows.h"
 
-#include <array>
-
 namespace ormala {
 
 std::span<const WindowTextRow> windowTextRows() {
-    static constexpr std::array rows{
+    static constexpr WindowTextRow rows[]{
         WindowTextRow{"frmSettings", "Ormala{303}", 0},
         WindowTextRow{"frmSettings/lblPath", "{307}", 0},
         WindowTextRow{"frmSettings/btnMode(0)", "{156}", 157},

@@ -121,11 +121,11 @@ TEST_F(ctlLineSelectTest, ALostCaptureEndsTheDoubleClick) {
 }
 
 TEST_F(ctlLineSelectTest, ArrowsChooseTheRowBeforeOrAfter) {
-    for (const WPARAM key : {VK_DOWN, VK_RIGHT, VK_DOWN}) {
+    for (const WPARAM key : std::initializer_list<WPARAM>{VK_DOWN, VK_RIGHT, VK_DOWN}) {
         SendMessageW(window(), WM_KEYDOWN, key, 1);
     }
     EXPECT_EQ(list_.LineIndex(), 4);
-    for (const WPARAM key : {VK_UP, VK_LEFT}) {
+    for (const WPARAM key : std::initializer_list<WPARAM>{VK_UP, VK_LEFT}) {
         SendMessageW(window(), WM_KEYDOWN, key, 1);
     }
     EXPECT_EQ(list_.LineIndex(), 2);

@@ -161,7 +161,8 @@ TEST_F(frmLensTest, CannotBeMadeSmallerThan64By64) {
 }
 
 TEST_F(frmLensTest, KeysAskTheApplication) {
-    for (const WPARAM key : {VK_F2, VK_F3, VK_F4, VK_F1, VK_F12, VK_APPS}) {
+    for (const WPARAM key :
+         std::initializer_list<WPARAM>{VK_F2, VK_F3, VK_F4, VK_F1, VK_F12, VK_APPS}) {
         SendMessageW(lens_.handle(), WM_KEYDOWN, key, 0);
     }
     const std::vector<Command> asked{Command::editMode, Command::pauseMode,   Command::templateMode,

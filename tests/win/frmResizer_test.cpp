@@ -319,7 +319,7 @@ TEST_F(frmResizerTest, CloseBoxMeansPauseAndUnloadsNothing) {
 }
 
 TEST_F(frmResizerTest, ModeKeysWorkInTheFrame) {
-    for (const WPARAM key : {VK_F2, VK_F3, VK_F4, VK_F1}) {
+    for (const WPARAM key : std::initializer_list<WPARAM>{VK_F2, VK_F3, VK_F4, VK_F1}) {
         SendMessageW(frame_.handle(), WM_KEYDOWN, key, 0);
     }
     const std::vector<Command> asked{Command::editMode, Command::pauseMode, Command::templateMode,

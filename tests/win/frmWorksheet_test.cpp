@@ -164,7 +164,7 @@ TEST(frmWorksheet, TakesNoInputMethod) {
 TEST(frmWorksheet, ModeKeysAskForTheirModes) {
     TestSheet sheet(sheetSize);
     const HWND window = sheet.window().handle();
-    for (const WPARAM key : {VK_F2, VK_F3, VK_F4, VK_F1}) {
+    for (const WPARAM key : std::initializer_list<WPARAM>{VK_F2, VK_F3, VK_F4, VK_F1}) {
         SendMessageW(window, WM_KEYDOWN, key, 0);
     }
     const std::vector<Command> asked{Command::editMode, Command::pauseMode, Command::templateMode,
