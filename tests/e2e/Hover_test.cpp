@@ -24,28 +24,47 @@ GripSizes gripSizes(const SheetScene& scene) {
     }
 }
 
-/// How many pixels of the resting colour lie about the grip at these shares.
-std::size_t gripPixels(SheetScene& scene, Spot shares, Color color) {
-    const ScreenPoint at = scene.onScreen(scene.model.gripPixel(shares.x, shares.y));
-    const int room = gripSizes(scene).reach + 4;
-    const ScreenRect around{at.x - room, at.y - room, at.x + room + 1, at.y + room + 1};
-    return screen::waitUntilStill(around).count(blended(color, SheetScene::backdropColor, 191), 2);
+constexpr Color cornerColor = 0xC0FFC0;
+
+/// How many of the pixels have the colour of a corner's grip.
+std::size_t gripPixels(const Picture& picture) {
+    return picture.count(blended(cornerColor, SheetScene::backdropColor, 191), 2);
 }
 
-constexpr Color cornerColor = 0xC0FFC0;
+/// About the grip at these shares.
+ScreenRect placeAround(const SheetScene& scene, Spot shares) {
+    const ScreenPoint at = scene.onScreen(scene.model.gripPixel(shares.x, shares.y));
+    const int room = gripSizes(scene).reach + 4;
+    return {at.x - room, at.y - room, at.x + room + 1, at.y + room + 1};
+}
+
+testing::AssertionResult becomes(const SheetScene& scene, Spot shares, std::size_t pixels) {
+    const ScreenRect place = placeAround(scene, shares);
+    std::size_t seen = 0;
+    if (waitUntil([&] { return (seen = gripPixels(screen::capture(place))) == pixels; })) {
+        return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure() << seen << " pixels and not " << pixels;
+}
+
+testing::AssertionResult stays(const SheetScene& scene, Spot shares, std::size_t pixels) {
+    const std::size_t seen = gripPixels(screen::waitUntilStill(placeAround(scene, shares)));
+    return seen == pixels ? testing::AssertionSuccess()
+                          : testing::AssertionFailure() << seen << " pixels and not " << pixels;
+}
 
 TEST(Hover, GripGrowsUnderTheMouseAndShrinksBehindIt) {
     SheetScene scene;
     const auto [resting, grown, reach] = gripSizes(scene);
     const ScreenPoint center = scene.onScreen(scene.model.gripPixel(1, 1));
     scene.stepAside();
-    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), resting);
+    EXPECT_TRUE(becomes(scene, {1, 1}, resting));
     scene.mouse.moveTo(center + ScreenPoint{reach, -reach});
-    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), grown);
+    EXPECT_TRUE(becomes(scene, {1, 1}, grown));
     scene.stepAside();
-    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), resting);
+    EXPECT_TRUE(becomes(scene, {1, 1}, resting));
     scene.mouse.moveTo(center + ScreenPoint{reach + 2, 0});
-    EXPECT_EQ(gripPixels(scene, {1, 1}, cornerColor), resting);
+    EXPECT_TRUE(stays(scene, {1, 1}, resting));
 }
 
 TEST(Hover, DragLightsNoOtherGrip) {
@@ -57,7 +76,8 @@ TEST(Hover, DragLightsNoOtherGrip) {
     for (int i = 1; i <= 10; ++i) {
         scene.mouse.moveTo({side.x + (corner.x - side.x) * i / 10, side.y});
     }
-    EXPECT_LE(gripPixels(scene, {1, -1}, cornerColor), gripSizes(scene).resting);
+    EXPECT_LE(gripPixels(screen::waitUntilStill(placeAround(scene, {1, -1}))),
+              gripSizes(scene).resting);
     scene.mouse.release();
 }
 
@@ -73,15 +93,9 @@ TEST(Hover, ToolsFollowTheMouseOverTheControlWindow) {
     // Both windows have just been moved.
     screen::waitUntilStill(monitor);
     scene.mouse.moveTo(scene.onScreen(scene.model.gripPixel(-1, -1)));
-    EXPECT_EQ(gripPixels(scene, {-1, -1}, cornerColor), sizes.grown);
+    EXPECT_TRUE(becomes(scene, {-1, -1}, sizes.grown));
     scene.mouse.moveTo(scene.settings().center());
-    const ScreenPoint at = scene.onScreen(scene.model.gripPixel(-1, -1));
-    const int room = sizes.reach + 4;
-    const ScreenRect around{at.x - room, at.y - room, at.x + room + 1, at.y + room + 1};
-    EXPECT_TRUE(waitUntil([&] {
-        return screen::capture(around).count(blended(cornerColor, SheetScene::backdropColor, 191),
-                                             2) == sizes.resting;
-    }));
+    EXPECT_TRUE(becomes(scene, {-1, -1}, sizes.resting));
 }
 
 /// Moves the mouse there, until the tip comes up: a busy display may say that the mouse is

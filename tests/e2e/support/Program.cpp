@@ -2,8 +2,10 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <vector>
 
 #include "e2e/support/StageFailure.h"
 #include "support/win/Screen.h"
@@ -21,6 +23,22 @@ std::filesystem::path programFile() {
         return std::filesystem::absolute(named);
     }
     return testProgramFolder().parent_path().parent_path() / "Ormala.exe";
+}
+
+/// A rectangle around all of them that are shown, as far as it lies on the screen.
+ScreenRect placeOf(const std::vector<DesktopWindow>& windows) {
+    const ScreenRect all = screen::virtualScreen();
+    ScreenRect place{all.right, all.bottom, all.left, all.top};
+    for (const DesktopWindow& window : windows) {
+        if (window.isVisible()) {
+            const ScreenRect rect = window.rect();
+            place = {std::min(place.left, std::max(rect.left, all.left)),
+                     std::min(place.top, std::max(rect.top, all.top)),
+                     std::max(place.right, std::min(rect.right, all.right)),
+                     std::max(place.bottom, std::min(rect.bottom, all.bottom))};
+        }
+    }
+    return place;
 }
 
 }  // namespace
@@ -43,10 +61,13 @@ void Program::waitUntilReady() const {
             return settings().hasProperty(L"Ready");
         },
         loadDeadline);
-    for (const DesktopWindow& window : topLevelWindows(process_.id())) {
+    const std::vector<DesktopWindow> windows = topLevelWindows(process_.id());
+    for (const DesktopWindow& window : windows) {
         window.settle();
     }
-    screen::waitUntilStill(screen::virtualScreen());
+    if (const ScreenRect place = placeOf(windows); place.width() > 0 && place.height() > 0) {
+        screen::waitUntilStill(place);
+    }
     pause(restBeforeFirstClick);
 }
 

@@ -125,7 +125,7 @@ Color pixel(ScreenPoint point) {
 Picture waitUntilStill(const ScreenRect& rect, milliseconds quiet, milliseconds deadline) {
     using Clock = std::chrono::steady_clock;
     // Often enough to see a movement; each look at the screen is work for the display.
-    constexpr milliseconds interval{25};
+    const milliseconds interval = std::clamp(quiet / 2, milliseconds{25}, milliseconds{50});
     ScreenCopy last(rect);
     ScreenCopy now(rect);
     last.take();
