@@ -267,6 +267,28 @@ TEST_F(frmLensTest, ATipTellsThePixelAfterASecondOfRestAndGoesWithTheColour) {
     EXPECT_EQ(test::shownTip(GetCurrentProcessId()), "");
 }
 
+TEST_F(frmLensTest, LooksHalfAsOftenWhereNothingChangesUntilTheMouseMovesOrThePictureIsAnother) {
+    const double others = Timer::wakeUps();
+    const auto looksEach = [this, others](double milliseconds) {
+        lens_.Update();
+        return std::abs(Timer::wakeUps() - others - 1000 / milliseconds) < 0.1;
+    };
+    const auto comesToRest = [&] {
+        return test::waitUntil([&] { return looksEach(LensPace::atRest); });
+    };
+    show();
+    look({300, 200});
+    EXPECT_TRUE(looksEach(LensPace::usual));
+    ASSERT_TRUE(comesToRest());
+    look({301, 200});
+    EXPECT_TRUE(looksEach(LensPace::usual));
+    ASSERT_TRUE(comesToRest());
+    backdrop_.show(lensPattern(backdrop_.size(), 1));
+    EXPECT_TRUE(test::waitUntil([&] { return looksEach(LensPace::usual); }));
+    lens_.hide();
+    EXPECT_NEAR(Timer::wakeUps(), others, 0.1);
+}
+
 TEST_F(frmLensTest, FollowsTheResolutionOfItsMonitor) {
     lens_.setOptions(LensOptions{});
     show();

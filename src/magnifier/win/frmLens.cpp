@@ -203,11 +203,16 @@ void frmLens::onTick() {
         readBounds();
     }
     ++tickCount_;
+    const PixelPoint former = CursorPoint_;
     readMouse();
     findSource();
-    RefreshLens();
+    const bool changed = RefreshLens();
     UpdatePosition();
     tellPixel();
+    pace_.saw(changed || CursorPoint_ != former || held_, GetTickCount64());
+    if (isVisible()) {
+        tmrMain_.keep(handle(), pace_.interval());
+    }
 }
 
 /// Where the mouse cannot be asked for, it is where it was. Its pointer takes longer.
@@ -233,21 +238,21 @@ void frmLens::findSource() {
     source_ = lensSourceAt(CursorPoint_, {layout_.SourceWidth, layout_.SourceHeight}, bounds_);
 }
 
-void frmLens::RefreshLens() {
+bool frmLens::RefreshLens() {
     if (!isVisible()) {
-        return;
+        return false;
     }
     DrawRulers();
     parts_->image.refresh(imageLook(), pointer_, source_, bounds_);
-    showChanged();
+    return showChanged();
 }
 
-void frmLens::showChanged() {
+bool frmLens::showChanged() {
     const auto pictures = parts_->pictures();
     const bool nothing =
         std::ranges::all_of(pictures, [](const LensPicture* part) { return part->isShown(); });
     if (nothing) {
-        return;
+        return false;
     }
     // All at once, over the child windows: the drawing of one part does not wait for the screen to
     // have another one.
@@ -255,6 +260,7 @@ void frmLens::showChanged() {
     for (LensPicture* part : pictures) {
         part->show(context.get());
     }
+    return true;
 }
 
 LensImageLook frmLens::imageLook() const {

@@ -8,6 +8,7 @@
 #include "magnifier/LensCommands.h"
 #include "magnifier/LensMenuState.h"
 #include "magnifier/LensOptions.h"
+#include "magnifier/LensPace.h"
 #include "magnifier/LensRest.h"
 #include "magnifier/win/LensImage.h"
 #include "magnifier/win/LensRuler.h"
@@ -129,9 +130,11 @@ class frmLens : public Window {
     void showPixel(const LensPixel& seen);
     void hidePixel();
     void onTick();
-    void RefreshLens();
+    /// Whether it shows what the one before did not.
+    bool RefreshLens();
     void DrawRulers();
-    void showChanged();
+    /// Whether there is any.
+    bool showChanged();
     void LayoutLens();
     void SetLensCaption();
 
@@ -170,6 +173,7 @@ class frmLens : public Window {
     /// None before the window stands.
     std::unique_ptr<Parts> parts_;
     LensRest rest_;
+    LensPace pace_;
     /// The user moves or sizes the window.
     bool held_ = false;
     /// None before it is first shown.

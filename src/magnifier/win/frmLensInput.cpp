@@ -11,13 +11,6 @@
 
 namespace ormala {
 
-namespace {
-
-/// Between two frames.
-constexpr UINT tmrMainInterval = 15;
-
-}  // namespace
-
 std::optional<LRESULT> frmLens::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_PAINT:
@@ -137,7 +130,8 @@ void frmLens::showMenuAtOrigin() {
 }
 
 std::optional<LRESULT> frmLens::onShow(bool shown) {
-    tmrMain_.start(handle(), shown ? tmrMainInterval : 0);
+    pace_ = {};
+    tmrMain_.start(handle(), shown ? pace_.interval() : 0);
     hidePixel();
     return std::nullopt;
 }
