@@ -173,7 +173,7 @@ bool SheetMouse::keyPressed(int key, int shift) {
 int SheetMouse::interval() const {
     // A little more than a tenth of a second, so that no look comes too early.
     constexpr int tickOutside = 110;
-    constexpr int tickAtRest = 250;
+    constexpr int tickAtRest = 400;
     constexpr int looksOfASecond = 10;
     if (!sheet_.EditMode()) {
         return 0;

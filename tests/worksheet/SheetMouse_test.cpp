@@ -282,7 +282,7 @@ TEST_F(SheetMouseOutside, ThatHasRestedForASecondIsLookedForLessOftenUntilItMove
     lookOnce();
     const int atRest = mouse_.interval();
     EXPECT_GT(atRest, usual);
-    EXPECT_LE(atRest, 250);
+    EXPECT_LE(atRest, 500);
     window_.mouse.at.x += 1;
     lookOnce();
     EXPECT_EQ(mouse_.interval(), usual);

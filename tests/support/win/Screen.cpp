@@ -119,7 +119,12 @@ Picture capture(const ScreenRect& rect) {
 }
 
 Color pixel(ScreenPoint point) {
-    return capture({point.x, point.y, point.x + 1, point.y + 1}).at(point);
+    const ScreenContext from(GetDC(nullptr));
+    const COLORREF color = GetPixel(from.get(), point.x, point.y);
+    if (color == CLR_INVALID) {
+        throw std::runtime_error("a pixel of the screen cannot be read");
+    }
+    return color;
 }
 
 Picture waitUntilStill(const ScreenRect& rect, milliseconds quiet, milliseconds deadline) {
