@@ -13,6 +13,12 @@ namespace {
 
 constexpr UINT tickLength = 20;
 
+/// A loop that lets timers have their turn may come to one before a key that was pressed earlier.
+bool keysAreWaiting() {
+    MSG message{};
+    return PeekMessageW(&message, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_NOREMOVE) != FALSE;
+}
+
 }  // namespace
 
 ModalPlayer::ModalPlayer() {
@@ -63,6 +69,8 @@ std::optional<LRESULT> ModalPlayer::onMessage(UINT message, WPARAM /*wParam*/, L
     } else if (done()) {
         // Only a window that was to be closed keeps a loop running that long.
         waitInVain("the end");
+    } else if (keysAreWaiting()) {
+        waitInVain("the handling of a key");
     } else {
         playNext();
     }
