@@ -19,6 +19,15 @@ std::string indexed(std::string_view name, int index) {
     return std::string(name) + "(" + std::to_string(index) + ")";
 }
 
+Dialog::Dialog(PanelScene& scene, std::string_view className)
+    : scene_(scene), window_(scene.program().waitForWindow(className)) {
+    requireSoon("front for the dialog", [this] {
+        const ScreenPoint center = window_.center();
+        const HWND seen = WindowFromPoint({center.x, center.y});
+        return DesktopWindow(GetAncestor(seen, GA_ROOT)) == window_;
+    });
+}
+
 bool Dialog::isOn(std::string_view name) const {
     return control(name).send(BM_GETCHECK) == BST_CHECKED;
 }

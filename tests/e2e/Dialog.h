@@ -13,9 +13,8 @@ std::string indexed(std::string_view name, int index);
 /// A dialog of a scene's program, played by mouse and keys. Names are those of its controls.
 class Dialog {
   public:
-    /// Waits until a dialog of that class is shown.
-    Dialog(PanelScene& scene, std::string_view className)
-        : scene_(scene), window_(scene.program().waitForWindow(className)) {}
+    /// Waits until a dialog of that class is shown, and lies in front of what is under it.
+    Dialog(PanelScene& scene, std::string_view className);
 
     [[nodiscard]] const DesktopWindow& window() const { return window_; }
     /// Fails the stage if it is not there.

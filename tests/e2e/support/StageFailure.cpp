@@ -29,6 +29,23 @@ void describeWindows(std::ostream& out) {
     }
 }
 
+std::string classOf(HWND window) {
+    return window == nullptr ? "none" : DesktopWindow(window).className();
+}
+
+/// Who gets what the mouse does, and the keys.
+void describeInput(std::ostream& out) {
+    POINT mouse{};
+    GetCursorPos(&mouse);
+    const HWND under = WindowFromPoint(mouse);
+    GUITHREADINFO info{};
+    info.cbSize = sizeof(info);
+    GetGUIThreadInfo(0, &info);
+    out << "mouse at " << ScreenPoint{mouse.x, mouse.y} << " over " << classOf(under) << " of "
+        << classOf(GetAncestor(under, GA_ROOT)) << ", held by " << classOf(info.hwndCapture)
+        << ", keyboard at " << classOf(info.hwndFocus) << '\n';
+}
+
 void dropArtefacts() {
     if (const auto folder = artefactFolder()) {
         std::filesystem::remove(*folder / (currentTestName() + ".png"));
@@ -98,6 +115,7 @@ void keepArtefacts() {
     savePng(screen::capture(screen::virtualScreen()), *folder / (name + ".png"));
     std::ofstream list(*folder / (name + ".txt"));
     describeWindows(list);
+    describeInput(list);
 }
 
 void keepArtefactsOfFailures() {
