@@ -5,6 +5,8 @@ namespace ormala {
 LaterTimer::LaterTimer() {
     WindowDesign design;
     design.className = L"LaterTimer";
+    // Without the title bar that the system gives to all others.
+    design.style = WS_POPUP;
     design.owner = HWND_MESSAGE;
     create(design);
 }
