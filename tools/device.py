@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
-"""Mouse and keyboard of a virtual screen, as the devices that a window manager listens to.
+"""Mouse and keyboard of a virtual screen, as the devices that a window manager listens to, and where
+that has placed the windows.
 
     device.py FOLDER
 
 A request (tools/stage_service.py tells how) is a line of words for xdotool, such as
-"mousemove 10 20 mousedown 1".
+"mousemove 10 20 mousedown 1", or "places ID ID", which is answered with a place for each window, such
+as "10,20 -". A window that is not shown yet, or not where it is to stay, has none.
 """
 
 import pathlib
@@ -12,12 +14,18 @@ import subprocess
 import sys
 
 import stage_service
+import x11
 
 
-def answer_to(wanted):
+def places(display, windows):
+    found = (display.place(int(window)) for window in windows)
+    return " ".join("-" if place is None else "{},{}".format(*place) for place in found)
+
+
+def play(words):
     try:
         subprocess.run(
-            ["xdotool", *wanted.split()], check=True, capture_output=True, text=True, timeout=30
+            ["xdotool", *words], check=True, capture_output=True, text=True, timeout=30
         )
     except subprocess.CalledProcessError as error:
         return error.stderr or f"exit code {error.returncode}"
@@ -29,4 +37,10 @@ def answer_to(wanted):
 if __name__ == "__main__":
     if len(sys.argv) != 2:
         sys.exit(__doc__)
+    display = x11.Display()
+
+    def answer_to(wanted):
+        kind, *windows = wanted.split()
+        return places(display, windows) if kind == "places" else play(wanted.split())
+
     stage_service.serve(pathlib.Path(sys.argv[1]), answer_to)

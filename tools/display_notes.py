@@ -7,7 +7,7 @@ compositor nothing shines through a window.
 
 import os
 
-from x11_ready import Selections
+import x11
 
 
 def notes(display, composited):
@@ -21,5 +21,5 @@ def notes(display, composited):
 
 
 if __name__ == "__main__":
-    has_compositor = Selections().owned("_NET_WM_CM_S0")
+    has_compositor = x11.Display().is_selection_owned("_NET_WM_CM_S0")
     print("\n".join(notes(os.environ["DISPLAY"], has_compositor)), flush=True)

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "e2e/support/StageFailure.h"
+#include "e2e/support/placedWindows.h"
 #include "support/win/WideText.h"
 
 namespace ormala::test {
@@ -279,7 +280,6 @@ DesktopWindow findTopLevel(DWORD processId, std::string_view className, std::str
 
 DesktopWindow waitForTopLevel(DWORD processId, std::string_view className, std::string_view text,
                               milliseconds deadline) {
-    constexpr milliseconds restOfNewWindow{100};
     DesktopWindow window;
     requireSoon(
         "window " + std::string(className) + " \"" + std::string(text) + '"',
@@ -289,7 +289,7 @@ DesktopWindow waitForTopLevel(DWORD processId, std::string_view className, std::
         },
         deadline);
     window.settle();
-    pause(restOfNewWindow);
+    waitUntilPlaced({window});
     return window;
 }
 

@@ -98,8 +98,7 @@ std::vector<DesktopWindow> topLevelWindows(DWORD processId, std::string_view cla
 /// a hidden one only if none is shown. It may not exist.
 DesktopWindow findTopLevel(DWORD processId, std::string_view className, std::string_view text = {});
 
-/// Waits until a window as in findTopLevel is shown, lets it rest for 100 ms, and returns it. A new
-/// window of a program loses clicks that come earlier.
+/// Waits until a window as in findTopLevel is shown and has got its place, and returns it.
 DesktopWindow waitForTopLevel(DWORD processId, std::string_view className,
                               std::string_view text = {}, milliseconds deadline = usualDeadline);
 

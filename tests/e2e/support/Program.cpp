@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "e2e/support/StageFailure.h"
+#include "e2e/support/placedWindows.h"
 #include "support/win/Screen.h"
 
 namespace ormala::test {
@@ -15,7 +16,6 @@ namespace ormala::test {
 namespace {
 
 constexpr milliseconds loadDeadline{30000};
-constexpr milliseconds restBeforeFirstClick{100};
 
 std::filesystem::path programFile() {
     const wchar_t* named = _wgetenv(L"ORMALA_EXE");
@@ -65,10 +65,10 @@ void Program::waitUntilReady() const {
     for (const DesktopWindow& window : windows) {
         window.settle();
     }
+    waitUntilPlaced(windows);
     if (const ScreenRect place = placeOf(windows); place.width() > 0 && place.height() > 0) {
         screen::waitUntilStill(place);
     }
-    pause(restBeforeFirstClick);
 }
 
 DesktopWindow Program::window(std::string_view className) const {

@@ -35,11 +35,15 @@ std::string takeAnswer(const std::filesystem::path& path) {
 
 StageService::StageService(const wchar_t* variable) : folder_(folderOf(variable)) {}
 
-void StageService::request(const std::string& wanted) const {
+std::string StageService::ask(const std::string& wanted) const {
     const auto answer = folder_ / "answer";
     write(folder_ / "request", wanted);
     requireSoon("answer of the stage", [&] { return std::filesystem::exists(answer); });
-    const std::string text = takeAnswer(answer);
+    return takeAnswer(answer);
+}
+
+void StageService::request(const std::string& wanted) const {
+    const std::string text = ask(wanted);
     if (text != "done") {
         failStage("the stage does not do \"" + wanted + "\": " + text);
     }

@@ -13,6 +13,8 @@ class StageService {
 
     /// Whether this stage has it.
     [[nodiscard]] bool isThere() const { return !folder_.empty(); }
+    /// The answer to a question.
+    [[nodiscard]] std::string ask(const std::string& wanted) const;
     /// Returns when it is done; fails the stage if it cannot be.
     void request(const std::string& wanted) const;
 

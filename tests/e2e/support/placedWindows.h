@@ -1,0 +1,15 @@
+#pragma once
+
+#include <vector>
+
+#include "e2e/support/DesktopWindow.h"
+
+namespace ormala::test {
+
+/// Waits until those of the windows that are shown lie where the display shows them. Its window
+/// manager takes a new window into a frame some time after the program has shown it, and Wine
+/// believes for a moment that it lies in the corner of the screen: what is clicked by its place
+/// then is something else. On a display that is not the stage's own it returns at once.
+void waitUntilPlaced(const std::vector<DesktopWindow>& windows);
+
+}  // namespace ormala::test
