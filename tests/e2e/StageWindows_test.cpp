@@ -4,6 +4,8 @@
 #include "e2e/OwnWindow.h"
 #include "e2e/stagePlaces.h"
 #include "e2e/support/Desktop.h"
+#include "e2e/support/StageService.h"
+#include "e2e/support/placedWindows.h"
 
 namespace ormala::test {
 namespace {
@@ -54,6 +56,21 @@ TEST(Stage, StateOfAWindowIsSeenFromOutside) {
     ShowWindow(window.handle(), SW_MINIMIZE);
     EXPECT_TRUE(waitUntil([&] { return window.isMinimised(); }));
     EXPECT_FALSE(window.hasProperty(L"Ready"));
+}
+
+TEST(Stage, AWindowIsPlacedWhenTheDisplayShowsIt) {
+    const StageService stage(L"ORMALA_DEVICE");
+    if (!stage.isThere()) {
+        return;
+    }
+    OwnWindow window(windowPlace, WS_EX_TOPMOST | WS_EX_TOOLWINDOW, 0);
+    window.show();
+    waitUntilPlaced({window.window()});
+    const std::string name = std::to_string(displayWindow(window.window()));
+    stage.request("windowunmap --sync " + name);
+    EXPECT_FALSE(arePlaced({window.window()}));
+    stage.request("windowmap --sync " + name);
+    waitUntilPlaced({window.window()});
 }
 
 TEST(Stage, LayeringOfAWindowIsRead) {

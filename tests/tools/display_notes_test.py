@@ -46,7 +46,7 @@ def copy_of_run(folder):
     """./run with its own words, and with nothing to install, to build or to start."""
     tools = folder / "tools"
     tools.mkdir()
-    for name in ("run", "tools/environment", "tools/display_notes.py", "tools/x11_ready.py"):
+    for name in ("run", "tools/environment", "tools/display_notes.py", "tools/x11.py"):
         shutil.copy(PROJECT / name, folder / name)
     (folder / "build" / "windows").mkdir(parents=True)
     for path in (tools / "setup", tools / "stage", folder / "bin" / "cmake"):

@@ -12,11 +12,6 @@ namespace ormala::test {
 
 namespace {
 
-/// Wine's name for the display's own window; 0 for one that has none.
-UINT_PTR displayWindow(const DesktopWindow& window) {
-    return reinterpret_cast<UINT_PTR>(GetPropW(window.handle(), L"__wine_x11_whole_window"));
-}
-
 /// The display does not show what lies beside it.
 bool isOnDisplay(const DesktopWindow& window) {
     const ScreenRect all = screen::virtualScreen();
@@ -40,27 +35,33 @@ bool isAt(const DesktopWindow& window, const std::string& place) {
 
 }  // namespace
 
-void waitUntilPlaced(const std::vector<DesktopWindow>& windows) {
+UINT_PTR displayWindow(const DesktopWindow& window) {
+    return reinterpret_cast<UINT_PTR>(GetPropW(window.handle(), L"__wine_x11_whole_window"));
+}
+
+bool arePlaced(const std::vector<DesktopWindow>& windows) {
     const StageService stage(L"ORMALA_DEVICE");
     if (!stage.isThere()) {
-        return;
+        return true;
     }
-    requireSoon("windows where the display shows them", [&] {
-        std::string question = "places";
-        std::vector<DesktopWindow> asked;
-        for (const DesktopWindow& window : windows) {
-            if (isOnDisplay(window)) {
-                question += ' ' + std::to_string(displayWindow(window));
-                asked.push_back(window);
-            }
+    std::string question = "places";
+    std::vector<DesktopWindow> asked;
+    for (const DesktopWindow& window : windows) {
+        if (isOnDisplay(window)) {
+            question += ' ' + std::to_string(displayWindow(window));
+            asked.push_back(window);
         }
-        std::istringstream places(asked.empty() ? "" : stage.ask(question));
-        return std::ranges::all_of(asked, [&places](const DesktopWindow& window) {
-            std::string place;
-            places >> place;
-            return isAt(window, place) || !isOnDisplay(window);
-        });
+    }
+    std::istringstream places(asked.empty() ? "" : stage.ask(question));
+    return std::ranges::all_of(asked, [&places](const DesktopWindow& window) {
+        std::string place;
+        places >> place;
+        return isAt(window, place) || !isOnDisplay(window);
     });
+}
+
+void waitUntilPlaced(const std::vector<DesktopWindow>& windows) {
+    requireSoon("windows where the display shows them", [&] { return arePlaced(windows); });
 }
 
 }  // namespace ormala::test

@@ -6,10 +6,15 @@
 
 namespace ormala::test {
 
-/// Waits until those of the windows that are shown lie where the display shows them. Its window
-/// manager takes a new window into a frame some time after the program has shown it, and Wine
-/// believes for a moment that it lies in the corner of the screen: what is clicked by its place
-/// then is something else. On a display that is not the stage's own it returns at once.
+/// Wine's name for the display's own window; 0 for one that has none.
+UINT_PTR displayWindow(const DesktopWindow& window);
+
+/// Whether those of the windows that are shown lie where the display shows them. Its window manager
+/// takes a new window into a frame some time after the program has shown it, and Wine believes for
+/// a moment that it lies in the corner of the screen: what is clicked by its place then is
+/// something else. Always so on a display that is not the stage's own.
+bool arePlaced(const std::vector<DesktopWindow>& windows);
+
 void waitUntilPlaced(const std::vector<DesktopWindow>& windows);
 
 }  // namespace ormala::test
