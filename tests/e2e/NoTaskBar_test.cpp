@@ -32,11 +32,21 @@ class FullScreen {
         return waitUntil(
             [&] { return difference(screen::capture(probe(scene.settings())), control_).empty(); });
     }
+    /// An entry of the system menu: a mode.
+    void choose(WPARAM mode) {
+        scene.settings().post(WM_SYSCOMMAND, mode);
+        const bool edits = mode == editMode;
+        EXPECT_TRUE(waitUntil([&] { return scene.settings().text().ends_with("Edit") == edits; }));
+        EXPECT_TRUE(
+            waitUntil([&] { return scene.worksheet().isVisible() == (mode != pauseMode); }));
+    }
     void clickOnSheet() {
         scene.mouse.click(aside());
         screen::waitUntilStill(scene.settings().rect());
     }
 
+    static constexpr WPARAM editMode = 1010;
+    static constexpr WPARAM pauseMode = 1012;
     SheetScene scene;
 
   private:
@@ -60,11 +70,21 @@ TEST(NoTaskBar, ControlWindowStaysInFrontOfTheWorksheet) {
     full.clickOnSheet();
     EXPECT_TRUE(full.controlWindowIsInFront());
     for (const WPARAM mode : std::initializer_list<WPARAM>{1011, 1010, 1012, 1010}) {
-        full.scene.settings().post(WM_SYSCOMMAND, mode);
-        full.scene.settings().settle();
+        full.choose(mode);
         EXPECT_TRUE(full.controlWindowIsInFront()) << mode;
     }
     full.clickOnSheet();
+    EXPECT_TRUE(full.controlWindowIsInFront());
+}
+
+TEST(NoTaskBar, ControlWindowStaysInFrontOfAWorksheetThatComesBackOverAnotherProgram) {
+    FullScreen full;
+    full.clickOnSheet();
+    full.choose(FullScreen::pauseMode);
+    full.scene.mouse.click(full.aside());
+    EXPECT_TRUE(waitUntil([&] { return full.scene.backdrop().window().isForeground(); }));
+    full.choose(FullScreen::editMode);
+    screen::waitUntilStill(full.scene.settings().rect());
     EXPECT_TRUE(full.controlWindowIsInFront());
 }
 

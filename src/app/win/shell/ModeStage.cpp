@@ -2,6 +2,7 @@
 
 #include "app/win/shell/KeyboardHandover.h"
 #include "modAPI/colors.h"
+#include "platform/win/windowOrder.h"
 
 namespace ormala {
 
@@ -61,6 +62,8 @@ void ModeStage::layOutAnew() {
     } else {
         windows_.resizer.widenAndNarrow();
     }
+    // A display with an order of its own may show a worksheet that comes back above all.
+    raiseAgainOver(windows_.settings.handle(), windows_.worksheet.handle());
     windows_.view.raiseAboveAll();
 }
 
