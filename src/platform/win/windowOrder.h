@@ -29,4 +29,14 @@ inline void raiseAgainOver(HWND window, HWND other) {
     raiseWithoutActivating(window);
 }
 
+/// The same where another program has the foreground: there a display may show `other` in front
+/// when it comes back. A hidden window is left alone.
+inline void raiseAgainBesideAnotherProgram(HWND window, HWND other) {
+    DWORD front = 0;
+    GetWindowThreadProcessId(GetForegroundWindow(), &front);
+    if (front != GetCurrentProcessId() && IsWindowVisible(window) != FALSE) {
+        raiseAgainOver(window, other);
+    }
+}
+
 }  // namespace ormala

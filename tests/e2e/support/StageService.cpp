@@ -19,7 +19,12 @@ void write(const std::filesystem::path& path, const std::string& text) {
     // Under its own name only when it is whole.
     const std::filesystem::path draft = path.wstring() + L".new";
     std::ofstream(draft, std::ios::binary) << text;
-    std::filesystem::rename(draft, path);
+    // While the stage looks for it, Wine may not find where to put it.
+    requireSoon("request to the stage", [&] {
+        std::error_code error;
+        std::filesystem::rename(draft, path, error);
+        return !error || !std::filesystem::exists(draft);
+    });
 }
 
 /// It is there only when it is whole.

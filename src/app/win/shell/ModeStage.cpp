@@ -62,8 +62,7 @@ void ModeStage::layOutAnew() {
     } else {
         windows_.resizer.widenAndNarrow();
     }
-    // A display with an order of its own may show a worksheet that comes back above all.
-    raiseAgainOver(windows_.settings.handle(), windows_.worksheet.handle());
+    raiseAgainBesideAnotherProgram(windows_.settings.handle(), windows_.worksheet.handle());
     windows_.view.raiseAboveAll();
 }
 
