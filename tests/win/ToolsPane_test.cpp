@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <functional>
+
 #include "app/win/shell/Program.h"
 #include "e2e/support/AppDataFolder.h"
 #include "language/MlStringModule.h"
@@ -32,6 +35,29 @@ class ToolsPaneTest : public testing::Test {
     [[nodiscard]] HWND measure() const { return panel(L"ctlSetMeasure"); }
     static void click(HWND panel, std::string_view name) {
         SendMessageW(namedChild(panel, name), BM_CLICK, 0, 0);
+    }
+    [[nodiscard]] bool isAnyStencilShownAsSelected() const {
+        constexpr COLORREF selectedGround = 0x4A4A4A;
+        for (HWND each = stencil(); each != nullptr; each = GetWindow(each, GW_HWNDNEXT)) {
+            UpdateWindow(each);
+            if (readClient(each).at(2, 30) == selectedGround) {
+                return true;
+            }
+        }
+        return false;
+    }
+    /// Nothing else happens meanwhile: the mouse, which nobody holds, tells no window so.
+    static bool waitWhileTimersTick(const std::function<bool()>& predicate) {
+        const auto start = std::chrono::steady_clock::now();
+        while (!predicate() && std::chrono::steady_clock::now() - start < test::usualDeadline) {
+            MSG tick{};
+            if (PeekMessageW(&tick, nullptr, WM_TIMER, WM_TIMER, PM_REMOVE) != FALSE) {
+                DispatchMessageW(&tick);
+            } else {
+                Sleep(1);
+            }
+        }
+        return predicate();
     }
     [[nodiscard]] Sheet& sheet() { return program_.worksheet().sheet(); }
 
@@ -76,6 +102,18 @@ TEST_F(ToolsPaneTest, TheFocusOfARemovedPanelGoesOnToItsNeighbourWhoseToolStaysU
     click(measure(), "cmdDelete");
     ASSERT_TRUE(test::waitUntil([&] { return IsWindowVisible(measure()) == FALSE; }));
     EXPECT_EQ(GetFocus(), namedChild(settings_.handle(), "picOuter"));
+}
+
+TEST_F(ToolsPaneTest, APressJustAfterANewToolIsNotLostToItsPanel) {
+    ASSERT_TRUE(test::waitUntil([&] { return GetActiveWindow() == settings_.handle(); }));
+    click(settings_.handle(), "cmdAddGrid");
+    const HWND next = namedChild(settings_.handle(), "cmdAddMeasure");
+    SendMessageW(next, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    ASSERT_FALSE(isAnyStencilShownAsSelected());
+    ASSERT_TRUE(waitWhileTimersTick([this] { return isAnyStencilShownAsSelected(); }));
+    EXPECT_EQ(GetFocus(), next);
+    SendMessageW(next, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(sheet().visibleInArrayOrder().size(), 4U);
 }
 
 TEST_F(ToolsPaneTest, ThePressesOfADoubleClickOnRemoveEndThere) {

@@ -47,8 +47,9 @@ void PanelFocus::keepInList() {
 void PanelFocus::panelSelected(PanelWindow& panel) {
     focused_ = panel.handle();
     const bool active = GetActiveWindow() == ports_.window.handle();
-    // Otherwise the keyboard stays with the tool.
-    if (active && IsChild(focused_, GetFocus()) == FALSE) {
+    // Otherwise the keyboard stays with the tool. A press that is under way would lose its click
+    // with the keyboard: a selection can be shown a tenth of a second late.
+    if (active && GetCapture() == nullptr && IsChild(focused_, GetFocus()) == FALSE) {
         SetFocus(focused_);
     }
     if (!ports_.list.bulkUpdate()) {
