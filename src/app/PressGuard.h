@@ -14,7 +14,8 @@ class PressGuard {
   public:
     /// What the system takes for a double click.
     struct DoubleClick {
-        PixelSize distance;
+        /// Of the rectangle whose middle is the first click.
+        PixelSize size;
         std::int32_t milliseconds = 0;
     };
 
@@ -27,8 +28,8 @@ class PressGuard {
         armed_ = true;
     }
     void mouseMoved(PixelPoint mouse) {
-        armed_ = armed_ && std::abs(mouse.x - mouse_.x) <= limits_.distance.width &&
-                 std::abs(mouse.y - mouse_.y) <= limits_.distance.height;
+        armed_ = armed_ && 2 * std::abs(mouse.x - mouse_.x) <= limits_.size.width &&
+                 2 * std::abs(mouse.y - mouse_.y) <= limits_.size.height;
     }
     /// A press may be older than the removal, if that has kept it waiting.
     [[nodiscard]] bool takesPress(PixelPoint mouse, std::uint32_t time) {

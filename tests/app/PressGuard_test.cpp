@@ -20,8 +20,8 @@ TEST_F(PressGuardTest, PressesAreTakenAsLongAsNothingIsRemoved) {
 TEST_F(PressGuardTest, ThePressesOfADoubleClickAreNotTaken) {
     guard_.removed(place, time);
     EXPECT_FALSE(guard_.takesPress(place, time + 10));
-    EXPECT_FALSE(guard_.takesPress({204, 106}, time + 499));
-    EXPECT_FALSE(guard_.takesPress({196, 94}, time + 499));
+    EXPECT_FALSE(guard_.takesPress({202, 103}, time + 499));
+    EXPECT_FALSE(guard_.takesPress({198, 97}, time + 499));
 }
 
 TEST_F(PressGuardTest, APressIsTakenOnceTheTimeIsOver) {
@@ -29,8 +29,8 @@ TEST_F(PressGuardTest, APressIsTakenOnceTheTimeIsOver) {
     EXPECT_TRUE(guard_.takesPress(place, time + 500));
 }
 
-TEST_F(PressGuardTest, APressIsTakenFartherAway) {
-    for (const PixelPoint away : {PixelPoint{205, 100}, {195, 100}, {200, 107}, {200, 93}}) {
+TEST_F(PressGuardTest, APressBesideTheRectangleOfADoubleClickIsTaken) {
+    for (const PixelPoint away : {PixelPoint{203, 100}, {197, 100}, {200, 104}, {200, 96}}) {
         guard_.removed(place, time);
         EXPECT_TRUE(guard_.takesPress(away, time + 10)) << away.x << ", " << away.y;
     }
@@ -38,9 +38,9 @@ TEST_F(PressGuardTest, APressIsTakenFartherAway) {
 
 TEST_F(PressGuardTest, AMoveAwayAndBackEndsItToo) {
     guard_.removed(place, time);
-    guard_.mouseMoved({204, 100});
+    guard_.mouseMoved({202, 100});
     EXPECT_FALSE(guard_.takesPress(place, time + 10));
-    guard_.mouseMoved({205, 100});
+    guard_.mouseMoved({203, 100});
     guard_.mouseMoved(place);
     EXPECT_TRUE(guard_.takesPress(place, time + 10));
 }
