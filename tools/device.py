@@ -5,8 +5,8 @@ that has placed the windows.
     device.py FOLDER
 
 A request (tools/stage_service.py tells how) is a line of words for xdotool, such as
-"mousemove 10 20 mousedown 1", or "places ID ID", which is answered with a place for each window, such
-as "10,20 -". A window that is not shown yet, or not where it is to stay, has none.
+"mousemove 10 20 mousedown 1", or "places ID ID", which is answered with place and size of each window,
+such as "10,20,300,200 -". A window that is not shown yet, or not where it is to stay, has none.
 """
 
 import pathlib
@@ -19,7 +19,7 @@ import x11
 
 def places(display, windows):
     found = (display.place(int(window)) for window in windows)
-    return " ".join("-" if place is None else "{},{}".format(*place) for place in found)
+    return " ".join("-" if place is None else "{},{},{},{}".format(*place) for place in found)
 
 
 def play(words):

@@ -73,7 +73,7 @@ class Display:
         return found
 
     def place(self, window):
-        """Where its inside begins on the screen; None until it is shown where it is to stay."""
+        """Where its inside begins on the screen, and its size; None until it is shown where it is to stay."""
         attributes = WindowAttributes()
         if not self.x11.XGetWindowAttributes(
             self.display, ctypes.c_ulong(window), ctypes.byref(attributes)
@@ -86,4 +86,4 @@ class Display:
         self.x11.XTranslateCoordinates(
             self.display, ctypes.c_ulong(window), ctypes.c_ulong(self.root), 0, 0,
             ctypes.byref(x), ctypes.byref(y), ctypes.byref(child))
-        return x.value, y.value
+        return x.value, y.value, attributes.width, attributes.height

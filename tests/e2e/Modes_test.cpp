@@ -4,6 +4,7 @@
 
 #include "e2e/SheetScene.h"
 #include "e2e/clickToFront.h"
+#include "e2e/support/placedWindows.h"
 
 namespace ormala::test {
 namespace {
@@ -89,9 +90,12 @@ TEST(Modes, ControlWindowStandsShortOutsideEditModeAndGetsItsHeightBack) {
     SetWindowPos(scene.settings().handle(), nullptr, 0, 0, first.width(), first.height() + 77,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     EXPECT_TRUE(waitUntil([&] { return scene.settings().rect().height() == first.height() + 77; }));
+    // What the display tells late of one size would undo the next one.
+    waitUntilPlaced({scene.settings()});
     scene.mouse.click(modeButton(scene, 1));
     scene.settings().waitForText(templateCaption);
     EXPECT_TRUE(waitUntil([&] { return scene.settings().rect().height() < first.height(); }));
+    waitUntilPlaced({scene.settings()});
     scene.mouse.click(modeButton(scene, 0));
     scene.settings().waitForText(editCaption);
     EXPECT_TRUE(waitUntil([&] { return scene.settings().rect().height() == first.height() + 77; }));

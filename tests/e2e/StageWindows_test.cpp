@@ -73,6 +73,21 @@ TEST(Stage, AWindowIsPlacedWhenTheDisplayShowsIt) {
     waitUntilPlaced({window.window()});
 }
 
+TEST(Stage, AWindowKeepsItsPlaceWhenTheWindowManagerBeginsAnew) {
+    const StageService stage(L"ORMALA_DEVICE");
+    if (!stage.isThere()) {
+        return;
+    }
+    OwnWindow window(windowPlace, WS_EX_TOPMOST | WS_EX_TOOLWINDOW, 0);
+    window.show();
+    waitUntilPlaced({window.window()});
+    placeAnew();
+    waitUntilPlaced({window.window()});
+    EXPECT_EQ(window.window().rect(), windowPlace);
+    Mouse().click(windowPlace.center());
+    EXPECT_EQ(window.presses(), 1);
+}
+
 TEST(Stage, LayeringOfAWindowIsRead) {
     OwnWindow front(windowPlace, WS_EX_LAYERED | WS_EX_TOPMOST | WS_EX_TOOLWINDOW, 0);
     SetLayeredWindowAttributes(front.handle(), 0x00010203, 200, LWA_COLORKEY | LWA_ALPHA);

@@ -22,15 +22,17 @@ bool isOnDisplay(const DesktopWindow& window) {
 }
 
 /// As the stage tells it, which counts from the left and upper end of all monitors.
-std::string placeText(ScreenPoint point) {
+std::string placeText(const ScreenRect& rect) {
     const ScreenRect all = screen::virtualScreen();
-    return std::to_string(point.x - all.left) + ',' + std::to_string(point.y - all.top);
+    std::ostringstream text;
+    text << rect.left - all.left << ',' << rect.top - all.top << ',' << rect.width() << ','
+         << rect.height();
+    return text.str();
 }
 
 /// The display's window is the client area if it has the display's frame, the whole window if not.
 bool isAt(const DesktopWindow& window, const std::string& place) {
-    return place == placeText(window.clientRect().origin()) ||
-           place == placeText(window.rect().origin());
+    return place == placeText(window.clientRect()) || place == placeText(window.rect());
 }
 
 }  // namespace
@@ -60,7 +62,15 @@ bool arePlaced(const std::vector<DesktopWindow>& windows) {
     });
 }
 
+void placeAnew() {
+    StageService(L"ORMALA_DEVICE").request("exec --sync openbox --restart");
+}
+
 void waitUntilPlaced(const std::vector<DesktopWindow>& windows) {
+    constexpr milliseconds longest{3000};
+    if (!waitUntil([&] { return arePlaced(windows); }, longest)) {
+        placeAnew();
+    }
     requireSoon("windows where the display shows them", [&] { return arePlaced(windows); });
 }
 

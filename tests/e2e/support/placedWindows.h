@@ -15,6 +15,11 @@ UINT_PTR displayWindow(const DesktopWindow& window);
 /// something else. Always so on a display that is not the stage's own.
 bool arePlaced(const std::vector<DesktopWindow>& windows);
 
+/// Makes the window manager of the stage begin anew, which takes each window into a new frame.
+void placeAnew();
+
+/// A window manager that lags can take a window for one that has gone, or tell its place in vain,
+/// and stays at that: after some seconds all are placed anew.
 void waitUntilPlaced(const std::vector<DesktopWindow>& windows);
 
 }  // namespace ormala::test
