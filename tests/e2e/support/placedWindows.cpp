@@ -35,6 +35,47 @@ bool isAt(const DesktopWindow& window, const std::string& place) {
     return place == placeText(window.clientRect()) || place == placeText(window.rect());
 }
 
+struct Misplaced {
+    DesktopWindow window;
+    /// As the display tells it; "-" where it shows none.
+    std::string place;
+};
+
+/// Those of the windows that lie elsewhere than the display shows them.
+std::vector<Misplaced> misplaced(const std::vector<DesktopWindow>& windows) {
+    const StageService stage(L"ORMALA_DEVICE");
+    std::string question = "places";
+    std::vector<Misplaced> found;
+    for (const DesktopWindow& window : windows) {
+        if (stage.isThere() && isOnDisplay(window)) {
+            question += ' ' + std::to_string(displayWindow(window));
+            found.push_back({window, {}});
+        }
+    }
+    std::istringstream places(found.empty() ? "" : stage.ask(question));
+    for (Misplaced& each : found) {
+        places >> each.place;
+    }
+    std::erase_if(found, [](const Misplaced& each) {
+        return isAt(each.window, each.place) || !isOnDisplay(each.window);
+    });
+    return found;
+}
+
+/// The display then tells its place once more.
+void moveToAndFro(const Misplaced& misplaced) {
+    int x = 0;
+    int y = 0;
+    char comma = ',';
+    if (std::istringstream(misplaced.place) >> x >> comma >> y) {
+        const StageService stage(L"ORMALA_DEVICE");
+        const std::string move = "windowmove " + std::to_string(displayWindow(misplaced.window));
+        for (const int left : {x + 1, x}) {
+            stage.request(move + ' ' + std::to_string(left) + ' ' + std::to_string(y));
+        }
+    }
+}
+
 }  // namespace
 
 UINT_PTR displayWindow(const DesktopWindow& window) {
@@ -42,24 +83,7 @@ UINT_PTR displayWindow(const DesktopWindow& window) {
 }
 
 bool arePlaced(const std::vector<DesktopWindow>& windows) {
-    const StageService stage(L"ORMALA_DEVICE");
-    if (!stage.isThere()) {
-        return true;
-    }
-    std::string question = "places";
-    std::vector<DesktopWindow> asked;
-    for (const DesktopWindow& window : windows) {
-        if (isOnDisplay(window)) {
-            question += ' ' + std::to_string(displayWindow(window));
-            asked.push_back(window);
-        }
-    }
-    std::istringstream places(asked.empty() ? "" : stage.ask(question));
-    return std::ranges::all_of(asked, [&places](const DesktopWindow& window) {
-        std::string place;
-        places >> place;
-        return isAt(window, place) || !isOnDisplay(window);
-    });
+    return misplaced(windows).empty();
 }
 
 void placeAnew() {
@@ -67,11 +91,17 @@ void placeAnew() {
 }
 
 void waitUntilPlaced(const std::vector<DesktopWindow>& windows) {
-    constexpr milliseconds longest{3000};
-    if (!waitUntil([&] { return arePlaced(windows); }, longest)) {
-        placeAnew();
+    constexpr milliseconds usual{1500};
+    const auto placed = [&] { return arePlaced(windows); };
+    if (waitUntil(placed, usual)) {
+        return;
     }
-    requireSoon("windows where the display shows them", [&] { return arePlaced(windows); });
+    std::ranges::for_each(misplaced(windows), moveToAndFro);
+    if (waitUntil(placed, usual)) {
+        return;
+    }
+    placeAnew();
+    requireSoon("windows where the display shows them", placed);
 }
 
 }  // namespace ormala::test

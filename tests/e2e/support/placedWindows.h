@@ -18,8 +18,8 @@ bool arePlaced(const std::vector<DesktopWindow>& windows);
 /// Makes the window manager of the stage begin anew, which takes each window into a new frame.
 void placeAnew();
 
-/// A window manager that lags can take a window for one that has gone, or tell its place in vain,
-/// and stays at that: after some seconds all are placed anew.
+/// A window manager that lags can tell a place in vain, or take a window for one that has gone, and
+/// stays at that: after some seconds the windows are moved to and fro, and then placed anew.
 void waitUntilPlaced(const std::vector<DesktopWindow>& windows);
 
 }  // namespace ormala::test
