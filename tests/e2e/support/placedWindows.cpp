@@ -93,14 +93,17 @@ void placeAnew() {
 void waitUntilPlaced(const std::vector<DesktopWindow>& windows) {
     constexpr milliseconds usual{1500};
     const auto placed = [&] { return arePlaced(windows); };
-    if (waitUntil(placed, usual)) {
-        return;
+    // Where monitors come and go, the places differ for some time and then agree by themselves.
+    if (!StageService(L"ORMALA_MONITORS").isThere()) {
+        if (waitUntil(placed, usual)) {
+            return;
+        }
+        std::ranges::for_each(misplaced(windows), moveToAndFro);
+        if (waitUntil(placed, usual)) {
+            return;
+        }
+        placeAnew();
     }
-    std::ranges::for_each(misplaced(windows), moveToAndFro);
-    if (waitUntil(placed, usual)) {
-        return;
-    }
-    placeAnew();
     requireSoon("windows where the display shows them", placed);
 }
 
